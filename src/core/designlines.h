@@ -1,0 +1,38 @@
+// The lines of a design file in their order: the one table that its writer and its reader walk.
+#pragma once
+
+#include "core/design.h"
+#include "core/lineforms.h"
+
+namespace vernacle {
+
+// One line of the file, or, without a label and a way to read, one step between lines.
+struct FileLine {
+    const char* label; // "%" stands for the number of the scale, the text or the point
+    WriteValue write;
+    Place place;
+    ReadValue read;                   // none: the reader takes no line
+    int stage;                        // what the reader's failure message quotes
+    void (*afterReading)() = nullptr; // what is forced, whatever the line said
+    void (*beforeWriting)() = nullptr;
+    void (*afterWriting)() = nullptr;
+};
+
+// Goes through the lines of a design file in their order. The loops over its blocks run by the
+// counts that Design holds when each is reached, so that a reader may fill them on the way.
+class FileWalker {
+public:
+    virtual ~FileWalker() = default;
+    void Walk();
+
+private:
+    virtual void Visit(const FileLine& line, LinePlace place) = 0;
+
+    template <std::size_t Count>
+    void VisitAll(const FileLine (&lines)[Count], LinePlace place = {});
+    void WalkScale(int scale);
+    void WalkDeletions();
+    void WalkPerScale(const FileLine& heading, const FileLine& line);
+};
+
+} // namespace vernacle

@@ -1,0 +1,27 @@
+// Entry checking and number formatting: the one routine that every typed number and most numbers of
+// a design file pass, the short text of a number, and the small routines that all pages share.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace vernacle {
+
+// Turns forgiving text ("2k2", "1,5", "-1e-3") into a number and stores it in the target; bad text
+// gives 0 or the number found so far, a text of more than ten characters is ignored. Trims text in
+// place and overwrites Design.SharedIndex. Never fails: an overflow stores 1e10, held to the type.
+void ParseEntry(std::string& text, float& target);
+void ParseEntry(std::string& text, std::int16_t& target);
+void ParseEntry(std::string& text, std::int32_t& target);
+
+// The short text that labels and lists show: 1.5M, 1235, 123.46, .5, 0.
+void FormatByMagnitude(double value, std::string& result);
+
+// The arc sine of x in radians. x is first held to +-0.999999, in the caller's variable too, so
+// that a geometry which cannot be still draws.
+double ArcSin(double& x);
+
+// Serves the pending events once, then blocks until so many seconds have passed.
+void Delay(float seconds);
+
+} // namespace vernacle

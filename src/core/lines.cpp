@@ -1,0 +1,30 @@
+#include "core/lines.h"
+
+#include <algorithm>
+
+#include "core/runtimeerror.h"
+
+namespace vernacle {
+
+std::string_view LineReader::Next() {
+    if (AtEnd()) {
+        throw FileFailure("Input past end of file");
+    }
+    const std::size_t end = std::min(text_.find('\n', next_), text_.size());
+    std::string_view line = std::string_view(text_).substr(next_, end - next_);
+    next_ = end + 1;
+    if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+    }
+    return line;
+}
+
+std::string_view LineReader::NextValue() {
+    std::string_view line = Next();
+    while (line.empty() || line[0] == '*') {
+        line = Next();
+    }
+    return line.substr(line.find(':') + 1); // without a colon npos + 1 is the start
+}
+
+} // namespace vernacle

@@ -1,0 +1,156 @@
+#include "core/readwrite.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "core/codepage.h"
+#include "core/design.h"
+#include "core/designlines.h"
+#include "core/lines.h"
+#include "core/seam.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+constexpr int kStageOpen = 407;
+constexpr int kStageReset = 413;
+
+// A text on its line: a line end inside it would shift all that follows.
+std::string OnOneLine(std::string text) {
+    const auto isLineEnd = [](char c) { return c == '\r' || c == '\n'; };
+    std::replace_if(text.begin(), text.end(), isLineEnd, ' ');
+    return text;
+}
+
+std::string Label(const FileLine& line, int number) {
+    std::string label = line.label;
+    const std::size_t mark = label.find('%');
+    return mark == label.npos ? label : label.replace(mark, 1, std::to_string(number));
+}
+
+class DesignWriter : public FileWalker {
+public:
+    explicit DesignWriter(std::string& text) : text_(text) {}
+
+private:
+    void Visit(const FileLine& line, LinePlace place) override {
+        if (!line.label) {
+            return;
+        }
+        if (line.beforeWriting) {
+            line.beforeWriting();
+        }
+        const Slot slot = line.place(place.outer, place.inner);
+        text_ += Label(line, place.outer) + OnOneLine(line.write(slot, place));
+        text_ += kLineEnd;
+        if (line.afterWriting) {
+            line.afterWriting();
+        }
+    }
+
+    std::string& text_;
+};
+
+// The file ended where a line was wanted: what an older program wrote ends early, at a section's
+// boundary or anywhere else, and is read as far as it goes.
+struct EndOfDesign {};
+
+class DesignReader : public FileWalker {
+public:
+    DesignReader(std::string text, int& stage) : lines_(std::move(text)), stage_(stage) {}
+
+private:
+    void Visit(const FileLine& line, LinePlace place) override {
+        stage_ = line.stage;
+        if (line.read) {
+            std::string value = NextValue();
+            line.read(std::move(value), line.place(place.outer, place.inner), place);
+        }
+        if (line.afterReading) {
+            line.afterReading();
+        }
+    }
+
+    std::string NextValue() {
+        try {
+            return std::string(lines_.NextValue());
+        } catch (const FileFailure&) {
+            throw EndOfDesign{};
+        }
+    }
+
+    LineReader lines_;
+    int& stage_;
+};
+
+// The text is opened first and filled then, so that a failure on the way leaves the file as far as
+// it got.
+void WriteDesignFile(const std::string& name) {
+    const auto sink = Host.openForOutput(name);
+    std::string text;
+    try {
+        DesignWriter(text).Walk();
+    } catch (const RunTimeError&) {
+        sink->Write(ToFileBytes(text));
+        throw;
+    }
+    text += kLineEnd;
+    sink->Write(ToFileBytes(text));
+    sink->Close();
+}
+
+} // namespace
+
+void WriteDesign() {
+    try {
+        WriteDesignFile(Design.DesignFileName);
+    } catch (const RunTimeError&) {
+        ReportFailure("The Vernacle file was not written correctly.\nReadWrite 364");
+    }
+}
+
+void SaveDesign(const std::string& name) {
+    if (!name.empty()) {
+        WriteDesign();
+    }
+}
+
+void BackupDesign() {
+    Design.DesignFileName = "Backup.DAT";
+    WriteDesign();
+    Design.DesignFileName.clear();
+}
+
+std::string LastSessionName() {
+    return Host.besideProgram("LASTSESSION.VRN");
+}
+
+void SaveLastSession() {
+    Design.DesignFileName = LastSessionName();
+    WriteDesign();
+}
+
+void ReadDesign(const std::string& name) {
+    if (name.empty()) {
+        return;
+    }
+    int stage = kStageOpen;
+    try {
+        const std::string bytes = Host.readFile(name);
+        stage = kStageReset;
+        ResetDesign();
+        DesignReader(FromFileBytes(bytes), stage).Walk();
+    } catch (const EndOfDesign&) {
+        // All that was not reached keeps its default.
+    } catch (const RunTimeError&) {
+        ResetDesign();
+        ReportFailure("We were not successful in reading that Vernacle file.\n"
+                      "Default values for all items have been put in place.\n\nReadWrite " +
+                      std::to_string(stage));
+    }
+}
+
+} // namespace vernacle

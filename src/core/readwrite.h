@@ -1,0 +1,29 @@
+// The design file (.VRN): a text of lines known by their places, written and read by one table.
+#pragma once
+
+#include <string>
+
+namespace vernacle {
+
+// Writes the design to DesignFileName, replacing the file. A failure is reported; the file stays as
+// far as it got. Writing changes the design a little: empty labels of special tics become "/", a
+// graphic that is not drawn loses its file name, the highlights and deletions are counted anew.
+void WriteDesign();
+
+// WriteDesign, unless the name is empty.
+void SaveDesign(const std::string& name);
+
+// Writes the design to "Backup.DAT" and leaves it without a name.
+void BackupDesign();
+
+// Writes the design to "LASTSESSION.VRN" beside the program and leaves that name.
+void SaveLastSession();
+
+// The name of the last session's file.
+std::string LastSessionName();
+
+// Reads a design file over the defaults; an empty name does nothing at all. A file that ends early
+// is no failure. A failure is reported with its stage and leaves the defaults.
+void ReadDesign(const std::string& name);
+
+} // namespace vernacle

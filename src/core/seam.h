@@ -1,0 +1,51 @@
+// The one seam between the engine and the system: function values that the program sets. The engine
+// reads files, tells the time, waits and reports through these and has no other way out.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "core/bytesink.h"
+
+namespace vernacle {
+
+struct ScreenSize {
+    float widthTwips;
+    float heightTwips;
+};
+
+struct HostSeam {
+    // The bytes of the file of that name; throws FileFailure. The names that the design fixes
+    // ("Calibrate.txt", "Backup.DAT") come bare: the program decides where they stand.
+    std::function<std::string(const std::string& name)> readFile;
+
+    // A sink that replaces the file, or feeds the port ("LPT1"), of that name; throws FileFailure.
+    std::function<std::unique_ptr<ByteSink>(const std::string& name)> openForOutput;
+
+    // The full path of a file that stands beside the program.
+    std::function<std::string(const std::string& name)> besideProgram;
+
+    std::function<std::string()> localDateTime; // now, in the machine's short form; never empty
+    std::function<std::string()> isoDateTime;   // now, "YYYY-MM-DD hh:mm:ss"
+    std::function<double()> clockSeconds;       // a clock that only rises
+    std::function<void()> pause;                // one turn of a blocking wait
+    std::function<void()> servePendingEvents;
+    std::function<ScreenSize()> screenSize;
+
+    std::function<void()> beep;
+    std::function<void(const std::string& text)> failureBox; // message box with OK: what went wrong
+    std::function<void(const std::string& text)> informationBox; // the same: what was done
+    std::function<void(const std::string& file)> playSound; // starts it, does not wait for its end
+};
+
+// Set by the program before it uses the engine; starts as DefaultHost().
+extern HostSeam Host;
+
+// The plain file system and clock, names taken as paths, and nothing that shows or sounds.
+HostSeam DefaultHost();
+
+// The beep and the message box of a trapped failure.
+void ReportFailure(const std::string& text);
+
+} // namespace vernacle

@@ -1,0 +1,25 @@
+#include "core/text.h"
+
+#include <algorithm>
+
+namespace vernacle {
+
+std::string_view LeftTrimmed(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text;
+}
+
+std::string_view Trimmed(std::string_view text) {
+    text = LeftTrimmed(text);
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+std::size_t CharacterCount(std::string_view text) {
+    const auto isContinuation = [](char c) {
+        return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+    };
+    const auto continuations = std::count_if(text.begin(), text.end(), isContinuation);
+    return text.size() - static_cast<std::size_t>(continuations);
+}
+
+} // namespace vernacle

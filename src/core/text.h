@@ -1,0 +1,19 @@
+// Small helpers for UTF-8 texts: blanks and characters.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vernacle {
+
+// The text without the blanks at both ends; other white space counts as text.
+std::string_view Trimmed(std::string_view text);
+
+// The text without the blanks at its start.
+std::string_view LeftTrimmed(std::string_view text);
+
+// The number of characters (code points) of a UTF-8 text; each stray byte counts as one.
+std::size_t CharacterCount(std::string_view text);
+
+} // namespace vernacle
