@@ -1,0 +1,101 @@
+#include "render/calibrate.h"
+
+#include <algorithm>
+
+#include "core/design.h"
+#include "core/lines.h"
+#include "core/numbertext.h"
+#include "core/seam.h"
+#include "render/primitives.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr const char* kCalibrationFile = "Calibrate.txt";
+constexpr float kSmallestFactor = 0.5F;
+constexpr float kLargestFactor = 2;
+constexpr double kSquareMm = 100;
+constexpr SurfacePoint kCentre = {6000, 4000};
+
+void RaiseFactor(float& factor) {
+    if (factor == 0) {
+        factor = 1;
+    }
+}
+
+std::string CalibrationText() {
+    return "\"Vernacle calibration file\"\r\n\r\n#" + Host.isoDateTime() + "#\r\n\r\n" +
+           PlainNumber(Design.CalibrationX) + "\r\n" + PlainNumber(Design.CalibrationY) +
+           "\r\n\r\n";
+}
+
+void PrintSquare(PrinterSurface& printer) {
+    const double halfX = kSquareMm * double{Design.CalibrationX} * kPageUnitsPerHalfMm;
+    const double halfY = kSquareMm * double{Design.CalibrationY} * kPageUnitsPerHalfMm;
+    printer.StartPage();
+    printer.SetLineWidth(1);
+    printer.Box(F(kCentre.x - halfX), F(kCentre.y - halfY), F(kCentre.x + halfX),
+                F(kCentre.y + halfY), kBlackInk);
+    printer.EndDoc();
+}
+
+} // namespace
+
+void ReadCalibration(const std::string& name) {
+    LineReader lines(Host.readFile(name));
+    lines.NextValue(); // the header
+    lines.NextValue(); // the date
+    StoreNumber(NumericValue(lines.NextValue()), Design.CalibrationX);
+    StoreNumber(NumericValue(lines.NextValue()), Design.CalibrationY);
+}
+
+void ReadCalibrate() {
+    try {
+        ReadCalibration(kCalibrationFile);
+    } catch (const RunTimeError&) {
+        // Printing raises a factor that was never read, which shows on paper.
+    }
+}
+
+void WriteCalibrate() {
+    Design.DesignFileName = kCalibrationFile;
+    try {
+        const auto sink = Host.openForOutput(Design.DesignFileName);
+        sink->Write(CalibrationText());
+        sink->Close();
+    } catch (const RunTimeError&) {
+        // The factors still hold for this session.
+    }
+}
+
+bool PrintTestSquare(PrinterSurface& printer) {
+    RaiseFactor(Design.CalibrationX);
+    RaiseFactor(Design.CalibrationY);
+    try {
+        PrintSquare(printer);
+        return true;
+    } catch (const RunTimeError&) {
+        if (Design.MessageLevel > 0) {
+            Host.playSound("warningprinter.wav");
+        }
+        ReportFailure("We had a problem driving the printer.");
+        return false;
+    }
+}
+
+void Recalibrate(float& factor, double measuredMm) {
+    RaiseFactor(factor);
+    if (measuredMm > 0) {
+        const double corrected = double{factor} * kSquareMm / measuredMm;
+        factor = std::clamp(F(corrected), kSmallestFactor, kLargestFactor);
+    }
+}
+
+void HoldCalibration() {
+    for (float* factor : {&Design.CalibrationX, &Design.CalibrationY}) {
+        *factor = std::clamp(*factor, kSmallestFactor, kLargestFactor);
+    }
+}
+
+} // namespace vernacle

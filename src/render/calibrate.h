@@ -1,0 +1,35 @@
+// The printer's calibration: one factor for each axis, their file, and the test square by whose
+// measured sides they are found.
+#pragma once
+
+#include <string>
+
+namespace vernacle {
+
+class PrinterSurface;
+
+// Page units per half millimetre on a printer whose factor is 1.
+constexpr double kPageUnitsPerHalfMm = 28.289;
+
+// Reads the two factors from "Calibrate.txt". A failure is not reported; it leaves the factors that
+// were not reached as they are.
+void ReadCalibrate();
+
+// The same from a file of that name; throws the failure.
+void ReadCalibration(const std::string& name);
+
+// Writes "Calibrate.txt" anew and leaves that name in DesignFileName. A failure is not reported.
+void WriteCalibrate();
+
+// Prints a square of 100 mm by the factors as they stand, a factor of 0 becoming 1. A failure is
+// reported, with the warning sound before it if MessageLevel is above 0; false then.
+bool PrintTestSquare(PrinterSurface& printer);
+
+// A measured side of the test square corrects the factor of its axis, held to 0.5 .. 2; a factor of
+// 0 becomes 1 first, and a side that is not above 0 mm leaves it at that.
+void Recalibrate(float& factor, double measuredMm);
+
+// Holds both factors to 0.5 .. 2.
+void HoldCalibration();
+
+} // namespace vernacle

@@ -1,0 +1,128 @@
+#include "render/drawing.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/design.h"
+#include "render/stages.h"
+#include "scale/scale.h"
+
+namespace vernacle {
+
+DrawingState Drawing;
+
+namespace {
+
+// Plates up to this much wider than high are scaled by their height.
+constexpr double kSquare = 1.0001;
+
+constexpr DrawingStage kPreviewStages[] = {
+    ClearStage,  PlateStage,  TrimMarksStage,     HolesStage, BearingsStage,
+    RulerStage,  TicsStage,   PointerLengthStage, ArcsStage,  FontStage,
+    LabelsStage, TitlesStage, EndStage,
+};
+
+constexpr DrawingStage kPageStages[] = {
+    ClearStage,         PlateStage, TrimMarksStage, HolesStage,  BearingsStage, TicsStage,
+    PointerLengthStage, ArcsStage,  FontStage,      LabelsStage, TitlesStage,   EndStage,
+};
+
+void CountHighlights() {
+    Design.NumberOfHighlights = 0;
+    for (int slot = 1; slot <= kHighlights; ++slot) {
+        if (Design.HighlightStart[slot] > 0 && Design.HighlightStop[slot] > 0) {
+            ++Design.NumberOfHighlights;
+        }
+    }
+}
+
+void Prepare(Preparation preparation) {
+    if (preparation == Preparation::None) {
+        return;
+    }
+    if (preparation == Preparation::CountHighlightsAndRest) {
+        CountHighlights();
+    }
+    Design.NumberOfScales = std::max<std::int16_t>(Design.NumberOfScales, 1);
+    Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
+    ComputeTicDeflections();
+    ComputeTicLabels();
+}
+
+void RaiseAspectRatio() {
+    if (Design.AspectRatio <= 0) {
+        Design.AspectRatio = 1;
+    }
+}
+
+} // namespace
+
+DrawingTraits PreviewTraits() {
+    return {.extent = 3200,
+            .centre = {6000, 4300},
+            .preparation = Preparation::None,
+            .ticInk = TicInk::Black,
+            .labelFlags = LabelFlags::SetBack,
+            .stages = kPreviewStages};
+}
+
+DrawingTraits ScalesTraits() {
+    return {.labelFlags = LabelFlags::OnlyFlagged, .stages = kPageStages};
+}
+
+DrawingTraits TextTraits() {
+    return {.stages = kPageStages};
+}
+
+DrawingTraits HighlightsTraits() {
+    return {.preparation = Preparation::CountHighlightsAndRest, .stages = kPageStages};
+}
+
+DrawingTraits WizardTraits() {
+    return {.extent = 3200,
+            .centre = {6000, 4300},
+            .ticFlags = TicFlags::Ignored,
+            .labelFlags = LabelFlags::Ignored,
+            .labelFitting = LabelFitting::Sampled,
+            .correction = Correction::NotApplied,
+            .stages = kPageStages};
+}
+
+PlateFrame PageFrame(const DrawingTraits& traits) {
+    RaiseAspectRatio();
+    const double width = double{Design.PlateWidth};
+    const double height = double{Design.PlateHeight};
+    const double larger = CheckedDivide(width, height) <= kSquare ? height : width;
+    Drawing.PlateScale = static_cast<float>(traits.extent / larger);
+    Drawing.PlateCentreX = static_cast<float>(traits.centre.x);
+    Drawing.PlateCentreY = static_cast<float>(traits.centre.y);
+    Drawing.DegreesPerRadian = ComputeDegreesPerRadian();
+    PlateFrame frame = FrameOfDesign(double{Drawing.PlateScale}, traits.centre);
+    frame.aspect = double{Design.AspectRatio};
+    return frame;
+}
+
+void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageSizes& sizes) {
+    Drawing.WhereMarker = kMarkStart;
+    try {
+        Prepare(traits.preparation);
+        DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
+        for (const DrawingStage stage : traits.stages) {
+            stage(run);
+        }
+    } catch (const RunTimeError&) {
+        // The picture ends here; the page stays usable and the next change draws it anew.
+    }
+}
+
+void EndStage(DrawingRun& run) {
+    run.state.WhereMarker = kMarkEnd;
+}
+
+void HoldAspectRatio() {
+    RaiseAspectRatio();
+    const double held = std::clamp(double{Design.AspectRatio}, 0.5, 1.15);
+    Design.AspectRatio = static_cast<float>(std::floor(held * 100 + 0.5) * 0.01);
+}
+
+} // namespace vernacle

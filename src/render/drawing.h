@@ -1,0 +1,98 @@
+// The drawing of a whole design on a page, and the traits in which the pages that draw it differ.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "render/geometry.h"
+#include "render/surface.h"
+#include "render/ticwalk.h"
+
+namespace vernacle {
+
+// What a drawing works with and what it leaves for overlays and messages.
+struct DrawingState {
+    float PlateScale = 0; // surface units per half millimetre
+    float PlateCentreX = 0;
+    float PlateCentreY = 0;
+    float DegreesPerRadian = 0;
+    std::string LabelFontFace;
+    SurfacePoint LastArcPoint; // of the last tic drawn
+    SurfacePoint LastTicEnd;   // its other end
+    float PointerLength = 0;   // mm
+    int WhereMarker = 0;       // how far the drawing came
+
+    // The overlays that are switched on, 0 or 1; the circular outline is a field of Design.
+    std::int16_t GridShown = 0;
+    std::int16_t PointerShown = 0;
+};
+
+// That of the pages, shared by all of them.
+extern DrawingState Drawing;
+
+// A page's copies, taken when it loads: a change reaches its drawing at the next load.
+struct PageSizes {
+    float fontSize = 0;
+    float labelSpacing = 0;
+};
+
+struct DrawingRun; // one drawing under way: render/stages
+
+using DrawingStage = void (*)(DrawingRun& run);
+
+// What is done to the design before a page draws it.
+enum class Preparation {
+    None,
+    RaiseAndCompute,        // counts of 0 raised to 1, the scale tables computed
+    CountHighlightsAndRest, // NumberOfHighlights counted before that
+};
+
+enum class TicInk { Black, ScaleColour };
+enum class Correction { Applied, NotApplied };
+
+// Where a label stands relative to its anchor, and how its font's height is asked for.
+enum class LabelFitting {
+    Measured, // by the text's own size
+    Sampled,  // by the size of a sample, with the height of the characters
+};
+
+struct LineWidths {
+    int trimMarks;
+    int holes;
+    int bearings;
+    double arcFactor; // of ArcWidth + 0.5
+};
+
+struct DrawingTraits {
+    double extent = 3000; // units from the plate's centre to the end of its larger dimension
+    SurfacePoint centre = {3400, 4400};
+    Preparation preparation = Preparation::RaiseAndCompute;
+    TicInk ticInk = TicInk::ScaleColour;
+    TicFlags ticFlags = TicFlags::Honoured;
+    LabelFlags labelFlags = LabelFlags::SkipDeleted;
+    LabelFitting labelFitting = LabelFitting::Measured;
+    Correction correction = Correction::Applied;
+    LineWidths lineWidths = {1, 1, 1, 1};
+    std::span<const DrawingStage> stages;
+};
+
+// The pages' traits; that of the text page serves the graphic page too.
+DrawingTraits PreviewTraits();
+DrawingTraits ScalesTraits();
+DrawingTraits TextTraits();
+DrawingTraits HighlightsTraits();
+DrawingTraits WizardTraits();
+
+// Draws the design. A run-time failure ends the drawing silently: what was drawn so far stays, and
+// Design.CurrentScale and Design.TicLoop stay where they stood.
+void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageSizes& sizes);
+
+// The frame of a page, its numbers also kept in Drawing. An AspectRatio of 0 or less becomes 1. A
+// plate without height is a run-time error.
+PlateFrame PageFrame(const DrawingTraits& traits);
+
+// The preview page's limits of AspectRatio: 0.5 to 1.15 in whole hundredths, 0 or less becoming 1.
+void HoldAspectRatio();
+
+} // namespace vernacle

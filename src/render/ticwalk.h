@@ -1,0 +1,47 @@
+// The tics and labels of a scale that a drawing shows, one after the other: which tables they come
+// from, which are major, and what the user's deletions do to them.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/design.h"
+
+namespace vernacle {
+
+enum class TicFlags {
+    Honoured, // deleted tics are skipped
+    Ignored,
+};
+
+enum class LabelFlags {
+    SkipDeleted, // labels flagged "N" are skipped
+    OnlyFlagged, // only labels flagged "Y" are drawn
+    SetBack,     // each flag is set back to "Y" in the design before it is tested
+    Ignored,
+};
+
+struct Tic {
+    int scale;
+    int number;
+    float deflection; // as the table holds it, before any movement correction
+    bool major;
+};
+
+struct TicLabel {
+    int scale;
+    int number;
+    float deflection;
+    std::string text;
+};
+
+bool IsSpecial(int scale);
+
+// Visits the tics of a scale in rising order, with Design.TicLoop as the loop variable, which stays
+// where a failure left it. A major or label interval of 0 is a run-time error.
+void WalkTics(int scale, TicFlags flags, const std::function<void(const Tic&)>& visit);
+
+// Visits the labels in the same way; their texts have full stops for commas and no outer blanks.
+void WalkLabels(int scale, LabelFlags flags, const std::function<void(const TicLabel&)>& visit);
+
+} // namespace vernacle
