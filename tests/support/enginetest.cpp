@@ -1,0 +1,61 @@
+#include "support/enginetest.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include "core/design.h"
+#include "core/seam.h"
+#include "render/drawing.h"
+
+namespace vernacle::test {
+
+namespace {
+
+std::filesystem::path MakeFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "vernacle-XXXXXX").string();
+    if (!mkdtemp(pattern.data())) {
+        throw std::runtime_error("no temporary folder");
+    }
+    return pattern;
+}
+
+} // namespace
+
+EngineTest::EngineTest() : folder_(MakeFolder()) {
+    Design = DesignRecord{};
+    Drawing = DrawingState{};
+    Host = DefaultHost();
+    const auto place = [this](const std::string& name) {
+        const bool bare = name == "Calibrate.txt" || name == "Backup.DAT";
+        return bare ? Path(name) : name;
+    };
+    Host.readFile = [place](const std::string& name) { return ReadWholeFile(place(name)); };
+    Host.openForOutput = [place](const std::string& name) { return OpenFileSink(place(name)); };
+    Host.besideProgram = [this](const std::string& name) { return Path(name); };
+    Host.localDateTime = [] { return kLocalTime; };
+    Host.isoDateTime = [] { return kIsoTime; };
+    Host.beep = [this] { said.emplace_back("beep"); };
+    Host.failureBox = [this](const std::string& text) { said.push_back("failure: " + text); };
+    Host.informationBox = [this](const std::string& text) { said.push_back("information: " + text); };
+    Host.playSound = [this](const std::string& file) { said.push_back("sound: " + file); };
+}
+
+EngineTest::~EngineTest() {
+    Host = DefaultHost();
+    std::error_code ignored;
+    std::filesystem::permissions(folder_, std::filesystem::perms::owner_all, ignored);
+    std::filesystem::remove_all(folder_, ignored);
+}
+
+std::string EngineTest::WriteFile(const std::string& name, const std::string& bytes) const {
+    std::ofstream(Path(name), std::ios::binary) << bytes;
+    return Path(name);
+}
+
+std::string EngineTest::ReadFile(const std::string& name) const {
+    std::ifstream file(Path(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+} // namespace vernacle::test
