@@ -59,7 +59,7 @@ public:
 
 // What a printer offers beyond that. Its page is a logical area of 11500 x 15200 units, whatever
 // the paper; line widths count its own pixels.
-class PrinterSurface : public DrawingSurface {
+class PrinterSurface : public virtual DrawingSurface {
 public:
     virtual void StartPage() = 0; // a new document with the logical area set
     virtual void EndDoc() = 0;    // sends the document; a RunTimeError if that fails

@@ -1,0 +1,157 @@
+#include "export/arguments.h"
+
+#include <algorithm>
+#include <charconv>
+#include <ctime>
+#include <string_view>
+
+#include <getopt.h>
+#include <strings.h>
+
+namespace vernacle {
+
+const char* const kHelp =
+    R"(Usage: vernacle-export [OPTIONS] DESIGN.VRN OUTPUT [OUTPUT ...]
+
+Writes a meter's scale plate from its design file. The ending of OUTPUT picks the form:
+  .hpgl .plt   HP-GL stream for a plotter
+  .pcl         the same, wrapped for a PCL printer
+  .pdf         the printed plate, true size
+  .svg         the printed plate, true size
+  .png         the preview picture
+  .vrn         the design, written anew
+  .csv         the tic table
+
+Options:
+  --paper A4|Letter        sheet of .pdf and .svg (default A4)
+  --size WxH               screen that .png shows, in pixels (default 1600x900)
+  --calibration FILE       printer calibration, a Calibrate.txt (default: both factors 1)
+  --at "YYYY-MM-DD hh:mm:ss"  date and time to write instead of the present ones
+  --help                   print this and exit
+  --version                print the version and exit
+
+Exit status: 0 all written, 1 a file could not be read or written, 2 wrong usage.
+)";
+
+namespace {
+
+constexpr int kSmallestPicture = 16; // pixels a side
+constexpr int kLargestPicture = 8192;
+
+enum Option {
+    kHelpOption = 1,
+    kVersionOption,
+    kAtOption,
+    kCalibrationOption,
+    kPaperOption,
+    kSizeOption
+};
+
+constexpr option kOptions[] = {
+    {"help", no_argument, nullptr, kHelpOption},
+    {"version", no_argument, nullptr, kVersionOption},
+    {"at", required_argument, nullptr, kAtOption},
+    {"calibration", required_argument, nullptr, kCalibrationOption},
+    {"paper", required_argument, nullptr, kPaperOption},
+    {"size", required_argument, nullptr, kSizeOption},
+    {nullptr, 0, nullptr, 0},
+};
+
+// A real date in just this form: what strptime reads must print alike.
+std::string CheckedTime(const char* text) {
+    constexpr const char* kForm = "%Y-%m-%d %H:%M:%S";
+    std::tm parts{};
+    char again[32] = "";
+    const char* end = strptime(text, kForm, &parts);
+    if (end && *end == '\0') {
+        std::tm real = parts;
+        timegm(&real); // carries a thirtieth of February over into March
+        std::strftime(again, sizeof again, kForm, &real);
+    }
+    if (std::string_view(text) != again) {
+        throw UsageError("--at wants \"YYYY-MM-DD hh:mm:ss\", not \"" + std::string(text) + "\"");
+    }
+    return text;
+}
+
+Sheet CheckedSheet(const char* name) {
+    const auto* sheet =
+        std::find_if(std::begin(kSheets), std::end(kSheets),
+                     [name](const Sheet& s) { return strcasecmp(s.name, name) == 0; });
+    if (sheet == std::end(kSheets)) {
+        throw UsageError("--paper wants A4 or Letter, not \"" + std::string(name) + "\"");
+    }
+    return *sheet;
+}
+
+bool ReadSide(std::string_view text, int& side) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), side);
+    return error == std::errc() && end == text.data() + text.size() && side >= kSmallestPicture &&
+           side <= kLargestPicture;
+}
+
+void ReadSize(std::string_view text, Arguments& arguments) {
+    const std::size_t cross = std::min(text.find_first_of("xX"), text.size());
+    if (cross == text.size() || !ReadSide(text.substr(0, cross), arguments.widthPixels) ||
+        !ReadSide(text.substr(cross + 1), arguments.heightPixels)) {
+        throw UsageError("--size wants WxH, sides of 16 to 8192 pixels, not \"" +
+                         std::string(text) + "\"");
+    }
+}
+
+void TakeOption(int option, const char* word, Arguments& arguments) {
+    switch (option) {
+    case kHelpOption:
+        arguments.help = true;
+        break;
+    case kVersionOption:
+        arguments.version = true;
+        break;
+    case kAtOption:
+        arguments.at = CheckedTime(optarg);
+        break;
+    case kCalibrationOption:
+        arguments.calibration = optarg;
+        break;
+    case kPaperOption:
+        arguments.paper = CheckedSheet(optarg);
+        break;
+    case kSizeOption:
+        ReadSize(optarg, arguments);
+        break;
+    case ':':
+        throw UsageError("option " + std::string(word) + " wants a value");
+    default:
+        throw UsageError("unknown option " + std::string(word));
+    }
+}
+
+} // namespace
+
+Arguments ParseArguments(int argc, char** argv) {
+    Arguments arguments;
+    opterr = 0;
+    optind = 0; // starts afresh
+    while (true) {
+        const int at = std::max(optind, 1);
+        const int option = getopt_long(argc, argv, ":", kOptions, nullptr);
+        if (option == -1) {
+            break;
+        }
+        TakeOption(option, argv[std::max(optind - 1, at)], arguments);
+    }
+    if (arguments.help || arguments.version) {
+        return arguments;
+    }
+    if (argc - optind < 2) {
+        throw UsageError("a design and at least one output are wanted");
+    }
+    arguments.design = argv[optind];
+    arguments.outputs.assign(argv + optind + 1, argv + argc);
+    if (arguments.design.empty()) {
+        throw UsageError("the design's name is empty");
+    }
+    return arguments;
+}
+
+} // namespace vernacle

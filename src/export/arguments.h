@@ -1,0 +1,35 @@
+// The command line of vernacle-export.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "surfaces/papersurface.h"
+
+namespace vernacle {
+
+struct Arguments {
+    bool help = false;
+    bool version = false;
+    std::string at;          // "YYYY-MM-DD hh:mm:ss"; empty for the present time
+    std::string calibration; // file of the printer's factors; empty for factors of 1
+    Sheet paper = kSheets[0];
+    int widthPixels = 1600; // of the screen that a picture shows
+    int heightPixels = 900;
+    std::string design;
+    std::vector<std::string> outputs;
+};
+
+// Wrong usage; what() says in one line what is wrong.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Throws UsageError. Whether the outputs' endings are known is not judged here.
+Arguments ParseArguments(int argc, char** argv);
+
+extern const char* const kHelp;
+
+} // namespace vernacle

@@ -1,0 +1,100 @@
+#include "export/outputs.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include <strings.h>
+
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "core/seam.h"
+#include "export/tictable.h"
+#include "render/drawing.h"
+#include "render/hpgl.h"
+#include "render/print.h"
+#include "scale/scale.h"
+#include "surfaces/documents.h"
+
+namespace vernacle {
+
+namespace {
+
+void WriteBytes(const std::string& path, const std::string& bytes) {
+    const auto sink = Host.openForOutput(path);
+    sink->Write(bytes);
+    sink->Close();
+}
+
+void WriteHpglFile(const std::string& path, const Arguments& /*arguments*/) {
+    WriteHpgl(path, HpglMode::File);
+}
+
+// The routine names the port itself; here the port is the output.
+void WritePclFile(const std::string& path, const Arguments& /*arguments*/) {
+    const auto open = Host.openForOutput;
+    Host.openForOutput = [&](const std::string& /*port*/) { return open(path); };
+    WriteHpgl("", HpglMode::PclPrinter);
+    Host.openForOutput = open;
+}
+
+// Prints; throws where the print has failed and been reported.
+void Print(PrinterSurface& printer) {
+    if (!PrintDesign(printer)) {
+        throw RunTimeError("not printed");
+    }
+}
+
+void WritePdf(const std::string& path, const Arguments& arguments) {
+    WriteBytes(path, MakePdf(arguments.paper, Design.DesignFileName, arguments.at, Print));
+}
+
+void WriteSvg(const std::string& path, const Arguments& arguments) {
+    WriteBytes(path, MakeSvg(arguments.paper, Design.DesignFileName, Print));
+}
+
+void WritePng(const std::string& path, const Arguments& arguments) {
+    WriteBytes(path,
+               MakePng(arguments.widthPixels, arguments.heightPixels, [](DrawingSurface& surface) {
+                   DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
+               }));
+}
+
+void WriteVrn(const std::string& path, const Arguments& /*arguments*/) {
+    Design.DesignFileName = path;
+    WriteDesign();
+}
+
+void WriteCsv(const std::string& path, const Arguments& /*arguments*/) {
+    WriteBytes(path, TicTableText());
+}
+
+constexpr OutputForm kForms[] = {
+    {".hpgl", WriteHpglFile, true, false}, //
+    {".plt", WriteHpglFile, true, false},  //
+    {".pcl", WritePclFile, true, false},   //
+    {".pdf", WritePdf, true, true},        //
+    {".svg", WriteSvg, true, true},        //
+    {".png", WritePng, true, true},        //
+    {".vrn", WriteVrn, false, false},      //
+    {".csv", WriteCsv, true, false},       //
+};
+
+} // namespace
+
+const OutputForm* FindForm(const std::string& path) {
+    const std::size_t point = path.rfind('.');
+    const std::string ending = point == path.npos ? "" : path.substr(point);
+    const auto* form = std::find_if(std::begin(kForms), std::end(kForms), [&](const OutputForm& f) {
+        return strcasecmp(f.ending, ending.c_str()) == 0;
+    });
+    return form == std::end(kForms) ? nullptr : form;
+}
+
+void MakeReady() {
+    NormalizeDesign();
+    HoldAspectRatio();
+    ComputeTicDeflections();
+    ComputeTicLabels();
+}
+
+} // namespace vernacle

@@ -1,0 +1,27 @@
+// The forms in which vernacle-export writes a design, by the ending of the output's name.
+#pragma once
+
+#include <string>
+
+#include "export/arguments.h"
+
+namespace vernacle {
+
+// Writes the design that Design holds to the path. A failure is reported through Host or thrown as
+// a RunTimeError.
+using WriteOutput = void (*)(const std::string& path, const Arguments& arguments);
+
+struct OutputForm {
+    const char* ending;
+    WriteOutput write;
+    bool wantsTables; // the design is first made ready as the preview page does
+    bool wantsFonts;
+};
+
+// By the ending in any case; null for one that is not known.
+const OutputForm* FindForm(const std::string& path);
+
+// What the preview page does to a design before it is drawn.
+void MakeReady();
+
+} // namespace vernacle

@@ -1,0 +1,97 @@
+#include "export/tictable.h"
+
+#include <array>
+#include <charconv>
+#include <map>
+#include <vector>
+
+#include "core/design.h"
+#include "core/text.h"
+#include "correction/curve.h"
+#include "render/print.h"
+#include "render/stages.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr const char* kHeader = "scale,tic,major,labelled,label,deflection,corrected,pointer_deg,"
+                                "x_mm,y_mm,end_x_mm,end_y_mm\r\n";
+constexpr int kDigits = 9; // significant
+
+// As few digits as tell the float from its neighbours.
+std::string Number(float value) {
+    std::array<char, 32> buffer{};
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    return {buffer.data(), end};
+}
+
+std::string Number(double value) {
+    std::array<char, 32> buffer{};
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                            std::chars_format::general, kDigits);
+    return {buffer.data(), end};
+}
+
+std::string Quoted(const std::string& text) {
+    if (text.find_first_of(",\"\r\n") == text.npos) {
+        return text;
+    }
+    std::string quoted = "\"";
+    for (const char c : text) {
+        quoted += c == '"' ? "\"\"" : std::string(1, c);
+    }
+    return quoted + "\"";
+}
+
+using Labels = std::map<int, std::string>; // by tic
+
+Labels PrintedLabels(int scale) {
+    Labels labels;
+    if (Design.PrintText == "Y") {
+        WalkLabels(scale, PrintTraits().labelFlags, [&labels](const TicLabel& label) {
+            const std::string text = PrintedLabel(label);
+            if (!Trimmed(text).empty()) {
+                labels[label.number] = text;
+            }
+        });
+    }
+    return labels;
+}
+
+std::string Row(const Tic& tic, const Labels& labels) {
+    const PlateFrame frame = MillimetreFrame();
+    const ArcPlace place = PlaceTic(frame, Correction::Applied, tic.scale, tic.deflection);
+    const SurfacePoint end = AlongPointer(frame, place.point, place.pointerAngleRad, TicLength(tic),
+                                          DirectionOf(tic.scale));
+    float limited = tic.deflection;
+    const float corrected = CorrectDeflection(limited);
+    const auto label = labels.find(tic.number);
+    const bool labelled = label != labels.end();
+    std::string row = std::to_string(tic.scale) + "," + std::to_string(tic.number);
+    row += tic.major ? ",Y" : ",N";
+    row += labelled ? ",Y," + Quoted(label->second) : ",N,";
+    row += "," + Number(tic.deflection) + "," + Number(corrected);
+    for (const double value : {place.pointerAngleRad * frame.degreesPerRadian, place.point.x,
+                               -place.point.y, end.x, -end.y}) {
+        row += "," + Number(value);
+    }
+    return row + "\r\n";
+}
+
+} // namespace
+
+std::string TicTableText() {
+    std::string table = kHeader;
+    for (int scale = 1; scale <= Design.NumberOfScales; ++scale) {
+        if (NumberOf(Design.PrintTicsAndArcs[scale]) != 0) {
+            continue;
+        }
+        RelativeSizeOf(scale);
+        const Labels labels = PrintedLabels(scale);
+        WalkTics(scale, PrintTraits().ticFlags, [&](const Tic& tic) { table += Row(tic, labels); });
+    }
+    return table;
+}
+
+} // namespace vernacle

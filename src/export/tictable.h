@@ -1,0 +1,13 @@
+// The tics of a printed plate as a table, one row a tic: for a spreadsheet, or to check a plate
+// with a measuring microscope.
+#pragma once
+
+#include <string>
+
+namespace vernacle {
+
+// The table as RFC 4180 text, its header first. Places are millimetres from the plate's left and
+// bottom edges.
+std::string TicTableText();
+
+} // namespace vernacle

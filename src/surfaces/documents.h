@@ -1,0 +1,26 @@
+// Documents made whole in memory: the toolkit's own writers do not notice a full disk, so that what
+// they make is written by the checked writer afterwards.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "surfaces/papersurface.h"
+
+namespace vernacle {
+
+using PrintOn = std::function<void(PrinterSurface& printer)>;
+using DrawOn = std::function<void(DrawingSurface& surface)>;
+
+// The bytes of a PDF of one sheet. createdAt, "YYYY-MM-DD hh:mm:ss", stands as its creation date;
+// empty for now.
+std::string MakePdf(const Sheet& sheet, const std::string& title, const std::string& createdAt,
+                    const PrintOn& print);
+
+// The bytes of an SVG of one sheet, its size in millimetres.
+std::string MakeSvg(const Sheet& sheet, const std::string& title, const PrintOn& print);
+
+// The bytes of a PNG of a whole screen of that size.
+std::string MakePng(int widthPixels, int heightPixels, const DrawOn& draw);
+
+} // namespace vernacle

@@ -1,0 +1,205 @@
+#include "surfaces/paintersurface.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QImage>
+#include <QImageReader>
+
+#include "core/runtimeerror.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr double kScreenUnitsX = 12000;
+constexpr double kScreenUnitsY = 9000;
+constexpr int kUsualPoints = 8;
+constexpr double kTenthsPerDegree = 10;
+
+QColor ToQColor(Colour colour) {
+    const auto bits = static_cast<unsigned>(colour);
+    return QColor::fromRgb(static_cast<int>(bits & 0xFFU), static_cast<int>(bits >> 8U & 0xFFU),
+                           static_cast<int>(bits >> 16U & 0xFFU));
+}
+
+bool IsStraightAlongAxis(const QPolygonF& line) {
+    return line.size() == 2 && (line[0].x() == line[1].x() || line[0].y() == line[1].y());
+}
+
+} // namespace
+
+DeviceMap DeviceMap::OfScreen(int widthPixels, int heightPixels) {
+    DeviceMap map;
+    map.perUnitX = widthPixels / kScreenUnitsX;
+    map.perUnitY = heightPixels / kScreenUnitsY;
+    return map;
+}
+
+PainterSurface::PainterSurface(QPainter& painter, const DeviceMap& map)
+    : painter_(painter), map_(map) {
+    SetFontSize(kUsualPoints);
+}
+
+PainterSurface::~PainterSurface() {
+    Flush();
+}
+
+QPointF PainterSurface::ToDevice(double x, double y) const {
+    return {map_.originX + x * map_.perUnitX, map_.originY + y * map_.perUnitY};
+}
+
+QRectF PainterSurface::ToDevice(float x1, float y1, float x2, float y2) const {
+    return QRectF(ToDevice(double{x1}, double{y1}), ToDevice(double{x2}, double{y2})).normalized();
+}
+
+QPen PainterSurface::MakePen(Colour colour, Qt::PenJoinStyle join) const {
+    return {ToQColor(colour), lineWidth_ * map_.perPixel, Qt::SolidLine, Qt::FlatCap, join};
+}
+
+void PainterSurface::Flush() {
+    if (chain_.size() == 1) { // a dot as wide as the line
+        const double width = chainPen_.widthF();
+        const QRectF dot(chain_[0] - QPointF(width, width) / 2, QSizeF(width, width));
+        painter_.fillRect(dot, chainPen_.color());
+    } else if (!chain_.isEmpty()) {
+        // Upright and level lines stay crisp, and one drawn over another covers it.
+        const bool smooth = painter_.testRenderHint(QPainter::Antialiasing);
+        painter_.setRenderHint(QPainter::Antialiasing, smooth && !IsStraightAlongAxis(chain_));
+        painter_.setPen(chainPen_);
+        painter_.drawPolyline(chain_);
+        painter_.setRenderHint(QPainter::Antialiasing, smooth);
+    }
+    chain_.clear();
+}
+
+void PainterSurface::Clear() {
+    chain_.clear();
+    painter_.fillRect(painter_.viewport(), Qt::white);
+}
+
+void PainterSurface::SetLineWidth(int pixels) {
+    lineWidth_ = std::max(pixels, 1);
+}
+
+void PainterSurface::SetForeColor(Colour colour) {
+    foreColour_ = colour;
+}
+
+void PainterSurface::Line(float x1, float y1, float x2, float y2, Colour colour) {
+    const QPointF from(double{x1}, double{y1});
+    const QPointF to(double{x2}, double{y2});
+    const QPen pen = MakePen(colour, Qt::RoundJoin);
+    if (chain_.isEmpty() || from != chainEnd_ || pen != chainPen_) {
+        Flush();
+        chain_ << ToDevice(from.x(), from.y());
+        chainPen_ = pen;
+    }
+    if (from != to) {
+        chain_ << ToDevice(to.x(), to.y());
+    }
+    chainEnd_ = to;
+    current_ = to;
+}
+
+void PainterSurface::Box(float x1, float y1, float x2, float y2, Colour colour) {
+    Flush();
+    painter_.setPen(MakePen(colour, Qt::MiterJoin));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRect(ToDevice(x1, y1, x2, y2));
+}
+
+void PainterSurface::FilledBox(float x1, float y1, float x2, float y2, Colour colour) {
+    Flush();
+    painter_.fillRect(ToDevice(x1, y1, x2, y2), ToQColor(colour));
+}
+
+void PainterSurface::Circle(float x, float y, float r, Colour colour) {
+    Flush();
+    const double radius = double{r} * map_.perUnitX;
+    painter_.setPen(MakePen(colour, Qt::MiterJoin));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawEllipse(ToDevice(double{x}, double{y}), radius, radius);
+}
+
+void PainterSurface::Dot(float x, float y, Colour colour) {
+    Line(x, y, x, y, colour);
+}
+
+void PainterSurface::PrintText(const std::string& text) {
+    WriteAt(ToDevice(current_.x(), current_.y()), text);
+}
+
+void PainterSurface::WriteAt(QPointF corner, const std::string& text) {
+    Flush();
+    const Typeface& face = Face(made_ ? madeName_ : ordinaryName_);
+    const MadeFont font = made_.value_or(MadeFont{OrdinaryScale(), OrdinaryScale(), 0});
+    if (font.scaleX == 0 || font.scaleY == 0) {
+        return;
+    }
+    painter_.save();
+    painter_.translate(corner);
+    painter_.rotate(-font.degrees);
+    painter_.scale(font.scaleX, font.scaleY);
+    painter_.setFont(face.ReferenceFont());
+    painter_.setPen(ToQColor(foreColour_));
+    painter_.drawText(QPointF(0, face.Ascent()), QString::fromStdString(text));
+    painter_.restore();
+}
+
+const Typeface& PainterSurface::Face(const std::string& family) const {
+    if (!face_ || faceName_ != family) {
+        face_.emplace(family);
+        faceName_ = family;
+    }
+    return *face_;
+}
+
+double PainterSurface::OrdinaryScale() const {
+    return ordinaryPixels_ * map_.perPixel / Typeface::kReferenceSize;
+}
+
+void PainterSurface::SetFontName(const std::string& name) {
+    ordinaryName_ = name;
+}
+
+void PainterSurface::SetFontSize(double points) {
+    ordinaryPixels_ = std::max(RoundToInt(points * map_.pixelsPerPoint), 1);
+}
+
+float PainterSurface::TextWidth(const std::string& text) const {
+    const double advance = Face(ordinaryName_).Advance(QString::fromStdString(text));
+    return static_cast<float>(advance * OrdinaryScale() / map_.perUnitX);
+}
+
+float PainterSurface::TextHeight(const std::string& /*text*/) const {
+    return static_cast<float>(Face(ordinaryName_).CellHeight() * OrdinaryScale() / map_.perUnitY);
+}
+
+void PainterSurface::BeginFont(int height, int width, int escapement, const std::string& face) {
+    madeName_ = face.substr(0, face.find('\0'));
+    const Typeface& typeface = Face(madeName_);
+    const double reference = height > 0 ? typeface.CellHeight() : Typeface::kReferenceSize;
+    const double scaleY = std::abs(static_cast<double>(height)) / reference * map_.perPixel;
+    const double scaleX =
+        width == 0 ? scaleY : std::abs(width) / typeface.AverageWidth() * map_.perPixel;
+    made_ = MadeFont{scaleX, scaleY, escapement / kTenthsPerDegree};
+}
+
+void PainterSurface::EndFont() {
+    made_.reset();
+}
+
+void PainterSurface::PaintPicture(const std::string& file, float x, float y, float width,
+                                  float height) {
+    QImageReader reader(QString::fromStdString(file));
+    reader.setDecideFormatFromContent(true); // whatever the ending says
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        throw RunTimeError(file + ": " + reader.errorString().toStdString());
+    }
+    Flush();
+    painter_.drawImage(ToDevice(x, y, x + width, y + height), image);
+}
+
+} // namespace vernacle

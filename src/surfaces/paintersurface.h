@@ -1,0 +1,101 @@
+// A drawing surface over a painter: the screen, a picture, and, with PaperSurface, a sheet.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include <QPainter>
+#include <QPolygonF>
+
+#include "render/surface.h"
+#include "surfaces/typeface.h"
+
+namespace vernacle {
+
+// From the logical units of a surface to the coordinates of its painter: the one place where
+// device units exist.
+struct DeviceMap {
+    double perUnitX = 1; // painter coordinates per logical unit
+    double perUnitY = 1;
+    double originX = 0; // of the logical area, painter coordinates
+    double originY = 0;
+    double perPixel = 1; // painter coordinates per pixel of line widths and fonts
+    double pixelsPerPoint = 96. / 72.;
+
+    // The whole logical area of 12000 x 9000 units in a picture of that size.
+    static DeviceMap OfScreen(int widthPixels, int heightPixels);
+};
+
+class PainterSurface : public virtual DrawingSurface {
+public:
+    // The painter may begin later than the surface, but before the first drawing call.
+    PainterSurface(QPainter& painter, const DeviceMap& map);
+    ~PainterSurface() override;
+    PainterSurface(const PainterSurface&) = delete;
+    PainterSurface& operator=(const PainterSurface&) = delete;
+
+    // Paints what is still held back; see Line.
+    void Flush();
+
+    void Clear() override;
+    void SetLineWidth(int pixels) override;
+    void SetForeColor(Colour colour) override;
+    // Held back while lines continue each other: they are painted as one, with round joins.
+    void Line(float x1, float y1, float x2, float y2, Colour colour) override;
+    void Box(float x1, float y1, float x2, float y2, Colour colour) override;
+    void FilledBox(float x1, float y1, float x2, float y2, Colour colour) override;
+    void Circle(float x, float y, float r, Colour colour) override;
+    void SetCurrentX(float x) override { current_.setX(double{x}); }
+    void SetCurrentY(float y) override { current_.setY(double{y}); }
+    float GetCurrentX() const override { return static_cast<float>(current_.x()); }
+    float GetCurrentY() const override { return static_cast<float>(current_.y()); }
+    void Dot(float x, float y, Colour colour) override;
+    void PrintText(const std::string& text) override;
+    void SetFontName(const std::string& name) override;
+    void SetFontSize(double points) override;
+    float TextWidth(const std::string& text) const override;
+    float TextHeight(const std::string& text) const override;
+    void BeginFont(int height, int width, int escapement, const std::string& face) override;
+    void EndFont() override;
+    void PaintPicture(const std::string& file, float x, float y, float width,
+                      float height) override;
+
+protected:
+    // Writes in the selected font, with the text's top left corner at painter coordinates.
+    void WriteAt(QPointF corner, const std::string& text);
+
+    const DeviceMap& Map() const { return map_; }
+    QPainter& Painter() { return painter_; }
+
+private:
+    // A font as it is asked for: scales from the reference font to painter coordinates.
+    struct MadeFont {
+        double scaleX;
+        double scaleY;
+        double degrees; // counter-clockwise
+    };
+
+    QPointF ToDevice(double x, double y) const;
+    QRectF ToDevice(float x1, float y1, float x2, float y2) const;
+    QPen MakePen(Colour colour, Qt::PenJoinStyle join) const;
+    const Typeface& Face(const std::string& family) const;
+    double OrdinaryScale() const; // from the reference font to painter coordinates
+
+    QPainter& painter_;
+    DeviceMap map_;
+    int lineWidth_ = 1;
+    Colour foreColour_ = kBlackInk;
+    QPointF current_;    // logical
+    int ordinaryPixels_; // character height
+    std::string ordinaryName_ = "Arial";
+    std::optional<MadeFont> made_;
+    std::string madeName_;
+    mutable std::string faceName_; // of face_, the family that was asked for last
+    mutable std::optional<Typeface> face_;
+
+    QPolygonF chain_;  // of lines that continue each other, painter coordinates
+    QPointF chainEnd_; // logical
+    QPen chainPen_;
+};
+
+} // namespace vernacle

@@ -1,0 +1,41 @@
+#include "surfaces/typeface.h"
+
+namespace vernacle {
+
+namespace {
+
+struct LetterShare {
+    char letter;
+    int perThousand;
+};
+
+// How often each letter stands in English text: the weights of a font's average character width.
+constexpr LetterShare kLetters[] = {
+    {'a', 64}, {'b', 14}, {'c', 27}, {'d', 35}, {'e', 100}, {'f', 20},  {'g', 14},
+    {'h', 42}, {'i', 63}, {'j', 3},  {'k', 6},  {'l', 35},  {'m', 20},  {'n', 56},
+    {'o', 56}, {'p', 17}, {'q', 4},  {'r', 49}, {'s', 56},  {'t', 71},  {'u', 31},
+    {'v', 10}, {'w', 18}, {'x', 3},  {'y', 18}, {'z', 2},   {' ', 166},
+};
+
+QFont MakeFont(const std::string& family) {
+    QFont font(QString::fromStdString(family));
+    font.setPixelSize(Typeface::kReferenceSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setKerning(false);
+    return font;
+}
+
+double AverageWidthOf(const QFontMetricsF& metrics) {
+    double sum = 0;
+    for (const LetterShare& share : kLetters) {
+        sum += share.perThousand * metrics.horizontalAdvance(QLatin1Char(share.letter));
+    }
+    return sum / 1000;
+}
+
+} // namespace
+
+Typeface::Typeface(const std::string& family)
+    : font_(MakeFont(family)), metrics_(font_), averageWidth_(AverageWidthOf(metrics_)) {}
+
+} // namespace vernacle

@@ -1,0 +1,35 @@
+// A font family made once at a large size, and the measures by which it is brought to any other:
+// small sizes would quantise the advances of its letters.
+#pragma once
+
+#include <string>
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QString>
+
+namespace vernacle {
+
+class Typeface {
+public:
+    // Size of the reference font in pixels; all measures below are in these.
+    static constexpr int kReferenceSize = 2048;
+
+    explicit Typeface(const std::string& family);
+
+    const QFont& ReferenceFont() const { return font_; }
+    double Ascent() const { return metrics_.ascent(); }
+    double CellHeight() const { return metrics_.ascent() + metrics_.descent(); }
+    double Advance(const QString& text) const { return metrics_.horizontalAdvance(text); }
+
+    // The mean width of a character in running text: the measure by which a font's width is asked
+    // for.
+    double AverageWidth() const { return averageWidth_; }
+
+private:
+    QFont font_;
+    QFontMetricsF metrics_;
+    double averageWidth_;
+};
+
+} // namespace vernacle
