@@ -1,0 +1,12 @@
+// Reads the bytes as a printer calibration.
+#include "core/design.h"
+#include "render/calibrate.h"
+#include "target.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace vernacle;
+    fuzz::ServeAsFile(data, size);
+    ReadCalibrate();
+    HoldCalibration();
+    return 0;
+}

@@ -1,0 +1,30 @@
+// Reads the bytes as a design and writes what came of it; then makes the design ready as a page does.
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "scale/scale.h"
+#include "target.h"
+
+namespace {
+
+class NoSink : public vernacle::ByteSink {
+    void Write(std::string_view /*bytes*/) override {}
+    void Close() override {}
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace vernacle;
+    fuzz::ServeAsFile(data, size);
+    Host.openForOutput = [](const std::string&) { return std::make_unique<NoSink>(); };
+    ReadDesign("design");
+    WriteDesign();
+    try {
+        NormalizeDesign();
+        ComputeTicDeflections();
+        ComputeTicLabels();
+    } catch (const RunTimeError&) {
+        // The failure of the numbers that the file held; the pages trap it.
+    }
+    return 0;
+}

@@ -1,0 +1,19 @@
+// What every fuzz target begins with: the bytes to be read, served as a file from memory.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "core/seam.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace vernacle::fuzz {
+
+inline void ServeAsFile(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    Host.readFile = [bytes](const std::string&) { return bytes; };
+}
+
+} // namespace vernacle::fuzz
