@@ -1,4 +1,5 @@
-// Reads the bytes as a design and writes what came of it; then makes the design ready as a page does.
+// Reads the bytes as a design and writes what came of it; then makes the design ready as a page
+// does.
 #include "core/design.h"
 #include "core/readwrite.h"
 #include "scale/scale.h"

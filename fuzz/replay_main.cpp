@@ -12,7 +12,8 @@ int main(int argc, char** argv) {
                 continue;
             }
             const std::string bytes = vernacle::ReadWholeFile(entry.path().string());
-            LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+            LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()),
+                                   bytes.size());
             ++count;
         }
     }

@@ -138,19 +138,24 @@ void Parse(std::string& text, T& target) {
 struct Magnitude {
     double from; // the smallest magnitude of the row
     double divisor;
-    int places; // behind the point
+    std::string_view pattern; // one # for each digit that may stand there
     std::string_view suffix;
 };
 
 constexpr Magnitude kMagnitudes[] = {
-    {1e9, 1e9, 3, "G"}, // ##.###
-    {1e6, 1e6, 3, "M"}, // ##.###
-    {1e3, 1, 0, ""},    // #####
-    {1e2, 1, 2, ""},    // ####.##
-    {1e1, 1, 3, ""},    // ###.###
-    {1e0, 1, 4, ""},    // ##.####
-    {0, 1, 5, ""},      // #.#####
+    {1e9, 1e9, "##.###", "G"}, //
+    {1e6, 1e6, "##.###", "M"}, //
+    {1e3, 1, "#####", ""},     //
+    {1e2, 1, "####.##", ""},   //
+    {1e1, 1, "###.###", ""},   //
+    {1e0, 1, "##.####", ""},   //
+    {0, 1, "#.#####", ""},     //
 };
+
+int PlacesOf(std::string_view pattern) {
+    const std::size_t point = std::min(pattern.find('.'), pattern.size() - 1);
+    return static_cast<int>(pattern.size() - 1 - point);
+}
 
 constexpr double kShownAsZero = 0.00001;
 
@@ -180,7 +185,7 @@ void FormatByMagnitude(double value, std::string& result) {
         result = "0";
         return;
     }
-    result = RoundedToPlaces(scaled, row->places);
+    result = RoundedToPlaces(scaled, PlacesOf(row->pattern));
     result += row->suffix;
     if (result.size() > 1 && result[0] == '0') { // a sign shields the zero: -0.5 keeps it
         result.erase(0, 1);

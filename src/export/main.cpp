@@ -78,8 +78,10 @@ bool WriteOne(const std::string& path, const Arguments& arguments, Progress& pro
         }
         form.write(path, arguments);
     } catch (const RunTimeError& error) {
+        if (!progress.failed) { // else it has been reported on the way
+            Say(error.what());
+        }
         progress.failed = true;
-        Say(error.what());
     }
     if (progress.failed) {
         Say("vernacle-export: " + path + " was not written");

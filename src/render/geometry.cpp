@@ -71,17 +71,20 @@ double ScaleRadius(const PlateFrame& frame, double ceilingMm) {
     return ceilingMm - frame.bearingMm + frame.offsetMm;
 }
 
-ArcPlace PlaceOnArc(const PlateFrame& frame, double pointerAngleRad, double radiusMm) {
+double ArcAngle(const PlateFrame& frame, double pointerAngleRad, double radiusMm) {
     double sine = CheckedDivide(frame.offsetMm * std::sin(pointerAngleRad + kRightAngle), radiusMm);
-    ArcPlace place;
-    place.pointerAngleRad = pointerAngleRad;
-    place.arcAngleRad = pointerAngleRad + ArcSin(sine);
-    place.point.x =
-        frame.centreX - 2 * frame.AcrossPerHalfMm() * radiusMm * std::cos(place.arcAngleRad);
-    place.point.y = frame.Bottom() -
-                    2 * frame.upPerHalfMm *
-                        (radiusMm * std::sin(place.arcAngleRad) - frame.offsetMm + frame.bearingMm);
-    return place;
+    return pointerAngleRad + ArcSin(sine);
+}
+
+SurfacePoint ArcPoint(const PlateFrame& frame, double arcAngleRad, double radiusMm) {
+    const double up = radiusMm * std::sin(arcAngleRad) - frame.offsetMm + frame.bearingMm;
+    return {frame.centreX - 2 * frame.AcrossPerHalfMm() * radiusMm * std::cos(arcAngleRad),
+            frame.Bottom() - 2 * frame.upPerHalfMm * up};
+}
+
+ArcPlace PlaceOnArc(const PlateFrame& frame, double pointerAngleRad, double radiusMm) {
+    const double angle = ArcAngle(frame, pointerAngleRad, radiusMm);
+    return {pointerAngleRad, angle, ArcPoint(frame, angle, radiusMm)};
 }
 
 SurfacePoint AlongPointer(const PlateFrame& frame, SurfacePoint from, double pointerAngleRad,

@@ -73,8 +73,15 @@ double PointerAngle(const PlateFrame& frame, double g);
 // From the virtual bearing to the crown of an arc, mm.
 double ScaleRadius(const PlateFrame& frame, double ceilingMm);
 
-// Where the pointer at angle t crosses the arc of that radius. A radius of 0 is a run-time error;
-// an offset larger than the radius is held to what can be drawn.
+// The angle, seen from the virtual bearing, at which the pointer at angle t crosses the arc of that
+// radius. A radius of 0 is a run-time error; an offset larger than the radius is held to what can
+// be drawn.
+double ArcAngle(const PlateFrame& frame, double pointerAngleRad, double radiusMm);
+
+// The point of the arc at that angle.
+SurfacePoint ArcPoint(const PlateFrame& frame, double arcAngleRad, double radiusMm);
+
+// Both for the pointer at angle t.
 ArcPlace PlaceOnArc(const PlateFrame& frame, double pointerAngleRad, double radiusMm);
 
 // The point so many millimetres from a point along the pointer at angle t.

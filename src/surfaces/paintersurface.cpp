@@ -137,14 +137,18 @@ void PainterSurface::WriteAt(QPointF corner, const std::string& text) {
     if (font.scaleX == 0 || font.scaleY == 0) {
         return;
     }
-    painter_.save();
-    painter_.translate(corner);
-    painter_.rotate(-font.degrees);
-    painter_.scale(font.scaleX, font.scaleY);
+    const QTransform usual = painter_.transform();
+    QTransform turned = usual;
+    turned.translate(corner.x(), corner.y());
+    if (font.degrees != 0) {
+        turned.rotate(-font.degrees);
+    }
+    turned.scale(font.scaleX, font.scaleY);
+    painter_.setTransform(turned);
     painter_.setFont(face.ReferenceFont());
     painter_.setPen(ToQColor(foreColour_));
     painter_.drawText(QPointF(0, face.Ascent()), QString::fromStdString(text));
-    painter_.restore();
+    painter_.setTransform(usual);
 }
 
 const Typeface& PainterSurface::Face(const std::string& family) const {

@@ -25,17 +25,40 @@ QFont MakeFont(const std::string& family) {
     return font;
 }
 
-double AverageWidthOf(const QFontMetricsF& metrics) {
-    double sum = 0;
-    for (const LetterShare& share : kLetters) {
-        sum += share.perThousand * metrics.horizontalAdvance(QLatin1Char(share.letter));
-    }
-    return sum / 1000;
-}
+// Below this, letters stand side by side as they are; beyond, neighbours may shape each other.
+constexpr char16_t kFirstCombining = 0x0300;
 
 } // namespace
 
 Typeface::Typeface(const std::string& family)
-    : font_(MakeFont(family)), metrics_(font_), averageWidth_(AverageWidthOf(metrics_)) {}
+    : font_(MakeFont(family)), metrics_(font_), averageWidth_(MeasureAverage()) {}
+
+// The metrics shape a text anew at each call, which for a plate's labels costs as much as painting.
+double Typeface::AdvanceOf(QChar letter) const {
+    const auto [entry, isNew] = advances_.try_emplace(letter.unicode());
+    if (isNew) {
+        entry->second = metrics_.horizontalAdvance(letter);
+    }
+    return entry->second;
+}
+
+double Typeface::Advance(const QString& text) const {
+    double advance = 0;
+    for (const QChar letter : text) {
+        if (letter.unicode() >= kFirstCombining) {
+            return metrics_.horizontalAdvance(text);
+        }
+        advance += AdvanceOf(letter);
+    }
+    return advance;
+}
+
+double Typeface::MeasureAverage() const {
+    double sum = 0;
+    for (const LetterShare& share : kLetters) {
+        sum += share.perThousand * AdvanceOf(QLatin1Char(share.letter));
+    }
+    return sum / 1000;
+}
 
 } // namespace vernacle

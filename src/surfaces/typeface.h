@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <unordered_map>
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -20,15 +21,19 @@ public:
     const QFont& ReferenceFont() const { return font_; }
     double Ascent() const { return metrics_.ascent(); }
     double CellHeight() const { return metrics_.ascent() + metrics_.descent(); }
-    double Advance(const QString& text) const { return metrics_.horizontalAdvance(text); }
+    double Advance(const QString& text) const;
 
     // The mean width of a character in running text: the measure by which a font's width is asked
     // for.
     double AverageWidth() const { return averageWidth_; }
 
 private:
+    double AdvanceOf(QChar letter) const;
+    double MeasureAverage() const;
+
     QFont font_;
     QFontMetricsF metrics_;
+    mutable std::unordered_map<char16_t, double> advances_; // of the letters measured so far
     double averageWidth_;
 };
 

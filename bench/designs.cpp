@@ -1,0 +1,31 @@
+#include "designs.h"
+
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "render/drawing.h"
+#include "scale/scale.h"
+
+namespace vernacle::bench {
+
+void LoadDense() {
+    SetVersionAndScreenScale();
+    SetOpeningValues();
+    ReadDesign(VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
+    NormalizeDesign();
+    HoldAspectRatio();
+    ComputeTicDeflections();
+    ComputeTicLabels();
+    Design.CalibrationX = Design.CalibrationY = 1;
+}
+
+void LoadScales(int scales, std::int16_t steps) {
+    SetOpeningValues();
+    ResetDesign();
+    Design.NumberOfScales = static_cast<std::int16_t>(scales);
+    for (int scale = 1; scale <= scales; ++scale) {
+        Design.NrOfTicmarks[scale] = steps;
+        Design.LinearityExponent[scale] = 1.5F;
+    }
+}
+
+} // namespace vernacle::bench

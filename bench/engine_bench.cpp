@@ -1,0 +1,77 @@
+// What the engine's routines cost: the tables that every keystroke computes, the plotter's stream,
+// and the design file.
+#include <benchmark/benchmark.h>
+
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "core/seam.h"
+#include "designs.h"
+#include "render/hpgl.h"
+#include "scale/scale.h"
+
+namespace vernacle::bench {
+namespace {
+
+class CountingSink : public ByteSink {
+public:
+    void Write(std::string_view bytes) override { count += bytes.size(); }
+    void Close() override {}
+
+    std::size_t count = 0;
+};
+
+// scales, steps
+void Tables(benchmark::State& state) {
+    LoadScales(static_cast<int>(state.range(0)), static_cast<std::int16_t>(state.range(1)));
+    for (auto _ : state) {
+        ComputeTicDeflections();
+        ComputeTicLabels();
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(Tables)->Args({1, 90})->Args({1, 180})->Args({1, 360})->Args({6, 360});
+
+void TablesOfDense(benchmark::State& state) {
+    LoadDense();
+    for (auto _ : state) {
+        ComputeTicDeflections();
+        ComputeTicLabels();
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(TablesOfDense);
+
+void HpglOfDense(benchmark::State& state) {
+    LoadDense();
+    for (auto _ : state) {
+        CountingSink sink;
+        WriteHpglStream(sink, HpglMode::File);
+        benchmark::DoNotOptimize(sink.count);
+    }
+}
+BENCHMARK(HpglOfDense);
+
+void ReadDense(benchmark::State& state) {
+    const std::string bytes = ReadWholeFile(VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
+    Host.readFile = [&bytes](const std::string&) { return bytes; };
+    for (auto _ : state) {
+        ReadDesign("dense");
+    }
+    Host = DefaultHost();
+}
+BENCHMARK(ReadDense);
+
+void WriteDense(benchmark::State& state) {
+    LoadDense();
+    Host.openForOutput = [](const std::string&) { return std::make_unique<CountingSink>(); };
+    for (auto _ : state) {
+        WriteDesign();
+    }
+    Host = DefaultHost();
+}
+BENCHMARK(WriteDense);
+
+} // namespace
+} // namespace vernacle::bench
+
+BENCHMARK_MAIN();

@@ -1,0 +1,72 @@
+// A full redraw of the dense example on a screen of 1920 x 1080, against a replay of the primitives
+// that it painted; and with half and a quarter of its tics.
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+#include <QImage>
+
+#include "core/design.h"
+#include "core/seam.h"
+#include "designs.h"
+#include "primitives.h"
+#include "render/drawing.h"
+#include "scale/scale.h"
+#include "surfaces/paintersurface.h"
+
+namespace vernacle::bench {
+namespace {
+
+constexpr int kWidth = 1920;
+constexpr int kHeight = 1080;
+
+void RedrawOn(QPaintDevice& device) {
+    QPainter painter(&device);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PainterSurface surface(painter, DeviceMap::OfScreen(kWidth, kHeight));
+    ComputeTicDeflections();
+    ComputeTicLabels();
+    DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
+}
+
+// steps; labels turned along the bearing's radius or upright
+void Redraw(benchmark::State& state, const char* rotation) {
+    LoadDense();
+    Design.NrOfTicmarks[1] = static_cast<std::int16_t>(state.range(0));
+    Design.LabelRotation = rotation;
+    QImage image(kWidth, kHeight, QImage::Format_RGB32);
+    for (auto _ : state) {
+        RedrawOn(image);
+    }
+}
+BENCHMARK_CAPTURE(Redraw, Upright, "H")->Arg(90)->Arg(180)->Arg(360)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Redraw, Turned, "B")->Arg(360)->Unit(benchmark::kMillisecond);
+
+void ReplayOfRedraw(benchmark::State& state, const char* rotation) {
+    LoadDense();
+    Design.LabelRotation = rotation;
+    PrimitiveDevice device(kWidth, kHeight, 96);
+    RedrawOn(device);
+    QImage image(kWidth, kHeight, QImage::Format_RGB32);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        Replay(device.primitives, painter);
+    }
+    state.counters["primitives"] = static_cast<double>(device.primitives.size());
+}
+BENCHMARK_CAPTURE(ReplayOfRedraw, Upright, "H")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ReplayOfRedraw, Turned, "B")->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace vernacle::bench
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    vernacle::Host.screenSize = [] {
+        return vernacle::ScreenSize{vernacle::bench::kWidth * 15.F,
+                                    vernacle::bench::kHeight * 15.F};
+    };
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
