@@ -23,7 +23,7 @@ public:
 // scales, steps
 void Tables(benchmark::State& state) {
     LoadScales(static_cast<int>(state.range(0)), static_cast<std::int16_t>(state.range(1)));
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         ComputeTicDeflections();
         ComputeTicLabels();
         benchmark::ClobberMemory();
@@ -33,7 +33,7 @@ BENCHMARK(Tables)->Args({1, 90})->Args({1, 180})->Args({1, 360})->Args({6, 360})
 
 void TablesOfDense(benchmark::State& state) {
     LoadDense();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         ComputeTicDeflections();
         ComputeTicLabels();
         benchmark::ClobberMemory();
@@ -43,7 +43,7 @@ BENCHMARK(TablesOfDense);
 
 void HpglOfDense(benchmark::State& state) {
     LoadDense();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         CountingSink sink;
         WriteHpglStream(sink, HpglMode::File);
         benchmark::DoNotOptimize(sink.count);
@@ -52,9 +52,9 @@ void HpglOfDense(benchmark::State& state) {
 BENCHMARK(HpglOfDense);
 
 void ReadDense(benchmark::State& state) {
-    const std::string bytes = ReadWholeFile(VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
-    Host.readFile = [&bytes](const std::string&) { return bytes; };
-    for (auto _ : state) {
+    std::string bytes = ReadWholeFile(VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
+    Host.readFile = [bytes = std::move(bytes)](const std::string&) -> std::string { return bytes; };
+    for ([[maybe_unused]] auto _ : state) {
         ReadDesign("dense");
     }
     Host = DefaultHost();
@@ -64,7 +64,7 @@ BENCHMARK(ReadDense);
 void WriteDense(benchmark::State& state) {
     LoadDense();
     Host.openForOutput = [](const std::string&) { return std::make_unique<CountingSink>(); };
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         WriteDesign();
     }
     Host = DefaultHost();

@@ -34,7 +34,7 @@ void Redraw(benchmark::State& state, const char* rotation) {
     Design.NrOfTicmarks[1] = static_cast<std::int16_t>(state.range(0));
     Design.LabelRotation = rotation;
     QImage image(kWidth, kHeight, QImage::Format_RGB32);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         RedrawOn(image);
     }
 }
@@ -47,7 +47,7 @@ void ReplayOfRedraw(benchmark::State& state, const char* rotation) {
     PrimitiveDevice device(kWidth, kHeight, 96);
     RedrawOn(device);
     QImage image(kWidth, kHeight, QImage::Format_RGB32);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         QPainter painter(&image);
         Replay(device.primitives, painter);
     }

@@ -12,8 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 namespace vernacle::fuzz {
 
 inline void ServeAsFile(const std::uint8_t* data, std::size_t size) {
-    const std::string bytes(reinterpret_cast<const char*>(data), size);
-    Host.readFile = [bytes](const std::string&) { return bytes; };
+    const auto* text = reinterpret_cast<const char*>(data);
+    Host.readFile = [text, size](const std::string&) { return std::string(text, size); };
 }
 
 } // namespace vernacle::fuzz

@@ -8,11 +8,11 @@ namespace vernacle {
 
 // One line of the file, or, without a label and a way to read, one step between lines.
 struct FileLine {
-    const char* label; // "%" stands for the number of the scale, the text or the point
-    WriteValue write;
-    Place place;
-    ReadValue read;                   // none: the reader takes no line
-    int stage;                        // what the reader's failure message quotes
+    const char* label = nullptr; // "%" stands for the number of the scale, the text or the point
+    WriteValue write = nullptr;
+    Place place = Nowhere;
+    ReadValue read = nullptr;         // none: the reader takes no line
+    int stage = 0;                    // what the reader's failure message quotes
     void (*afterReading)() = nullptr; // what is forced, whatever the line said
     void (*beforeWriting)() = nullptr;
     void (*afterWriting)() = nullptr;

@@ -66,15 +66,25 @@ public:
 
 private:
     void AddNumberCharacter(char c) {
-        if (c >= '0' && c <= '9' && text_.size() < kLongestNumber && !unitSeen_) {
-            text_ += c;
-        } else if (c == '.' && !unitSeen_ && !pointSeen_) {
-            pointSeen_ = true;
-            text_ += c;
-        } else if ((c == '+' || c == '-') && (text_.empty() || text_.back() == 'E')) {
+        if (c == '.') {
+            AddPoint();
+        } else if (c == '+' || c == '-' ? TakesSign() : TakesDigit(c)) {
             text_ += c;
         }
     }
+
+    void AddPoint() {
+        if (!unitSeen_ && !pointSeen_) {
+            pointSeen_ = true;
+            text_ += '.';
+        }
+    }
+
+    bool TakesDigit(char c) const {
+        return c >= '0' && c <= '9' && text_.size() < kLongestNumber && !unitSeen_;
+    }
+
+    bool TakesSign() const { return text_.empty() || text_.back() == 'E'; }
 
     void AddLetter(char c) {
         if ((c == 'E' || c == 'e') && !unitSeen_) {

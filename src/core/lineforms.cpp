@@ -114,9 +114,9 @@ std::string WriteFour(const Slot& /*slot*/, LinePlace /*place*/) {
     return PlainNumber(4);
 }
 
-void Drop(std::string /*value*/, const Slot& /*slot*/, LinePlace /*place*/) {}
+void Drop(std::string& /*value*/, const Slot& /*slot*/, LinePlace /*place*/) {}
 
-void ReadEntry(std::string value, const Slot& slot, LinePlace /*place*/) {
+void ReadEntry(std::string& value, const Slot& slot, LinePlace /*place*/) {
     if (const auto* number = std::get_if<float*>(&slot)) {
         ParseEntry(value, **number);
     } else if (const auto* whole = std::get_if<std::int16_t*>(&slot)) {
@@ -126,17 +126,17 @@ void ReadEntry(std::string value, const Slot& slot, LinePlace /*place*/) {
     }
 }
 
-void ReadVal(std::string value, const Slot& slot, LinePlace /*place*/) {
+void ReadVal(std::string& value, const Slot& slot, LinePlace /*place*/) {
     StoreInSlot(NumericValue(value), slot);
 }
 
-void ReadFirstVal(std::string value, const Slot& slot, LinePlace place) {
+void ReadFirstVal(std::string& value, const Slot& slot, LinePlace place) {
     std::string field;
     SplitField(value, field);
     ReadVal(field, slot, place);
 }
 
-void ReadInteger(std::string value, const Slot& slot, LinePlace /*place*/) {
+void ReadInteger(std::string& value, const Slot& slot, LinePlace /*place*/) {
     const auto number = StrictNumber(value);
     if (!number) {
         ThrowTypeMismatch();
@@ -144,15 +144,15 @@ void ReadInteger(std::string value, const Slot& slot, LinePlace /*place*/) {
     StoreInSlot(*number, slot);
 }
 
-void ReadText(std::string value, const Slot& slot, LinePlace /*place*/) {
+void ReadText(std::string& value, const Slot& slot, LinePlace /*place*/) {
     TextIn(slot) = std::move(value);
 }
 
-void ReadTrimmed(std::string value, const Slot& slot, LinePlace /*place*/) {
+void ReadTrimmed(std::string& value, const Slot& slot, LinePlace /*place*/) {
     TextIn(slot) = Trimmed(value);
 }
 
-void ReadTicFields(std::string value, const Slot& /*slot*/, LinePlace place) {
+void ReadTicFields(std::string& value, const Slot& /*slot*/, LinePlace place) {
     const auto [scale, tic] = place;
     float& deflection = Design.TicDeflection[scale][tic];
     if (HasField(value)) {
@@ -169,7 +169,7 @@ void ReadTicFields(std::string value, const Slot& /*slot*/, LinePlace place) {
     }
 }
 
-void ReadCurvePoint(std::string value, const Slot& /*slot*/, LinePlace place) {
+void ReadCurvePoint(std::string& value, const Slot& /*slot*/, LinePlace place) {
     float x = 0;
     float y = 0;
     TakeCoordinate(value, x);
@@ -178,15 +178,15 @@ void ReadCurvePoint(std::string value, const Slot& /*slot*/, LinePlace place) {
     Design.CorrectionPair[2 * place.outer] = y;
 }
 
-void ReadTicsAndArcs(std::string value, const Slot& /*slot*/, LinePlace place) {
+void ReadTicsAndArcs(std::string& value, const Slot& /*slot*/, LinePlace place) {
     Design.PrintTicsAndArcs[place.outer] = std::move(value);
 }
 
-void ReadDeletedTic(std::string value, const Slot& /*slot*/, LinePlace place) {
+void ReadDeletedTic(std::string& value, const Slot& /*slot*/, LinePlace place) {
     FlagDeleted(value, Design.StandardTicYN[place.outer]);
 }
 
-void ReadDeletedLabel(std::string value, const Slot& /*slot*/, LinePlace place) {
+void ReadDeletedLabel(std::string& value, const Slot& /*slot*/, LinePlace place) {
     FlagDeleted(value, Design.StandardLabelYN[place.outer]);
 }
 

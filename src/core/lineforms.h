@@ -31,21 +31,22 @@ std::string WriteSpacedTwo(const Slot& slot, LinePlace place); // the one consta
 std::string WriteThree(const Slot& slot, LinePlace place);
 std::string WriteFour(const Slot& slot, LinePlace place);
 
-// Takes the value of a line; a failed conversion or an index out of bounds is a run-time error.
-using ReadValue = void (*)(std::string value, const Slot& slot, LinePlace place);
+// Takes the value of a line, which it may change; a failed conversion or an index out of bounds is
+// a run-time error.
+using ReadValue = void (*)(std::string& value, const Slot& slot, LinePlace place);
 
-void Drop(std::string value, const Slot& slot, LinePlace place);
-void ReadEntry(std::string value, const Slot& slot, LinePlace place); // ParseEntry and its limits
-void ReadVal(std::string value, const Slot& slot, LinePlace place); // leading number of any length
-void ReadFirstVal(std::string value, const Slot& slot, LinePlace place); // of the first field
-void ReadInteger(std::string value, const Slot& slot, LinePlace place);  // the text is a number
-void ReadText(std::string value, const Slot& slot, LinePlace place);
-void ReadTrimmed(std::string value, const Slot& slot, LinePlace place);
-void ReadTicFields(std::string value, const Slot& slot, LinePlace place);
-void ReadCurvePoint(std::string value, const Slot& slot, LinePlace place);
-void ReadTicsAndArcs(std::string value, const Slot& slot, LinePlace place);
-void ReadDeletedTic(std::string value, const Slot& slot, LinePlace place);
-void ReadDeletedLabel(std::string value, const Slot& slot, LinePlace place);
+void Drop(std::string& value, const Slot& slot, LinePlace place);
+void ReadEntry(std::string& value, const Slot& slot, LinePlace place); // ParseEntry and its limits
+void ReadVal(std::string& value, const Slot& slot, LinePlace place); // leading number of any length
+void ReadFirstVal(std::string& value, const Slot& slot, LinePlace place); // of the first field
+void ReadInteger(std::string& value, const Slot& slot, LinePlace place);  // the text is a number
+void ReadText(std::string& value, const Slot& slot, LinePlace place);
+void ReadTrimmed(std::string& value, const Slot& slot, LinePlace place);
+void ReadTicFields(std::string& value, const Slot& slot, LinePlace place);
+void ReadCurvePoint(std::string& value, const Slot& slot, LinePlace place);
+void ReadTicsAndArcs(std::string& value, const Slot& slot, LinePlace place);
+void ReadDeletedTic(std::string& value, const Slot& slot, LinePlace place);
+void ReadDeletedLabel(std::string& value, const Slot& slot, LinePlace place);
 
 // Moves the next field of rest, up to the next "\", to field; several separators count as one, so
 // that a field is never empty. With no field left, rest becomes empty and field is not changed.

@@ -6,6 +6,9 @@
 
 namespace vernacle {
 
+// Of all files that the program writes.
+constexpr std::string_view kLineEnd = "\r\n";
+
 class LineReader {
 public:
     explicit LineReader(std::string text) : text_(std::move(text)) {}

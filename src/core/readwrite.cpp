@@ -13,8 +13,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
-
 constexpr int kStageOpen = 407;
 constexpr int kStageReset = 413;
 
@@ -67,7 +65,7 @@ private:
         stage_ = line.stage;
         if (line.read) {
             std::string value = NextValue();
-            line.read(std::move(value), line.place(place.outer, place.inner), place);
+            line.read(value, line.place(place.outer, place.inner), place);
         }
         if (line.afterReading) {
             line.afterReading();

@@ -13,7 +13,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kSignature = "Meter"; // all that a reader compares of the first line
 constexpr std::size_t kHeadingColumn = 16;
 constexpr std::size_t kPointColumn = 15;

@@ -6,6 +6,7 @@
 #include "core/lines.h"
 #include "core/numbertext.h"
 #include "core/seam.h"
+#include "render/page.h"
 #include "render/primitives.h"
 
 namespace vernacle {
@@ -16,7 +17,6 @@ constexpr const char* kCalibrationFile = "Calibrate.txt";
 constexpr float kSmallestFactor = 0.5F;
 constexpr float kLargestFactor = 2;
 constexpr double kSquareMm = 100;
-constexpr SurfacePoint kCentre = {6000, 4000};
 
 void RaiseFactor(float& factor) {
     if (factor == 0) {
@@ -35,8 +35,8 @@ void PrintSquare(PrinterSurface& printer) {
     const double halfY = kSquareMm * double{Design.CalibrationY} * kPageUnitsPerHalfMm;
     printer.StartPage();
     printer.SetLineWidth(1);
-    printer.Box(F(kCentre.x - halfX), F(kCentre.y - halfY), F(kCentre.x + halfX),
-                F(kCentre.y + halfY), kBlackInk);
+    printer.Box(F(kPageCentre.x - halfX), F(kPageCentre.y - halfY), F(kPageCentre.x + halfX),
+                F(kPageCentre.y + halfY), kBlackInk);
     printer.EndDoc();
 }
 

@@ -8,9 +8,6 @@ namespace vernacle {
 
 class PrinterSurface;
 
-// Page units per half millimetre on a printer whose factor is 1.
-constexpr double kPageUnitsPerHalfMm = 28.289;
-
 // Reads the two factors from "Calibrate.txt". A failure is not reported; it leaves the factors that
 // were not reached as they are.
 void ReadCalibrate();

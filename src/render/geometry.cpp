@@ -10,7 +10,6 @@ namespace vernacle {
 
 namespace {
 
-const double kRightAngle = 2 * std::atan(1.0);
 constexpr double kQuadrantDegreesPerRadian = 57.295;
 
 } // namespace

@@ -10,6 +10,10 @@
 
 namespace vernacle {
 
+constexpr double kRightAngle = 1.5707963267948966; // 2 arctan(1), radians
+constexpr int kArcChords = 100;                    // an arc is a polygon of so many chords
+constexpr double kLongestRulerMm = 180;
+
 // 45 / arctan(1), kept as the 32-bit float by which all drawings divide.
 float ComputeDegreesPerRadian();
 

@@ -23,6 +23,7 @@
 #include "core/codepage.h"
 #include "core/design.h"
 #include "core/entry.h"
+#include "core/lines.h"
 #include "core/numbertext.h"
 #include "core/seam.h"
 #include "core/text.h"
@@ -34,12 +35,9 @@ namespace vernacle {
 namespace {
 
 constexpr double kUnitsPerMm = 40;
-constexpr double kRulerLimitMm = 180;
-constexpr int kArcChords = 100;
 constexpr int kPlottedTexts = 5;
 constexpr const char* kEndOfLabel = "\x03";
 constexpr const char* kEscape = "\x1B";
-const double kRightAngle = 2 * std::atan(1.0);
 
 // A point in plotter units, and the two ways in which one is made whole.
 using Point = SurfacePoint;
@@ -65,12 +63,15 @@ public:
     void WriteAll(HpglMode mode);
 
 private:
-    void Statement(const std::string& text) { sink_.Write(text + "\r\n"); }
+    void Statement(const std::string& text) { sink_.Write(std::string(text).append(kLineEnd)); }
     void Command(const std::string& word, double number) {
         Statement(word + PlotterNumber(number));
     }
     void Command(const std::string& word, Point numbers) {
         Statement(word + PlotterNumber(numbers.x) + PlotterNumber(numbers.y));
+    }
+    void CharacterSize(const std::string& width, const std::string& height) {
+        Statement(std::string("SI ").append(width).append(" ").append(height));
     }
     void PenUp(Point at) { Command("PU", Nearest(at)); }
     void PenDown(Point at) { Command("PD", Nearest(at)); }
@@ -176,7 +177,7 @@ void Plotter::WriteHeader(HpglMode mode) {
         Statement(command);
     }
     const double size = double{Design.FontSize};
-    Statement("SI " + PlotterDigits(size / 60) + " " + PlotterDigits(size / 40));
+    CharacterSize(PlotterDigits(size / 60), PlotterDigits(size / 40));
 }
 
 // Outside the plate's edges and past its corners, so that they cross there.
@@ -270,7 +271,7 @@ void Plotter::PlotFreeTexts() {
         FormatByMagnitude(double{Design.TextRelativeSize[text]} / 6.4, width);
         FormatByMagnitude(double{Design.TextRelativeSize[text]} / 4.8, height);
         Statement("LO3");
-        Statement("SI " + width + " " + height);
+        CharacterSize(width, height);
         PlotText(AtMm(double{Design.LeftToText[text]}, double{Design.BottomToText[text]}),
                  std::string(Trimmed(Design.TextString[text])));
     }
@@ -278,7 +279,7 @@ void Plotter::PlotFreeTexts() {
 
 // The ruler's coordinates are cut to whole units, not rounded.
 void Plotter::PlotRuler() {
-    const double length = std::min(double{Design.PlateWidth}, kRulerLimitMm);
+    const double length = std::min(double{Design.PlateWidth}, kLongestRulerMm);
     const auto at = [this](double mm, double below) {
         return Below({corner_.x + kUnitsPerMm * mm, corner_.y - below});
     };

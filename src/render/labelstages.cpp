@@ -10,8 +10,6 @@ namespace vernacle {
 
 namespace {
 
-const double kRightAngle = 2 * std::atan(1.0);
-
 // Sizes per point of font size, in half millimetres of the plate: of the made fonts, and of the
 // ordinary font that measures for them.
 constexpr double kLabelHeight = 0.0513;

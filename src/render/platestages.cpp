@@ -14,7 +14,6 @@ constexpr double kTrimFrom = 100; // units beyond the plate's edge
 constexpr double kTrimTo = 300;
 constexpr double kBorderOutside = 32;
 constexpr double kMarkScale = 32; // the plate scale for which the radii of the marks were chosen
-constexpr double kLongestRulerMm = 180;
 constexpr double kRulerTic = 100;
 constexpr double kNumberBelowRuler = 30;
 constexpr double kHalfDigit = 45;

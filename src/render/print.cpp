@@ -9,6 +9,7 @@
 #include "core/text.h"
 #include "render/calibrate.h"
 #include "render/overlays.h"
+#include "render/page.h"
 #include "render/primitives.h"
 #include "render/stages.h"
 
@@ -16,10 +17,9 @@ namespace vernacle {
 
 namespace {
 
-constexpr SurfacePoint kCentre = {6000, 4000}; // of the plate on the page of 11500 x 15200
-constexpr double kBleed = 50;                  // the background goes this far past the cut
-constexpr double kRulerPoints = 8;             // at which 45 units are half a digit
-constexpr double kFooterPoints = 6;            // at which lines 150 units apart do not touch
+constexpr double kBleed = 50;       // the background goes this far past the cut
+constexpr double kRulerPoints = 8;  // at which 45 units are half a digit
+constexpr double kFooterPoints = 6; // at which lines 150 units apart do not touch
 constexpr const char* kWebAddress = "https://harrowgate.example/vernacle";
 
 struct PrintRun {
@@ -145,9 +145,10 @@ void PrintTitle(PrintRun& run, int scale) {
     const std::string& title = Design.ScaleTitle[scale];
     const double width = double{run.printer.TextWidth(title)};
     const double x =
-        QuadrantTitleX(frame, scale).value_or(kCentre.x - width * frame.plateScale * 0.018);
+        QuadrantTitleX(frame, scale).value_or(kPageCentre.x - width * frame.plateScale * 0.018);
     const double y =
-        (frame.heightMm - 2 * double{Design.BottomToTitle[scale]}) * frame.upPerHalfMm + kCentre.y;
+        (frame.heightMm - 2 * double{Design.BottomToTitle[scale]}) * frame.upPerHalfMm +
+        kPageCentre.y;
     PrintAt(run.printer, std::trunc(std::clamp(x, 300.0, 11200.0)),
             std::trunc(std::clamp(y, 300.0, 14900.0)), title);
 }
@@ -210,14 +211,15 @@ constexpr DrawingStage kPrintStages[] = {
 } // namespace
 
 DrawingTraits PrintTraits() {
-    return {.centre = kCentre,
+    return {.centre = kPageCentre,
             .preparation = Preparation::None,
             .lineWidths = {.trimMarks = 16, .holes = 6, .bearings = 3, .arcFactor = 2.4},
             .stages = kPrintStages};
 }
 
 PlateFrame PrintFrame() {
-    PlateFrame frame = FrameOfDesign(double{Design.CalibrationX} * kPageUnitsPerHalfMm, kCentre);
+    PlateFrame frame =
+        FrameOfDesign(double{Design.CalibrationX} * kPageUnitsPerHalfMm, kPageCentre);
     frame.upPerHalfMm = double{Design.CalibrationY} * kPageUnitsPerHalfMm;
     return frame;
 }

@@ -23,8 +23,9 @@ void DrawHighlight(DrawingRun& run, int highlight) {
     }
     const double length = double{Design.HighlightLength[highlight]};
     const double stop = CorrectedPercent(Design.HighlightStop[highlight]);
-    for (double f = CorrectedPercent(Design.HighlightStart[highlight]); f <= stop;
-         f += kHighlightStep) {
+    const double start = CorrectedPercent(Design.HighlightStart[highlight]);
+    for (int step = 0; start + step * kHighlightStep <= stop; ++step) {
+        const double f = start + step * kHighlightStep;
         const ArcPlace place = PlaceOnArc(frame, PointerAngle(frame, f), radius);
         // Unlike a tic's, the end's y counts in units across too.
         PlateFrame square = frame;

@@ -11,8 +11,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr int kArcChords = 100;
-
 Colour TicInkOf(const DrawingRun& run, int scale) {
     return run.traits.ticInk == TicInk::Black ? kBlackInk : InkOf(scale);
 }

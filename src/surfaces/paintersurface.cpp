@@ -38,7 +38,7 @@ DeviceMap DeviceMap::OfScreen(int widthPixels, int heightPixels) {
 
 PainterSurface::PainterSurface(QPainter& painter, const DeviceMap& map)
     : painter_(painter), map_(map) {
-    SetFontSize(kUsualPoints);
+    PainterSurface::SetFontSize(kUsualPoints);
 }
 
 PainterSurface::~PainterSurface() {

@@ -85,8 +85,8 @@ private:
     DeviceMap map_;
     int lineWidth_ = 1;
     Colour foreColour_ = kBlackInk;
-    QPointF current_;    // logical
-    int ordinaryPixels_; // character height
+    QPointF current_;        // logical
+    int ordinaryPixels_ = 0; // character height
     std::string ordinaryName_ = "Arial";
     std::optional<MadeFont> made_;
     std::string madeName_;

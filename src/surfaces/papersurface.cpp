@@ -1,6 +1,7 @@
 #include "surfaces/papersurface.h"
 
 #include "core/runtimeerror.h"
+#include "render/page.h"
 
 namespace vernacle {
 
@@ -8,9 +9,7 @@ namespace {
 
 constexpr double kMmPerInch = 25.4;
 constexpr double kTwipsPerInch = 1440;
-constexpr double kUnitsPerMm = 56.578;
-constexpr double kPageWidth = 11500; // units
-constexpr double kPageHeight = 15200;
+constexpr double kUnitsPerMm = 2 * kPageUnitsPerHalfMm;
 
 DeviceMap MapOf(double coordinatesPerInch, const Sheet& sheet) {
     const double perMm = coordinatesPerInch / kMmPerInch;
