@@ -191,8 +191,12 @@ constexpr FileLine kDeletedTics[kFiledLists] = {
     {"Scale 3 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         770},
     {"Scale 4 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         780},
 };
-constexpr FileLine kDeletedTic =
-    {"Tic deleted: ",                    WritePlain,      At<&D::DeletedTics>,               ReadDeletedTic,  785};
+constexpr FileLine kDeletedTic[kFiledLists] = {
+    {"Tic deleted: ",                      WritePlain,      At<&D::DeletedTics>,                ReadDeletedTic,  755},
+    {"Tic deleted: ",                      WritePlain,      At<&D::DeletedTics>,                ReadDeletedTic,  765},
+    {"Tic deleted: ",                      WritePlain,      At<&D::DeletedTics>,                ReadDeletedTic,  775},
+    {"Tic deleted: ",                      WritePlain,      At<&D::DeletedTics>,                ReadDeletedTic,  785},
+};
 
 constexpr FileLine kDeletedLabels[kFiledLists] = {
     {"Scale 1 - deleted labels: ",       WritePlain,      At<&D::DeletedLabelCount>,         ReadVal,         790},
@@ -200,8 +204,12 @@ constexpr FileLine kDeletedLabels[kFiledLists] = {
     {"Scale 3 - deleted labels: ",       WritePlain,      At<&D::DeletedLabelCount>,         ReadVal,         810},
     {"Scale 4 - deleted labels: ",       WritePlain,      At<&D::DeletedLabelCount>,         ReadVal,         820},
 };
-constexpr FileLine kDeletedLabel =
-    {"Label deleted: ",                  WritePlain,      At<&D::DeletedLabels>,             ReadDeletedLabel,825};
+constexpr FileLine kDeletedLabel[kFiledLists] = {
+    {"Label deleted: ",                    WritePlain,      At<&D::DeletedLabels>,              ReadDeletedLabel,795},
+    {"Label deleted: ",                    WritePlain,      At<&D::DeletedLabels>,              ReadDeletedLabel,805},
+    {"Label deleted: ",                    WritePlain,      At<&D::DeletedLabels>,              ReadDeletedLabel,815},
+    {"Label deleted: ",                    WritePlain,      At<&D::DeletedLabels>,              ReadDeletedLabel,825},
+};
 
 constexpr FileLine kFontSizesHeading =
     {"Relative font sizes:",             WriteNothing,    Nowhere,                           Drop,            830};
@@ -275,13 +283,13 @@ void FileWalker::WalkDeletions() {
     for (int scale = 1; scale <= kFiledLists; ++scale) {
         Visit(kDeletedTics[scale - 1], {scale});
         for (int entry = 1, last = Design.DeletedTicCount[scale]; entry <= last; ++entry) {
-            Visit(kDeletedTic, {scale, entry});
+            Visit(kDeletedTic[scale - 1], {scale, entry});
         }
     }
     for (int scale = 1; scale <= kFiledLists; ++scale) {
         Visit(kDeletedLabels[scale - 1], {scale});
         for (int entry = 1, last = Design.DeletedLabelCount[scale]; entry <= last; ++entry) {
-            Visit(kDeletedLabel, {scale, entry});
+            Visit(kDeletedLabel[scale - 1], {scale, entry});
         }
     }
 }

@@ -169,6 +169,12 @@ int PlacesOf(std::string_view pattern) {
 
 constexpr double kShownAsZero = 0.00001;
 
+// Held to what a float can hold: showing a number never fails.
+float ToFloat(double value) {
+    constexpr double kLargest = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(value, -kLargest, kLargest));
+}
+
 } // namespace
 
 void ParseEntry(std::string& text, float& target) {
@@ -189,7 +195,7 @@ void FormatByMagnitude(double value, std::string& result) {
                                    [=](const Magnitude& m) { return magnitude >= m.from; });
     float scaled = 0;
     if (magnitude > kShownAsZero) {
-        StoreNumber(value / row->divisor, scaled);
+        scaled = ToFloat(value / row->divisor);
     }
     if (scaled == 0) {
         result = "0";
@@ -204,7 +210,7 @@ void FormatByMagnitude(double value, std::string& result) {
 
 double ArcSin(double& x) {
     constexpr double kLimit = 0.999999; // short of a right angle, so that the root is never 0
-    Design.LastStepTrace = "In ArcSin, X=" + PlainNumber(static_cast<float>(x));
+    Design.LastStepTrace = "In ArcSin, X=" + PlainNumber(ToFloat(x));
     x = std::clamp(x, -kLimit, kLimit);
     return std::atan(x / std::sqrt(1 - x * x));
 }

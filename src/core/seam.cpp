@@ -27,9 +27,11 @@ std::string LocalDateTime() {
     return text.empty() || text[0] == '*' || text[0] == ' ' ? IsoDateTime() : text;
 }
 
+// Counted from the first call: waits are computed in 32-bit floats, which a machine's whole uptime
+// would leave with steps of seconds.
 double ClockSeconds() {
-    const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(sinceStart).count();
+    static const auto start = std::chrono::steady_clock::now();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 constexpr ScreenSize kUsualScreen{1600 * 15, 900 * 15};

@@ -135,9 +135,6 @@ void WriteCorrectionFile(const std::string& name) {
 }
 
 void ReadCorrectionFile(const std::string& name) {
-    if (name.empty()) {
-        return;
-    }
     try {
         ReadCurve(name);
     } catch (const RunTimeError&) {

@@ -17,7 +17,7 @@ float CorrectDeflection(float& f);
 // Writes the curve to a correction file; an empty name does nothing. A failure is reported.
 void WriteCorrectionFile(const std::string& name);
 
-// Reads a curve; an empty name does nothing. A failure is reported and keeps the points read so
+// Reads a curve. A failure is reported and keeps the points read so
 // far. The slopes are not recomputed, and bad points are not judged here.
 void ReadCorrectionFile(const std::string& name);
 

@@ -68,7 +68,7 @@ std::string CheckedTime(const char* text) {
         timegm(&real); // carries a thirtieth of February over into March
         std::strftime(again, sizeof again, kForm, &real);
     }
-    if (std::string_view(text) != again) {
+    if (std::string_view(text) != again || *text == '\0') {
         throw UsageError("--at wants \"YYYY-MM-DD hh:mm:ss\", not \"" + std::string(text) + "\"");
     }
     return text;

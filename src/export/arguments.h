@@ -1,6 +1,7 @@
 // The command line of vernacle-export.
 #pragma once
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -12,8 +13,8 @@ namespace vernacle {
 struct Arguments {
     bool help = false;
     bool version = false;
-    std::string at;          // "YYYY-MM-DD hh:mm:ss"; empty for the present time
-    std::string calibration; // file of the printer's factors; empty for factors of 1
+    std::string at;                         // "YYYY-MM-DD hh:mm:ss"; empty for the present time
+    std::optional<std::string> calibration; // file of the printer's factors; none: both are 1
     Sheet paper = kSheets[0];
     int widthPixels = 1600; // of the screen that a picture shows
     int heightPixels = 900;

@@ -94,8 +94,8 @@ bool WriteOne(const std::string& path, const Arguments& arguments, Progress& pro
 
 bool ReadInputs(const Arguments& arguments, const Progress& progress) {
     Design.CalibrationX = Design.CalibrationY = 1;
-    if (!arguments.calibration.empty()) {
-        ReadCalibration(arguments.calibration);
+    if (arguments.calibration) {
+        ReadCalibration(*arguments.calibration);
     }
     Design.DesignFileName = arguments.design;
     ReadDesign(arguments.design);

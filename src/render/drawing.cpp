@@ -36,6 +36,12 @@ void CountHighlights() {
     }
 }
 
+void RaiseAspectRatio() {
+    if (Design.AspectRatio <= 0) {
+        Design.AspectRatio = 1;
+    }
+}
+
 void Prepare(Preparation preparation) {
     if (preparation == Preparation::None) {
         return;
@@ -45,14 +51,9 @@ void Prepare(Preparation preparation) {
     }
     Design.NumberOfScales = std::max<std::int16_t>(Design.NumberOfScales, 1);
     Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
+    RaiseAspectRatio();
     ComputeTicDeflections();
     ComputeTicLabels();
-}
-
-void RaiseAspectRatio() {
-    if (Design.AspectRatio <= 0) {
-        Design.AspectRatio = 1;
-    }
 }
 
 } // namespace
@@ -103,10 +104,10 @@ PlateFrame PageFrame(const DrawingTraits& traits) {
 }
 
 void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageSizes& sizes) {
+    Prepare(traits.preparation);
+    DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
     Drawing.WhereMarker = kMarkStart;
     try {
-        Prepare(traits.preparation);
-        DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
         for (const DrawingStage stage : traits.stages) {
             stage(run);
         }

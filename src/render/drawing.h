@@ -84,8 +84,9 @@ DrawingTraits TextTraits();
 DrawingTraits HighlightsTraits();
 DrawingTraits WizardTraits();
 
-// Draws the design. A run-time failure ends the drawing silently: what was drawn so far stays, and
-// Design.CurrentScale and Design.TicLoop stay where they stood.
+// Draws the design. A run-time failure of a stage ends the drawing silently: what was drawn so far
+// stays, and Design.CurrentScale and Design.TicLoop stay where they stood. One on the way there, in
+// the scale tables or the frame, is not trapped.
 void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageSizes& sizes);
 
 // The frame of a page, its numbers also kept in Drawing. An AspectRatio of 0 or less becomes 1. A

@@ -115,12 +115,14 @@ void PrintUprightLabel(PrintRun& run, const TicLabel& label) {
     const PlateFrame& frame = run.drawing.frame;
     const ArcPlace place =
         PlaceTic(frame, run.drawing.traits.correction, label.scale, label.deflection);
-    const SurfacePoint whole = {std::trunc(place.point.x), std::trunc(place.point.y)};
+    // Coordinates are 32-bit floats before they are cut: a label at mid-scale, a hair off the
+    // centre line in double precision, would else lose a unit.
+    const SurfacePoint whole = {std::trunc(F(place.point.x)), std::trunc(F(place.point.y))};
     const SurfacePoint anchor = AlongPointer(frame, whole, place.pointerAngleRad,
                                              double{Design.LabelSpacing}, DirectionOf(label.scale));
     const std::string text = PrintedLabel(label);
-    PrintAt(run.printer, std::floor(anchor.x - 0.5 * double{run.printer.TextWidth(text)}),
-            std::floor(anchor.y - 0.5 * double{run.printer.TextHeight(text)}), text);
+    PrintAt(run.printer, std::floor(F(anchor.x - 0.5 * double{run.printer.TextWidth(text)})),
+            std::floor(F(anchor.y - 0.5 * double{run.printer.TextHeight(text)})), text);
 }
 
 void PrintLabels(PrintRun& run) {

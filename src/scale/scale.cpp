@@ -30,9 +30,9 @@ void ComputeLabels(int scale) {
     std::string label;
     for (int tic = 0; tic <= last && every > 0; tic += every) {
         const double share = CheckedDivide(tic, last);
-        const auto distance = static_cast<float>(share * double{Design.ScaleLengthUnits[scale]});
-        const auto value =
-            static_cast<float>(double{distance} + double{Design.ScaleLeftEnd[scale]});
+        float value = 0;
+        StoreNumber(share * double{Design.ScaleLengthUnits[scale]}, value);
+        StoreNumber(double{value} + double{Design.ScaleLeftEnd[scale]}, value);
         FormatByMagnitude(double{value}, label);
         Design.StandardLabel[scale][tic] = Trimmed(label);
     }

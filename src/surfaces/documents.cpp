@@ -77,7 +77,7 @@ std::string MakeSvg(const Sheet& sheet, const std::string& title, const PrintOn&
         generator.setResolution(kSvgPerInch);
         generator.setSize(size);
         generator.setViewBox(QRect(QPoint(), size));
-        generator.setTitle(QString::fromStdString(title));
+        generator.setTitle(QString::fromStdString(title).toHtmlEscaped()); // it does not itself
         PaperSurface paper(generator, kSvgPerInch, sheet);
         print(paper);
     }

@@ -186,7 +186,8 @@ void PainterSurface::BeginFont(int height, int width, int escapement, const std:
     const double reference = height > 0 ? typeface.CellHeight() : Typeface::kReferenceSize;
     const double scaleY = std::abs(static_cast<double>(height)) / reference * map_.perPixel;
     const double scaleX =
-        width == 0 ? scaleY : std::abs(width) / typeface.AverageWidth() * map_.perPixel;
+        width == 0 ? scaleY
+                   : std::abs(static_cast<double>(width)) / typeface.AverageWidth() * map_.perPixel;
     made_ = MadeFont{scaleX, scaleY, escapement / kTenthsPerDegree};
 }
 
