@@ -1,5 +1,6 @@
 #include "support/enginetest.h"
 
+#include <clocale>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -23,6 +24,7 @@ std::filesystem::path MakeFolder() {
 } // namespace
 
 EngineTest::EngineTest() : folder_(MakeFolder()) {
+    std::setlocale(LC_ALL, ""); // as a window system does: a decimal comma must not get in
     Design = DesignRecord{};
     Drawing = DrawingState{};
     Host = DefaultHost();

@@ -1,0 +1,219 @@
+// Writing and reading a design file by name: which file, and what is said when it fails.
+#include "core/readwrite.h"
+
+#include <limits>
+
+#include <unistd.h>
+
+#include "core/bytesink.h"
+#include "core/design.h"
+#include "core/seam.h"
+#include "designfile.h"
+#include "support/enginetest.h"
+#include "support/filelimit.h"
+
+namespace vernacle::test {
+namespace {
+
+const std::vector<std::string> kNotWritten = {
+    "beep", "failure: The Vernacle file was not written correctly.\nReadWrite 364"};
+
+class ReadWriteTest : public EngineTest {
+protected:
+    ReadWriteTest() { ResetDesign(); }
+
+    // The file behind the line of its name.
+    std::string Body(const std::string& name) const {
+        const std::string text = ReadFile(name);
+        return text.substr(text.find('\n') + 1);
+    }
+};
+
+TEST_F(ReadWriteTest, SavesUnderTheDesignsNameUnlessNoneWasChosen) {
+    Design.DesignFileName = Path("plate.vrn");
+    SaveDesign("");
+    EXPECT_FALSE(Exists("plate.vrn"));
+    SaveDesign("any");
+    EXPECT_TRUE(Exists("plate.vrn"));
+    EXPECT_FALSE(Exists("any"));
+    EXPECT_TRUE(said.empty());
+}
+
+TEST_F(ReadWriteTest, ReplacesTheFile) {
+    WriteFile("plate.vrn", std::string(100000, '~'));
+    Design.DesignFileName = Path("plate.vrn");
+    WriteDesign();
+    EXPECT_EQ(ReadFile("plate.vrn").find('~'), std::string::npos);
+}
+
+TEST_F(ReadWriteTest, ABackupLosesTheNameInHand) {
+    Design.DesignFileName = Path("plate.vrn");
+    Design.PlateWidth = 61.5F;
+    BackupDesign();
+    EXPECT_EQ(Design.DesignFileName, "");
+    EXPECT_FALSE(Exists("plate.vrn"));
+    EXPECT_EQ(ReadFile("Backup.DAT").find("Filename: Backup.DAT\r\n"), 0U);
+    Design.PlateWidth = 20;
+    ReadDesign("Backup.DAT");
+    EXPECT_EQ(Design.PlateWidth, 61.5F);
+    EXPECT_EQ(Design.DesignFileName, "");
+    EXPECT_TRUE(said.empty());
+}
+
+TEST_F(ReadWriteTest, TheLastSessionStandsBesideTheProgram) {
+    Host.besideProgram = [this](const std::string& name) { return Path("beside-" + name); };
+    Design.DesignFileName = Path("plate.vrn");
+    SaveLastSession();
+    EXPECT_EQ(LastSessionName(), Path("beside-LASTSESSION.VRN"));
+    EXPECT_EQ(Design.DesignFileName, Path("beside-LASTSESSION.VRN"));
+    EXPECT_TRUE(Exists("beside-LASTSESSION.VRN"));
+    EXPECT_FALSE(Exists("plate.vrn"));
+}
+
+TEST_F(ReadWriteTest, ReadingAnEmptyNameDoesNothing) {
+    Design.PlateWidth = 61.5F;
+    ReadDesign("");
+    EXPECT_EQ(Design.PlateWidth, 61.5F);
+    EXPECT_TRUE(said.empty());
+}
+
+TEST_F(ReadWriteTest, ReadingKeepsTheNameOfTheDesign) {
+    Design.DesignFileName = "mine";
+    ReadDesign(WriteFile("plate.vrn", DesignFile().Text()));
+    EXPECT_EQ(Design.DesignFileName, "mine");
+    ReadDesign(Path("none.vrn"));
+    EXPECT_EQ(Design.DesignFileName, "mine");
+}
+
+TEST_F(ReadWriteTest, ReportsWhatCannotBeWritten) {
+    for (const std::string& name :
+         {Path("none/plate.vrn"), Path(""), std::string("/dev/full"), std::string("")}) {
+        said.clear();
+        Design.DesignFileName = name;
+        WriteDesign();
+        EXPECT_EQ(said, kNotWritten) << name;
+        EXPECT_EQ(Design.DesignFileName, name);
+    }
+}
+
+TEST_F(ReadWriteTest, ReportsABackupAndALastSessionThatCannotBeWritten) {
+    Host.openForOutput = [](const std::string&) { return OpenFileSink("/dev/full"); };
+    BackupDesign();
+    EXPECT_EQ(said, kNotWritten);
+    EXPECT_EQ(Design.DesignFileName, "");
+    said.clear();
+    SaveLastSession();
+    EXPECT_EQ(said, kNotWritten);
+    EXPECT_EQ(Design.DesignFileName, LastSessionName());
+}
+
+TEST_F(ReadWriteTest, ReportsASizeLimit) {
+    Design.DesignFileName = Path("plate.vrn");
+    {
+        const FileSizeLimit limit(1024);
+        WriteDesign();
+    }
+    EXPECT_EQ(said, kNotWritten);
+    EXPECT_EQ(ReadFile("plate.vrn").size(), 1024U);
+}
+
+// What the writer cannot go through ends the file in front of the line that failed.
+struct Unwritable {
+    const char* name;
+    void (*make)();
+    const char* lastLine;
+};
+
+constexpr Unwritable kUnwritable[] = {
+    {"nine scales", [] { Design.NumberOfScales = 9; }, "Linearity exponent: 0\r\n"},
+    {"361 special steps",
+     [] {
+         Design.ScaleColor[1] = -1;
+         Design.SpecialNrOfTicmarks[1] = 361;
+     },
+     " 0\\Y\\Y\\N\\/\r\n"},
+    {"eleven texts", [] { Design.NumberOfTexts = 11; }, "Color: 0\r\n"},
+    {"all tics of scale 1 deleted",
+     [] {
+         for (int tic = 0; tic <= 360; ++tic) {
+             Design.StandardTicYN[1][tic] = "N";
+         }
+     },
+     "Plate background: 16777215\r\n"},
+    {"all labels of scale 6 deleted",
+     [] {
+         for (int tic = 0; tic <= 360; ++tic) {
+             Design.StandardLabelYN[6][tic] = "N";
+         }
+     },
+     "Plate background: 16777215\r\n"},
+    {"a width without a text", [] { Design.PlateWidth = std::numeric_limits<float>::infinity(); },
+     "11/21/26 10:08:00\r\n"},
+};
+
+TEST_F(ReadWriteTest, ReportsWhatItCannotGoThrough) {
+    for (const Unwritable& row : kUnwritable) {
+        SCOPED_TRACE(row.name);
+        said.clear();
+        ResetDesign();
+        Design.DesignFileName = Path("plate.vrn");
+        row.make();
+        WriteDesign();
+        EXPECT_EQ(said, kNotWritten);
+        EXPECT_TRUE(ReadFile("plate.vrn").ends_with(row.lastLine));
+        Design = DesignRecord{};
+    }
+}
+
+TEST_F(ReadWriteTest, ReportsAFailureAmongTheLinesOnceThoughTheDiskIsFull) {
+    Design.NumberOfTexts = 11;
+    Design.DesignFileName = "/dev/full";
+    WriteDesign();
+    EXPECT_EQ(said, kNotWritten);
+}
+
+TEST_F(ReadWriteTest, AMissingFileIsReportedWithTheStageOfItsOpening) {
+    const std::string text = "failure: We were not successful in reading that Vernacle file.\n"
+                             "Default values for all items have been put in place.\n\n"
+                             "ReadWrite 407";
+    Design.PlateWidth = 61.5F;
+    ReadDesign(Path("none.vrn"));
+    EXPECT_EQ(said, (std::vector<std::string>{"beep", text}));
+    EXPECT_EQ(Design.PlateWidth, 75);
+    EXPECT_EQ(Design.ScaleTitle[1], "Default Scale 1");
+}
+
+TEST_F(ReadWriteTest, WhatCannotBeReadIsReportedAlike) {
+    WriteFile("large.vrn", "");
+    std::filesystem::resize_file(Path("large.vrn"), kLargestFile + 1);
+    for (const std::string& name : {Path("none/plate.vrn"), Path(""), Path("large.vrn")}) {
+        said.clear();
+        Design.PlateWidth = 61.5F;
+        ReadDesign(name);
+        ASSERT_EQ(said.size(), 2U) << name;
+        EXPECT_TRUE(said[1].ends_with("\n\nReadWrite 407")) << said[1];
+        EXPECT_EQ(Design.PlateWidth, 75) << name;
+    }
+}
+
+TEST_F(ReadWriteTest, AFileThatMayNotBeReadIsReportedAlike) {
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "permissions do not bind the superuser";
+    }
+    const std::string name = WriteFile("plate.vrn", DesignFile().Text());
+    std::filesystem::permissions(name, std::filesystem::perms::none);
+    ReadDesign(name);
+    ASSERT_EQ(said.size(), 2U);
+    EXPECT_TRUE(said[1].ends_with("\n\nReadWrite 407")) << said[1];
+}
+
+TEST_F(ReadWriteTest, TheBodyIsTheSameWhateverTheName) {
+    Design.DesignFileName = Path("plate.vrn");
+    WriteDesign();
+    SaveLastSession();
+    EXPECT_EQ(Body("plate.vrn"), Body("LASTSESSION.VRN"));
+    EXPECT_NE(Body("plate.vrn"), "");
+}
+
+} // namespace
+} // namespace vernacle::test

@@ -1,0 +1,30 @@
+#include "core/text.h"
+
+#include <gtest/gtest.h>
+
+namespace vernacle::test {
+namespace {
+
+TEST(TextTest, TrimsBlanksAtBothEndsAndNothingElse) {
+    EXPECT_EQ(Trimmed("  a b  "), "a b");
+    EXPECT_EQ(Trimmed("a"), "a");
+    EXPECT_EQ(Trimmed("   "), "");
+    EXPECT_EQ(Trimmed(""), "");
+    EXPECT_EQ(Trimmed("\ta\t "), "\ta\t");
+}
+
+TEST(TextTest, TrimsBlanksAtTheStart) {
+    EXPECT_EQ(LeftTrimmed("  a b  "), "a b  ");
+    EXPECT_EQ(LeftTrimmed("   "), "");
+    EXPECT_EQ(LeftTrimmed("\t a"), "\t a");
+}
+
+TEST(TextTest, CountsCharactersAndNotBytes) {
+    EXPECT_EQ(CharacterCount(""), 0U);
+    EXPECT_EQ(CharacterCount("mA"), 2U);
+    EXPECT_EQ(CharacterCount("\u00B5A"), 2U);
+    EXPECT_EQ(CharacterCount("k\u2126\u20AC"), 3U);
+}
+
+} // namespace
+} // namespace vernacle::test
