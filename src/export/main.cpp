@@ -158,7 +158,7 @@ int Run(int argc, char** argv) {
 } // namespace vernacle
 
 int main(int argc, char** argv) {
-    std::setlocale(LC_TIME, "");
+    std::setlocale(LC_ALL, "");    // dates and the system's reasons; numbers never ask it
     std::signal(SIGXFSZ, SIG_IGN); // a file-size limit is a write that fails, not the end
     try {
         return vernacle::Run(argc, argv);

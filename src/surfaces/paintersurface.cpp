@@ -23,6 +23,44 @@ QColor ToQColor(Colour colour) {
                            static_cast<int>(bits >> 16U & 0xFFU));
 }
 
+// Painter coordinates beyond which nothing shows on any surface. The toolkit's writers and blitters
+// are not made for the distances that a damaged design can ask for.
+constexpr double kFarthest = 1e6;
+
+bool IsNear(QPointF point) {
+    return std::fabs(point.x()) <= kFarthest && std::fabs(point.y()) <= kFarthest;
+}
+
+// The part of the line from a to b that is near, by the share of it that each of its four borders
+// leaves; false if none is.
+bool ClipToNear(QPointF& a, QPointF& b) {
+    const QPointF along = b - a;
+    double from = 0;
+    double to = 1;
+    for (const auto& [start, step] : {std::pair(a.x(), along.x()), std::pair(a.y(), along.y())}) {
+        if (step == 0) {
+            if (std::fabs(start) > kFarthest) {
+                return false;
+            }
+            continue;
+        }
+        const double enters = (-std::copysign(kFarthest, step) - start) / step;
+        const double leaves = (std::copysign(kFarthest, step) - start) / step;
+        from = std::max(from, enters);
+        to = std::min(to, leaves);
+    }
+    b = a + along * to;
+    a += along * from;
+    return from <= to;
+}
+
+QRectF ClampToNear(const QRectF& box) {
+    if (IsNear(box.topLeft()) && IsNear(box.bottomRight())) {
+        return box; // also one without width or height, which has no intersection
+    }
+    return box.intersected(QRectF(-kFarthest, -kFarthest, 2 * kFarthest, 2 * kFarthest));
+}
+
 bool IsStraightAlongAxis(const QPolygonF& line) {
     return line.size() == 2 && (line[0].x() == line[1].x() || line[0].y() == line[1].y());
 }
@@ -90,36 +128,46 @@ void PainterSurface::Line(float x1, float y1, float x2, float y2, Colour colour)
     const QPointF from(double{x1}, double{y1});
     const QPointF to(double{x2}, double{y2});
     const QPen pen = MakePen(colour, Qt::RoundJoin);
-    if (chain_.isEmpty() || from != chainEnd_ || pen != chainPen_) {
+    current_ = to;
+    QPointF start = ToDevice(from.x(), from.y());
+    QPointF end = ToDevice(to.x(), to.y());
+    const bool isWhole = IsNear(start) && IsNear(end);
+    if (!isWhole && !ClipToNear(start, end)) {
+        return;
+    }
+    if (chain_.isEmpty() || from != chainEnd_ || pen != chainPen_ || !isWhole) {
         Flush();
-        chain_ << ToDevice(from.x(), from.y());
+        chain_ << start;
         chainPen_ = pen;
     }
     if (from != to) {
-        chain_ << ToDevice(to.x(), to.y());
+        chain_ << end;
     }
     chainEnd_ = to;
-    current_ = to;
 }
 
 void PainterSurface::Box(float x1, float y1, float x2, float y2, Colour colour) {
     Flush();
     painter_.setPen(MakePen(colour, Qt::MiterJoin));
     painter_.setBrush(Qt::NoBrush);
-    painter_.drawRect(ToDevice(x1, y1, x2, y2));
+    painter_.drawRect(ClampToNear(ToDevice(x1, y1, x2, y2)));
 }
 
 void PainterSurface::FilledBox(float x1, float y1, float x2, float y2, Colour colour) {
     Flush();
-    painter_.fillRect(ToDevice(x1, y1, x2, y2), ToQColor(colour));
+    painter_.fillRect(ClampToNear(ToDevice(x1, y1, x2, y2)), ToQColor(colour));
 }
 
 void PainterSurface::Circle(float x, float y, float r, Colour colour) {
     Flush();
     const double radius = double{r} * map_.perUnitX;
+    const QPointF centre = ToDevice(double{x}, double{y});
+    if (!IsNear(centre) || radius > kFarthest) {
+        return;
+    }
     painter_.setPen(MakePen(colour, Qt::MiterJoin));
     painter_.setBrush(Qt::NoBrush);
-    painter_.drawEllipse(ToDevice(double{x}, double{y}), radius, radius);
+    painter_.drawEllipse(centre, radius, radius);
 }
 
 void PainterSurface::Dot(float x, float y, Colour colour) {
@@ -134,7 +182,7 @@ void PainterSurface::WriteAt(QPointF corner, const std::string& text) {
     Flush();
     const Typeface& face = Face(made_ ? madeName_ : ordinaryName_);
     const MadeFont font = made_.value_or(MadeFont{OrdinaryScale(), OrdinaryScale(), 0});
-    if (font.scaleX == 0 || font.scaleY == 0) {
+    if (font.scaleX == 0 || font.scaleY == 0 || !IsNear(corner)) {
         return;
     }
     const QTransform usual = painter_.transform();
@@ -204,7 +252,16 @@ void PainterSurface::PaintPicture(const std::string& file, float x, float y, flo
         throw RunTimeError(file + ": " + reader.errorString().toStdString());
     }
     Flush();
-    painter_.drawImage(ToDevice(x, y, x + width, y + height), image);
+    const QRectF target = ToDevice(x, y, x + width, y + height);
+    const QRectF shown = target.intersected(painter_.viewport());
+    if (shown.isEmpty() || !IsNear(target.topLeft()) || !IsNear(target.bottomRight())) {
+        return;
+    }
+    const double across = image.width() / target.width(); // picture's pixels per coordinate
+    const double down = image.height() / target.height();
+    const QRectF source((shown.x() - target.x()) * across, (shown.y() - target.y()) * down,
+                        shown.width() * across, shown.height() * down);
+    painter_.drawImage(shown, image, source);
 }
 
 } // namespace vernacle
