@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <numbers>
+#include <sstream>
+
+#include "core/numbertext.h"
 
 namespace vernacle::test {
 
@@ -33,11 +35,9 @@ bool SameWord(const std::string& word, const std::string& expected) {
     if (word == expected) {
         return true;
     }
-    char* end = nullptr;
-    char* expectedEnd = nullptr;
-    const double value = std::strtod(word.c_str(), &end);
-    const double expectedValue = std::strtod(expected.c_str(), &expectedEnd);
-    return *end == '\0' && *expectedEnd == '\0' && std::fabs(value - expectedValue) <= kTolerance;
+    const auto value = StrictNumber(word); // whatever the locale
+    const auto expectedValue = StrictNumber(expected);
+    return value && expectedValue && std::fabs(*value - *expectedValue) <= kTolerance;
 }
 
 bool SameCall(const std::string& call, const std::string& expected) {

@@ -1,0 +1,65 @@
+#include "export/exporttest.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace vernacle::test {
+
+ProcessResult ExportTest::Export(const Words& arguments, const ProcessSetting& setting) {
+    return RunProgram(VERNACLE_EXPORT, arguments, setting);
+}
+
+void ExportTest::ExportQuietly(const std::string& design, const Words& outputs,
+                               const Words& options) {
+    Words words = {"--at", kAt};
+    words.insert(words.end(), options.begin(), options.end());
+    words.push_back(design);
+    words.insert(words.end(), outputs.begin(), outputs.end());
+    const ProcessResult result = Export(words);
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out + result.err, "");
+}
+
+std::string ExportTest::Example(const std::string& name) {
+    return VERNACLE_SOURCE_DIR "/examples/" + name + ".VRN";
+}
+
+std::string ExportTest::EditedExample(const std::string& name, const Edits& edits) const {
+    std::string design = ReadText(Example(name));
+    for (const auto& [label, value] : edits) {
+        const std::size_t line = design.find("\n" + label);
+        if (line == design.npos) {
+            ADD_FAILURE() << name << " has no line \"" << label << "\"";
+            continue;
+        }
+        const std::size_t start = line + 1 + label.size();
+        design.replace(start, design.find('\r', start) - start, value);
+    }
+    return WriteFile(name + "-edited.VRN", design);
+}
+
+std::size_t ExportTest::CountFiles() const {
+    const std::filesystem::directory_iterator files(Path(""));
+    return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+}
+
+std::string ReadText(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string DeletedList(const char* line, const std::vector<int>& tics) {
+    std::string text = std::to_string(tics.size());
+    for (const int tic : tics) {
+        text += std::string("\r\n") + line + std::to_string(tic);
+    }
+    return text;
+}
+
+std::size_t CountLines(const std::string& text) {
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+} // namespace vernacle::test

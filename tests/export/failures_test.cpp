@@ -1,0 +1,263 @@
+// What cannot be read or written: exit status 1, a message, and no half plate left behind.
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <regex>
+
+#include <unistd.h>
+
+#include "export/exporttest.h"
+
+namespace vernacle::test {
+
+namespace {
+
+class FailuresTest : public ExportTest {
+protected:
+    // Every form in a path of this name, "plate.pdf" and so on.
+    template <typename Check>
+    void ForEachForm(Check check) const {
+        for (const char* ending : kEndings) {
+            SCOPED_TRACE(ending);
+            check(Path(std::string("plate") + ending), std::string(ending));
+        }
+    }
+};
+
+const char* MessageOf(const std::string& ending) {
+    if (ending == ".hpgl" || ending == ".pcl") {
+        return "The HPGL file was not written correctly.";
+    }
+    if (ending == ".vrn") {
+        return "The Vernacle file was not written correctly.\nReadWrite 364";
+    }
+    return nullptr;
+}
+
+// The message of the form's own writer, or else the system's.
+void ExpectFailure(const ProcessResult& result, const std::string& ending, int reason) {
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.signal, 0);
+    EXPECT_EQ(result.out, "");
+    const char* own = MessageOf(ending);
+    const char* said = own ? own : std::strerror(reason); // in the language of the locale
+    EXPECT_NE(result.err.find(said), std::string::npos) << result.err;
+}
+
+int StageOf(const std::string& message) {
+    std::smatch found;
+    return std::regex_search(message, found, std::regex("ReadWrite (\\d+)\n")) ? std::stoi(found[1])
+                                                                               : 0;
+}
+
+constexpr const char* kNotRead = "We were not successful in reading that Vernacle file.\n"
+                                 "Default values for all items have been put in place.\n\n";
+
+TEST_F(FailuresTest, AMissingDesignIsSaidWithItsStageAndNothingIsWritten) {
+    Words words = {Path("missing.VRN")};
+    ForEachForm([&words](const std::string& path, const std::string&) { words.push_back(path); });
+    const ProcessResult result = Export(words);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find(std::string(kNotRead) + "ReadWrite 407\n"), std::string::npos)
+        << result.err;
+    EXPECT_EQ(CountFiles(), 0U);
+}
+
+TEST_F(FailuresTest, AFolderIsNoDesign) {
+    const ProcessResult result = Export({Path(""), Path("plate.csv")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(StageOf(result.err), 407) << result.err;
+    EXPECT_EQ(CountFiles(), 0U);
+}
+
+TEST_F(FailuresTest, ADamagedDesignIsSaidWithTheStageItCameTo) {
+    struct Row {
+        const char* name;
+        Edits edits;
+    };
+    // In the order of their lines.
+    const Row rows[] = {
+        {"a text's colour that is no number",
+         {{"Texts: ", "1\r\nText 1:made by\r\nLeft to text:  2 \r\nBottom to text:  2 \r\n"
+                      "Relative size:  1 \r\nColor: red"}}},
+        {"a tic beyond the last", {{"Scale 1 - deleted tics: ", "1\r\nTic deleted: 361"}}},
+        {"a label beyond the last", {{"Scale 1 - deleted labels: ", "1\r\nLabel deleted: 999"}}},
+    };
+    int last = 544; // the loop over the scales, which all of these lie behind
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::string design = EditedExample("VOLTS-0-15", row.edits);
+        const ProcessResult result = Export({design, Path("plate.pdf"), Path("plate.vrn")});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.err.find(kNotRead), std::string::npos) << result.err;
+        EXPECT_GT(StageOf(result.err), last) << result.err;
+        EXPECT_LT(StageOf(result.err), 990) << result.err;
+        EXPECT_EQ(CountFiles(), 1U) << "more than the design";
+        last = StageOf(result.err);
+    }
+}
+
+TEST_F(FailuresTest, ADeletionOutOfBoundsIsADamagedDesign) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"Scale 1 - deleted tics: ", "Tic deleted: -1"},
+        {"Scale 2 - deleted tics: ", "Tic deleted: 361"},
+        {"Scale 4 - deleted tics: ", "Tic deleted: 32767"},
+        {"Scale 1 - deleted labels: ", "Label deleted: -5"},
+        {"Scale 4 - deleted labels: ", "Label deleted: 361"},
+    };
+    int last = 0;
+    for (const auto& [list, entry] : rows) {
+        const std::string design =
+            EditedExample("VOLTS-0-15", {{list, std::string("1\r\n") + entry}});
+        const ProcessResult result = Export({design, Path("plate.csv")});
+        EXPECT_EQ(result.status, 1) << list << entry;
+        EXPECT_GE(StageOf(result.err), last) << list << entry;
+        EXPECT_FALSE(Exists("plate.csv"));
+        last = StageOf(result.err);
+    }
+}
+
+TEST_F(FailuresTest, ADesignThatEndsEarlyIsNoFailure) {
+    const std::string whole = ReadText(Example("VOLTS-0-15"));
+    const std::string head = whole.substr(0, whole.find("Number of scales: "));
+    const ProcessResult result = Export({WriteFile("old.VRN", head), Path("plate.csv")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(CountLines(ReadFile("plate.csv")), 52U); // a header and the tics 0 to 50
+}
+
+TEST_F(FailuresTest, ACalibrationThatCannotBeReadEndsIt) {
+    const std::string design = Example("VOLTS-0-15");
+    const std::pair<const char*, std::string> rows[] = {
+        {"without a name", ""},
+        {"missing", Path("none.txt")},
+        {"a folder", Path("")},
+        {"ends behind the date", WriteFile("short.txt", "\"header\"\r\n\r\n#2026-01-02#\r\n\r\n")},
+        {"ends behind the first factor", WriteFile("half.txt", "\"h\"\r\n#2026-01-02#\r\n1.1\r\n")},
+        {"empty", WriteFile("empty.txt", "")},
+    };
+    const std::size_t before = CountFiles();
+    for (const auto& [name, file] : rows) {
+        SCOPED_TRACE(name);
+        const ProcessResult result =
+            Export({"--calibration", file, design, Path("plate.pdf"), Path("plate.csv")});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_GT(CountLines(result.err), 0U);
+        EXPECT_EQ(CountFiles(), before);
+        std::filesystem::remove(Path("plate.pdf"));
+        std::filesystem::remove(Path("plate.csv"));
+    }
+}
+
+TEST_F(FailuresTest, AFullDiskIsAFailureAndTheLinkToItStays) {
+    const std::string design = Example("DEGREES-0-360");
+    ForEachForm([&](const std::string& path, const std::string& ending) {
+        std::filesystem::create_symlink("/dev/full", path);
+        ExpectFailure(Export({design, path}), ending, ENOSPC);
+        EXPECT_TRUE(std::filesystem::is_symlink(path));
+    });
+    EXPECT_TRUE(std::filesystem::exists("/dev/full"));
+}
+
+TEST_F(FailuresTest, ADeviceThatTakesAllIsASuccess) {
+    const std::string design = Example("VOLTS-0-15");
+    ForEachForm([&](const std::string& path, const std::string&) {
+        std::filesystem::create_symlink("/dev/null", path);
+        EXPECT_EQ(Export({design, path}).status, 0);
+        EXPECT_TRUE(std::filesystem::is_symlink(path));
+    });
+}
+
+TEST_F(FailuresTest, AMissingFolderIsAFailure) {
+    const std::string design = Example("VOLTS-0-15");
+    ForEachForm([&](const std::string&, const std::string& ending) {
+        ExpectFailure(Export({design, Path("none/plate" + ending)}), ending, ENOENT);
+    });
+    EXPECT_EQ(CountFiles(), 0U);
+}
+
+TEST_F(FailuresTest, AFolderOfThatNameIsAFailureAndStays) {
+    const std::string design = Example("VOLTS-0-15");
+    ForEachForm([&](const std::string& path, const std::string& ending) {
+        std::filesystem::create_directory(path);
+        ExpectFailure(Export({design, path}), ending, EISDIR);
+        EXPECT_TRUE(std::filesystem::is_directory(path));
+    });
+}
+
+TEST_F(FailuresTest, ALinkThatLeadsNowhereStays) {
+    const std::string design = Example("VOLTS-0-15");
+    ForEachForm([&](const std::string& path, const std::string& ending) {
+        std::filesystem::create_symlink(Path("none/target"), path);
+        ExpectFailure(Export({design, path}), ending, ENOENT);
+        EXPECT_TRUE(std::filesystem::is_symlink(path));
+    });
+}
+
+TEST_F(FailuresTest, AFolderWithoutPermissionIsAFailure) {
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "nothing is forbidden to root";
+    }
+    const std::string design = Example("VOLTS-0-15");
+    std::filesystem::permissions(Path(""), std::filesystem::perms::owner_read |
+                                               std::filesystem::perms::owner_exec);
+    ForEachForm([&](const std::string& path, const std::string& ending) {
+        ExpectFailure(Export({design, path}), ending, EACCES);
+    });
+}
+
+// A file that could not even be opened is not ours to remove. A running program's own file cannot
+// be written by anybody, root included.
+TEST_F(FailuresTest, AFileThatCouldNotBeOpenedStaysAsItWas) {
+    const std::string design = Example("VOLTS-0-15");
+    ForEachForm([&](const std::string& path, const std::string& ending) {
+        std::filesystem::copy_file(VERNACLE_EXPORT, path);
+        ExpectFailure(RunProgram(path, {design, path}), ending, ETXTBSY);
+        ASSERT_TRUE(std::filesystem::is_regular_file(path));
+        EXPECT_EQ(std::filesystem::file_size(path), std::filesystem::file_size(VERNACLE_EXPORT));
+    });
+}
+
+TEST_F(FailuresTest, OneFailureDoesNotKeepTheOthersFromBeingWritten) {
+    const std::string design = Example("VOLTS-0-15");
+    ExportQuietly(design, {Path("first.pdf"), Path("second.csv"), Path("third.hpgl")});
+    const std::string pdf = ReadFile("first.pdf");
+    const std::string csv = ReadFile("second.csv");
+    const std::string hpgl = ReadFile("third.hpgl");
+    std::filesystem::create_symlink("/dev/full", Path("full.svg"));
+    const ProcessResult result =
+        Export({"--at", kAt, design, Path("first.pdf"), Path("full.svg"), Path("second.csv"),
+                Path("none/plate.vrn"), Path("none/plate.pcl"), Path("third.hpgl")});
+    EXPECT_EQ(result.status, 1);
+    for (const char* name : {"full.svg", "none/plate.vrn", "none/plate.pcl"}) {
+        EXPECT_NE(result.err.find(Path(name)), std::string::npos) << name << ": " << result.err;
+    }
+    EXPECT_EQ(result.err.find("first.pdf"), std::string::npos) << result.err;
+    EXPECT_EQ(ReadFile("first.pdf"), pdf);
+    EXPECT_EQ(ReadFile("second.csv"), csv);
+    EXPECT_EQ(ReadFile("third.hpgl"), hpgl);
+}
+
+// A scale whose arc has no radius cannot be printed.
+TEST_F(FailuresTest, APlateThatCannotBePrintedIsNotWritten) {
+    const std::string design = EditedExample("VOLTS-0-15", {{"Bottom to bearing: ", "20"},
+                                                            {"Actual/virtual offset: ", "0"},
+                                                            {"Bottom to scale ceiling: ", "20"}});
+    for (const char* name : {"plate.pdf", "plate.svg"}) {
+        SCOPED_TRACE(name);
+        const ProcessResult result = Export({design, Path(name)});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.err.find("We had a problem driving the printer.\n\n"
+                                  "PrintScaleErrorHandler 1026 425\n"),
+                  std::string::npos)
+            << result.err;
+        EXPECT_FALSE(Exists(name));
+    }
+    // The preview ends where it came to, without a word.
+    const ProcessResult preview = Export({design, Path("plate.png")});
+    EXPECT_EQ(preview.status, 0);
+    EXPECT_EQ(preview.err, "");
+}
+
+} // namespace
+
+} // namespace vernacle::test

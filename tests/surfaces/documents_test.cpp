@@ -1,0 +1,212 @@
+// Documents made in memory: their frame, their date, and the plate and the test square on them.
+#include "surfaces/documents.h"
+
+#include <QXmlStreamReader>
+
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "core/runtimeerror.h"
+#include "render/calibrate.h"
+#include "render/print.h"
+#include "scale/scale.h"
+#include "support/pdfreader.h"
+#include "support/process.h"
+#include "surfaces/surfacetest.h"
+
+namespace vernacle::test {
+
+namespace {
+
+constexpr const char* kAt = "2026-01-02 03:04:05";
+
+class DocumentsTest : public SurfaceTest {
+protected:
+    static void ReadExample(const std::string& name) {
+        SetOpeningValues();
+        Design.CalibrationX = Design.CalibrationY = 1;
+        Design.DesignFileName = name;
+        ReadDesign(VERNACLE_SOURCE_DIR "/examples/" + name);
+        NormalizeDesign();
+        ComputeTicDeflections();
+        ComputeTicLabels();
+    }
+};
+
+void PrintPlate(PrinterSurface& printer) {
+    EXPECT_TRUE(PrintDesign(printer));
+}
+
+void PrintNothing(PrinterSurface& printer) {
+    printer.StartPage();
+    printer.EndDoc();
+}
+
+bool IsWellFormed(const std::string& xml) {
+    QXmlStreamReader reader(QByteArray::fromStdString(xml));
+    while (!reader.atEnd()) {
+        reader.readNext();
+    }
+    return !reader.hasError();
+}
+
+void FailToPrint(PrinterSurface& printer) {
+    printer.StartPage();
+    throw RunTimeError("out of paper");
+}
+
+TEST_F(DocumentsTest, APdfIsOneSheetWithATitle) {
+    const std::pair<const Sheet&, const char*> rows[] = {
+        {kSheets[0], "(A4)"},
+        {kSheets[1], "(letter)"},
+    };
+    for (const auto& [sheet, name] : rows) {
+        WriteFile("sheet.pdf", MakePdf(sheet,
+                                       "C:/plates/\xC2\xB5"
+                                       "A.VRN",
+                                       kAt, PrintNothing));
+        const std::string about = RunProgram("pdfinfo", {"-rawdates", Path("sheet.pdf")}).out;
+        EXPECT_NE(about.find(name), std::string::npos) << about;
+        EXPECT_NE(about.find("C:/plates/\xC2\xB5"
+                             "A.VRN"),
+                  std::string::npos)
+            << about;
+        EXPECT_NE(about.find("Creator:         Vernacle"), std::string::npos) << about;
+        EXPECT_NE(about.find("D:20260102030405"), std::string::npos) << about;
+        EXPECT_NE(about.find("Pages:           1"), std::string::npos) << about;
+    }
+}
+
+TEST_F(DocumentsTest, EqualInputGivesEqualBytes) {
+    ReadExample("VOLTS-0-15.VRN");
+    const std::string pdf = MakePdf(kSheets[0], "title", kAt, PrintPlate);
+    EXPECT_TRUE(MakePdf(kSheets[0], "title", kAt, PrintPlate) == pdf);
+    const std::string svg = MakeSvg(kSheets[0], "title", PrintPlate);
+    EXPECT_TRUE(MakeSvg(kSheets[0], "title", PrintPlate) == svg);
+    EXPECT_GT(pdf.size(), 5000U);
+    EXPECT_GT(svg.size(), 5000U);
+    EXPECT_TRUE(said.empty());
+}
+
+TEST_F(DocumentsTest, WithoutADateAPdfHasThePresentOne) {
+    const std::string pdf = MakePdf(kSheets[0], "", "", PrintNothing);
+    const std::size_t date = pdf.find("/CreationDate (D:20");
+    ASSERT_NE(date, std::string::npos);
+    EXPECT_EQ(pdf.find("/CreationDate (D:20260102030405"), std::string::npos);
+}
+
+TEST_F(DocumentsTest, AnSvgIsASheetInMillimetres) {
+    const std::pair<const Sheet&, const char*> rows[] = {
+        {kSheets[0], "width=\"210mm\" height=\"297mm\""},
+        {kSheets[1], "width=\"215.9mm\" height=\"279.4mm\""},
+    };
+    for (const auto& [sheet, size] : rows) {
+        const std::string svg = MakeSvg(sheet, "a < b & c", PrintNothing);
+        EXPECT_NE(svg.find(size), std::string::npos) << svg.substr(0, 300);
+        EXPECT_TRUE(IsWellFormed(svg)) << svg.substr(0, 400);
+        EXPECT_EQ(ReadSvg(svg).shapes.size(), 0U);
+    }
+}
+
+TEST_F(DocumentsTest, APngHasTheSizeThatIsAskedFor) {
+    for (const QSize size : {QSize(16, 16), QSize(1600, 900), QSize(3000, 17)}) {
+        const std::string png = MakePng(size.width(), size.height(), [](DrawingSurface& surface) {
+            surface.FilledBox(0, 0, 6000, 9000, kBlueInk);
+        });
+        const QImage picture = QImage::fromData(QByteArray::fromStdString(png), "PNG");
+        EXPECT_EQ(picture.size(), size);
+        EXPECT_EQ(InkOf(picture), QRect(0, 0, size.width() / 2, size.height()));
+    }
+}
+
+TEST_F(DocumentsTest, APngThatCannotBeIsARunTimeError) {
+    const auto draw = [](DrawingSurface&) { ADD_FAILURE() << "nothing to draw on"; };
+    EXPECT_THROW(MakePng(0, 0, draw), RunTimeError);
+    EXPECT_THROW(MakePng(-5, 100, draw), RunTimeError);
+    EXPECT_THROW(MakePng(2000000000, 2000000000, draw), RunTimeError);
+}
+
+TEST_F(DocumentsTest, AFailureOfThePrintComesThrough) {
+    EXPECT_THROW(MakePdf(kSheets[0], "", "", FailToPrint), RunTimeError);
+    EXPECT_THROW(MakeSvg(kSheets[0], "", FailToPrint), RunTimeError);
+    EXPECT_THROW(MakePng(100, 100, [](DrawingSurface&) { throw RunTimeError("no"); }),
+                 RunTimeError);
+}
+
+struct Factors {
+    const char* name;
+    float x, y;               // as they stand
+    double widthMm, heightMm; // of the square
+};
+
+// The square by which a user measures the printer.
+TEST_F(DocumentsTest, TheTestSquareIsTrueToSize) {
+    const Factors rows[] = {
+        {"a true printer", 1, 1, 100, 100},
+        {"one that stretches down", 1.1F, 0.9F, 110, 90},
+        {"one that was never measured", 0, 0, 100, 100},
+        {"the utmost factors", 0.5F, 1.25F, 50, 125},
+    };
+    for (const Factors& row : rows) {
+        for (const Sheet& sheet : kSheets) {
+            SCOPED_TRACE(std::string(row.name) + " on " + sheet.name);
+            const auto print = [](PrinterSurface& printer) {
+                EXPECT_TRUE(PrintTestSquare(printer));
+            };
+            Design.CalibrationX = row.x;
+            Design.CalibrationY = row.y;
+            WriteFile("square.pdf", MakePdf(sheet, "", "", print));
+            for (const SvgPicture& page :
+                 {ReadPdf(Path("square.pdf")), ReadSvg(MakeSvg(sheet, "", print))}) {
+                ASSERT_EQ(page.shapes.size(), 1U);
+                const Shape& square = page.shapes[0];
+                EXPECT_TRUE(square.stroked);
+                EXPECT_FALSE(square.curved);
+                EXPECT_EQ(square.rgb, 0U);
+                EXPECT_NEAR(square.widthMm, 25.4 / 600, 1e-4);
+                EXPECT_NEAR(square.WidthOfBox(), row.widthMm, 0.02);
+                EXPECT_NEAR(square.HeightOfBox(), row.heightMm, 0.02);
+                EXPECT_NEAR(square.Centre().x, sheet.widthMm / 2 + (6000 - 5750) / 56.578, 0.02);
+                EXPECT_NEAR(square.Centre().y, sheet.heightMm / 2 + (4000 - 7600) / 56.578, 0.02);
+            }
+        }
+    }
+    EXPECT_TRUE(said.empty());
+}
+
+// Measuring the square and printing again must bring it to 100 mm.
+TEST_F(DocumentsTest, AMeasuredPrinterPrintsTheSquareInItsSize) {
+    constexpr double kStretch = 0.96; // of a printer that prints everything too small
+    Design.CalibrationX = 1;
+    Recalibrate(Design.CalibrationX, 100 * kStretch);
+    Design.CalibrationY = 1;
+    WriteFile("square.pdf", MakePdf(kSheets[0], "", "", [](PrinterSurface& printer) {
+                  EXPECT_TRUE(PrintTestSquare(printer));
+              }));
+    const SvgPicture page = ReadPdf(Path("square.pdf"));
+    ASSERT_EQ(page.shapes.size(), 1U);
+    EXPECT_NEAR(page.shapes[0].WidthOfBox() * kStretch, 100, 0.02);
+    EXPECT_NEAR(page.shapes[0].HeightOfBox(), 100, 0.02);
+}
+
+// A round plate has its outline, of 100 chords that leave a tiny gap, and no circle else.
+TEST_F(DocumentsTest, ACircularPlateHasItsOutline) {
+    ReadExample("DEGREES-0-360.VRN");
+    Design.PlateOutlineCircular = 1;
+    Design.DrawArcs = "N";
+    WriteFile("plate.pdf", MakePdf(kSheets[0], "", kAt, PrintPlate));
+    std::vector<Shape> outlines;
+    for (const Shape& shape : ReadPdf(Path("plate.pdf")).shapes) {
+        if (shape.stroked && !shape.curved && shape.points.size() > 2) {
+            outlines.push_back(shape);
+        }
+    }
+    ASSERT_EQ(outlines.size(), 1U);
+    EXPECT_NEAR(outlines[0].WidthOfBox(), 154, 0.05);
+    EXPECT_NEAR(outlines[0].HeightOfBox(), 154, 0.1);
+    const double gap = outlines[0].points.back().y - outlines[0].points.front().y;
+    EXPECT_NEAR(gap, -77 * 0.0031853, 0.02); // of 6.28 for a whole turn
+}
+
+} // namespace
+
+} // namespace vernacle::test
