@@ -39,7 +39,9 @@ EngineTest::EngineTest() : folder_(MakeFolder()) {
     Host.isoDateTime = [] { return kIsoTime; };
     Host.beep = [this] { said.emplace_back("beep"); };
     Host.failureBox = [this](const std::string& text) { said.push_back("failure: " + text); };
-    Host.informationBox = [this](const std::string& text) { said.push_back("information: " + text); };
+    Host.informationBox = [this](const std::string& text) {
+        said.push_back("information: " + text);
+    };
     Host.playSound = [this](const std::string& file) { said.push_back("sound: " + file); };
 }
 

@@ -21,7 +21,8 @@ protected:
     // A path in this test's own folder, which is the place of "Calibrate.txt", "Backup.DAT" and
     // "LASTSESSION.VRN" too.
     std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-    std::string WriteFile(const std::string& name, const std::string& bytes) const; // gives the path
+    std::string WriteFile(const std::string& name,
+                          const std::string& bytes) const; // gives the path
     std::string ReadFile(const std::string& name) const;
     bool Exists(const std::string& name) const { return std::filesystem::exists(Path(name)); }
 

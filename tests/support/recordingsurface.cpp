@@ -42,9 +42,9 @@ void RecordingSurface::Record(const std::string& name, const std::string& argume
 
 std::vector<std::string> RecordingSurface::CallsOf(const std::string& name) const {
     std::vector<std::string> found;
-    std::copy_if(calls.begin(), calls.end(), std::back_inserter(found), [&](const std::string& call) {
-        return call == name || call.starts_with(name + " ");
-    });
+    std::copy_if(
+        calls.begin(), calls.end(), std::back_inserter(found),
+        [&](const std::string& call) { return call == name || call.starts_with(name + " "); });
     return found;
 }
 

@@ -1,4 +1,5 @@
-// A printer that writes each call as a line: what drawing tests compare. It is a DrawingSurface too.
+// A printer that writes each call as a line: what drawing tests compare. It is a DrawingSurface
+// too.
 #pragma once
 
 #include <string>
@@ -50,7 +51,8 @@ public:
     float TextHeight(const std::string& text) const override;
     void BeginFont(int height, int width, int escapement, const std::string& face) override;
     void EndFont() override;
-    void PaintPicture(const std::string& file, float x, float y, float width, float height) override;
+    void PaintPicture(const std::string& file, float x, float y, float width,
+                      float height) override;
     void StartPage() override;
     void EndDoc() override;
     float TwipsPerPixelX() const override { return 2.4F; } // 600 dpi
