@@ -53,7 +53,7 @@ std::string MakePdf(const Sheet& sheet, const std::string& title, const std::str
         layout.setMode(QPageLayout::FullPageMode);
         writer.setPageLayout(layout);
         writer.setResolution(static_cast<int>(kPrinterDpi));
-        writer.setTitle(QString::fromStdString(title));
+        writer.setTitle(ShownText(title));
         writer.setCreator(QStringLiteral("Vernacle"));
         PaperSurface paper(writer, kPrinterDpi, sheet);
         print(paper);
@@ -77,7 +77,7 @@ std::string MakeSvg(const Sheet& sheet, const std::string& title, const PrintOn&
         generator.setResolution(kSvgPerInch);
         generator.setSize(size);
         generator.setViewBox(QRect(QPoint(), size));
-        generator.setTitle(QString::fromStdString(title).toHtmlEscaped()); // it does not itself
+        generator.setTitle(ShownText(title).toHtmlEscaped()); // it does not itself
         PaperSurface paper(generator, kSvgPerInch, sheet);
         print(paper);
     }

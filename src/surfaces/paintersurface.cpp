@@ -67,6 +67,12 @@ bool IsStraightAlongAxis(const QPolygonF& line) {
 
 } // namespace
 
+QString ShownText(const std::string& text) {
+    QString shown = QString::fromStdString(text);
+    shown.removeIf([](QChar letter) { return letter.category() == QChar::Other_Control; });
+    return shown;
+}
+
 DeviceMap DeviceMap::OfScreen(int widthPixels, int heightPixels) {
     DeviceMap map;
     map.perUnitX = widthPixels / kScreenUnitsX;
@@ -150,7 +156,10 @@ void PainterSurface::Box(float x1, float y1, float x2, float y2, Colour colour) 
     Flush();
     painter_.setPen(MakePen(colour, Qt::MiterJoin));
     painter_.setBrush(Qt::NoBrush);
+    const bool smooth = painter_.testRenderHint(QPainter::Antialiasing);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.drawRect(ClampToNear(ToDevice(x1, y1, x2, y2)));
+    painter_.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
 void PainterSurface::FilledBox(float x1, float y1, float x2, float y2, Colour colour) {
@@ -195,7 +204,7 @@ void PainterSurface::WriteAt(QPointF corner, const std::string& text) {
     painter_.setTransform(turned);
     painter_.setFont(face.ReferenceFont());
     painter_.setPen(ToQColor(foreColour_));
-    painter_.drawText(QPointF(0, face.Ascent()), QString::fromStdString(text));
+    painter_.drawText(QPointF(0, face.Ascent()), ShownText(text));
     painter_.setTransform(usual);
 }
 

@@ -26,6 +26,9 @@ struct DeviceMap {
     static DeviceMap OfScreen(int widthPixels, int heightPixels);
 };
 
+// The text without its control characters: they have no shape, and an SVG that holds one is no XML.
+QString ShownText(const std::string& text);
+
 class PainterSurface : public virtual DrawingSurface {
 public:
     // The painter may begin later than the surface, but before the first drawing call.

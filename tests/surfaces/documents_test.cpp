@@ -107,6 +107,18 @@ TEST_F(DocumentsTest, AnSvgIsASheetInMillimetres) {
     }
 }
 
+TEST_F(DocumentsTest, ControlCharactersDoNotSpoilAnSvg) {
+    const auto print = [](PrinterSurface& printer) {
+        printer.StartPage();
+        printer.PrintText("1\x01\x1B 2");
+        printer.EndDoc();
+    };
+    const std::string svg = MakeSvg(kSheets[0], "a\x02 b", print);
+    EXPECT_TRUE(IsWellFormed(svg));
+    EXPECT_NE(svg.find("<title>a b</title>"), std::string::npos);
+    EXPECT_NE(svg.find(">1 2</text>"), std::string::npos);
+}
+
 TEST_F(DocumentsTest, APngHasTheSizeThatIsAskedFor) {
     for (const QSize size : {QSize(16, 16), QSize(1600, 900), QSize(3000, 17)}) {
         const std::string png = MakePng(size.width(), size.height(), [](DrawingSurface& surface) {
@@ -201,10 +213,11 @@ TEST_F(DocumentsTest, ACircularPlateHasItsOutline) {
         }
     }
     ASSERT_EQ(outlines.size(), 1U);
-    EXPECT_NEAR(outlines[0].WidthOfBox(), 154, 0.05);
-    EXPECT_NEAR(outlines[0].HeightOfBox(), 154, 0.1);
+    const double width = double{Design.PlateWidth};
+    EXPECT_NEAR(outlines[0].WidthOfBox(), width, 0.05);
+    EXPECT_NEAR(outlines[0].HeightOfBox(), width, 0.1);
     const double gap = outlines[0].points.back().y - outlines[0].points.front().y;
-    EXPECT_NEAR(gap, -77 * 0.0031853, 0.02); // of 6.28 for a whole turn
+    EXPECT_NEAR(gap, -width / 2 * 0.0031853, 0.02); // of 6.28 for a whole turn
 }
 
 } // namespace
