@@ -210,7 +210,7 @@ void FormatByMagnitude(double value, std::string& result) {
 
 double ArcSin(double& x) {
     constexpr double kLimit = 0.999999; // short of a right angle, so that the root is never 0
-    Design.LastStepTrace = "In ArcSin, X=" + PlainNumber(ToFloat(x));
+    Design.LastStepTrace.assign("In ArcSin, X=").append(PlainNumber(ToFloat(x)));
     x = std::clamp(x, -kLimit, kLimit);
     return std::atan(x / std::sqrt(1 - x * x));
 }

@@ -101,18 +101,26 @@ QPen PainterSurface::MakePen(Colour colour, Qt::PenJoinStyle join) const {
     return {ToQColor(colour), lineWidth_ * map_.perPixel, Qt::SolidLine, Qt::FlatCap, join};
 }
 
+template <typename Paint>
+void PainterSurface::PaintCrisply(Paint paint) {
+    const bool smooth = painter_.testRenderHint(QPainter::Antialiasing);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    paint();
+    painter_.setRenderHint(QPainter::Antialiasing, smooth);
+}
+
 void PainterSurface::Flush() {
     if (chain_.size() == 1) { // a dot as wide as the line
         const double width = chainPen_.widthF();
         const QRectF dot(chain_[0] - QPointF(width, width) / 2, QSizeF(width, width));
         painter_.fillRect(dot, chainPen_.color());
     } else if (!chain_.isEmpty()) {
-        // Upright and level lines stay crisp, and one drawn over another covers it.
-        const bool smooth = painter_.testRenderHint(QPainter::Antialiasing);
-        painter_.setRenderHint(QPainter::Antialiasing, smooth && !IsStraightAlongAxis(chain_));
         painter_.setPen(chainPen_);
-        painter_.drawPolyline(chain_);
-        painter_.setRenderHint(QPainter::Antialiasing, smooth);
+        if (IsStraightAlongAxis(chain_)) {
+            PaintCrisply([this] { painter_.drawPolyline(chain_); });
+        } else {
+            painter_.drawPolyline(chain_);
+        }
     }
     chain_.clear();
 }
@@ -156,10 +164,7 @@ void PainterSurface::Box(float x1, float y1, float x2, float y2, Colour colour) 
     Flush();
     painter_.setPen(MakePen(colour, Qt::MiterJoin));
     painter_.setBrush(Qt::NoBrush);
-    const bool smooth = painter_.testRenderHint(QPainter::Antialiasing);
-    painter_.setRenderHint(QPainter::Antialiasing, false);
-    painter_.drawRect(ClampToNear(ToDevice(x1, y1, x2, y2)));
-    painter_.setRenderHint(QPainter::Antialiasing, smooth);
+    PaintCrisply([&] { painter_.drawRect(ClampToNear(ToDevice(x1, y1, x2, y2))); });
 }
 
 void PainterSurface::FilledBox(float x1, float y1, float x2, float y2, Colour colour) {

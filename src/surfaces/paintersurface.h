@@ -78,6 +78,10 @@ private:
         double degrees; // counter-clockwise
     };
 
+    // Without smoothing: upright and level lines stay crisp, and one over another covers it.
+    template <typename Paint>
+    void PaintCrisply(Paint paint);
+
     QPointF ToDevice(double x, double y) const;
     QRectF ToDevice(float x1, float y1, float x2, float y2) const;
     QPen MakePen(Colour colour, Qt::PenJoinStyle join) const;
