@@ -25,7 +25,6 @@ constexpr const char* kWebAddress = "https://harrowgate.example/vernacle";
 struct PrintRun {
     DrawingRun drawing;
     PrinterSurface& printer;
-    PageSizes kept; // of the design, which the label stages overwrite
 };
 
 // Takes the sizes of the design and puts them back, whatever becomes of the print.
@@ -62,10 +61,11 @@ void PrintOutline(PrintRun& run) {
 }
 
 // Sets the sizes and the ink of a scale's labels, in the design too: they are put back at the end.
+// The run's own sizes are those that the design came with.
 void SelectScale(PrintRun& run, int scale) {
     const double relative = RelativeSizeOf(scale);
-    Design.FontSize = F(double{run.kept.fontSize} * relative);
-    Design.LabelSpacing = F(double{run.kept.labelSpacing} * relative);
+    Design.FontSize = F(double{run.drawing.sizes.fontSize} * relative);
+    Design.LabelSpacing = F(double{run.drawing.sizes.labelSpacing} * relative);
     run.printer.SetFontName(Design.FontName);
     run.printer.SetFontSize(double{Design.FontSize});
     run.printer.SetForeColor(InkOf(scale));
@@ -237,7 +237,7 @@ bool PrintDesign(PrinterSurface& printer) {
     state.WhereMarker = kMarkStart;
     try {
         HoldCalibration();
-        PrintRun run{{printer, traits, state, keeper.kept, PrintFrame()}, printer, keeper.kept};
+        PrintRun run{{printer, traits, state, keeper.kept, PrintFrame()}, printer};
         PrintPage(run);
         return true;
     } catch (const RunTimeError&) {
