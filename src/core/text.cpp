@@ -14,12 +14,25 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
+namespace {
+
+bool IsContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+} // namespace
+
 std::size_t CharacterCount(std::string_view text) {
-    const auto isContinuation = [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-    };
-    const auto continuations = std::count_if(text.begin(), text.end(), isContinuation);
+    const auto continuations = std::count_if(text.begin(), text.end(), IsContinuation);
     return text.size() - static_cast<std::size_t>(continuations);
+}
+
+std::string_view Leftmost(std::string_view text, std::size_t characters) {
+    std::size_t length = 0;
+    while (length < text.size() && (IsContinuation(text[length]) || characters-- > 0)) {
+        ++length;
+    }
+    return text.substr(0, length);
 }
 
 } // namespace vernacle

@@ -16,4 +16,7 @@ std::string_view LeftTrimmed(std::string_view text);
 // The number of characters (code points) of a UTF-8 text; each stray byte counts as one.
 std::size_t CharacterCount(std::string_view text);
 
+// The first characters of a UTF-8 text, all of it if there are no more.
+std::string_view Leftmost(std::string_view text, std::size_t characters);
+
 } // namespace vernacle

@@ -26,5 +26,16 @@ TEST(TextTest, CountsCharactersAndNotBytes) {
     EXPECT_EQ(CharacterCount("k\u2126\u20AC"), 3U);
 }
 
+TEST(TextTest, LeftmostCountsCharacters) {
+    EXPECT_EQ(Leftmost("", 3), "");
+    EXPECT_EQ(Leftmost("volts", 0), "");
+    EXPECT_EQ(Leftmost("volts", 3), "vol");
+    EXPECT_EQ(Leftmost("volts", 5), "volts");
+    EXPECT_EQ(Leftmost("volts", 60), "volts");
+    EXPECT_EQ(Leftmost("\u00B5A\u20AC", 1), "\u00B5");
+    EXPECT_EQ(Leftmost("\u00B5A\u20AC", 2), "\u00B5A");
+    EXPECT_EQ(Leftmost("\u00B5A\u20AC", 3), "\u00B5A\u20AC");
+}
+
 } // namespace
 } // namespace vernacle::test
