@@ -92,6 +92,7 @@ const OutputForm* FindForm(const std::string& path) {
 
 void MakeReady() {
     NormalizeDesign();
+    RaiseAspectRatio();
     HoldAspectRatio();
     ComputeTicDeflections();
     ComputeTicLabels();

@@ -36,12 +36,6 @@ void CountHighlights() {
     }
 }
 
-void RaiseAspectRatio() {
-    if (Design.AspectRatio <= 0) {
-        Design.AspectRatio = 1;
-    }
-}
-
 void Prepare(Preparation preparation) {
     if (preparation == Preparation::None) {
         return;
@@ -120,10 +114,20 @@ void EndStage(DrawingRun& run) {
     run.state.WhereMarker = kMarkEnd;
 }
 
+float HeldAspect(double aspect) {
+    return static_cast<float>(std::clamp(aspect, 0.5, 1.15));
+}
+
 void HoldAspectRatio() {
-    RaiseAspectRatio();
-    const double held = std::clamp(double{Design.AspectRatio}, 0.5, 1.15);
-    Design.AspectRatio = static_cast<float>(std::floor(held * 100 + 0.5) * 0.01);
+    // The percent is rounded as it shows: .505, which a float holds a little low, is 50.5 percent.
+    const auto percent = static_cast<float>(double{HeldAspect(double{Design.AspectRatio})} * 100);
+    Design.AspectRatio = static_cast<float>(std::floor(double{percent} + 0.5) * 0.01);
+}
+
+void RaiseAspectRatio() {
+    if (Design.AspectRatio <= 0) {
+        Design.AspectRatio = 1;
+    }
 }
 
 } // namespace vernacle

@@ -93,7 +93,13 @@ void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const Page
 // plate without height is a run-time error.
 PlateFrame PageFrame(const DrawingTraits& traits);
 
-// The preview page's limits of AspectRatio: 0.5 to 1.15 in whole hundredths, 0 or less becoming 1.
+// An aspect ratio held to the preview's limits, 0.5 to 1.15.
+float HeldAspect(double aspect);
+
+// Holds AspectRatio to those limits and rounds it to whole hundredths.
 void HoldAspectRatio();
+
+// An AspectRatio of 0 or less becomes 1.
+void RaiseAspectRatio();
 
 } // namespace vernacle
