@@ -1,0 +1,21 @@
+// The help topics: what each is called, and between which points of the model plate its measure
+// lies.
+#pragma once
+
+#include "render/surface.h"
+
+namespace vernacle {
+
+enum class Pointing { Left, Right, Up, Down };
+
+// A red arrow, drawn from its tip backward.
+void DrawArrow(DrawingSurface& surface, float tipX, float tipY, Pointing pointing);
+
+// The caption of a topic; none for a number without one.
+const char* TopicCaption(int topic);
+
+// Draws what only that topic shows of the plate, and its dimension lines; nothing for a number
+// without a topic.
+void DrawTopicMark(DrawingSurface& surface, int topic);
+
+} // namespace vernacle
