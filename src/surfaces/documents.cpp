@@ -2,10 +2,8 @@
 
 #include <cmath>
 
-#include <QBuffer>
 #include <QImage>
 #include <QPageLayout>
-#include <QPdfWriter>
 #include <QSvgGenerator>
 
 #include "core/runtimeerror.h"
@@ -43,22 +41,24 @@ void SetCreationDate(std::string& pdf, const std::string& createdAt) {
 
 } // namespace
 
+PdfInMemory::PdfInMemory(const Sheet& sheet, const std::string& title) : writer(&buffer) {
+    buffer.open(QIODevice::WriteOnly);
+    QPageLayout layout(PageSizeOf(sheet), QPageLayout::Portrait, QMarginsF());
+    layout.setMode(QPageLayout::FullPageMode);
+    writer.setPageLayout(layout);
+    writer.setResolution(static_cast<int>(kPrinterDpi));
+    writer.setTitle(ShownText(title));
+    writer.setCreator(QStringLiteral("Vernacle"));
+}
+
 std::string MakePdf(const Sheet& sheet, const std::string& title, const std::string& createdAt,
                     const PrintOn& print) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
+    PdfInMemory pdf(sheet, title);
     {
-        QPdfWriter writer(&buffer);
-        QPageLayout layout(PageSizeOf(sheet), QPageLayout::Portrait, QMarginsF());
-        layout.setMode(QPageLayout::FullPageMode);
-        writer.setPageLayout(layout);
-        writer.setResolution(static_cast<int>(kPrinterDpi));
-        writer.setTitle(ShownText(title));
-        writer.setCreator(QStringLiteral("Vernacle"));
-        PaperSurface paper(writer, kPrinterDpi, sheet);
+        PaperSurface paper(pdf.writer, kPrinterDpi, sheet);
         print(paper);
     }
-    std::string bytes = BytesOf(buffer);
+    std::string bytes = pdf.Bytes();
     if (!createdAt.empty()) {
         SetCreationDate(bytes, createdAt);
     }

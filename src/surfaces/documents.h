@@ -5,12 +5,24 @@
 #include <functional>
 #include <string>
 
+#include <QBuffer>
+#include <QPdfWriter>
+
 #include "surfaces/papersurface.h"
 
 namespace vernacle {
 
 using PrintOn = std::function<void(PrinterSurface& printer)>;
 using DrawOn = std::function<void(DrawingSurface& surface)>;
+
+// A PDF of one sheet for a painter to draw on; its bytes are whole when the painter has ended.
+struct PdfInMemory {
+    PdfInMemory(const Sheet& sheet, const std::string& title);
+    std::string Bytes() const { return buffer.data().toStdString(); }
+
+    QBuffer buffer;
+    QPdfWriter writer; // kPrinterDpi, its origin at the sheet's corner
+};
 
 // The bytes of a PDF of one sheet. createdAt, "YYYY-MM-DD hh:mm:ss", stands as its creation date;
 // empty for now.

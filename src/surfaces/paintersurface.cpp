@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QImage>
 #include <QImageReader>
 
 #include "core/runtimeerror.h"
+#include "surfaces/colours.h"
 
 namespace vernacle {
 
@@ -16,12 +16,6 @@ constexpr double kScreenUnitsX = 12000;
 constexpr double kScreenUnitsY = 9000;
 constexpr int kUsualPoints = 8;
 constexpr double kTenthsPerDegree = 10;
-
-QColor ToQColor(Colour colour) {
-    const auto bits = static_cast<unsigned>(colour);
-    return QColor::fromRgb(static_cast<int>(bits & 0xFFU), static_cast<int>(bits >> 8U & 0xFFU),
-                           static_cast<int>(bits >> 16U & 0xFFU));
-}
 
 // Painter coordinates beyond which nothing shows on any surface. The toolkit's writers and blitters
 // are not made for the distances that a damaged design can ask for.
@@ -71,6 +65,16 @@ QString ShownText(const std::string& text) {
     QString shown = QString::fromStdString(text);
     shown.removeIf([](QChar letter) { return letter.category() == QChar::Other_Control; });
     return shown;
+}
+
+QImage LoadPicture(const std::string& file) {
+    QImageReader reader(QString::fromStdString(file));
+    reader.setDecideFormatFromContent(true);
+    QImage image = reader.read();
+    if (image.isNull()) {
+        throw RunTimeError(file + ": " + reader.errorString().toStdString());
+    }
+    return image;
 }
 
 DeviceMap DeviceMap::OfScreen(int widthPixels, int heightPixels) {
@@ -259,12 +263,7 @@ void PainterSurface::EndFont() {
 
 void PainterSurface::PaintPicture(const std::string& file, float x, float y, float width,
                                   float height) {
-    QImageReader reader(QString::fromStdString(file));
-    reader.setDecideFormatFromContent(true); // whatever the ending says
-    const QImage image = reader.read();
-    if (image.isNull()) {
-        throw RunTimeError(file + ": " + reader.errorString().toStdString());
-    }
+    const QImage image = LoadPicture(file);
     Flush();
     const QRectF target = ToDevice(x, y, x + width, y + height);
     const QRectF shown = target.intersected(painter_.viewport());
