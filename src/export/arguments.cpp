@@ -1,11 +1,9 @@
 #include "export/arguments.h"
 
 #include <algorithm>
-#include <charconv>
 #include <ctime>
 #include <string_view>
 
-#include <getopt.h>
 #include <strings.h>
 
 namespace vernacle {
@@ -84,22 +82,17 @@ Sheet CheckedSheet(const char* name) {
     return *sheet;
 }
 
-bool ReadSide(std::string_view text, int& side) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), side);
-    return error == std::errc() && end == text.data() + text.size() && side >= kSmallestPicture &&
-           side <= kLargestPicture;
-}
-
 void ReadSize(std::string_view text, Arguments& arguments) {
-    const std::size_t cross = std::min(text.find_first_of("xX"), text.size());
-    if (cross == text.size() || !ReadSide(text.substr(0, cross), arguments.widthPixels) ||
-        !ReadSide(text.substr(cross + 1), arguments.heightPixels)) {
+    const auto size = ReadPixelSize(text, kSmallestPicture, kLargestPicture);
+    if (!size) {
         throw UsageError("--size wants WxH, sides of 16 to 8192 pixels, not \"" +
                          std::string(text) + "\"");
     }
+    arguments.widthPixels = size->width;
+    arguments.heightPixels = size->height;
 }
 
-void TakeOption(int option, const char* word, Arguments& arguments) {
+void TakeOption(int option, const char* value, Arguments& arguments) {
     switch (option) {
     case kHelpOption:
         arguments.help = true;
@@ -108,21 +101,17 @@ void TakeOption(int option, const char* word, Arguments& arguments) {
         arguments.version = true;
         break;
     case kAtOption:
-        arguments.at = CheckedTime(optarg);
+        arguments.at = CheckedTime(value);
         break;
     case kCalibrationOption:
-        arguments.calibration = optarg;
+        arguments.calibration = value;
         break;
     case kPaperOption:
-        arguments.paper = CheckedSheet(optarg);
+        arguments.paper = CheckedSheet(value);
         break;
     case kSizeOption:
-        ReadSize(optarg, arguments);
+        ReadSize(value, arguments);
         break;
-    case ':':
-        throw UsageError("option " + std::string(word) + " wants a value");
-    default:
-        throw UsageError("unknown option " + std::string(word));
     }
 }
 
@@ -130,24 +119,17 @@ void TakeOption(int option, const char* word, Arguments& arguments) {
 
 Arguments ParseArguments(int argc, char** argv) {
     Arguments arguments;
-    opterr = 0;
-    optind = 0; // starts afresh
-    while (true) {
-        const int at = std::max(optind, 1);
-        const int option = getopt_long(argc, argv, ":", kOptions, nullptr);
-        if (option == -1) {
-            break;
-        }
-        TakeOption(option, argv[std::max(optind - 1, at)], arguments);
-    }
+    const int first = TakeOptions(argc, argv, kOptions, [&](int option, const char* value) {
+        TakeOption(option, value, arguments);
+    });
     if (arguments.help || arguments.version) {
         return arguments;
     }
-    if (argc - optind < 2) {
+    if (argc - first < 2) {
         throw UsageError("a design and at least one output are wanted");
     }
-    arguments.design = argv[optind];
-    arguments.outputs.assign(argv + optind + 1, argv + argc);
+    arguments.design = argv[first];
+    arguments.outputs.assign(argv + first + 1, argv + argc);
     if (arguments.design.empty()) {
         throw UsageError("the design's name is empty");
     }

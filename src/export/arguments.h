@@ -2,10 +2,10 @@
 #pragma once
 
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "core/usage.h"
 #include "surfaces/papersurface.h"
 
 namespace vernacle {
@@ -20,12 +20,6 @@ struct Arguments {
     int heightPixels = 900;
     std::string design;
     std::vector<std::string> outputs;
-};
-
-// Wrong usage; what() says in one line what is wrong.
-class UsageError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // Throws UsageError. Whether the outputs' endings are known is not judged here.
