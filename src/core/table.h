@@ -32,17 +32,22 @@ private:
 template <typename T, int LastScale, int LastTic>
 class TicTable {
 public:
-    class Row {
+    // The tics of one scale; those of a constant table are constant.
+    template <typename Owner>
+    class RowOf {
     public:
-        Row(TicTable& table, int scale) : table_(table), scale_(scale) {}
-        T& operator[](int tic) const { return table_.tics_[tic][scale_]; }
+        RowOf(Owner& table, int scale) : table_(table), scale_(scale) {}
+        auto& operator[](int tic) const { return table_.tics_[tic][scale_]; }
 
     private:
-        TicTable& table_;
+        Owner& table_;
         int scale_;
     };
+    using Row = RowOf<TicTable>;
+    using ConstantRow = RowOf<const TicTable>;
 
     Row operator[](int scale) { return Row(*this, scale); }
+    ConstantRow operator[](int scale) const { return ConstantRow(*this, scale); }
 
 private:
     Table<Table<T, LastScale>, LastTic> tics_;

@@ -1,0 +1,66 @@
+#include "platform/entrybox.h"
+
+#include <QKeyEvent>
+
+#include "platform/updown.h"
+
+namespace vernacle {
+
+namespace {
+
+// Counts a handler that is under way, also when it is left by a failure.
+class Running {
+public:
+    explicit Running(int& count) : count_(count) { ++count_; }
+    ~Running() { --count_; }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+private:
+    int& count_;
+};
+
+} // namespace
+
+EntryBox::EntryBox(const char* name, const QString& accessibleName, QWidget* parent)
+    : QLineEdit(parent) {
+    setObjectName(QLatin1String(name));
+    setAccessibleName(accessibleName);
+    connect(this, &QLineEdit::textChanged, this, &EntryBox::Changed);
+}
+
+void EntryBox::Changed() {
+    if (handler_) {
+        const Running running(running_);
+        handler_();
+    }
+}
+
+void EntryBox::Write(const std::string& text) {
+    const QString written = QString::fromStdString(text);
+    if (written != this->text()) {
+        setText(written);
+    } else if (running_ == 0) {
+        Changed();
+    }
+}
+
+void EntryBox::SetBackground(const QColor& colour) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, colour);
+    colours.setColor(QPalette::Text, Qt::black);
+    setPalette(colours);
+}
+
+void EntryBox::keyPressEvent(QKeyEvent* event) {
+    const bool steps = arrows_ && arrows_->isEnabled() && event->modifiers() == Qt::NoModifier;
+    if (steps && event->key() == Qt::Key_Up) {
+        arrows_->Up();
+    } else if (steps && event->key() == Qt::Key_Down) {
+        arrows_->Down();
+    } else {
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+} // namespace vernacle

@@ -1,0 +1,45 @@
+// A box for one typed value. Its handler runs at every change of the text, typed or written by the
+// program alike.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <QLineEdit>
+
+namespace vernacle {
+
+class UpDown;
+
+class EntryBox : public QLineEdit {
+    Q_OBJECT
+
+public:
+    EntryBox(const char* name, const QString& accessibleName, QWidget* parent = nullptr);
+
+    void OnChange(std::function<void()> handler) { handler_ = std::move(handler); }
+
+    std::string Text() const { return text().toStdString(); }
+
+    // Writes from the program. The text that the box holds already runs the handler too, unless it
+    // is running: two boxes that show the same value in two forms would else never end.
+    void Write(const std::string& text);
+
+    // The Up and Down keys step these.
+    void SetArrows(UpDown* arrows) { arrows_ = arrows; }
+
+    // A warning colour, or white, with a text that reads on it whatever the desktop's colours are.
+    void SetBackground(const QColor& colour);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Changed();
+
+    std::function<void()> handler_;
+    UpDown* arrows_ = nullptr;
+    int running_ = 0; // handlers under way
+};
+
+} // namespace vernacle

@@ -1,0 +1,32 @@
+// The plain parts of forms, each with its own name.
+#pragma once
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace vernacle {
+
+class EntryBox;
+class UpDown;
+
+QLabel* MakeLabel(const char* name, const QString& text);
+
+QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip = {});
+
+// The narrow button beside an entry that illustrates it.
+QPushButton* MakeHelpButton(const char* name, const QString& illustrates);
+
+QGroupBox* MakeFrame(const char* name, const QString& title);
+
+// Space between the rows and columns of entries, pixels.
+constexpr int kEntrySpacing = 6;
+
+// A box with its arrows at its right side; without arrows their place stays free, so that boxes in
+// a column are of one width.
+QLayout* MakeStepped(EntryBox& box, UpDown* arrows);
+
+// The page's heading, in a larger font.
+QLabel* MakeHeading(const char* name, const QString& text);
+
+} // namespace vernacle

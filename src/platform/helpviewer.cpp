@@ -1,0 +1,88 @@
+#include "platform/helpviewer.h"
+
+#include <QFileInfo>
+#include <QPointer>
+#include <QScreen>
+#include <QShortcut>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace vernacle {
+
+namespace {
+
+constexpr const char* kBook = ":/Vernacle.CHM/";
+constexpr int kWidestBook = 560; // pixels
+
+class HelpWindow : public QWidget {
+public:
+    HelpWindow() {
+        setObjectName(QStringLiteral("HelpViewer"));
+        setWindowFlags(Qt::Dialog); // stands above the window it belongs to
+        setWindowTitle(QStringLiteral("Vernacle - Help"));
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins({});
+        topic_ = new QTextBrowser(this);
+        topic_->setObjectName(QStringLiteral("HelpTopic"));
+        topic_->setAccessibleName(windowTitle());
+        column->addWidget(topic_);
+        auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+        connect(escape, &QShortcut::activated, this, &QWidget::close);
+    }
+
+    void Open(const QString& file) {
+        topic_->setSource(QUrl(QStringLiteral("qrc") + file));
+        topic_->setFocus();
+    }
+
+    // The right part of the page's screen.
+    void PlaceBeside(const QWidget& page) {
+        const QRect screen = page.screen()->availableGeometry();
+        const int width = std::min(kWidestBook, screen.width() / 2);
+        const int height = screen.height() * 4 / 5;
+        setGeometry(screen.right() - width, screen.top() + (screen.height() - height) / 2, width,
+                    height);
+    }
+
+    void BelongTo(const QWidget& page) {
+        winId(); // so that it has a window that can belong to another
+        windowHandle()->setTransientParent(page.windowHandle());
+    }
+
+private:
+    QTextBrowser* topic_;
+};
+
+QPointer<HelpWindow> shownBook;
+
+} // namespace
+
+void ShowHelp(const QWidget& page, const std::string& topic) {
+    const QString file = QLatin1String(kBook) + QString::fromStdString(topic);
+    if (!QFileInfo(file).isFile()) {
+        return;
+    }
+    if (!shownBook) {
+        shownBook = new HelpWindow;
+        shownBook->setAttribute(Qt::WA_DeleteOnClose);
+        shownBook->PlaceBeside(page);
+        shownBook->BelongTo(page);
+    }
+    shownBook->Open(file);
+    shownBook->show();
+    shownBook->activateWindow();
+}
+
+void KeepHelpBeside(const QWidget& page) {
+    if (!shownBook) {
+        return;
+    }
+    shownBook->hide(); // what a window belongs to is read when it is shown
+    shownBook->BelongTo(page);
+    shownBook->setAttribute(Qt::WA_ShowWithoutActivating);
+    shownBook->show();
+    shownBook->setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
+} // namespace vernacle

@@ -1,0 +1,16 @@
+// Message boxes with one button, and the beep.
+#pragma once
+
+#include <string>
+
+namespace vernacle {
+
+void ShowFailure(const std::string& text);
+void ShowInformation(const std::string& text);
+
+// The box of a failure that no routine traps: the program ends behind it.
+void ShowRunTimeError(const std::string& text);
+
+void Beep();
+
+} // namespace vernacle

@@ -1,0 +1,38 @@
+// One of several options. Selecting it, by the user or by the program, runs its handler, also when
+// it was selected already.
+#pragma once
+
+#include <functional>
+
+#include <QRadioButton>
+
+namespace vernacle {
+
+class OptionButton : public QRadioButton {
+    Q_OBJECT
+
+public:
+    OptionButton(const char* name, const QString& caption, QWidget* parent = nullptr);
+
+    void OnSelect(std::function<void()> handler) { handler_ = std::move(handler); }
+
+    // Selects it and runs its handler.
+    void Select();
+
+    // Selects it and runs nothing.
+    void ShowSelected() { setChecked(true); }
+
+    // Leaves it unselected, and perhaps its whole group without a selection.
+    void Unselect();
+
+    // The colour of its caption, and of the ground behind it.
+    void SetInk(const QColor& colour);
+    void SetGround(const QColor& colour);
+
+private:
+    void SetColour(QPalette::ColorRole role, const QColor& colour);
+
+    std::function<void()> handler_ = [] {};
+};
+
+} // namespace vernacle

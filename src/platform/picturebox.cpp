@@ -1,0 +1,65 @@
+#include "platform/picturebox.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/seam.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+constexpr QSize kSmallestPicture(280, 220);
+constexpr int kUsualHeight = 520; // pixels
+
+// That of the whole screen, with units of that shape.
+DeviceMap ScreenMap(UnitShape shape) {
+    const ScreenSize screen = Host.screenSize();
+    const auto pixels = [](float twips) {
+        return static_cast<int>(std::lround(double{twips} / kTwipsPerPixel));
+    };
+    DeviceMap map = DeviceMap::OfScreen(pixels(screen.widthTwips), pixels(screen.heightTwips));
+    if (shape == UnitShape::Square) {
+        map.perUnitX = map.perUnitY;
+    }
+    return map;
+}
+
+} // namespace
+
+PictureBox::PictureBox(const char* name, const LogicalArea& area, UnitShape shape, QWidget* parent)
+    : QWidget(parent), area_(area), shape_(shape), record_(ScreenMap(shape), [this] { update(); }) {
+    setObjectName(QLatin1String(name));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(kSmallestPicture);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize PictureBox::sizeHint() const {
+    const DeviceMap map = MapToWidget();
+    const double widthToHeight = area_.width * map.perUnitX / (area_.height * map.perUnitY);
+    return {static_cast<int>(kUsualHeight * widthToHeight), kUsualHeight};
+}
+
+DeviceMap PictureBox::MapToWidget() const {
+    DeviceMap map = ScreenMap(shape_);
+    const double zoom =
+        std::min(width() / (area_.width * map.perUnitX), height() / (area_.height * map.perUnitY));
+    map.perUnitX *= zoom;
+    map.perUnitY *= zoom;
+    map.perPixel *= zoom;
+    map.originX = width() / 2. - (area_.left + area_.width / 2) * map.perUnitX;
+    map.originY = height() / 2. - (area_.top + area_.height / 2) * map.perUnitY;
+    return map;
+}
+
+void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PainterSurface surface(painter, MapToWidget());
+    record_.Replay(surface);
+}
+
+} // namespace vernacle

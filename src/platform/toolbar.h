@@ -1,0 +1,35 @@
+// The row of keys at the top of a page: an icon with its caption below, a tip, a shortcut.
+#pragma once
+
+#include <functional>
+
+#include <QFrame>
+
+class QHBoxLayout;
+
+namespace vernacle {
+
+struct ToolbarKey {
+    const char* key;
+    const char* caption;
+    const char* tip; // empty for none
+    const char* icon;
+    const char* shortcut; // empty for none
+};
+
+enum class KeyState { Enabled, Greyed };
+
+class Toolbar : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit Toolbar(const char* name, QWidget* parent = nullptr);
+
+    // Adds a key behind those before it; its object name is the key.
+    void AddKey(const ToolbarKey& key, KeyState state, std::function<void()> clicked);
+
+private:
+    QHBoxLayout* row_;
+};
+
+} // namespace vernacle

@@ -1,0 +1,56 @@
+#include "platform/updown.h"
+
+#include <algorithm>
+
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "core/numbertext.h"
+#include "platform/entrybox.h"
+
+namespace vernacle {
+
+namespace {
+
+void StepBox(EntryBox& box, double step, const StepRange& range) {
+    const double value = NumericValue(box.Text()) + step;
+    box.Write(PlainNumber(static_cast<float>(std::clamp(value, range.lowest, range.highest))));
+}
+
+} // namespace
+
+UpDown::UpDown(const char* name, const QString& accessibleName, QWidget* parent) : QWidget(parent) {
+    setObjectName(QLatin1String(name));
+    setAccessibleName(accessibleName);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    const auto add = [&](const QString& arrowName, Qt::ArrowType type, auto step) {
+        auto* arrow = new QToolButton(this);
+        arrow->setObjectName(objectName() + arrowName);
+        arrow->setAccessibleName(accessibleName + QLatin1Char(' ') + arrowName);
+        arrow->setArrowType(type);
+        arrow->setAutoRepeat(true);
+        arrow->setFocusPolicy(Qt::NoFocus); // the box has the keys
+        arrow->setFixedWidth(kWidth);
+        arrow->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+        connect(arrow, &QToolButton::clicked, this, step);
+        column->addWidget(arrow);
+    };
+    add(QStringLiteral("Up"), Qt::UpArrow, [this] { Up(); });
+    add(QStringLiteral("Down"), Qt::DownArrow, [this] { Down(); });
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+}
+
+void UpDown::AttachTo(EntryBox& box, const StepRange& range) {
+    box.SetArrows(this);
+    OnStep([&box, range] { StepBox(box, range.step, range); },
+           [&box, range] { StepBox(box, -range.step, range); });
+}
+
+void UpDown::OnStep(std::function<void()> up, std::function<void()> down) {
+    up_ = std::move(up);
+    down_ = std::move(down);
+}
+
+} // namespace vernacle

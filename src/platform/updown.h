@@ -1,0 +1,41 @@
+// The two arrows beside a box, one above the other.
+#pragma once
+
+#include <functional>
+
+#include <QWidget>
+
+namespace vernacle {
+
+class EntryBox;
+
+struct StepRange {
+    double lowest;
+    double highest;
+    double step = 1;
+};
+
+class UpDown : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int kWidth = 20; // pixels
+
+    UpDown(const char* name, const QString& accessibleName, QWidget* parent = nullptr);
+
+    // From then on the arrows step the number that the box shows and land inside the range; the
+    // box's own handler does the rest. The box steps by its Up and Down keys too.
+    void AttachTo(EntryBox& box, const StepRange& range);
+
+    // What the arrows do instead.
+    void OnStep(std::function<void()> up, std::function<void()> down);
+
+    void Up() { up_(); }
+    void Down() { down_(); }
+
+private:
+    std::function<void()> up_ = [] {};
+    std::function<void()> down_ = [] {};
+};
+
+} // namespace vernacle

@@ -1,0 +1,115 @@
+#include "platform/walk.h"
+
+#include <algorithm>
+
+#include <QCoreApplication>
+#include <QLineEdit>
+
+#include "platform/helpviewer.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr std::string_view kBackdrop = "frmBlank";
+
+std::span<const FormRow> registeredForms;
+QWidget* shownPage = nullptr;
+
+const FormRow* FindForm(std::string_view name) {
+    const auto found = std::find_if(registeredForms.begin(), registeredForms.end(),
+                                    [name](const FormRow& row) { return row.name == name; });
+    return found == registeredForms.end() ? nullptr : &*found;
+}
+
+// A page may be left by one of its own handlers: it goes once that has returned.
+void Unload(QWidget* form) {
+    if (form) {
+        form->hide();
+        form->deleteLater();
+    }
+}
+
+void FocusOn(QWidget& page, const QString& controlName) {
+    auto* control = controlName.isEmpty() ? nullptr : page.findChild<QWidget*>(controlName);
+    if (!control) {
+        const auto boxes = page.findChildren<QLineEdit*>();
+        const auto usable = std::find_if(boxes.begin(), boxes.end(), [&](const QLineEdit* box) {
+            return box->isEnabled() && box->isVisibleTo(&page);
+        });
+        control = usable == boxes.end() ? nullptr : *usable;
+    }
+    if (control) {
+        control->setFocus();
+    }
+}
+
+void ShowPage(std::unique_ptr<QWidget> page, const QString& focusedControl) {
+    QWidget* left = shownPage;
+    shownPage = page.release();
+    FocusOn(*shownPage, focusedControl);
+    shownPage->showMaximized();
+    KeepHelpBeside(*shownPage);
+    shownPage->activateWindow();
+    Unload(left);
+}
+
+} // namespace
+
+void SetForms(std::span<const FormRow> forms) {
+    registeredForms = forms;
+}
+
+bool IsFormKnown(std::string_view name) {
+    return FindForm(name) != nullptr;
+}
+
+std::unique_ptr<QWidget> MakeForm(std::string_view name) {
+    const FormRow* row = FindForm(name);
+    return row ? row->make() : nullptr;
+}
+
+void GoToPage(std::string_view name) {
+    if (IsFormKnown(name)) {
+        ShowPage(MakeForm(name), {});
+    }
+}
+
+void ReloadPage() {
+    const std::string name = shownPage->objectName().toStdString();
+    const QWidget* focused = shownPage->focusWidget();
+    const QString focusedControl = focused ? focused->objectName() : QString();
+    const std::unique_ptr<QWidget> backdrop = MakeForm(kBackdrop);
+    if (backdrop) {
+        backdrop->showMaximized();
+    }
+    UnloadPage();
+    ShowPage(MakeForm(name), focusedControl);
+}
+
+QWidget* CurrentPage() {
+    return shownPage;
+}
+
+void ShowModal(std::string_view name) {
+    const std::unique_ptr<QWidget> form = MakeForm(name);
+    auto* dialog = qobject_cast<QDialog*>(form.get());
+    if (!dialog) {
+        return;
+    }
+    if (shownPage) {
+        dialog->setParent(shownPage, dialog->windowFlags()); // above it, and on its middle
+    }
+    dialog->exec();
+}
+
+void UnloadPage() {
+    Unload(shownPage);
+    shownPage = nullptr;
+}
+
+void EndProcess() {
+    QCoreApplication::exit(EXIT_SUCCESS);
+}
+
+} // namespace vernacle
