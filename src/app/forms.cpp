@@ -1,0 +1,48 @@
+#include "app/forms.h"
+
+#include "app/frmAbout.h"
+#include "app/frmBlank.h"
+#include "app/frmExit.h"
+#include "app/frmOpening.h"
+#include "help/frmExponent.h"
+#include "help/frmRotateIllustration.h"
+#include "help/frmStyleHelp.h"
+#include "pages/frmPlate.h"
+#include "pages/frmPreview.h"
+#include "pages/frmScales.h"
+#include "pages/frmTicsHelp.h"
+#include "render/frmCalibrate.h"
+#include "render/frmHPGL.h"
+
+namespace vernacle {
+
+namespace {
+
+template <typename Form>
+std::unique_ptr<QWidget> Make() {
+    return std::make_unique<Form>();
+}
+
+constexpr FormRow kForms[] = {
+    {"frmOpening", Make<frmOpening>},
+    {"frmPreview", Make<frmPreview>},
+    {"frmPlate", Make<frmPlate>},
+    {"frmScales", Make<frmScales>},
+    {"frmHPGL", Make<frmHPGL>},
+    {"frmCalibrate", Make<frmCalibrate>},
+    {"frmTicsHelp", Make<frmTicsHelp>},
+    {"frmExponent", Make<frmExponent>},
+    {"frmRotateIllustration", Make<frmRotateIllustration>},
+    {"frmStyleHelp", Make<frmStyleHelp>},
+    {"frmExit", Make<frmExit>},
+    {"frmBlank", Make<frmBlank>},
+    {"frmAbout", Make<frmAbout>},
+};
+
+} // namespace
+
+std::span<const FormRow> ProgramForms() {
+    return kForms;
+}
+
+} // namespace vernacle

@@ -1,0 +1,29 @@
+// The exit page: asks whether to go, and keeps the session.
+#pragma once
+
+#include "platform/form.h"
+
+class QLabel;
+class QPushButton;
+
+namespace vernacle {
+
+class frmExit : public ModalForm {
+    Q_OBJECT
+
+public:
+    frmExit();
+
+private:
+    void cmdCancelClicked();
+    void cmdExitClicked();
+
+    double PixelsPerTwip() const;
+    void ShowNotice();
+
+    QLabel* Label1_;
+    QPushButton* cmdCancel_;
+    QPushButton* cmdExit_;
+};
+
+} // namespace vernacle

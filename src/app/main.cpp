@@ -1,0 +1,19 @@
+// vernacle: the program.
+#include <clocale>
+#include <csignal>
+
+#include "app/forms.h"
+#include "platform/application.h"
+#include "platform/host.h"
+
+int main(int argc, char** argv) {
+    using namespace vernacle;
+    std::signal(SIGXFSZ, SIG_IGN); // a file-size limit is a write that fails, not the end
+    Application application(argc, argv);
+    Host = DesktopHost();
+    SetForms(ProgramForms());
+    // From inside the event loop, where failures have their handler.
+    QMetaObject::invokeMethod(
+        &application, [] { GoToPage("frmOpening"); }, Qt::QueuedConnection);
+    return QApplication::exec();
+}

@@ -1,0 +1,61 @@
+// What the six design pages share: title, toolbar, close box. A page's differences are a small
+// record of traits.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "platform/form.h"
+
+namespace vernacle {
+
+// A tool tip in which a page differs from the others.
+struct OwnTip {
+    const char* key;
+    const char* tip;
+};
+
+enum class Printing {
+    Offered,
+    Greyed,       // prints, if its key is ever enabled
+    GreyedAndDead // does nothing
+};
+
+enum class CloseBox { SavesSession, JustEnds };
+
+struct PageTraits {
+    const char* form;
+    const char* title; // behind "Vernacle - "
+    const char* helpTopic;
+    Printing printing = Printing::Greyed;
+    CloseBox closeBox = CloseBox::SavesSession;
+    std::span<const OwnTip> ownTips = {};
+};
+
+class DesignPage : public Page {
+    Q_OBJECT
+
+protected:
+    // The traits stay where they are.
+    explicit DesignPage(const PageTraits& traits);
+
+    void CloseBoxClicked() override;
+
+private:
+    struct Key;
+    static const Key kKeys[];
+
+    void AddToolbar();
+    void KeyClicked(const Key& key);
+
+    void OpenClicked();
+    void SaveClicked();
+    void PrintClicked();
+    void HelpClicked();
+    void ExitClicked();
+    void AboutClicked();
+
+    const PageTraits& traits_;
+};
+
+} // namespace vernacle

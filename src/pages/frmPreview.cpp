@@ -1,0 +1,206 @@
+#include "pages/frmPreview.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+#include "core/design.h"
+#include "core/entry.h"
+#include "core/numbertext.h"
+#include "platform/entrybox.h"
+#include "platform/formkit.h"
+#include "platform/inkicon.h"
+#include "platform/picturebox.h"
+#include "platform/updown.h"
+#include "platform/walk.h"
+#include "render/overlays.h"
+#include "scale/scale.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr double kAspectStep = 1.01;
+constexpr LogicalArea kPlateArea{2350, 750, 7300, 7800};
+constexpr int kToolIconSize = 20;
+
+constexpr OwnTip kOwnTips[] = {{"Exit", "Exit"}};
+
+constexpr PageTraits kTraits = {.form = "frmPreview",
+                                .title = "Preview",
+                                .helpTopic = "vpreview.htm",
+                                .printing = Printing::Offered,
+                                .ownTips = kOwnTips};
+
+// Switches a flag of an overlay; whether it is on now.
+bool Toggle(std::int16_t& flag) {
+    ++flag;
+    if (flag > 1) {
+        flag = 0;
+    }
+    return flag == 1;
+}
+
+} // namespace
+
+struct frmPreview::Tool {
+    const char* name;
+    const char* caption;
+    const char* tip;
+    const char* icon;
+    void (frmPreview::*clicked)();
+};
+
+const frmPreview::Tool frmPreview::kTools[] = {
+    {"cmdCircle", "Circle", "Show or hide a circular outline; a plate with it prints as a circle",
+     "circle", &frmPreview::cmdCircleClicked},
+    {"cmdGrid", "Grid", "Show or hide a grid of millimetres", "grid", &frmPreview::cmdGridClicked},
+    {"cmdPointer", "Pointer", "Show or hide the pointer and its length", "pointer",
+     &frmPreview::cmdPointerClicked},
+    {"cmdHPGL", "HP-GL", "Write the design for a plotter", "plotter", &frmPreview::cmdHPGLClicked},
+};
+
+frmPreview::frmPreview() : DesignPage(kTraits) {
+    Build();
+    Load();
+}
+
+void frmPreview::Build() {
+    plate_ = new PictureBox("picPlate", kPlateArea, UnitShape::OfScreen);
+    plate_->setAccessibleName(QStringLiteral("Drawing of the plate"));
+    auto* tools = new QVBoxLayout;
+    tools->setSpacing(10);
+    tools->addWidget(MakeHeading("lblHeading", QStringLiteral("Preview")));
+    tools->addLayout(MakeAspect());
+    tools->addLayout(MakeTools());
+    tools->addStretch();
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(16);
+    halves->addWidget(plate_, 1);
+    halves->addLayout(tools);
+    Body().addLayout(halves, 1);
+}
+
+QLayout* frmPreview::MakeAspect() {
+    const QString ratio = QStringLiteral("Aspect ratio:");
+    const QString percent = QStringLiteral("Aspect, percent:");
+    txtAspect_ = new EntryBox("txtAspect", ratio);
+    txtAspectUpDown_ = new EntryBox("txtAspectUpDown", percent);
+    auto* arrows = new UpDown("UpDown1", percent);
+    arrows->OnStep([this] { UpDown1Clicked(double{Design.AspectRatio} * kAspectStep); },
+                   [this] { UpDown1Clicked(double{Design.AspectRatio} / kAspectStep); });
+    txtAspectUpDown_->SetArrows(arrows);
+    txtAspect_->OnChange([this] { txtAspectChanged(); });
+    txtAspectUpDown_->OnChange([this] { txtAspectUpDownChanged(); });
+    QLabel* lblAspect = MakeLabel("lblAspect", ratio);
+    QLabel* lblPercent = MakeLabel("lblAspectUpDown", percent);
+    lblAspect->setBuddy(txtAspect_);
+    lblPercent->setBuddy(txtAspectUpDown_);
+    auto* grid = new QGridLayout;
+    grid->addWidget(lblAspect, 0, 0);
+    grid->addLayout(MakeStepped(*txtAspect_, nullptr), 0, 1);
+    grid->addWidget(lblPercent, 1, 0);
+    grid->addLayout(MakeStepped(*txtAspectUpDown_, arrows), 1, 1);
+    return grid;
+}
+
+QLayout* frmPreview::MakeTools() {
+    auto* column = new QVBoxLayout;
+    for (const Tool& tool : kTools) {
+        QPushButton* button =
+            MakeButton(tool.name, QString::fromUtf8(tool.caption), QString::fromUtf8(tool.tip));
+        button->setIcon(InkIcon(tool.icon));
+        button->setIconSize(QSize(kToolIconSize, kToolIconSize));
+        connect(button, &QPushButton::clicked, this, tool.clicked);
+        column->addWidget(button);
+    }
+    return column;
+}
+
+void frmPreview::Load() {
+    sizes_ = {Design.FontSize, Design.LabelSpacing};
+    NormalizeDesign();
+    CopyTexts();
+    ComputeTicDeflections();
+    ComputeTicLabels();
+    Design.FontName = "Arial";
+    Design.NumberOfScales = 1;
+    Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
+    PageFrame(PreviewTraits()); // raises the aspect too
+    ShowAspect();
+    ShowPercent();
+    Draw();
+}
+
+void frmPreview::CopyTexts() {
+    texts_ = Design.TextString;
+    for (int text = 1; text <= kTexts; ++text) {
+        numberOfTexts_ += texts_[text].empty() ? 0 : 1;
+    }
+    plate_->setAccessibleDescription(
+        QStringLiteral("Free texts that only a plotter writes: %1").arg(numberOfTexts_));
+}
+
+void frmPreview::Draw() {
+    DrawDesign(plate_->Surface(), PreviewTraits(), sizes_);
+}
+
+void frmPreview::ShowAspect() {
+    txtAspect_->Write(PlainNumber(Design.AspectRatio));
+}
+
+void frmPreview::ShowPercent() {
+    txtAspectUpDown_->Write(PlainNumber(static_cast<float>(double{Design.AspectRatio} * 100)));
+}
+
+void frmPreview::txtAspectChanged() {
+    std::string text = txtAspect_->Text();
+    ParseEntry(text, Design.AspectRatio);
+    HoldAspectRatio();
+    ShowPercent();
+    Draw();
+}
+
+void frmPreview::txtAspectUpDownChanged() {
+    const double percent = NumericValue(txtAspectUpDown_->Text());
+    Design.AspectRatio = HeldAspect(percent * 0.01);
+    ShowAspect();
+}
+
+// The fields show the new aspect, and the picture loses its overlays, by a new load.
+void frmPreview::UpDown1Clicked(double aspect) {
+    Design.AspectRatio = HeldAspect(aspect);
+    ReloadPage();
+}
+
+void frmPreview::cmdCircleClicked() {
+    if (Toggle(Design.PlateOutlineCircular)) {
+        DrawOutline(plate_->Surface(), PageFrame(PreviewTraits()), OutlineStart::Moved, kBlueInk);
+    } else {
+        ReloadPage();
+    }
+}
+
+void frmPreview::cmdGridClicked() {
+    if (Toggle(Drawing.GridShown)) {
+        DrawGrid(plate_->Surface(), PageFrame(PreviewTraits()));
+    } else {
+        ReloadPage();
+    }
+}
+
+void frmPreview::cmdPointerClicked() {
+    if (Toggle(Drawing.PointerShown)) {
+        DrawPointer(plate_->Surface(), PageFrame(PreviewTraits()), Drawing);
+    } else {
+        ReloadPage();
+    }
+}
+
+void frmPreview::cmdHPGLClicked() {
+    ShowModal("frmHPGL");
+}
+
+} // namespace vernacle

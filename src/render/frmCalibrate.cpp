@@ -1,0 +1,100 @@
+#include "render/frmCalibrate.h"
+
+#include <algorithm>
+
+#include <QFormLayout>
+#include <QGridLayout>
+
+#include "core/design.h"
+#include "core/numbertext.h"
+#include "platform/entrybox.h"
+#include "platform/formkit.h"
+#include "platform/printers.h"
+#include "render/calibrate.h"
+
+namespace vernacle {
+
+namespace {
+
+// A measure as it is read from a ruler, with a decimal point or comma.
+double Measured(const EntryBox& box) {
+    std::string text = box.Text();
+    std::replace(text.begin(), text.end(), ',', '.');
+    return NumericValue(text);
+}
+
+} // namespace
+
+frmCalibrate::frmCalibrate()
+    : ModalForm("frmCalibrate", QStringLiteral("Vernacle - Calibration routine")) {
+    txtActualWidth_ = new EntryBox("txtActualWidth", QStringLiteral("Actual width, mm"));
+    txtActualHeight_ = new EntryBox("txtActualHeight", QStringLiteral("Actual height, mm"));
+    QPushButton* print = MakeButton("cmdPrint", QStringLiteral("Print test square"));
+    QPushButton* back = MakeButton("cmdReturn", QStringLiteral("Return"));
+    connect(print, &QPushButton::clicked, this, &frmCalibrate::cmdPrintClicked);
+    connect(back, &QPushButton::clicked, this, &frmCalibrate::cmdReturnClicked);
+
+    auto* grid = new QGridLayout(this);
+    grid->setSpacing(12);
+    grid->addWidget(MakeHeading("lblHeading", QStringLiteral("Printer/Program calibration")), 0, 0,
+                    1, 2);
+    AddStep(1, print, *grid);
+    AddStep(2,
+            MakeLabel("lblMeasure", QStringLiteral("Now measure the width and height of the "
+                                                   "printed box, in millimeters.")),
+            *grid);
+    AddStep(3, MakeMeasures(), *grid);
+    AddStep(4, back, *grid);
+    nextSteps_.removeOne(back); // the way back is always there
+    grid->setColumnStretch(1, 1);
+    setMinimumSize(sizeHint()); // with all steps
+    for (QWidget* step : nextSteps_) {
+        step->hide();
+    }
+}
+
+void frmCalibrate::AddStep(int number, QWidget* content, QGridLayout& grid) {
+    QLabel* label = MakeLabel(("lblStep" + std::to_string(number)).c_str(),
+                              QStringLiteral("Step %1").arg(number));
+    grid.addWidget(label, number, 0, Qt::AlignTop);
+    grid.addWidget(content, number, 1, Qt::AlignLeft);
+    if (number > 1) {
+        nextSteps_ << label << content;
+    }
+}
+
+QWidget* frmCalibrate::MakeMeasures() {
+    auto* measures = new QWidget;
+    measures->setObjectName(QStringLiteral("fraMeasures"));
+    auto* form = new QFormLayout(measures);
+    form->setContentsMargins({});
+    form->addRow(MakeLabel("lblEnter", QStringLiteral("Enter the actual width and height into the "
+                                                      "boxes below:")));
+    form->addRow(MakeLabel("lblActualWidth", QStringLiteral("Width, mm")), txtActualWidth_);
+    form->addRow(MakeLabel("lblActualHeight", QStringLiteral("Height, mm")), txtActualHeight_);
+    return measures;
+}
+
+void frmCalibrate::cmdPrintClicked() {
+    AskForPrinterAndPrint(this, [this](PrinterSurface& printer) {
+        if (PrintTestSquare(printer)) {
+            ShowNextSteps();
+        }
+    });
+}
+
+void frmCalibrate::ShowNextSteps() {
+    for (QWidget* step : nextSteps_) {
+        step->show();
+    }
+    txtActualWidth_->setFocus();
+}
+
+void frmCalibrate::cmdReturnClicked() {
+    Recalibrate(Design.CalibrationX, Measured(*txtActualWidth_));
+    Recalibrate(Design.CalibrationY, Measured(*txtActualHeight_));
+    WriteCalibrate();
+    accept();
+}
+
+} // namespace vernacle
