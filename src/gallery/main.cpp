@@ -1,0 +1,205 @@
+// vernacle-gallery: opens any one form by its name over a design, for looking and for tests.
+#include <csignal>
+#include <cstdio>
+
+#include <QBuffer>
+#include <QPixmap>
+
+#include "app/forms.h"
+#include "core/bytesink.h"
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "core/runtimeerror.h"
+#include "core/usage.h"
+#include "gallery/arguments.h"
+#include "gallery/dump.h"
+#include "gallery/screen.h"
+#include "platform/application.h"
+#include "platform/host.h"
+#include "render/calibrate.h"
+#include "scale/scale.h"
+
+namespace vernacle {
+
+namespace {
+
+enum ExitStatus { kWrongUsage = 2 };
+
+void Say(const std::string& text) {
+    std::fputs((text + "\n").c_str(), stderr);
+}
+
+// What is shown, and what of it is written at the end.
+struct Exhibit {
+    std::unique_ptr<QWidget> modal; // if it is no page
+    std::string shot;               // bytes of its picture
+};
+
+// Whoever takes a shot is not there to answer a box.
+void AnswerFailuresByWords() {
+    Host.beep = [] {};
+    Host.failureBox = Say;
+    Host.informationBox = Say;
+}
+
+// What every page has ready when it opens a form. A page that repairs its design does so itself,
+// and one that does not meets the same failure again.
+void ComputeScales() {
+    try {
+        ComputeTicDeflections();
+        ComputeTicLabels();
+    } catch (const RunTimeError&) {
+    }
+}
+
+// What the program has done by the time it shows the form.
+void Prepare(const Arguments& arguments) {
+    SetVersionAndScreenScale();
+    SetOpeningValues();
+    ReadCalibrate();
+    ResetDesign();
+    Design.ActiveScale = 1;
+    if (!arguments.design.empty()) {
+        Design.DesignFileName = arguments.design;
+        ReadDesign(arguments.design);
+    }
+    ComputeScales();
+}
+
+void EnableAll(QWidget& form) {
+    for (auto* control : form.findChildren<QWidget*>()) {
+        control->setEnabled(true);
+    }
+}
+
+std::string PictureOf(QWidget& form) {
+    for (int turn = 0; turn < 5; ++turn) { // a layout may ask for another
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents();
+    }
+    QBuffer bytes;
+    if (!form.grab().save(&bytes, "PNG")) {
+        throw std::runtime_error("the picture could not be made");
+    }
+    return bytes.data().toStdString();
+}
+
+// Only a form that was built tells; what its load did is taken back.
+bool IsModal(const std::string& name) {
+    const auto before = std::make_unique<DesignRecord>(Design);
+    const bool modal = qobject_cast<QDialog*>(MakeForm(name).get()) != nullptr;
+    Design = *before;
+    return modal;
+}
+
+// A page is walked to, any other form stands by itself.
+QWidget* Show(const std::string& name, Exhibit& exhibit) {
+    if (!IsModal(name)) {
+        GoToPage(name);
+        return CurrentPage();
+    }
+    exhibit.modal = MakeForm(name);
+    auto* dialog = qobject_cast<QDialog*>(exhibit.modal.get());
+    QObject::connect(dialog, &QDialog::finished, qApp, [] { EndProcess(); });
+    dialog->show();
+    return dialog;
+}
+
+void Open(const Arguments& arguments, Exhibit& exhibit) {
+    Prepare(arguments);
+    QWidget* form = Show(arguments.form, exhibit);
+    if (arguments.enableAll) {
+        EnableAll(*form);
+    }
+    if (!arguments.shot.empty()) {
+        exhibit.shot = PictureOf(*form);
+        EndProcess();
+    }
+}
+
+void OpenUnattended(const Arguments& arguments, Exhibit& exhibit) {
+    AnswerFailuresByWords();
+    try {
+        Open(arguments, exhibit);
+    } catch (const std::exception& failure) {
+        Say(std::string("vernacle-gallery: run-time error: ") + failure.what());
+        QCoreApplication::exit(kRunTimeErrorStatus);
+    }
+}
+
+void WriteBytes(const std::string& path, const std::string& bytes) {
+    const auto sink = OpenFileSink(path);
+    sink->Write(bytes);
+    sink->Close();
+}
+
+void WriteOutputs(const Arguments& arguments, const Exhibit& exhibit) {
+    if (!arguments.dump.empty()) {
+        const auto atStart = std::make_unique<DesignRecord>();
+        WriteBytes(arguments.dump, DumpDesign(Design, *atStart));
+    }
+    if (!exhibit.shot.empty()) {
+        WriteBytes(arguments.shot, exhibit.shot);
+    }
+}
+
+// Before there is a window: a name that is mistyped is no design.
+void CheckArguments(const Arguments& arguments) {
+    if (!IsFormKnown(arguments.form)) {
+        std::string known;
+        for (const FormRow& row : ProgramForms()) {
+            known += std::string("\n  ") + row.name;
+        }
+        throw UsageError("there is no form \"" + arguments.form + "\", but:" + known);
+    }
+    if (!arguments.design.empty()) {
+        ReadWholeFile(arguments.design);
+    }
+}
+
+int Run(int argc, char** argv) {
+    const Arguments arguments = ParseArguments(argc, argv);
+    if (arguments.help) {
+        std::fputs(kHelp, stdout);
+        return EXIT_SUCCESS;
+    }
+    SetForms(ProgramForms());
+    CheckArguments(arguments);
+    const bool unattended = !arguments.shot.empty();
+    if (unattended || arguments.sized) {
+        UseScreenOf(arguments);
+    }
+    Application application(argc, argv);
+    if (arguments.fontPoints > 0) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(arguments.fontPoints);
+        QApplication::setFont(font);
+    }
+    Host = DesktopHost();
+    Exhibit exhibit;
+    const auto open = unattended ? OpenUnattended : Open;
+    QMetaObject::invokeMethod(
+        &application, [&] { open(arguments, exhibit); }, Qt::QueuedConnection);
+    const int status = QApplication::exec();
+    UnloadPage();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    WriteOutputs(arguments, exhibit);
+    return status;
+}
+
+} // namespace
+
+} // namespace vernacle
+
+int main(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN); // a file-size limit is a write that fails, not the end
+    try {
+        return vernacle::Run(argc, argv);
+    } catch (const vernacle::UsageError& error) {
+        vernacle::Say(std::string("vernacle-gallery: ") + error.what());
+        return vernacle::kWrongUsage;
+    } catch (const std::exception& error) {
+        vernacle::Say(std::string("vernacle-gallery: ") + error.what());
+        return EXIT_FAILURE;
+    }
+}

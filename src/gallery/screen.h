@@ -1,0 +1,13 @@
+// A screen of any size without a display.
+#pragma once
+
+namespace vernacle {
+
+struct Arguments;
+
+// Chooses, before the application object is made, a platform without windows whose one screen has
+// the size and the device ratio that were asked for; any other that the environment names stays.
+// Throws if the screen cannot be described to it.
+void UseScreenOf(const Arguments& arguments);
+
+} // namespace vernacle
