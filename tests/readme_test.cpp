@@ -29,7 +29,8 @@ TEST(ReadmeTest, MapNamesEveryFolderOfTheSources) {
 
 TEST(ReadmeTest, MapNamesEveryFolderOfTheTree) {
     const std::string readme = Readme();
-    for (const char* folder : {"tests", "fuzz", "bench", "examples", "docs", "scripts"}) {
+    for (const char* folder :
+         {"tests", "fuzz", "bench", "examples", "docs", "scripts", "packaging"}) {
         EXPECT_TRUE(fs::is_directory(kRoot / folder)) << folder;
         EXPECT_NE(readme.find("| `" + std::string(folder) + "` |"), std::string::npos) << folder;
     }

@@ -1,0 +1,223 @@
+// Every form of the register, at small and large fonts on small and large screens: nothing is cut
+// off, nothing covers anything, everything has a name, and the Tab key goes as one reads.
+#include <QDialog>
+#include <QLineEdit>
+
+#include "app/forms.h"
+#include "core/design.h"
+#include "core/seam.h"
+#include "layoutfaults.h"
+#include "support/formtest.h"
+
+namespace vernacle::test {
+
+namespace {
+
+constexpr float kTwipsPerPixel = 15;
+constexpr int kSmallFont = 9; // points
+constexpr int kLargeFont = 14;
+constexpr QSize kSmallScreen(1024, 768);
+constexpr QSize kUsualScreen(1920, 1080);
+
+std::string Lines(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += "\n  " + line;
+    }
+    return text;
+}
+
+void ExpectNone(const Faults& faults, const char* what) {
+    EXPECT_TRUE(faults.empty()) << what << ":" << Lines(faults);
+}
+
+void ExpectRoomForAll(const QWidget& form) {
+    ExpectNone(CutOffControls(form), "cut off");
+    ExpectNone(OverlappingControls(form), "covering each other");
+    ExpectNone(ControlsOutsideTheirParent(form), "over the edge");
+}
+
+// A form as its user sees it on a screen of that size, with the desktop's font of that size.
+class ShownFormTest : public FormTest {
+protected:
+    ShownFormTest() : usualFont_(QApplication::font()) {}
+    ~ShownFormTest() override { QApplication::setFont(usualFont_); }
+
+    QWidget& Show(const std::string& name, int fontPoints, const QSize& screen) {
+        QFont font = usualFont_;
+        font.setPointSize(fontPoints);
+        QApplication::setFont(font);
+        Host.screenSize = [screen] {
+            return ScreenSize{static_cast<float>(screen.width()) * kTwipsPerPixel,
+                              static_cast<float>(screen.height()) * kTwipsPerPixel};
+        };
+        SetVersionAndScreenScale();
+        form_ = MakeForm(name);
+        if (qobject_cast<QDialog*>(form_.get())) {
+            form_->show();
+        } else {
+            form_.reset();
+            OpenPage(name);
+            Page().setWindowState(Qt::WindowNoState);
+            Settle();
+            Page().resize(screen);
+        }
+        SettleLayout();
+        return form_ ? *form_ : Page();
+    }
+
+    bool IsModal() const { return form_ != nullptr; }
+
+    static void SettleLayout() {
+        for (int turn = 0; turn < 5; ++turn) { // a layout may ask for another
+            Settle();
+            QCoreApplication::sendPostedEvents();
+        }
+    }
+
+private:
+    QFont usualFont_;
+    std::unique_ptr<QWidget> form_;
+};
+
+struct LayoutCase {
+    std::string form;
+    int fontPoints;
+    QSize screen;
+};
+
+std::vector<LayoutCase> AllLayoutCases() {
+    std::vector<LayoutCase> cases;
+    for (const FormRow& row : ProgramForms()) {
+        for (const int font : {kSmallFont, kLargeFont}) {
+            for (const QSize& screen : {kSmallScreen, kUsualScreen}) {
+                cases.push_back({row.name, font, screen});
+            }
+        }
+    }
+    return cases;
+}
+
+std::string CaseName(const LayoutCase& layout) {
+    return layout.form + "At" + std::to_string(layout.fontPoints) + "PointsOn" +
+           std::to_string(layout.screen.width()) + "x" + std::to_string(layout.screen.height());
+}
+
+void PrintTo(const LayoutCase& layout, std::ostream* stream) {
+    *stream << CaseName(layout);
+}
+
+class LayoutTest : public ShownFormTest, public ::testing::WithParamInterface<LayoutCase> {};
+
+TEST_P(LayoutTest, EverythingHasItsPlace) {
+    const auto& [name, font, screen] = GetParam();
+    const QWidget& form = Show(name, font, screen);
+    if (IsModal()) {
+        EXPECT_LE(form.width(), screen.width());
+        EXPECT_LE(form.height(), screen.height());
+    } else {
+        ASSERT_EQ(form.size(), screen);
+    }
+    ExpectRoomForAll(form);
+    const bool mayScroll = font == kLargeFont && screen == kSmallScreen;
+    if (!mayScroll) {
+        ExpectNone(ScrollBarsShown(form), "scrolls");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, LayoutTest, ::testing::ValuesIn(AllLayoutCases()),
+                         [](const auto& row) { return CaseName(row.param); });
+
+// What shows itself only later has its place too, at every font and on every screen.
+class LaterLayoutTest : public ShownFormTest {
+protected:
+    template <typename Check>
+    void AtEveryFontAndScreen(const std::string& form, const Check& check) {
+        for (const LayoutCase& layout : AllLayoutCases()) {
+            if (layout.form == form) {
+                SCOPED_TRACE(CaseName(layout));
+                check(Show(layout.form, layout.fontPoints, layout.screen));
+            }
+        }
+    }
+};
+
+TEST_F(LaterLayoutTest, TheStepsOfTheCalibrationStandOnItsForm) {
+    AtEveryFontAndScreen("frmCalibrate", [this](QWidget& form) {
+        const std::string file = Path("square.pdf");
+        std::filesystem::remove(file);
+        Answer([&](QWidget& dialog) {
+            On<QLineEdit>(dialog, "filename").setText(QString::fromStdString(file));
+            static_cast<QDialog&>(dialog).accept();
+        });
+        Click(On<QWidget>(form, "cmdPrint"));
+        SettleLayout();
+        ASSERT_TRUE(On<QWidget>(form, "txtActualHeight").isVisible());
+        ExpectRoomForAll(form);
+        EXPECT_EQ(TabOrder(form), ReadingOrder(form));
+    });
+}
+
+TEST_F(LaterLayoutTest, TheNoticeOfTheExitPageCoversNothing) {
+    AtEveryFontAndScreen("frmExit", [this](QWidget& form) {
+        int looks = 0;
+        const auto clock = Host.clockSeconds;
+        Host.clockSeconds = [&] { // is looked at while the notice is shown
+            EXPECT_TRUE(On<QLabel>(form, "Label1").isVisible());
+            ExpectRoomForAll(form);
+            ++looks;
+            return clock();
+        };
+        Click(On<QWidget>(form, "cmdExit"));
+        Host.clockSeconds = clock;
+        EXPECT_GT(looks, 0);
+        EXPECT_TRUE(TakeProcessEnd());
+    });
+}
+
+std::vector<std::string> AllForms() {
+    std::vector<std::string> names;
+    for (const FormRow& row : ProgramForms()) {
+        names.emplace_back(row.name);
+    }
+    return names;
+}
+
+class FormNamesTest : public ShownFormTest, public ::testing::WithParamInterface<std::string> {
+protected:
+    QWidget& ShowUsual() { return Show(GetParam(), kSmallFont, kUsualScreen); }
+};
+
+TEST_P(FormNamesTest, EveryControlHasItsName) {
+    const QWidget& form = ShowUsual();
+    EXPECT_EQ(form.objectName().toStdString(), GetParam());
+    EXPECT_FALSE(form.windowTitle().isEmpty());
+    ExpectNone(BadlyNamedControls(form), "badly named");
+    ExpectNone(SilentControls(form), "nothing to say for a screen reader");
+}
+
+TEST_P(FormNamesTest, TheTabKeyGoesAsOneReads) {
+    QWidget& form = ShowUsual();
+    const std::vector<std::string> reading = ReadingOrder(form);
+    EXPECT_EQ(TabOrder(form), reading);
+    if (reading.empty()) {
+        return;
+    }
+    // And by the real key, once around from the first.
+    On<QWidget>(form, reading.front()).setFocus();
+    std::vector<std::string> reached;
+    for (std::size_t press = 0; press < reading.size(); ++press) {
+        ASSERT_NE(form.focusWidget(), nullptr);
+        reached.push_back(form.focusWidget()->objectName().toStdString());
+        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached, reading);
+    EXPECT_EQ(form.focusWidget()->objectName().toStdString(), reading.front());
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, FormNamesTest, ::testing::ValuesIn(AllForms()),
+                         [](const auto& row) { return row.param; });
+
+} // namespace
+
+} // namespace vernacle::test

@@ -1,0 +1,146 @@
+// The real program in a process and on a display of its own, driven by keys alone: a session is
+// entered, left and taken up again, and a run-time error ends the process.
+#include <csignal>
+#include <memory>
+
+#include <unistd.h>
+
+#include "support/display.h"
+#include "support/enginetest.h"
+
+namespace vernacle::test {
+
+namespace {
+
+constexpr double kPatience = 30; // seconds for a program's end
+constexpr const char* kOpening = "Vernacle - Welcome !";
+constexpr const char* kExitPage = "Vernacle - Exit ?";
+
+bool Has(const std::string& text, const std::string& part) {
+    return text.find(part) != text.npos;
+}
+
+// The program stands in a folder of its own, as an installed one with its files beside it.
+class ProgramTest : public EngineTest {
+protected:
+    void SetUp() override {
+        const std::string missing = Display::Missing();
+        if (!missing.empty()) {
+            GTEST_SKIP() << "not installed:" << missing;
+        }
+        std::filesystem::create_directories(Path("program"));
+        std::filesystem::create_directories(Path("home"));
+        for (const char* file : {VERNACLE_PROGRAM, VERNACLE_GALLERY, VERNACLE_CALIBRATION}) {
+            const std::filesystem::path source(file);
+            std::filesystem::copy_file(source, Path("program") / source.filename());
+        }
+        display = std::make_unique<Display>();
+    }
+
+    void Start(const std::string& program, const std::vector<std::string>& arguments = {}) {
+        std::vector<std::string> words = {Path("program/" + program)};
+        words.insert(words.end(), arguments.begin(), arguments.end());
+        std::vector<std::string> environment = display->Environment();
+        environment.insert(environment.end(),
+                           {"HOME=" + Path("home"), "XDG_CONFIG_HOME=" + Path("home/.config"),
+                            "XDG_DATA_HOME=" + Path("home/.local"),
+                            "XDG_RUNTIME_DIR=" + Path("home")});
+        process = std::make_unique<BackgroundProgram>(words, environment);
+    }
+
+    std::string LastSession() const { return Path("program/LASTSESSION.VRN"); }
+
+    void ExpectWindow(const std::string& title) const {
+        ASSERT_TRUE(display->WaitForWindow(title))
+            << "no window \"" << title << "\", but \"" << display->FocusedTitle() << "\"";
+    }
+
+    // From the opening page, by its second button.
+    void ChooseLastSession() const {
+        display->Press("Tab");
+        display->Press("space");
+    }
+
+    void GoToPlate() const {
+        display->Press("ctrl+1");
+        ExpectWindow("Vernacle - Plate design - " + LastSession());
+    }
+
+    void ReplaceText(const std::string& text) const {
+        display->Press("ctrl+a");
+        display->Type(text);
+    }
+
+    std::unique_ptr<Display> display;
+    std::unique_ptr<BackgroundProgram> process;
+};
+
+TEST_F(ProgramTest, ASessionIsTakenUpAgain) {
+    Start("vernacle");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
+    ChooseLastSession();
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // there is none yet, says its box
+    display->Press("Return");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + LastSession()));
+    ASSERT_NO_FATAL_FAILURE(GoToPlate());
+    ReplaceText("97.5"); // the first box of the page
+    display->Press("ctrl+q");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kExitPage));
+    display->Press("Tab");
+    display->Press("space");
+    EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
+    EXPECT_TRUE(Has(ReadFile("program/LASTSESSION.VRN"), "\r\nPlate width: 97.5\r\n"));
+
+    // The second day, left by the close box.
+    Start("vernacle");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
+    ChooseLastSession();
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + LastSession()));
+    ASSERT_NO_FATAL_FAILURE(GoToPlate());
+    display->Press("Tab"); // the width's illustration
+    display->Press("Tab");
+    ReplaceText("66.25");
+    display->Press("alt+F4");
+    EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
+    const std::string session = ReadFile("program/LASTSESSION.VRN");
+    EXPECT_TRUE(Has(session, "\r\nPlate width: 97.5\r\nPlate height: 66.25\r\n")) << session;
+}
+
+TEST_F(ProgramTest, ADesignIsOpenedSavedAndLeft) {
+    std::filesystem::copy_file(VERNACLE_EXAMPLE, Path("plate.VRN"));
+    Start("vernacle");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
+    display->Press("ctrl+o");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Get Vernacle File"));
+    display->Type(Path("plate.VRN"));
+    display->Press("Return");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + Path("plate.VRN")));
+    display->Press("ctrl+s");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Save Vernacle file"));
+    ReplaceText(Path("copy"));
+    display->Press("Return");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + Path("plate.VRN")));
+    display->Press("ctrl+2");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Scale design - " + Path("copy.VRN")));
+    EXPECT_TRUE(Has(ReadFile("copy.VRN"), "Scale title:AMPERES\r\n"));
+    EXPECT_FALSE(Exists("program/LASTSESSION.VRN"));
+    display->Press("alt+F4");
+    EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
+    EXPECT_TRUE(Exists("program/LASTSESSION.VRN"));
+}
+
+TEST_F(ProgramTest, ARunTimeErrorShowsItsBoxAndEndsTheProcessWithItsStatus) {
+    std::string design = ReadFile(std::filesystem::relative(VERNACLE_EXAMPLE, Path("")).string());
+    const std::string tics = "Number of ticmarks: 30";
+    ASSERT_TRUE(Has(design, tics));
+    design.replace(design.find(tics), tics.size(), "Number of ticmarks: 0");
+    Start("vernacle-gallery", {"frmScales", WriteFile("plate.VRN", design)});
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Run-time error"));
+    EXPECT_TRUE(process->IsRunning()) << "until it has been read";
+    display->Press("Return");
+    EXPECT_EQ(process->Wait(kPatience), 3);
+}
+
+} // namespace
+
+} // namespace vernacle::test

@@ -1,0 +1,48 @@
+#include "apptest.h"
+
+#include "platform/walk.h"
+
+namespace vernacle::test {
+namespace {
+
+struct TitleRow {
+    const char* form;
+    const char* title;
+};
+
+class TitlesTest : public AppTest {};
+
+constexpr TitleRow kDesignPages[] = {
+    {"frmPlate", "Vernacle - Plate design"},
+    {"frmScales", "Vernacle - Scale design"},
+    {"frmPreview", "Vernacle - Preview"},
+};
+
+TEST_F(TitlesTest, DesignPagesNameTheFile) {
+    for (const TitleRow& row : kDesignPages) {
+        Design.DesignFileName.clear();
+        EXPECT_EQ(TitleOf(OpenPage(row.form)), row.title);
+        Design.DesignFileName = "/designs/Prüf plate.VRN";
+        EXPECT_EQ(TitleOf(Page()), row.title) << "set only when the page loads";
+        EXPECT_EQ(TitleOf(OpenPage(row.form)),
+                  std::string(row.title) + " - /designs/Prüf plate.VRN");
+    }
+}
+
+constexpr TitleRow kOtherForms[] = {
+    {"frmOpening", "Vernacle - Welcome !"},
+    {"frmExit", "Vernacle - Exit ?"},
+    {"frmCalibrate", "Vernacle - Calibration routine"},
+};
+
+TEST_F(TitlesTest, OtherFormsDoNot) {
+    for (const TitleRow& row : kOtherForms) {
+        for (const char* file : {"", "/designs/mine.VRN"}) {
+            Design.DesignFileName = file;
+            EXPECT_EQ(TitleOf(*MakeForm(row.form)), row.title);
+        }
+    }
+}
+
+} // namespace
+} // namespace vernacle::test

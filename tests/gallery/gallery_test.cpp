@@ -1,0 +1,260 @@
+// The gallery as a process: pictures of every form at the size that was asked for, what a load does
+// to a design, and an answer in words and status to what cannot be done.
+#include <algorithm>
+#include <set>
+#include <sstream>
+
+#include <QImage>
+
+#include "app/forms.h"
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "support/enginetest.h"
+#include "support/process.h"
+
+namespace vernacle::test {
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+constexpr const char* kPatience = "120"; // seconds
+constexpr QSize kSmallScreen(1024, 768);
+constexpr QSize kLargeScreen(3840, 2160);
+constexpr std::size_t kFewestColours = 4; // of a form that shows anything
+
+bool Has(const std::string& text, const std::string& part) {
+    return text.find(part) != text.npos;
+}
+
+QImage Picture(const std::string& path) {
+    return QImage(QString::fromStdString(path));
+}
+
+bool IsBlank(const QImage& image) {
+    std::set<QRgb> colours;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            colours.insert(image.pixel(x, y));
+            if (colours.size() >= kFewestColours) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+class GalleryTest : public EngineTest {
+protected:
+    ProcessResult Gallery(const Words& arguments, ProcessSetting setting = {}) const {
+        Words words = {kPatience, VERNACLE_GALLERY};
+        words.insert(words.end(), arguments.begin(), arguments.end());
+        setting.environment.insert(setting.environment.begin(),
+                                   {"-uQT_QPA_PLATFORM", "QT_LOGGING_RULES=default.warning=false",
+                                    "HOME=" + Path("."), "XDG_RUNTIME_DIR=" + Path(".")});
+        return RunProgram("timeout", words, setting);
+    }
+
+    // With a picture, and success without a word.
+    QImage Shot(Words arguments, const ProcessSetting& setting = {}) const {
+        arguments.insert(arguments.end(), {"--shot", Path("shot.png")});
+        const ProcessResult result = Gallery(arguments, setting);
+        EXPECT_EQ(result.status, EXIT_SUCCESS) << result.err;
+        EXPECT_EQ(result.err, "");
+        return Picture(Path("shot.png"));
+    }
+
+    // The field's line of a dump that ends a shot of the form.
+    std::string Dumped(const Words& arguments, const std::string& field) const {
+        Words words = arguments;
+        words.insert(words.end(), {"--dump", Path("dump.txt")});
+        Shot(words);
+        std::istringstream lines(ReadFile("dump.txt"));
+        for (std::string line; std::getline(lines, line);) {
+            if (line.starts_with(field + " = ")) {
+                return line;
+            }
+        }
+        return "no " + field;
+    }
+
+    // A reset design with what change does to it, as a file.
+    template <typename Change>
+    std::string DesignFile(const Change& change) const {
+        SetOpeningValues();
+        ResetDesign();
+        change();
+        Design.DesignFileName = Path("plate.VRN");
+        WriteDesign();
+        return Path("plate.VRN");
+    }
+};
+
+class GalleryFormTest : public GalleryTest, public ::testing::WithParamInterface<std::string> {};
+
+TEST_P(GalleryFormTest, IsTakenAtTheSizeThatWasAskedFor) {
+    const QImage small = Shot({GetParam(), "--size", "1024x768"});
+    const QImage large = Shot({GetParam(), "--size", "3840x2160@2"});
+    const bool isPage = small.size() == kSmallScreen;
+    if (isPage) {
+        EXPECT_EQ(large.size(), kLargeScreen);
+    } else { // stands above a page
+        EXPECT_LE(small.width(), kSmallScreen.width());
+        EXPECT_LE(small.height(), kSmallScreen.height());
+        EXPECT_LE(large.width(), kLargeScreen.width());
+        EXPECT_LE(large.height(), kLargeScreen.height());
+        EXPECT_GE(large.width(), small.width() * 3 / 2) << "made for two pixels to one";
+    }
+    const std::set<std::string> pages = {"frmOpening", "frmPlate",   "frmScales", "frmPreview",
+                                         "frmText",    "frmGraphic", "frmBlank"};
+    EXPECT_TRUE(isPage || !pages.contains(GetParam()));
+    if (GetParam() != "frmBlank") {
+        EXPECT_FALSE(IsBlank(small));
+        EXPECT_FALSE(IsBlank(large));
+    }
+}
+
+std::vector<std::string> AllForms() {
+    std::vector<std::string> names;
+    for (const FormRow& row : ProgramForms()) {
+        names.emplace_back(row.name);
+    }
+    return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, GalleryFormTest, ::testing::ValuesIn(AllForms()),
+                         [](const auto& row) { return row.param; });
+
+TEST_F(GalleryTest, APlainOffscreenPlatformGetsTheScreenToo) {
+    ProcessSetting setting;
+    setting.environment = {"QT_QPA_PLATFORM=offscreen"};
+    const QImage page = Shot({"frmScales", "--size", "1280x800"}, setting);
+    EXPECT_EQ(page.size(), QSize(1280, 800));
+}
+
+TEST_F(GalleryTest, AFormIsShownOverItsDesign) {
+    const std::string design = DesignFile([] { Design.ScaleTitle[1] = "MILLIVOLTS"; });
+    const QImage usual = Shot({"frmPreview", "--size", "1024x768"});
+    const QImage page = Shot({"frmPreview", design, "--size", "1024x768"});
+    EXPECT_NE(page, usual);
+    EXPECT_EQ(Dumped({"frmPreview", design}, "ScaleTitle[1]"), "ScaleTitle[1] = \"MILLIVOLTS\"");
+    EXPECT_EQ(Dumped({"frmPreview", design}, "DesignFileName"),
+              "DesignFileName = \"" + design + "\"");
+}
+
+TEST_F(GalleryTest, ALoadsConsequencesAreDumped) {
+    const std::string design = DesignFile([] {
+        Design.PlateWidth = 500;
+        Design.NrOfTicmarks[1] = 0;
+        Design.CurrentScale = 0;
+    });
+    EXPECT_EQ(Dumped({"frmPlate", design}, "PlateWidth"), "PlateWidth = 180");
+    EXPECT_EQ(Dumped({"frmPreview", design}, "PlateWidth"), "PlateWidth = 180");
+    EXPECT_EQ(Dumped({"frmPreview", design}, "NrOfTicmarks[1]"), "NrOfTicmarks[1] = 50");
+    EXPECT_EQ(Dumped({"frmAbout", design}, "PlateWidth"), "PlateWidth = 500") << "no page, no load";
+}
+
+TEST_F(GalleryTest, WithoutADesignThereAreTheDefaults) {
+    EXPECT_EQ(Dumped({"frmPreview"}, "DesignFileName"), "DesignFileName = \"\"");
+    EXPECT_EQ(Dumped({"frmPreview"}, "ScaleTitle[1]"), "ScaleTitle[1] = \"Default Scale 1\"");
+}
+
+TEST_F(GalleryTest, WhatStartsDisabledCanBeEnabled) {
+    const QImage usual = Shot({"frmPlate", "--size", "1024x768"});
+    EXPECT_EQ(Shot({"frmPlate", "--size", "1024x768"}), usual) << "the same each time";
+    EXPECT_NE(Shot({"frmPlate", "--size", "1024x768", "--enable-all"}), usual);
+}
+
+TEST_F(GalleryTest, TheFontCanBeLarger) {
+    const QImage small = Shot({"frmAbout", "--font", "9"});
+    const QImage large = Shot({"frmAbout", "--font", "14"});
+    EXPECT_GT(large.width(), small.width());
+    EXPECT_GT(large.height(), small.height());
+}
+
+TEST_F(GalleryTest, AnUnknownFormIsWrongUsageAndTheKnownOnesAreNamed) {
+    const ProcessResult result = Gallery({"frmNone", "--shot", Path("shot.png")});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.out, "");
+    EXPECT_TRUE(Has(result.err, "\"frmNone\"")) << result.err;
+    for (const std::string& name : AllForms()) {
+        EXPECT_TRUE(Has(result.err, "\n  " + name + "\n")) << name;
+    }
+    EXPECT_FALSE(Exists("shot.png"));
+}
+
+TEST_F(GalleryTest, WrongUsageIsSaid) {
+    EXPECT_EQ(Gallery({}).status, 2);
+    const ProcessResult result = Gallery({"frmPlate", "--size", "12"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(result.err.starts_with("vernacle-gallery: --size ")) << result.err;
+    EXPECT_TRUE(Has(Gallery({"--help"}).out, "Usage: vernacle-gallery"));
+    EXPECT_EQ(Gallery({"--help"}).status, EXIT_SUCCESS);
+}
+
+TEST_F(GalleryTest, ADesignThatDoesNotExistIsSaid) {
+    const std::string missing = Path("missing.VRN");
+    for (const Words& words :
+         {Words{"frmPlate", missing}, Words{"frmPlate", missing, "--shot", Path("shot.png")},
+          Words{"frmPlate", Path("."), "--shot", Path("shot.png")}}) {
+        const ProcessResult result = Gallery(words);
+        EXPECT_EQ(result.status, EXIT_FAILURE);
+        EXPECT_TRUE(result.err.starts_with("vernacle-gallery: " + words[1])) << result.err;
+    }
+    EXPECT_FALSE(Exists("shot.png"));
+}
+
+// Nobody presses OK on a box while a shot is taken.
+TEST_F(GalleryTest, AMalformedDesignIsSaidAndShownAsTheDefaults) {
+    DesignFile([] { Design.PlateWidth = 99; });
+    std::string text = ReadFile("plate.VRN");
+    const std::string line = "Scale 1 - deleted tics: 0";
+    text.replace(text.find(line), line.size(), "Scale 1 - deleted tics: 1\r\nTic deleted: 361");
+    const std::string design = WriteFile("broken.VRN", text);
+    const ProcessResult result =
+        Gallery({"frmPlate", design, "--shot", Path("shot.png"), "--dump", Path("dump.txt")});
+    EXPECT_EQ(result.status, EXIT_SUCCESS);
+    EXPECT_TRUE(Has(result.err, "We were not successful in reading")) << result.err;
+    EXPECT_TRUE(Has(ReadFile("dump.txt"), "PlateWidth = "));
+    EXPECT_FALSE(Has(ReadFile("dump.txt"), "PlateWidth = 99\n"));
+}
+
+TEST_F(GalleryTest, ARunTimeErrorOfAShotIsSaidAndHasItsStatus) {
+    const std::string design = DesignFile([] { Design.NrOfTicmarks[1] = 0; });
+    const ProcessResult result = Gallery({"frmScales", design, "--shot", Path("shot.png")});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.err.starts_with("vernacle-gallery: run-time error: ")) << result.err;
+    EXPECT_FALSE(Exists("shot.png"));
+}
+
+TEST_F(GalleryTest, APictureThatCannotBeWrittenIsSaid) {
+    for (const std::string& target :
+         {Path("no/folder/shot.png"), Path("."), std::string("/dev/full")}) {
+        const ProcessResult result = Gallery({"frmAbout", "--shot", target});
+        EXPECT_EQ(result.status, EXIT_FAILURE) << target;
+        EXPECT_TRUE(Has(result.err, "vernacle-gallery: " + target)) << result.err;
+    }
+}
+
+TEST_F(GalleryTest, ADumpThatCannotBeWrittenIsSaid) {
+    for (const std::string& target :
+         {Path("no/folder/dump.txt"), Path("."), std::string("/dev/full")}) {
+        const ProcessResult result =
+            Gallery({"frmAbout", "--shot", Path("shot.png"), "--dump", target});
+        EXPECT_EQ(result.status, EXIT_FAILURE) << target;
+        EXPECT_TRUE(Has(result.err, "vernacle-gallery: " + target)) << result.err;
+    }
+}
+
+TEST_F(GalleryTest, AFullDiskIsSaid) {
+    ProcessSetting setting;
+    setting.largestFileBytes = 2000;
+    const ProcessResult result =
+        Gallery({"frmScales", "--size", "1024x768", "--shot", Path("shot.png")}, setting);
+    EXPECT_EQ(result.status, EXIT_FAILURE);
+    EXPECT_TRUE(Has(result.err, "vernacle-gallery: " + Path("shot.png"))) << result.err;
+}
+
+} // namespace
+
+} // namespace vernacle::test

@@ -1,0 +1,171 @@
+#include "platform/helpviewer.h"
+
+#include <set>
+
+#include <QFile>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QTextBrowser>
+#include <QWindow>
+
+#include "platform/walk.h"
+#include "support/formtest.h"
+
+namespace vernacle::test {
+namespace {
+
+constexpr const char* kTopics[] = {
+    "vplate.htm",   "vscales.htm",    "vpreview.htm",
+    "vgraphic.htm", "vsignature.htm", "vhighlights.htm",
+};
+
+class HelpViewerTest : public FormTest {
+protected:
+    ~HelpViewerTest() override {
+        if (QWidget* book = Book()) {
+            book->close();
+        }
+    }
+
+    static QWidget* Book() {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("HelpViewer") && window->isVisible()) {
+                return window;
+            }
+        }
+        return nullptr;
+    }
+
+    static QTextBrowser& Topic() {
+        if (!Book()) {
+            throw std::runtime_error("no help window");
+        }
+        return *Book()->findChild<QTextBrowser*>();
+    }
+
+    static std::string ShownTopic() { return Topic().source().fileName().toStdString(); }
+    static QString TextOfTopic() { return Topic().toPlainText(); }
+
+    static QString Source(const std::string& file) {
+        QFile topic(QStringLiteral(":/Vernacle.CHM/") + QString::fromStdString(file));
+        EXPECT_TRUE(topic.open(QIODevice::ReadOnly)) << file;
+        return QString::fromUtf8(topic.readAll());
+    }
+
+    // The files that the topic names in that attribute.
+    static QStringList NamedIn(const QString& source, const char* attribute) {
+        const QRegularExpression named(QLatin1String(attribute) +
+                                       QStringLiteral("=\"([^\"#:]+)[\"#]"));
+        QStringList files;
+        for (auto found = named.globalMatch(source); found.hasNext();) {
+            files << found.next().captured(1);
+        }
+        return files;
+    }
+};
+
+TEST_F(HelpViewerTest, BookHasItsSixTopics) {
+    const QWidget& page = OpenPage("frmPlate");
+    std::set<std::string> titles;
+    for (const char* topic : kTopics) {
+        ShowHelp(page, topic);
+        EXPECT_EQ(ShownTopic(), topic);
+        EXPECT_GT(TextOfTopic().size(), 500) << topic;
+        titles.insert(Topic().documentTitle().toStdString());
+    }
+    EXPECT_EQ(titles.size(), 6U) << "each about its own page";
+}
+
+TEST_F(HelpViewerTest, TopicsHavePicturesAndSoundLinks) {
+    for (const char* topic : kTopics) {
+        const QString source = Source(topic);
+        const QStringList pictures = NamedIn(source, "src");
+        EXPECT_FALSE(pictures.isEmpty()) << topic;
+        for (const QString& file : pictures + NamedIn(source, "href")) {
+            EXPECT_TRUE(QFile::exists(QStringLiteral(":/Vernacle.CHM/") + file))
+                << topic << ": " << file.toStdString();
+        }
+    }
+}
+
+TEST_F(HelpViewerTest, PicturesAreShown) {
+    const QWidget& page = OpenPage("frmPlate");
+    for (const char* topic : kTopics) {
+        ShowHelp(page, topic);
+        for (const QString& file : NamedIn(Source(topic), "src")) {
+            const QVariant picture = Topic().loadResource(QTextDocument::ImageResource,
+                                                          Topic().source().resolved(QUrl(file)));
+            EXPECT_FALSE(QImage::fromData(picture.toByteArray()).isNull()) << file.toStdString();
+        }
+    }
+}
+
+TEST_F(HelpViewerTest, WindowIsNotModalAndStandsBesideThePage) {
+    const QWidget& page = OpenPage("frmPlate");
+    ShowHelp(page, "vplate.htm");
+    QWidget& book = *Book();
+    EXPECT_TRUE(book.isWindow());
+    EXPECT_EQ(book.windowModality(), Qt::NonModal);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(book.windowHandle()->transientParent(), page.windowHandle()) << "stays above it";
+    const QRect screen = page.screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(book.geometry()));
+    EXPECT_GE(book.x(), screen.width() / 2) << "the page's left half stays free";
+    EXPECT_FALSE(Topic().accessibleName().isEmpty());
+    EXPECT_EQ(book.windowTitle().toStdString(), "Vernacle - Help");
+}
+
+TEST_F(HelpViewerTest, OneWindowForAllTopics) {
+    const QWidget& page = OpenPage("frmPlate");
+    ShowHelp(page, "vplate.htm");
+    const QWidget* book = Book();
+    book->findChild<QTextBrowser*>()->window()->move(10, 20);
+    ShowHelp(page, "vscales.htm");
+    EXPECT_EQ(Book(), book);
+    EXPECT_EQ(book->pos(), QPoint(10, 20)) << "where its user put it";
+}
+
+TEST_F(HelpViewerTest, StaysAboveEveryNextPage) {
+    ShowHelp(OpenPage("frmPlate"), "vplate.htm");
+    const QPointer<QWidget> book = Book();
+    for (const char* next : {"frmScales", "frmPreview"}) {
+        OpenPage(next);
+        ASSERT_FALSE(book.isNull());
+        EXPECT_TRUE(book->isVisible());
+        EXPECT_EQ(book->windowHandle()->transientParent(), Page().windowHandle());
+        EXPECT_EQ(ShownTopic(), "vplate.htm");
+        EXPECT_TRUE(Page().isActiveWindow()) << "the keys stay with the page";
+    }
+    ReloadPage();
+    Settle();
+    ASSERT_FALSE(book.isNull());
+    EXPECT_TRUE(book->isVisible());
+    EXPECT_EQ(book->windowHandle()->transientParent(), Page().windowHandle());
+}
+
+TEST_F(HelpViewerTest, ClosedBookStaysClosed) {
+    ShowHelp(OpenPage("frmPlate"), "vplate.htm");
+    Book()->activateWindow();
+    Settle();
+    QTest::keyClick(Book(), Qt::Key_Escape);
+    Settle();
+    EXPECT_EQ(Book(), nullptr);
+    OpenPage("frmScales");
+    EXPECT_EQ(Book(), nullptr);
+    ShowHelp(Page(), "vscales.htm");
+    EXPECT_EQ(ShownTopic(), "vscales.htm");
+}
+
+TEST_F(HelpViewerTest, MissingTopicIsSilent) {
+    const QWidget& page = OpenPage("frmPlate");
+    for (const char* topic : {"vnone.htm", "", "../vplate.htm"}) {
+        ShowHelp(page, topic);
+        EXPECT_EQ(Book(), nullptr) << topic;
+    }
+    EXPECT_TRUE(said.empty());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+} // namespace
+} // namespace vernacle::test

@@ -1,0 +1,156 @@
+#include "support/formtest.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QTimer>
+#include <QWindow>
+
+#include "app/forms.h"
+#include "core/design.h"
+#include "core/seam.h"
+#include "platform/entrybox.h"
+#include "platform/host.h"
+#include "platform/optionbutton.h"
+#include "platform/picturebox.h"
+#include "platform/walk.h"
+#include "support/recordingsurface.h"
+
+namespace vernacle::test {
+
+namespace {
+
+constexpr int kRetryMs = 5;
+constexpr double kClockStep = 10; // seconds: longer than any wait
+
+} // namespace
+
+FormTest::FormTest() {
+    const HostSeam desktop = DesktopHost();
+    Host.screenSize = desktop.screenSize;
+    Host.servePendingEvents = desktop.servePendingEvents;
+    Host.pause = [] {};
+    Host.clockSeconds = [this] { return clock_ += kClockStep; };
+    SetForms(ProgramForms());
+    SetVersionAndScreenScale();
+    SetOpeningValues();
+    ResetDesign();
+    Design.ActiveScale = 1;
+    Design.CalibrationX = Design.CalibrationY = 1;
+}
+
+FormTest::~FormTest() {
+    UnloadPage();
+    Settle();
+    EXPECT_TRUE(answers_.empty()) << "a dialog that was to be answered never came";
+    answers_.clear();
+}
+
+QWidget& FormTest::OpenPage(const std::string& name) {
+    GoToPage(name);
+    Settle();
+    return Page();
+}
+
+QWidget& FormTest::Page() const {
+    if (!CurrentPage()) {
+        throw std::runtime_error("no page is shown");
+    }
+    return *CurrentPage();
+}
+
+EntryBox& FormTest::Box(const std::string& name) const {
+    return Find<EntryBox>(name);
+}
+
+OptionButton& FormTest::Option(const std::string& name) const {
+    return Find<OptionButton>(name);
+}
+
+PictureBox& FormTest::Picture(const std::string& name) const {
+    return Find<PictureBox>(name);
+}
+
+void FormTest::Type(const std::string& box, const std::string& text) const {
+    EntryBox& entry = Box(box);
+    entry.setFocus();
+    entry.selectAll();
+    QTest::keyClick(&entry, Qt::Key_Delete);
+    QTest::keyClicks(&entry, QString::fromStdString(text));
+}
+
+void FormTest::Paste(const std::string& box, const std::string& text) const {
+    EntryBox& entry = Box(box);
+    entry.selectAll();
+    entry.insert(QString::fromStdString(text));
+}
+
+void FormTest::Click(const std::string& control) const {
+    Click(Find(control));
+}
+
+void FormTest::Click(QWidget& control) {
+    // Beside its left edge, where an option has its mark.
+    const QPoint at(std::min(control.width() / 2, 10), control.height() / 2);
+    QTest::mouseClick(&control, Qt::LeftButton, {}, at);
+}
+
+std::string FormTest::TextOf(const std::string& box) const {
+    return Box(box).Text();
+}
+
+std::vector<std::string> FormTest::CallsOf(const std::string& picture) const {
+    RecordingSurface surface;
+    Picture(picture).Record().Replay(surface);
+    return surface.calls;
+}
+
+std::vector<std::string> FormTest::TextsOf(const std::string& picture) const {
+    RecordingSurface surface;
+    Picture(picture).Record().Replay(surface);
+    return surface.texts;
+}
+
+void FormTest::Answer(std::function<void(QWidget&)> answer) {
+    answers_.push_back(std::move(answer));
+    if (answers_.size() == 1) {
+        AnswerNext();
+    }
+}
+
+void FormTest::AnswerNext() {
+    QTimer::singleShot(kRetryMs, &context_, [this] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog || !dialog->isVisible()) {
+            AnswerNext();
+            return;
+        }
+        const auto answer = answers_.front();
+        answers_.erase(answers_.begin());
+        if (!answers_.empty()) {
+            AnswerNext();
+        }
+        answer(*dialog);
+    });
+}
+
+void FormTest::CloseByUser(QWidget& window) {
+    QCloseEvent event; // as the window system sends it
+    QApplication::sendEvent(window.windowHandle(), &event);
+}
+
+bool FormTest::TakeProcessEnd() {
+    constexpr int kGoesOn = 5;
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&loop] { loop.exit(kGoesOn); });
+    const bool ended = loop.exec() != kGoesOn; // a loop of an ending process returns at once
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+    QApplication::exec(); // takes the end back
+    return ended;
+}
+
+void FormTest::Settle() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+} // namespace vernacle::test

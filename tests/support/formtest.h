@@ -1,0 +1,92 @@
+// The fixture of the forms' tests: the program's own forms under a platform without windows, on a
+// screen of 1920 x 1080, driven by keys and clicks. Waits pass at once; messages are kept in said,
+// and all other dialogs are the real ones.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+
+#include "support/enginetest.h"
+
+namespace vernacle {
+
+class EntryBox;
+class OptionButton;
+class PictureBox;
+
+} // namespace vernacle
+
+namespace vernacle::test {
+
+class FormTest : public EngineTest {
+protected:
+    // The design as the program starts with it, and reset as a new one.
+    FormTest();
+    ~FormTest() override;
+
+    // Walks to that page and gives it.
+    QWidget& OpenPage(const std::string& name);
+    QWidget& Page() const; // the one that is shown
+
+    // The control of that name on the page, or on a form.
+    template <typename Control>
+    Control& On(const QWidget& form, const std::string& name) const {
+        auto* control = form.findChild<Control*>(QString::fromStdString(name));
+        if (!control) {
+            throw std::runtime_error("no control " + name);
+        }
+        return *control;
+    }
+    template <typename Control = QWidget>
+    Control& Find(const std::string& name) const {
+        return On<Control>(Page(), name);
+    }
+    EntryBox& Box(const std::string& name) const;
+    OptionButton& Option(const std::string& name) const;
+    PictureBox& Picture(const std::string& name) const;
+
+    // As a user: replaces the box's text by typed keys, presses a control, steps a box's arrows.
+    void Type(const std::string& box, const std::string& text) const;
+    void Click(const std::string& control) const;
+    static void Click(QWidget& control);
+    void StepUp(const std::string& upDown) const { Click(upDown + "Up"); }
+    void StepDown(const std::string& upDown) const { Click(upDown + "Down"); }
+
+    // Writes the text in one go, as a paste does.
+    void Paste(const std::string& box, const std::string& text) const;
+
+    std::string TextOf(const std::string& box) const;
+
+    // The calls of which the picture consists now, as the recording surface writes them.
+    std::vector<std::string> CallsOf(const std::string& picture) const;
+    std::vector<std::string> TextsOf(const std::string& picture) const;
+
+    // Once the next modal dialog or form is open, answer is called with it; it has to close it.
+    // Several answers wait for one dialog after the other.
+    void Answer(std::function<void(QWidget& dialog)> answer);
+    // Whether all answers have been asked for.
+    bool AllAnswered() const { return answers_.empty(); }
+
+    // The user closes the window, by its close box or whatever gesture.
+    static void CloseByUser(QWidget& window);
+
+    // Whether code has asked for the process to end; asking takes it back.
+    static bool TakeProcessEnd();
+
+    // Lets deferred deletions and pending events happen.
+    static void Settle();
+
+private:
+    void AnswerNext();
+
+    std::vector<std::function<void(QWidget&)>> answers_;
+    QObject context_;
+    double clock_ = 0;
+};
+
+} // namespace vernacle::test
