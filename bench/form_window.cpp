@@ -1,0 +1,41 @@
+// One page of the program up to its first paint: "form_window FORM [DESIGN]". For frmOpening this
+// is the program's own start.
+#include "app/forms.h"
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "firstpaint.h"
+#include "platform/application.h"
+#include "platform/host.h"
+#include "screen.h"
+
+namespace {
+
+using namespace vernacle;
+
+void OpenDesign(const char* path) {
+    SetVersionAndScreenScale();
+    SetOpeningValues();
+    Design.DesignFileName = path;
+    ReadDesign(path);
+    Design.ActiveScale = 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2) {
+        return EXIT_FAILURE;
+    }
+    const bench::FullHdScreen screen;
+    Application application(argc, argv);
+    bench::EndAtFirstPaint end;
+    application.installEventFilter(&end);
+    Host = DesktopHost();
+    SetForms(ProgramForms());
+    if (argc > 2) {
+        OpenDesign(argv[2]);
+    }
+    QMetaObject::invokeMethod(
+        &application, [argv] { GoToPage(argv[1]); }, Qt::QueuedConnection);
+    return QApplication::exec();
+}

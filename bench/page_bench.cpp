@@ -1,0 +1,82 @@
+// A keystroke on the scales page, from the key to the finished picture, on a screen of 1920 x 1080
+// with the dense example.
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+#include <string>
+
+#include <QKeyEvent>
+
+#include "app/forms.h"
+#include "core/design.h"
+#include "core/readwrite.h"
+#include "platform/application.h"
+#include "platform/entrybox.h"
+#include "platform/host.h"
+#include "screen.h"
+
+namespace vernacle::bench {
+namespace {
+
+// Of this process now, MB.
+double ResidentMemory() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.rfind("VmRSS:", 0) == 0) {
+            return std::stod(line.substr(6)) / 1024;
+        }
+    }
+    return 0;
+}
+
+EntryBox& OpenScalesPage(const char* box) {
+    Design.DesignFileName = VERNACLE_EXAMPLES "/DEGREES-0-360.VRN";
+    ReadDesign(Design.DesignFileName);
+    Design.ActiveScale = 1;
+    GoToPage("frmScales");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the page before
+    QCoreApplication::processEvents();
+    return *CurrentPage()->findChild<EntryBox*>(QLatin1String(box));
+}
+
+void Press(QWidget& box, Qt::Key key, const QString& text = {}) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&box, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&box, &release);
+    QCoreApplication::processEvents(); // paints
+}
+
+// A digit typed and removed in turn.
+void Keystroke(benchmark::State& state, const char* name) {
+    EntryBox& box = OpenScalesPage(name);
+    bool typed = false;
+    for ([[maybe_unused]] auto _ : state) {
+        if (typed) {
+            Press(box, Qt::Key_Backspace);
+        } else {
+            Press(box, Qt::Key_1, QStringLiteral("1"));
+        }
+        typed = !typed;
+    }
+    state.counters["resident_MB"] = ResidentMemory();
+}
+BENCHMARK_CAPTURE(Keystroke, Title, "txtScaleTitle")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Keystroke, Ceiling, "txtBottomToScaleCeiling")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Keystroke, LeftEnd, "txtScaleLeftEnd")->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace vernacle::bench
+
+int main(int argc, char** argv) {
+    using namespace vernacle;
+    const bench::FullHdScreen screen;
+    Application application(argc, argv);
+    Host = DesktopHost();
+    SetForms(ProgramForms());
+    SetVersionAndScreenScale();
+    SetOpeningValues();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
