@@ -15,6 +15,7 @@ Opens one form of Vernacle by its name, over a design, as the program would.
 Options:
   --size WxH[@RATIO]  screen in device pixels (default 1600x900), and its device ratio (default 1)
   --font POINTS       size of the application's font
+  --dark              the desktop's colours are light on dark
   --enable-all        enable what starts disabled
   --shot FILE.png     take the form's picture and end
   --dump FILE         write every field of the design at the end
@@ -33,6 +34,7 @@ constexpr double kLargestFont = 40;
 enum Option {
     kSizeOption = 1,
     kFontOption,
+    kDarkOption,
     kEnableAllOption,
     kShotOption,
     kDumpOption,
@@ -42,6 +44,7 @@ enum Option {
 constexpr option kOptions[] = {
     {"size", required_argument, nullptr, kSizeOption},
     {"font", required_argument, nullptr, kFontOption},
+    {"dark", no_argument, nullptr, kDarkOption},
     {"enable-all", no_argument, nullptr, kEnableAllOption},
     {"shot", required_argument, nullptr, kShotOption},
     {"dump", required_argument, nullptr, kDumpOption},
@@ -92,6 +95,9 @@ void TakeOption(int option, const char* value, Arguments& arguments) {
         break;
     case kFontOption:
         arguments.fontPoints = CheckedPoints(value);
+        break;
+    case kDarkOption:
+        arguments.dark = true;
         break;
     case kEnableAllOption:
         arguments.enableAll = true;

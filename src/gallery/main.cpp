@@ -170,11 +170,7 @@ int Run(int argc, char** argv) {
         UseScreenOf(arguments);
     }
     Application application(argc, argv);
-    if (arguments.fontPoints > 0) {
-        QFont font = QApplication::font();
-        font.setPointSizeF(arguments.fontPoints);
-        QApplication::setFont(font);
-    }
+    UseLookOf(arguments);
     Host = DesktopHost();
     Exhibit exhibit;
     const auto open = unattended ? OpenUnattended : Open;

@@ -2,7 +2,10 @@
 
 #include <stdexcept>
 
+#include <QApplication>
 #include <QDir>
+#include <QFont>
+#include <QPalette>
 #include <QTemporaryFile>
 
 #include "gallery/arguments.h"
@@ -25,7 +28,31 @@ QByteArray Configuration(const Arguments& arguments) {
            QByteArray::number(arguments.deviceRatio) + "}],\"windowFrameMargins\":false}";
 }
 
+// Light on dark; what is disabled stands between the two.
+QPalette DarkColours() {
+    QPalette colours(QColor(0x30, 0x30, 0x30), QColor(0x28, 0x28, 0x28));
+    const QColor faded(0x80, 0x80, 0x80);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
+        colours.setColor(QPalette::All, role, QColor(0xE8, 0xE8, 0xE8));
+        colours.setColor(QPalette::Disabled, role, faded);
+    }
+    colours.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
+    colours.setColor(QPalette::Link, QColor(0x70, 0xB0, 0xFF));
+    return colours;
+}
+
 } // namespace
+
+void UseLookOf(const Arguments& arguments) {
+    if (arguments.dark) {
+        QApplication::setPalette(DarkColours());
+    }
+    if (arguments.fontPoints > 0) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(arguments.fontPoints);
+        QApplication::setFont(font);
+    }
+}
 
 void UseScreenOf(const Arguments& arguments) {
     const QByteArray named = qgetenv(kPlatform);

@@ -27,6 +27,8 @@ QPalette PaperPalette() {
     QPalette colours;
     colours.setColor(QPalette::Window, kPaper);
     colours.setColor(QPalette::WindowText, Qt::black);
+    colours.setColor(QPalette::Base, Qt::white); // the options' marks
+    colours.setColor(QPalette::Text, Qt::black);
     colours.setColor(QPalette::Disabled, QPalette::WindowText, kFadedInk);
     return colours;
 }

@@ -1,9 +1,11 @@
 #include "platform/helpviewer.h"
 
 #include <QFileInfo>
+#include <QPainter>
 #include <QPointer>
 #include <QScreen>
 #include <QShortcut>
+#include <QSvgRenderer>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -15,6 +17,28 @@ namespace {
 constexpr const char* kBook = ":/Vernacle.CHM/";
 constexpr int kWidestBook = 560; // pixels
 
+// Draws its pictures anew for the screen's pixels: a stretched one is hard to read.
+class TopicBrowser : public QTextBrowser {
+public:
+    using QTextBrowser::QTextBrowser;
+
+    QVariant loadResource(int type, const QUrl& name) override {
+        const QVariant resource = QTextBrowser::loadResource(type, name);
+        if (type != QTextDocument::ImageResource) {
+            return resource;
+        }
+        QSvgRenderer drawing(resource.toByteArray());
+        QImage picture(drawing.defaultSize() * devicePixelRatioF(),
+                       QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        drawing.render(&painter);
+        painter.end();
+        picture.setDevicePixelRatio(devicePixelRatioF());
+        return picture;
+    }
+};
+
 class HelpWindow : public QWidget {
 public:
     HelpWindow() {
@@ -23,7 +47,7 @@ public:
         setWindowTitle(QStringLiteral("Vernacle - Help"));
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins({});
-        topic_ = new QTextBrowser(this);
+        topic_ = new TopicBrowser(this);
         topic_->setObjectName(QStringLiteral("HelpTopic"));
         topic_->setAccessibleName(windowTitle());
         column->addWidget(topic_);

@@ -6,6 +6,7 @@ OptionButton::OptionButton(const char* name, const QString& caption, QWidget* pa
     : QRadioButton(caption, parent) {
     setObjectName(QLatin1String(name));
     setAccessibleName(caption);
+    setBackgroundRole(QPalette::Window); // buttons stand on their own role else
     connect(this, &QRadioButton::clicked, this, [this] { handler_(); });
 }
 

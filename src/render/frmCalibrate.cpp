@@ -47,6 +47,7 @@ frmCalibrate::frmCalibrate()
     AddStep(4, back, *grid);
     nextSteps_.removeOne(back); // the way back is always there
     grid->setColumnStretch(1, 1);
+    grid->setRowStretch(grid->rowCount(), 1);
     setMinimumSize(sizeHint()); // with all steps
     for (QWidget* step : nextSteps_) {
         step->hide();

@@ -41,6 +41,7 @@ TEST(GalleryArgumentsTest, AFormAloneGetsTheUsualScreen) {
     EXPECT_FALSE(arguments.sized);
     EXPECT_EQ(arguments.shot, "");
     EXPECT_FALSE(arguments.enableAll);
+    EXPECT_FALSE(arguments.dark);
     EXPECT_EQ(arguments.dump, "");
     EXPECT_EQ(arguments.fontPoints, 0);
     EXPECT_FALSE(arguments.help);
@@ -49,7 +50,7 @@ TEST(GalleryArgumentsTest, AFormAloneGetsTheUsualScreen) {
 TEST(GalleryArgumentsTest, TakesEveryOption) {
     const Arguments arguments =
         Parsed({"--size", "3840x2160@2", "--shot", "a.png", "--enable-all", "--dump", "b.txt",
-                "--font", "10.5", "frmScales", "my plate.VRN"});
+                "--dark", "--font", "10.5", "frmScales", "my plate.VRN"});
     EXPECT_EQ(arguments.form, "frmScales");
     EXPECT_EQ(arguments.design, "my plate.VRN");
     EXPECT_EQ(arguments.widthPixels, 3840);
@@ -60,6 +61,7 @@ TEST(GalleryArgumentsTest, TakesEveryOption) {
     EXPECT_TRUE(arguments.enableAll);
     EXPECT_EQ(arguments.dump, "b.txt");
     EXPECT_EQ(arguments.fontPoints, 10.5);
+    EXPECT_TRUE(arguments.dark);
     EXPECT_FALSE(arguments.help);
 }
 
@@ -118,7 +120,7 @@ TEST(GalleryArgumentsTest, HelpWantsNoForm) {
 TEST(GalleryArgumentsTest, HelpNamesEveryOption) {
     const std::string help = kHelp;
     for (const char* word : {"vernacle-gallery", "FORM [DESIGN.VRN]", "--size WxH", "1600x900",
-                             "--font", "--enable-all", "--shot", "--dump", "--help"}) {
+                             "--font", "--dark", "--enable-all", "--shot", "--dump", "--help"}) {
         EXPECT_NE(help.find(word), std::string::npos) << word;
     }
 }

@@ -172,6 +172,13 @@ TEST_F(GalleryTest, TheFontCanBeLarger) {
     EXPECT_GT(large.height(), small.height());
 }
 
+TEST_F(GalleryTest, TheColoursCanBeDark) {
+    const QImage light = Shot({"frmAbout"});
+    const QImage dark = Shot({"frmAbout", "--dark"});
+    EXPECT_GT(light.pixelColor(1, 1).lightness(), 0x80);
+    EXPECT_LT(dark.pixelColor(1, 1).lightness(), 0x80);
+}
+
 TEST_F(GalleryTest, AnUnknownFormIsWrongUsageAndTheKnownOnesAreNamed) {
     const ProcessResult result = Gallery({"frmNone", "--shot", Path("shot.png")});
     EXPECT_EQ(result.status, 2);

@@ -88,7 +88,7 @@ protected:
         return Option(option).palette().color(QPalette::Active, QPalette::WindowText);
     }
     QColor GroundOf(const std::string& option) const {
-        return Option(option).palette().color(QPalette::Active, QPalette::Window);
+        return Option(option).grab().toImage().pixelColor(0, 0); // as it is painted
     }
 
     std::vector<std::string> ShownPlate() const { return CallsOf("picPlate"); }
