@@ -9,7 +9,6 @@
 #include "core/entry.h"
 #include "core/readwrite.h"
 #include "platform/formkit.h"
-#include "platform/inkicon.h"
 #include "platform/walk.h"
 
 namespace vernacle {
@@ -46,6 +45,7 @@ frmExit::frmExit() : ModalForm("frmExit", QStringLiteral("Vernacle - Exit ?")) {
     connect(cmdCancel_, &QPushButton::clicked, this, &frmExit::cmdCancelClicked);
     connect(cmdExit_, &QPushButton::clicked, this, &frmExit::cmdExitClicked);
     cmdCancel_->setDefault(true);
+    cmdCancel_->setFocus();
 
     auto* column = new QVBoxLayout(this);
     column->addStretch();

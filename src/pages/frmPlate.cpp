@@ -219,7 +219,7 @@ void frmPlate::AddItem(const NumericItem& item, QGridLayout& grid, int row) {
     arrows->AttachTo(*box, item.arrows);
     QPushButton* help = MakeHelpButton(Sibling("cmd", item.box).c_str(), caption);
     box->OnChange([this, &item] { ItemChanged(item); });
-    connect(help, &QPushButton::clicked, this, [this, &item] { ItemHelpClicked(item); });
+    connect(help, &QPushButton::clicked, this, [this, &item] { Illustrate(item); });
     grid.addWidget(label, row, 0);
     grid.addLayout(MakeStepped(*box, arrows), row, 1);
     grid.addWidget(help, row, 2);
@@ -347,10 +347,10 @@ void frmPlate::ItemChanged(const NumericItem& item) {
     ParseEntry(text, value);
     value = static_cast<float>(std::clamp(double{value}, item.lowest, item.highest));
     WarnOfQuadrant();
-    ItemHelpClicked(item);
+    Illustrate(item);
 }
 
-void frmPlate::ItemHelpClicked(const NumericItem& item) {
+void frmPlate::Illustrate(const NumericItem& item) {
     Design.HelpTopic = item.topic;
     RedrawSchematic();
 }
@@ -396,7 +396,7 @@ void frmPlate::cmdStyleHelpClicked() {
 }
 
 void frmPlate::cmdGetFontClicked() {
-    Design.FontName = Trimmed(AskForFont(this, "Get font", Design.FontName));
+    Design.FontName = Trimmed(AskForFont(this, "Get font", std::string(Trimmed(Design.FontName))));
     if (Design.FontName.empty()) {
         Design.FontName = "Arial";
         Host.informationBox("No font was selected; Arial is being used");

@@ -44,7 +44,7 @@ private:
 
     // Handlers
     void ItemChanged(const NumericItem& item);
-    void ItemHelpClicked(const NumericItem& item);
+    void Illustrate(const NumericItem& item);
     void optStyleClicked(std::int16_t style);
     void optGraphicClicked(const char* yesNo, const char* cleared);
     void cmdCalibrateClicked();

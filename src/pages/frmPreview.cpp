@@ -1,7 +1,6 @@
 #include "pages/frmPreview.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <QGridLayout>
 #include <QVBoxLayout>
@@ -23,7 +22,8 @@ namespace vernacle {
 namespace {
 
 constexpr double kAspectStep = 1.01;
-constexpr LogicalArea kPlateArea{2350, 750, 7300, 7800};
+constexpr LogicalArea kPlateArea{2350, 750, 7300,
+                                 8250}; // to the pointer's length under a high plate
 constexpr int kToolIconSize = 20;
 
 constexpr OwnTip kOwnTips[] = {{"Exit", "Exit"}};
@@ -120,8 +120,8 @@ QLayout* frmPreview::MakeTools() {
 }
 
 void frmPreview::Load() {
-    sizes_ = {Design.FontSize, Design.LabelSpacing};
     NormalizeDesign();
+    sizes_ = {Design.FontSize, Design.LabelSpacing};
     CopyTexts();
     ComputeTicDeflections();
     ComputeTicLabels();
@@ -140,7 +140,7 @@ void frmPreview::CopyTexts() {
         numberOfTexts_ += texts_[text].empty() ? 0 : 1;
     }
     plate_->setAccessibleDescription(
-        QStringLiteral("Free texts that only a plotter writes: %1").arg(numberOfTexts_));
+        QStringLiteral("Free texts of the design: %1").arg(numberOfTexts_));
 }
 
 void frmPreview::Draw() {

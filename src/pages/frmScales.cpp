@@ -110,6 +110,8 @@ void frmScales::FillPartner() {
 }
 
 void frmScales::ShowPrintTics() {
+    OptionNumber(7).Unselect(); // a value that is neither shows neither
+    OptionNumber(8).Unselect();
     const double left = NumberOf(Design.PrintTicsAndArcs[Design.ActiveScale]);
     if (left == 0) {
         OptionNumber(7).Select();

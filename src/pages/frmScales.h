@@ -2,6 +2,8 @@
 // drawn anew at every change.
 #pragma once
 
+#include <initializer_list>
+#include <span>
 #include <string>
 
 #include "core/slot.h"

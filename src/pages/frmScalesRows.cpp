@@ -18,7 +18,7 @@ namespace {
 using D = DesignRecord;
 
 constexpr double kNoLimit = std::numeric_limits<double>::infinity();
-constexpr LogicalArea kPlateArea{0, 900, 6800, 7000};
+constexpr LogicalArea kPlateArea{-400, 900, 7600, 7000}; // trim marks of the widest aspect too
 constexpr QColor kPaper(0xF4, 0xF4, 0xF4);
 constexpr QColor kFadedInk(0x90, 0x90, 0x90);
 

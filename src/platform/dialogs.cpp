@@ -29,7 +29,7 @@ std::string Chosen(const QFileDialog& dialog) {
 std::string AskForFileToOpen(QWidget* parent, const FileQuestion& question) {
     QFileDialog dialog(parent, QString::fromUtf8(question.title));
     Prepare(dialog, "dlgOpen", question);
-    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setFileMode(QFileDialog::AnyFile); // a missing file is the reader's to report
     return dialog.exec() == QDialog::Accepted ? Chosen(dialog) : std::string();
 }
 

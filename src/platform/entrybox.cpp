@@ -53,7 +53,8 @@ void EntryBox::SetBackground(const QColor& colour) {
 }
 
 void EntryBox::keyPressEvent(QKeyEvent* event) {
-    const bool steps = arrows_ && arrows_->isEnabled() && event->modifiers() == Qt::NoModifier;
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool steps = arrows_ && arrows_->isEnabled() && plain;
     if (steps && event->key() == Qt::Key_Up) {
         arrows_->Up();
     } else if (steps && event->key() == Qt::Key_Down) {

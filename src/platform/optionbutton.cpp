@@ -22,18 +22,16 @@ void OptionButton::Unselect() {
 }
 
 void OptionButton::SetInk(const QColor& colour) {
-    SetColour(QPalette::WindowText, colour);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Active, QPalette::WindowText, colour); // faded while it is disabled
+    colours.setColor(QPalette::Inactive, QPalette::WindowText, colour);
+    setPalette(colours);
 }
 
 void OptionButton::SetGround(const QColor& colour) {
     setAutoFillBackground(true);
-    SetColour(QPalette::Window, colour);
-}
-
-void OptionButton::SetColour(QPalette::ColorRole role, const QColor& colour) {
     QPalette colours = palette();
-    colours.setColor(QPalette::Active, role, colour);
-    colours.setColor(QPalette::Inactive, role, colour);
+    colours.setColor(QPalette::Window, colour);
     setPalette(colours);
 }
 

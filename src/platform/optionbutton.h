@@ -30,8 +30,6 @@ public:
     void SetGround(const QColor& colour);
 
 private:
-    void SetColour(QPalette::ColorRole role, const QColor& colour);
-
     std::function<void()> handler_ = [] {};
 };
 

@@ -23,12 +23,18 @@ double Measured(const EntryBox& box) {
     return NumericValue(text);
 }
 
+void AddMeasure(const char* label, EntryBox& box, QFormLayout& form) {
+    QLabel* caption = MakeLabel(label, box.accessibleName());
+    caption->setBuddy(&box);
+    form.addRow(caption, &box);
+}
+
 } // namespace
 
 frmCalibrate::frmCalibrate()
     : ModalForm("frmCalibrate", QStringLiteral("Vernacle - Calibration routine")) {
-    txtActualWidth_ = new EntryBox("txtActualWidth", QStringLiteral("Actual width, mm"));
-    txtActualHeight_ = new EntryBox("txtActualHeight", QStringLiteral("Actual height, mm"));
+    txtActualWidth_ = new EntryBox("txtActualWidth", QStringLiteral("Width, mm"));
+    txtActualHeight_ = new EntryBox("txtActualHeight", QStringLiteral("Height, mm"));
     QPushButton* print = MakeButton("cmdPrint", QStringLiteral("Print test square"));
     QPushButton* back = MakeButton("cmdReturn", QStringLiteral("Return"));
     connect(print, &QPushButton::clicked, this, &frmCalibrate::cmdPrintClicked);
@@ -71,8 +77,8 @@ QWidget* frmCalibrate::MakeMeasures() {
     form->setContentsMargins({});
     form->addRow(MakeLabel("lblEnter", QStringLiteral("Enter the actual width and height into the "
                                                       "boxes below:")));
-    form->addRow(MakeLabel("lblActualWidth", QStringLiteral("Width, mm")), txtActualWidth_);
-    form->addRow(MakeLabel("lblActualHeight", QStringLiteral("Height, mm")), txtActualHeight_);
+    AddMeasure("lblActualWidth", *txtActualWidth_, *form);
+    AddMeasure("lblActualHeight", *txtActualHeight_, *form);
     return measures;
 }
 

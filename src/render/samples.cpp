@@ -92,7 +92,6 @@ constexpr SampleScale kExponents[] = {
 };
 constexpr SampleScale kQuadrant[] = {{38, 50, "VOLTS", 50, 50, 5, 10, 1}};
 
-constexpr Detail kScaleAlone = {.left = 6, .bottom = 33, .width = 88, .height = 36};
 constexpr Detail kLeftEnd = {.left = 12, .bottom = 44, .width = 26, .height = 19};
 
 // Those of a page, but for the trim marks: no sample is ever cut out.
@@ -108,8 +107,8 @@ DrawingTraits SampleTraits() {
 }
 
 constexpr SampleRow kSamples[] = {
-    {Sample::LinearScale, kUsualPlate, kLinear, &kScaleAlone},
-    {Sample::ExponentOne, kUsualPlate, kAllTics, &kScaleAlone},
+    {Sample::LinearScale, kUsualPlate, kLinear, nullptr},
+    {Sample::ExponentOne, kUsualPlate, kAllTics, nullptr},
     {Sample::ExponentTwo, kUsualPlate, kCrowded, &kLeftEnd},
     {Sample::SomeTicsRemoved, kUsualPlate, kThinned, &kLeftEnd},
     {Sample::LeftEndCleared, kUsualPlate, kCleared, &kLeftEnd},

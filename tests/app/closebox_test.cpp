@@ -46,7 +46,7 @@ TEST_F(CloseBoxTest, SavesTheSessionAndEnds) {
     EXPECT_TRUE(said.empty());
 }
 
-TEST_F(CloseBoxTest, CloseKeyCountsToo) {
+TEST_F(CloseBoxTest, CloseRequestsOfTheDesktopCountToo) {
     OpenPage("frmPlate");
     Page().close(); // as the window menu does
     EXPECT_TRUE(TakeProcessEnd());

@@ -73,20 +73,34 @@ TEST_F(FilesTest, CancelledOpenEmptiesTheNameAlone) {
 }
 
 TEST_F(FilesTest, DamagedFileIsReportedAndThePageReloaded) {
-    const std::string file = WriteFile("bad.VRN", "a\nb\n: 1\n");
-    std::filesystem::permissions(file, std::filesystem::perms::none);
-    Host.readFile = [](const std::string&) -> std::string { throw FileFailure("broken disk"); };
+    std::string text = ReadFile(std::filesystem::path(WriteDesignFile("bad.VRN", 62)).filename());
+    const std::string line = "Scale 1 - deleted tics: 0";
+    ASSERT_NE(text.find(line), text.npos);
+    text.replace(text.find(line), line.size(), "Scale 1 - deleted tics: 1\r\nTic deleted: 361");
+    const std::string file = WriteFile("bad.VRN", text);
     Design.PlateWidth = 61;
     const QPointer<QWidget> before = &OpenPage("frmPlate");
-    std::filesystem::permissions(file, std::filesystem::perms::owner_all);
     Answer(TypeFile(file));
     Click("Open");
     Settle();
     ASSERT_EQ(said.size(), 2U);
-    EXPECT_TRUE(said[1].ends_with("ReadWrite 407")) << said[1];
+    EXPECT_TRUE(said[1].starts_with("failure: We were not successful")) << said[1];
     EXPECT_EQ(Design.PlateWidth, 75);
     EXPECT_TRUE(before.isNull());
     EXPECT_EQ(TitleOf(Page()), "Vernacle - Plate design - " + file);
+}
+
+TEST_F(FilesTest, MissingFileIsReportedByTheReader) {
+    OpenPage("frmPlate");
+    Design.PlateWidth = 61;
+    Answer(TypeFile(Path("none-such.VRN")));
+    Click("Open");
+    Settle();
+    EXPECT_TRUE(AllAnswered());
+    ASSERT_EQ(said.size(), 2U);
+    EXPECT_TRUE(said[1].ends_with("ReadWrite 407")) << said[1];
+    EXPECT_EQ(Design.PlateWidth, 75);
+    EXPECT_EQ(Design.DesignFileName, Path("none-such.VRN"));
 }
 
 TEST_F(FilesTest, EndingsOfAnyCaseShow) {

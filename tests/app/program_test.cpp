@@ -61,9 +61,63 @@ protected:
         display->Press("space");
     }
 
-    void GoToPlate() const {
-        display->Press("ctrl+1");
-        ExpectWindow("Vernacle - Plate design - " + LastSession());
+    void ExpectPage(const std::string& name) const {
+        ExpectWindow("Vernacle - " + name + " - " + LastSession());
+    }
+
+    void GoTo(const std::string& key, const std::string& page) const {
+        display->Press("ctrl+" + key);
+        ExpectPage(page);
+    }
+
+    // From the preview's first box, behind the second and three buttons.
+    void Plot() const {
+        display->Press("Tab", 5);
+        display->Press("space");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - HP-GL output"));
+        display->Press("space");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // is written, says its box
+        display->Press("Return");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - HP-GL output"));
+        display->Press("Escape");
+        ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
+        EXPECT_TRUE(Exists("home/HPGLfile.HPGL"));
+    }
+
+    // Into the file that the dialog offers.
+    void Print() const {
+        display->Press("ctrl+p");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Print"));
+        display->Press("Return");
+        ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
+        EXPECT_TRUE(Has(ReadFile("home/print.pdf"), "%PDF"));
+        std::filesystem::remove(Path("home/print.pdf"));
+    }
+
+    // From the plate page's first box: the last button stands before the keys of the toolbar.
+    void Calibrate() const {
+        constexpr int kToolbarKeys = 8; // that are enabled
+        display->Press("shift+Tab", kToolbarKeys + 1);
+        display->Press("space");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Calibration routine"));
+        display->Press("space");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Print"));
+        display->Press("Return");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Calibration routine"));
+        display->Type("80");
+        display->Press("Tab");
+        display->Type("125");
+        display->Press("Tab");
+        display->Press("space");
+        ASSERT_NO_FATAL_FAILURE(ExpectPage("Plate design"));
+    }
+
+    void ExpectSession(const std::string& height) const {
+        const std::string session = ReadFile("program/LASTSESSION.VRN");
+        EXPECT_TRUE(Has(session, "\r\nPlate width: 97.5\r\nPlate height: " + height + "\r\n"));
+        EXPECT_TRUE(
+            Has(session, "\r\nScale left end (units): -20\r\nScale length (units): 120\r\n"));
+        EXPECT_TRUE(Has(session, "\r\nAspect ratio: 1.1\r\n")) << session;
     }
 
     void ReplaceText(const std::string& text) const {
@@ -81,29 +135,39 @@ TEST_F(ProgramTest, ASessionIsTakenUpAgain) {
     ChooseLastSession();
     ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // there is none yet, says its box
     display->Press("Return");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + LastSession()));
-    ASSERT_NO_FATAL_FAILURE(GoToPlate());
+    ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
+    ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
     ReplaceText("97.5"); // the first box of the page
+    ASSERT_NO_FATAL_FAILURE(GoTo("2", "Scale design"));
+    ReplaceText("-20");
+    display->Press("Tab");
+    ReplaceText("120");
+    ASSERT_NO_FATAL_FAILURE(GoTo("6", "Preview"));
+    ReplaceText("1.1");
+    ASSERT_NO_FATAL_FAILURE(Plot());
+    ASSERT_NO_FATAL_FAILURE(Print());
+    ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
+    ASSERT_NO_FATAL_FAILURE(Calibrate());
     display->Press("ctrl+q");
     ASSERT_NO_FATAL_FAILURE(ExpectWindow(kExitPage));
     display->Press("Tab");
     display->Press("space");
     EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
-    EXPECT_TRUE(Has(ReadFile("program/LASTSESSION.VRN"), "\r\nPlate width: 97.5\r\n"));
+    ExpectSession("50");
+    EXPECT_TRUE(Has(ReadFile("program/Calibrate.txt"), "\r\n1.25\r\n.8\r\n"));
 
     // The second day, left by the close box.
     Start("vernacle");
     ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
     ChooseLastSession();
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + LastSession()));
-    ASSERT_NO_FATAL_FAILURE(GoToPlate());
+    ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
+    ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
     display->Press("Tab"); // the width's illustration
     display->Press("Tab");
     ReplaceText("66.25");
     display->Press("alt+F4");
     EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
-    const std::string session = ReadFile("program/LASTSESSION.VRN");
-    EXPECT_TRUE(Has(session, "\r\nPlate width: 97.5\r\nPlate height: 66.25\r\n")) << session;
+    ExpectSession("66.25");
 }
 
 TEST_F(ProgramTest, ADesignIsOpenedSavedAndLeft) {

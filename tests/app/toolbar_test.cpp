@@ -214,7 +214,8 @@ TEST_F(ToolbarTest, FailingPrinterIsReported) {
     Answer(Press(QMessageBox::Yes)); // the file exists
     Click("Print");
     ASSERT_FALSE(said.empty());
-    EXPECT_TRUE(said.back().starts_with("failure: ")) << said.back();
+    EXPECT_TRUE(said.back().starts_with("failure: We had a problem driving the printer."))
+        << said.back();
     EXPECT_EQ(PageName(), "frmPreview");
 }
 

@@ -48,7 +48,10 @@ const IllustrationRow kRows[] = {
      "Vernacle - Exponent illustration",
      "cmdReturn",
      "Return",
-     {{"Image1", Sample::Exponents, "Label1", ""}}},
+     {{"Image1", Sample::Exponents, "Label1",
+       R"(The linearity exponent bends a scale. With 1 its tics stand evenly; above 1 they crowd at )"
+       R"(the left end and spread at the right, as on a meter whose pointer moves with the square of )"
+       R"(the current; below 1 it is the other way round.)"}}},
     {"frmRotateIllustration",
      "Vernacle - Rotate illustration",
      "Command1",

@@ -8,7 +8,31 @@
 namespace vernacle::test {
 namespace {
 
-class PreviewPageTest : public PreviewTest {};
+class PreviewPageTest : public PreviewTest {
+protected:
+    // The plate's box: the rows and columns that are black for a third of the picture.
+    static QRect PlateOn(const QImage& picture) {
+        std::vector<int> inRow(static_cast<std::size_t>(picture.height()));
+        std::vector<int> inColumn(static_cast<std::size_t>(picture.width()));
+        for (int x = 0; x < picture.width(); ++x) {
+            for (int y = 0; y < picture.height(); ++y) {
+                const bool dark = picture.pixelColor(x, y).lightness() < 0x80;
+                inRow[static_cast<std::size_t>(y)] += dark ? 1 : 0;
+                inColumn[static_cast<std::size_t>(x)] += dark ? 1 : 0;
+            }
+        }
+        const auto ends = [](const std::vector<int>& counts, int enough) {
+            const auto full = [enough](int count) { return count > enough; };
+            const auto first = std::find_if(counts.begin(), counts.end(), full);
+            const auto last = std::find_if(counts.rbegin(), counts.rend(), full);
+            return std::pair{static_cast<int>(first - counts.begin()),
+                             static_cast<int>(counts.rend() - last) - 1};
+        };
+        const auto [top, bottom] = ends(inRow, picture.width() / 3);
+        const auto [left, right] = ends(inColumn, picture.height() / 3);
+        return {QPoint(left, top), QPoint(right, bottom)};
+    }
+};
 
 TEST_F(PreviewPageTest, DrawsTheDesign) {
     OpenPreview();
@@ -41,7 +65,8 @@ const LoadRow kLoads[] = {
     {"font", [] { Design.FontName = "Courier"; }, [] { return Design.FontName == "Arial"; }},
     {"scales", [] { Design.NumberOfScales = 3; }, [] { return Design.NumberOfScales == 1; }},
     {"no scale", [] { Design.NumberOfScales = 0; }, [] { return Design.NumberOfScales == 1; }},
-    {"scale 0", [] { Design.CurrentScale = 0; }, [] { return Design.CurrentScale >= 0; }},
+    {"font size", [] { Design.FontSize = 0; }, [] { return Design.FontSize == 8; }},
+    {"spacing", [] { Design.LabelSpacing = -300; }, [] { return Design.LabelSpacing >= -200; }},
     {"width", [] { Design.PlateWidth = 0; }, [] { return Design.PlateWidth == 50; }},
     {"wide", [] { Design.PlateWidth = 181; }, [] { return Design.PlateWidth == 180; }},
     {"height", [] { Design.PlateHeight = -1; }, [] { return Design.PlateHeight == 50; }},
@@ -164,29 +189,36 @@ TEST_F(PreviewPageTest, PlotterPageStandsAboveIt) {
     EXPECT_EQ(&Page(), preview);
 }
 
+TEST_F(PreviewPageTest, FreeTextsAreCounted) {
+    Design.TextString[1] = "a";
+    Design.TextString[7] = "b";
+    OpenPreview();
+    EXPECT_TRUE(Find("picPlate").accessibleDescription().endsWith(QStringLiteral(": 2")));
+}
+
+// A unit is 1920 / 12000 wide and 1080 / 9000 high, here in hundredths of the screen's sides.
 TEST_F(PreviewPageTest, PictureKeepsTheShapeOfTheScreensUnits) {
     OpenPreviewAt(1);
-    // A unit is 1920 / 12000 wide and 1080 / 9000 high: a plate of 75 x 50 is 2 : 1 on the screen.
-    const QImage picture = Find("picPlate").grab().toImage();
-    int left = picture.width();
-    int right = 0;
-    int top = picture.height();
-    int bottom = 0;
-    for (int x = 0; x < picture.width(); ++x) {
-        for (int y = 0; y < picture.height(); ++y) {
-            if (picture.pixelColor(x, y) != QColor(Qt::white)) {
-                left = std::min(left, x);
-                right = std::max(right, x);
-                top = std::min(top, y);
-                bottom = std::max(bottom, y);
-            }
-        }
+    const QRect plate = PlateOn(Find("picPlate").grab().toImage());
+    const double widthUnits = 6400; // 75 mm, and 50 mm is the height
+    const double heightUnits = 6400 * 50 / 75.;
+    const double expected = widthUnits / 12000 * 1920 / (heightUnits / 9000 * 1080);
+    EXPECT_NEAR(double(plate.width()) / plate.height(), expected, 0.03);
+}
+
+TEST_F(PreviewPageTest, AllOfAPlateOfAnyShapeShows) {
+    for (const auto& [width, height] : {std::pair{75.F, 50.F}, {50.F, 75.F}, {180.F, 180.F}}) {
+        SCOPED_TRACE(width);
+        Design.PlateWidth = width;
+        Design.PlateHeight = height;
+        Design.ActualVirtualOffset = 0; // else the pointer begins far below
+        Drawing.PointerShown = 0;
+        OpenPreviewAt(1.15F);
+        Click("cmdPointer");
+        const QRect all = Find("picPlate").rect();
+        const QRect painted = PaintedOn("picPlate");
+        EXPECT_TRUE(all.adjusted(1, 1, -1, -1).contains(painted));
     }
-    EXPECT_GT(left, 0); // all of it shows
-    EXPECT_GT(top, 0);
-    EXPECT_LT(right, picture.width() - 1);
-    EXPECT_LT(bottom, picture.height() - 1);
-    EXPECT_GT(right - left, picture.width() / 2);
 }
 
 } // namespace

@@ -278,8 +278,9 @@ TEST_F(ScalesButtonsTest, RevertEnablesItsEntries) {
     const char* const enabled[] = {"lblNumberOfTics",          "txtNumberOfTics",
                                    "lblMajorTicsEveryHowMany", "txtMajorTicsEveryHowMany",
                                    "lblLabelsEveryHowMany",    "txtLabelsEveryHowMany"};
-    const char* const left[] = {"lblScaleLeftEnd", "txtScaleLeftEnd", "UpDown3",
-                                "lblLinearityExponent", "txtLinearityExponent"};
+    const char* const left[] = {
+        "lblScaleLeftEnd",      "txtScaleLeftEnd",     "UpDown3", "UpDown4", "UpDown5",
+        "lblLinearityExponent", "txtLinearityExponent"};
     OpenScales();
     for (const char* control : enabled) {
         Find(control).setEnabled(false);

@@ -155,6 +155,14 @@ TEST_F(ScalesLoadTest, RelativeSizeIsRepairedThenHeld) {
     }
 }
 
+// Also where no drawing has repaired it before.
+TEST_F(ScalesLoadTest, RelativeSizeOfAScaleThatIsNotDrawnIsRepaired) {
+    Design.RelativeFontSize[3] = -2;
+    Design.ActiveScale = 3;
+    OpenScales(1);
+    EXPECT_EQ(TextOf("txtRelFontsize"), "1");
+}
+
 TEST_F(ScalesLoadTest, OptionsAreEnabledUpToTheNumberOfScales) {
     for (const int scale : {7, 8}) {
         GiveOwnValues(scale);
@@ -165,7 +173,7 @@ TEST_F(ScalesLoadTest, OptionsAreEnabledUpToTheNumberOfScales) {
             EXPECT_EQ(IsEnabled("Option" + std::to_string(scale)), scale <= scales)
                 << scale << " of " << scales;
         }
-        EXPECT_EQ(Page().findChild<QWidget*>(QStringLiteral("Option11")), nullptr);
+        EXPECT_EQ(Find("fraScaleNumber").findChildren<OptionButton*>().size(), kScales);
     }
 }
 

@@ -80,10 +80,11 @@ TEST_F(ScalesOptionsTest, SelectingAScaleFillsItsValues) {
         Click(OptionOf(scale));
         EXPECT_EQ(Design.ActiveScale, scale);
         EXPECT_TRUE(IsSelected(OptionOf(scale)));
-        for (const ScaleEntry& entry : kScaleEntries) {
-            EXPECT_EQ(TextOf(entry.Box()), PlainNumber(static_cast<float>(entry.Value(scale))))
-                << entry.stem;
-        }
+        EXPECT_EQ(TextOf("txtScaleLeftEnd"), std::to_string(100 + scale));
+        EXPECT_EQ(TextOf("txtScaleLength"), std::to_string(200 + scale));
+        EXPECT_EQ(TextOf("txtBottomToTitle"), std::to_string(20 + scale));
+        EXPECT_EQ(TextOf("txtBottomToScaleCeiling"), std::to_string(30 + scale));
+        EXPECT_EQ(TextOf("txtLabelsEveryHowMany"), std::to_string(10 + scale));
         EXPECT_EQ(TextOf("txtNumberOfTics"), std::to_string(60 + scale));
         EXPECT_EQ(TextOf("txtMajorTicsEveryHowMany"), std::to_string(20 + scale));
         EXPECT_EQ(TextOf("txtScaleTitle"), "Volts " + std::to_string(scale));
@@ -91,6 +92,13 @@ TEST_F(ScalesOptionsTest, SelectingAScaleFillsItsValues) {
         EXPECT_EQ(CaptionOfPrintTics(), "Print arcs and tics on #" + std::to_string(scale) + ":");
         EXPECT_EQ(ShownPlate(), PlateOfDesign());
     }
+}
+
+TEST_F(ScalesOptionsTest, OffsetBelongsToNoScale) {
+    OpenScales(2);
+    Type("txtOffset", "2000");
+    Click("Option2");
+    EXPECT_EQ(TextOf("txtOffset"), "2000") << "not filled anew with the 1000 it was held to";
 }
 
 TEST_F(ScalesOptionsTest, SelectingLeavesTheOtherScalesValues) {
@@ -151,7 +159,19 @@ TEST_F(ScalesOptionsTest, EachFillRedraws) {
         });
     }
     Click("Option3");
-    ExpectRedrawn(); // the last one belongs to the selection itself
+    ExpectRedrawn();
+}
+
+TEST_F(ScalesOptionsTest, SelectingRedrawsAtItsEnd) {
+    Design.PrintTicsAndArcs[2] = std::int16_t{2}; // no switch runs for it
+    OpenScales(2);
+    Click("Option2");
+    Click("Option2"); // of equal texts too
+    QObject::connect(&Box("txtLinearityExponent"), &QLineEdit::textChanged, &Page(),
+                     [this] { Spoil(); });
+    Design.LinearityExponent[2] = 2;
+    Click("Option2");
+    ExpectRedrawn();
 }
 
 TEST_F(ScalesOptionsTest, FirstScaleIsTheReferenceOfSizes) {
@@ -160,10 +180,12 @@ TEST_F(ScalesOptionsTest, FirstScaleIsTheReferenceOfSizes) {
     for (const char* control : kSizeControls) {
         EXPECT_TRUE(IsEnabled(control)) << control << " is frozen by the option alone";
     }
+    Box("txtRelFontSizeUpDown").setText(QStringLiteral("12"));
     Click("Option1");
     for (const char* control : kSizeControls) {
         EXPECT_FALSE(IsEnabled(control)) << control;
     }
+    EXPECT_EQ(TextOf("txtRelFontSizeUpDown"), "12") << "the partner is left";
     EXPECT_EQ(TextOf("txtRelFontsize"), "1");
     EXPECT_EQ(Design.RelativeFontSize[1], 1);
     for (const int scale : {2, 3}) {
@@ -253,7 +275,10 @@ TEST_F(ScalesOptionsTest, SelectedOptionStandsOnThePlatesBackground) {
     Click("Option2");
     EXPECT_EQ(GroundOf("Option2"), QColor(0xFF, 0xC0, 0x80));
     EXPECT_NE(GroundOf("Option3"), QColor(0xFF, 0xC0, 0x80));
-    EXPECT_TRUE(Option("Option2").autoFillBackground());
+    Click("Option3");
+    EXPECT_EQ(GroundOf("Option2"), QColor(0xFF, 0xC0, 0x80)) << "stays with the one left behind";
+    Option("Option3").setEnabled(false);
+    EXPECT_EQ(GroundOf("Option3"), QColor(0xFF, 0xC0, 0x80));
 }
 
 TEST_F(ScalesOptionsTest, ActiveScaleCanBeSelectedAgain) {
@@ -359,6 +384,18 @@ TEST_F(ScalesOptionsTest, SelectingShowsTheSwitchOfTheScale) {
         EXPECT_EQ(IsSelected("Option8"), scale != 1) << scale;
         EXPECT_EQ(NumberOf(Design.PrintTicsAndArcs[scale]), scale == 1 ? 0 : 1);
     }
+}
+
+TEST_F(ScalesOptionsTest, ValueThatIsNeitherShowsNeitherSwitch) {
+    Design.PrintTicsAndArcs[2] = std::int16_t{2};
+    OpenScales(2);
+    EXPECT_TRUE(IsSelected("Option7"));
+    Click("Option2");
+    EXPECT_FALSE(IsSelected("Option7"));
+    EXPECT_FALSE(IsSelected("Option8"));
+    EXPECT_EQ(NumberOf(Design.PrintTicsAndArcs[2]), 2);
+    Click("Option1");
+    EXPECT_TRUE(IsSelected("Option7"));
 }
 
 } // namespace

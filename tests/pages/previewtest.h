@@ -44,6 +44,20 @@ protected:
         EXPECT_EQ(TextsOf("picPlate"), expected.texts);
     }
 
+    // Where the control shows anything but white.
+    QRect PaintedOn(const std::string& control) const {
+        const QImage picture = Find(control).grab().toImage();
+        QRect painted;
+        for (int x = 0; x < picture.width(); ++x) {
+            for (int y = 0; y < picture.height(); ++y) {
+                if (picture.pixelColor(x, y) != QColor(Qt::white)) {
+                    painted |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        return painted;
+    }
+
     void ExpectAspect(float aspect, const std::string& ratio, const std::string& percent) const {
         EXPECT_FLOAT_EQ(Design.AspectRatio, aspect);
         EXPECT_EQ(TextOf("txtAspect"), ratio);

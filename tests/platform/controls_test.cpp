@@ -80,9 +80,11 @@ struct StepRow {
 TEST_F(ControlsTest, ArrowsStepFromWhatIsShownAndLandInsideTheirRange) {
     arrows.AttachTo(box, {0, 10});
     const StepRow rows[] = {
-        {"5", "6", "4"},    {" 5", "6", "4"},      {"10", "10", "9"},      {"0", "1", "0"},
-        {"15", "10", "10"}, {"-3", "0", "0"},      {"2.5", "3.5", "1.5"},  {".5", "1.5", "0"},
-        {"", "1", "0"},     {"garbage", "1", "0"}, {"9.75", "10", "8.75"},
+        {"5", "6", "4"},          {" 5", "6", "4"},       {"10", "10", "9"},
+        {"0", "1", "0"},          {"15", "10", "10"},     {"-3", "0", "0"},
+        {"2.5", "3.5", "1.5"},    {".5", "1.5", "0"},     {"", "1", "0"},
+        {"garbage", "1", "0"},    {"9.75", "10", "8.75"}, {"2,5", "3.5", "1.5"},
+        {"1.2.3", "2.23", ".23"}, {".002k", "3", "1"},
     };
     for (const StepRow& row : rows) {
         box.Write(row.shown);
@@ -98,6 +100,20 @@ TEST_F(ControlsTest, ArrowsStepFromWhatIsShownAndLandInsideTheirRange) {
         Press(Qt::Key_Down);
         EXPECT_EQ(box.Text(), row.down) << "key from " << row.shown;
     }
+}
+
+TEST_F(ControlsTest, LongNumbersAreSteppedFromToo) {
+    arrows.AttachTo(box, {0, 10});
+    box.Write("3.333333E-02"); // more than an entry's ten characters
+    Click(On<QWidget>(window, "UpDownBoxUp"));
+    EXPECT_EQ(box.Text(), "1.033333");
+}
+
+TEST_F(ControlsTest, TheKeypadsArrowsStepToo) {
+    arrows.AttachTo(box, {0, 10});
+    box.Write("3");
+    QTest::keyClick(&box, Qt::Key_Up, Qt::KeypadModifier);
+    EXPECT_EQ(box.Text(), "4");
 }
 
 TEST_F(ControlsTest, ArrowsRunTheBoxesHandler) {

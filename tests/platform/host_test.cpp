@@ -1,6 +1,7 @@
 // The seam to the desktop: message boxes, file places, the screen.
 #include "platform/host.h"
 
+#include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -45,6 +46,13 @@ TEST_F(HostTest, SoIsAnInformation) {
     EXPECT_EQ(box.name, QStringLiteral("boxInformation"));
     EXPECT_EQ(box.text, QStringLiteral("done"));
     EXPECT_EQ(box.icon, QMessageBox::Information);
+}
+
+TEST_F(HostTest, TheWarningSoundTravelsWithTheProgram) {
+    QFile sound(QStringLiteral(":/sounds/warningprinter.wav"));
+    ASSERT_TRUE(sound.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(sound.readAll().startsWith("RIFF"));
+    desktop.playSound("warningprinter.wav"); // returns at once, heard or not
 }
 
 TEST_F(HostTest, TheScreenIsCountedInTwips) {

@@ -251,6 +251,15 @@ TEST_F(CalibratePageTest, ReturnWritesTheSevenLines) {
     EXPECT_TRUE(said.empty());
 }
 
+// The design has no name of its own any more: a save that keeps the name goes over the factors.
+TEST_F(CalibratePageTest, NextSaveWithoutANameGoesToThatFile) {
+    SetFactors(1, 1);
+    Measure("80", "125");
+    Answer(Cancel);
+    Click("Save");
+    EXPECT_TRUE(ReadFile("Calibrate.txt").find("\r\nPlate width:") != std::string::npos);
+}
+
 TEST_F(CalibratePageTest, ReturnWithoutMeasuresWritesToo) {
     SetFactors(0, 0);
     Measure("", "");

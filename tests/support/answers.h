@@ -7,7 +7,9 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QItemSelectionModel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -32,10 +34,17 @@ inline DialogAnswer TypeFile(const std::string& name) {
             Cancel(dialog);
             return;
         }
-        // The dialog lets go of the file that it holds only for what is typed into the active box.
+        // As for a user who types when the list is there: it selects the file that the dialog holds
+        // as soon as it has read the folder, and lets go of it for what is typed.
+        constexpr int kEnoughMs = 200;
+        const auto* selection = dialog.findChild<QListView*>()->selectionModel();
         dialog.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
         edit->setFocus();
+        if (!edit->text().isEmpty()) {
+            static_cast<void>(
+                QTest::qWaitFor([selection] { return selection->hasSelection(); }, kEnoughMs));
+        }
         edit->setText(QString::fromStdString(name));
         dynamic_cast<QDialog&>(dialog).accept();
     };

@@ -23,6 +23,7 @@ constexpr const char* kToolPatience = "20";
 constexpr const char* kScreen = "1280x800x24";
 constexpr int kFirstDisplay = 90;
 constexpr int kLastDisplay = 190;
+constexpr auto kManagerStart = std::chrono::milliseconds(300);
 constexpr auto kTurn = std::chrono::milliseconds(50);
 
 // Whether it came true within that time.
@@ -113,6 +114,7 @@ Display::Display() {
                                                            Environment());
             // A window that is there before its manager gets no focus; the manager holds it first.
             WaitUntil([this] { return FocusedTitle() == "Openbox"; }, kPatience);
+            std::this_thread::sleep_for(kManagerStart);
             return;
         }
     }
@@ -143,8 +145,10 @@ bool Display::WaitForWindow(const std::string& title) const {
     return WaitUntil([&] { return FocusedTitle() == title; }, kPatience);
 }
 
-void Display::Press(const std::string& keys) const {
-    Tool({"key", "--clearmodifiers", keys});
+void Display::Press(const std::string& keys, int times) const {
+    for (int time = 0; time < times; ++time) {
+        Tool({"key", "--clearmodifiers", keys});
+    }
 }
 
 void Display::Type(const std::string& text) const {

@@ -50,7 +50,7 @@ public:
     std::string FocusedTitle() const;
 
     // To the window that has the focus: keys by their names ("ctrl+1", "Tab"), and typed text.
-    void Press(const std::string& keys) const;
+    void Press(const std::string& keys, int times = 1) const;
     void Type(const std::string& text) const;
 
 private:

@@ -20,7 +20,8 @@ namespace vernacle::test {
 namespace {
 
 constexpr int kRetryMs = 5;
-constexpr double kClockStep = 10; // seconds: longer than any wait
+constexpr const char* kAnswer = "answer"; // a dialog's property: the number of its last answer
+constexpr double kClockStep = 10;         // seconds: longer than any wait
 
 } // namespace
 
@@ -120,10 +121,13 @@ void FormTest::Answer(std::function<void(QWidget&)> answer) {
 void FormTest::AnswerNext() {
     QTimer::singleShot(kRetryMs, &context_, [this] {
         QWidget* dialog = QApplication::activeModalWidget();
-        if (!dialog || !dialog->isVisible()) {
+        // One that waits in the middle of its answer is not asked for the next.
+        const bool underWay = dialog && dialog->property(kAnswer).toInt() == answersGiven_;
+        if (!dialog || !dialog->isVisible() || underWay) {
             AnswerNext();
             return;
         }
+        dialog->setProperty(kAnswer, ++answersGiven_);
         const auto answer = answers_.front();
         answers_.erase(answers_.begin());
         if (!answers_.empty()) {

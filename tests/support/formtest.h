@@ -86,6 +86,7 @@ private:
 
     std::vector<std::function<void(QWidget&)>> answers_;
     QObject context_;
+    int answersGiven_ = 1;
     double clock_ = 0;
 };
 
