@@ -70,9 +70,9 @@ protected:
         ExpectPage(page);
     }
 
-    // From the preview's first box, behind the second and three buttons.
+    // From the preview's second box, behind three buttons.
     void Plot() const {
-        display->Press("Tab", 5);
+        display->Press("Tab", 4);
         display->Press("space");
         ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - HP-GL output"));
         display->Press("space");
@@ -84,14 +84,14 @@ protected:
         EXPECT_TRUE(Exists("home/HPGLfile.HPGL"));
     }
 
-    // Into the file that the dialog offers.
+    // Into the file that the dialog offers, beside the design.
     void Print() const {
         display->Press("ctrl+p");
         ASSERT_NO_FATAL_FAILURE(ExpectWindow("Print"));
         display->Press("Return");
         ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
-        EXPECT_TRUE(Has(ReadFile("home/print.pdf"), "%PDF"));
-        std::filesystem::remove(Path("home/print.pdf"));
+        EXPECT_TRUE(Has(ReadFile("program/LASTSESSION.pdf"), "%PDF"));
+        std::filesystem::remove(Path("program/LASTSESSION.pdf"));
     }
 
     // From the plate page's first box: the last button stands before the keys of the toolbar.
@@ -116,8 +116,9 @@ protected:
         const std::string session = ReadFile("program/LASTSESSION.VRN");
         EXPECT_TRUE(Has(session, "\r\nPlate width: 97.5\r\nPlate height: " + height + "\r\n"));
         EXPECT_TRUE(
-            Has(session, "\r\nScale left end (units): -20\r\nScale length (units): 120\r\n"));
-        EXPECT_TRUE(Has(session, "\r\nAspect ratio: 1.1\r\n")) << session;
+            Has(session, "\r\nScale left end (units): -20\r\nScale length (units): 120\r\n"))
+            << session;
+        EXPECT_TRUE(Has(session, "\r\nAspect ratio: .76\r\n")) << session;
     }
 
     void ReplaceText(const std::string& text) const {
@@ -143,7 +144,8 @@ TEST_F(ProgramTest, ASessionIsTakenUpAgain) {
     display->Press("Tab");
     ReplaceText("120");
     ASSERT_NO_FATAL_FAILURE(GoTo("6", "Preview"));
-    ReplaceText("1.1");
+    display->Press("Tab");
+    display->Press("Up"); // by a hundredth of .75
     ASSERT_NO_FATAL_FAILURE(Plot());
     ASSERT_NO_FATAL_FAILURE(Print());
     ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));

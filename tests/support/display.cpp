@@ -152,7 +152,7 @@ void Display::Press(const std::string& keys, int times) const {
 }
 
 void Display::Type(const std::string& text) const {
-    Tool({"type", "--delay", "20", text});
+    Tool({"type", "--delay", "20", "--", text});
 }
 
 } // namespace vernacle::test
