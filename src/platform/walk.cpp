@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QLineEdit>
+#include <QTimer>
 
 #include "platform/helpviewer.h"
 
@@ -12,6 +13,7 @@ namespace vernacle {
 namespace {
 
 constexpr std::string_view kBackdrop = "frmBlank";
+constexpr int kFocusCheckMs = 300;
 
 std::span<const FormRow> registeredForms;
 QWidget* shownPage = nullptr;
@@ -44,13 +46,25 @@ void FocusOn(QWidget& page, const QString& controlName) {
     }
 }
 
+// A window manager that still deals with the dialog and the page that went may give the focus to
+// neither: it is asked once more.
+void ActivateSurely(QWidget& page) {
+    page.activateWindow();
+    QTimer::singleShot(kFocusCheckMs, &page, [&page] {
+        const QWidget* active = QApplication::activeWindow();
+        if (!active || active == &page) { // what the toolkit believes of itself may be old
+            page.activateWindow();
+        }
+    });
+}
+
 void ShowPage(std::unique_ptr<QWidget> page, const QString& focusedControl) {
     QWidget* left = shownPage;
     shownPage = page.release();
     FocusOn(*shownPage, focusedControl);
     shownPage->showMaximized();
     KeepHelpBeside(*shownPage);
-    shownPage->activateWindow();
+    ActivateSurely(*shownPage);
     Unload(left);
 }
 

@@ -145,7 +145,8 @@ TEST_F(ProgramTest, ASessionIsTakenUpAgain) {
     ReplaceText("120");
     ASSERT_NO_FATAL_FAILURE(GoTo("6", "Preview"));
     display->Press("Tab");
-    display->Press("Up"); // by a hundredth of .75
+    display->Press("Up"); // by a hundredth of .75, which builds the page anew
+    Display::Rest();
     ASSERT_NO_FATAL_FAILURE(Plot());
     ASSERT_NO_FATAL_FAILURE(Print());
     ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));

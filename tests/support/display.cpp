@@ -18,12 +18,14 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr double kPatience = 20; // seconds for a window, or for a display
+constexpr double kPatience = 20;   // seconds for a window, or for a display
+constexpr double kEndPatience = 5; // for a program that is told to end
 constexpr const char* kToolPatience = "20";
 constexpr const char* kScreen = "1280x800x24";
 constexpr int kFirstDisplay = 90;
 constexpr int kLastDisplay = 190;
 constexpr auto kManagerStart = std::chrono::milliseconds(300);
+constexpr auto kRest = std::chrono::milliseconds(600);
 constexpr auto kTurn = std::chrono::milliseconds(50);
 
 // Whether it came true within that time.
@@ -70,8 +72,11 @@ BackgroundProgram::BackgroundProgram(const std::vector<std::string>& words,
 
 BackgroundProgram::~BackgroundProgram() {
     if (IsRunning()) {
-        kill(process_, SIGKILL);
-        waitpid(process_, nullptr, 0);
+        kill(process_, SIGTERM); // a display takes its lock away with it
+        if (!Wait(kEndPatience)) {
+            kill(process_, SIGKILL);
+            waitpid(process_, nullptr, 0);
+        }
     }
 }
 
@@ -149,6 +154,10 @@ void Display::Press(const std::string& keys, int times) const {
     for (int time = 0; time < times; ++time) {
         Tool({"key", "--clearmodifiers", keys});
     }
+}
+
+void Display::Rest() {
+    std::this_thread::sleep_for(kRest);
 }
 
 void Display::Type(const std::string& text) const {

@@ -49,6 +49,9 @@ public:
     bool WaitForWindow(const std::string& title) const;
     std::string FocusedTitle() const;
 
+    // As long as a user takes who looks at a page that has the same title again.
+    static void Rest();
+
     // To the window that has the focus: keys by their names ("ctrl+1", "Tab"), and typed text.
     void Press(const std::string& keys, int times = 1) const;
     void Type(const std::string& text) const;
