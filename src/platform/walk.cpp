@@ -52,7 +52,8 @@ void ActivateSurely(QWidget& page) {
     page.activateWindow();
     QTimer::singleShot(kFocusCheckMs, &page, [&page] {
         const QWidget* active = QApplication::activeWindow();
-        if (!active || active == &page) { // what the toolkit believes of itself may be old
+        const bool free = !active || active == &page; // the toolkit's belief may be old
+        if (free && !QApplication::activeModalWidget()) {
             page.activateWindow();
         }
     });
