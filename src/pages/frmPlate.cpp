@@ -42,13 +42,13 @@ constexpr PageTraits kTraits = {
 
 // A measure: the limits of what is typed, the range of its arrows, the illustration that shows it.
 struct frmPlate::NumericItem {
-    const char* caption;
-    float D::*field;
-    const char* box;
-    double lowest;
-    double highest;
+    const char* caption = nullptr;
+    float D::*field = nullptr;
+    const char* box = nullptr;
+    double lowest = 0;
+    double highest = 0;
     StepRange arrows;
-    std::int16_t topic;
+    std::int16_t topic = 0;
 };
 
 // clang-format off

@@ -27,16 +27,16 @@ struct frmScales::Button {
 
 // An entry: its field, the limits of what is typed, its arrows and their range.
 struct frmScales::Entry {
-    const char* box;
-    const char* label;
-    const char* caption;
-    const char* text; // before it is filled
-    Place field;
-    double lowest;
-    double highest;
-    const char* arrows; // none if null
+    const char* box = nullptr;
+    const char* label = nullptr;
+    const char* caption = nullptr;
+    const char* text = nullptr; // before it is filled
+    Place field = nullptr;
+    double lowest = 0;
+    double highest = 0;
+    const char* arrows = nullptr; // none if null
     StepRange range;
-    void (frmScales::*changed)(const Entry& entry);
+    void (frmScales::*changed)(const Entry& entry) = nullptr;
     const char* partner = nullptr; // that the arrows step instead
     const Button* help = nullptr;
 };

@@ -10,8 +10,8 @@ namespace vernacle {
 class EntryBox;
 
 struct StepRange {
-    double lowest;
-    double highest;
+    double lowest = 0;
+    double highest = 0;
     double step = 1;
 };
 
