@@ -87,6 +87,7 @@ private:
     std::vector<std::function<void(QWidget&)>> answers_;
     QObject context_;
     int answersGiven_ = 1;
+    int waits_ = 0;
     double clock_ = 0;
 };
 
