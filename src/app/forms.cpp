@@ -7,9 +7,14 @@
 #include "help/frmExponent.h"
 #include "help/frmRotateIllustration.h"
 #include "help/frmStyleHelp.h"
+#include "pages/frmGraphic.h"
+#include "pages/frmHighlights.h"
 #include "pages/frmPlate.h"
 #include "pages/frmPreview.h"
 #include "pages/frmScales.h"
+#include "pages/frmSelectTics.h"
+#include "pages/frmShowTicInfo.h"
+#include "pages/frmText.h"
 #include "pages/frmTicsHelp.h"
 #include "render/frmCalibrate.h"
 #include "render/frmHPGL.h"
@@ -28,6 +33,11 @@ constexpr FormRow kForms[] = {
     {"frmPreview", Make<frmPreview>},
     {"frmPlate", Make<frmPlate>},
     {"frmScales", Make<frmScales>},
+    {"frmText", Make<frmText>},
+    {"frmGraphic", Make<frmGraphic>},
+    {"frmHighlights", Make<frmHighlights>},
+    {"frmSelectTics", Make<frmSelectTics>},
+    {"frmShowTicInfo", Make<frmShowTicInfo>},
     {"frmHPGL", Make<frmHPGL>},
     {"frmCalibrate", Make<frmCalibrate>},
     {"frmTicsHelp", Make<frmTicsHelp>},

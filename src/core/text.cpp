@@ -35,4 +35,9 @@ std::string_view Leftmost(std::string_view text, std::size_t characters) {
     return text.substr(0, length);
 }
 
+std::string_view Middle(std::string_view text, std::size_t first, std::size_t characters) {
+    const std::size_t before = Leftmost(text, first - 1).size();
+    return Leftmost(text.substr(before), characters);
+}
+
 } // namespace vernacle

@@ -19,4 +19,7 @@ std::size_t CharacterCount(std::string_view text);
 // The first characters of a UTF-8 text, all of it if there are no more.
 std::string_view Leftmost(std::string_view text, std::size_t characters);
 
+// So many characters from the given one on, counted from 1; fewer where the text ends.
+std::string_view Middle(std::string_view text, std::size_t first, std::size_t characters);
+
 } // namespace vernacle

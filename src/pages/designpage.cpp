@@ -85,6 +85,7 @@ void DesignPage::AddToolbar() {
 }
 
 void DesignPage::KeyClicked(const Key& key) {
+    BeforeKey();
     if (key.clicked) {
         (this->*key.clicked)();
     } else if (key.page != std::string_view(traits_.form)) {

@@ -41,6 +41,9 @@ protected:
 
     void CloseBoxClicked() override;
 
+    // Runs at the head of every key of the toolbar.
+    virtual void BeforeKey() {}
+
 private:
     struct Key;
     static const Key kKeys[];

@@ -47,7 +47,7 @@ private:
     EntryBox* txtAspect_ = nullptr;
     EntryBox* txtAspectUpDown_ = nullptr;
     PictureBox* plate_ = nullptr;
-    PageSizes sizes_;
+    PageCopies sizes_;
     Table<std::string, kTexts> texts_; // the design's free texts, as they were at the load
     int numberOfTexts_ = 0;
 };

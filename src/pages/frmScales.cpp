@@ -14,7 +14,6 @@
 #include "platform/dialogs.h"
 #include "platform/entrybox.h"
 #include "platform/optionbutton.h"
-#include "platform/picturebox.h"
 #include "platform/walk.h"
 #include "surfaces/colours.h"
 
@@ -54,14 +53,14 @@ void StoreEntry(std::string& text, const Slot& slot, double lowest, double highe
 
 } // namespace
 
-frmScales::frmScales() : DesignPage(kTraits) {
+frmScales::frmScales() : DrawingPage(kTraits, ScalesTraits()) {
     Build();
     Load();
 }
 
 void frmScales::Load() {
     SetEnabled({"lblLinearityExponent", "txtLinearityExponent"}, false);
-    sizes_ = {Design.FontSize, Design.LabelSpacing};
+    TakeSizes();
     if (Design.ActiveScale < 1) {
         Design.ActiveScale = 1; // none was selected since the start
     }
@@ -85,7 +84,7 @@ void frmScales::Load() {
 
 void frmScales::ShowScaleOptions() {
     for (int scale = 1; scale <= kScales; ++scale) {
-        OptionNumber(scale).SetInk(ToQColor(std::abs(Design.ScaleColor[scale])));
+        OptionNumber(scale).SetInk(ToQColor(InkOf(scale)));
         OptionNumber(scale).setEnabled(scale <= Design.NumberOfScales);
     }
     if (Design.ActiveScale <= kScales) {
@@ -95,11 +94,11 @@ void frmScales::ShowScaleOptions() {
 }
 
 void frmScales::Fill(const Entry& entry) {
-    Box(entry.box).Write(TextOf(entry.field(Design.ActiveScale, 0)));
+    Box(entry.row.box).Write(TextOf(entry.field(Design.ActiveScale, 0)));
 }
 
 void frmScales::Fill(const char* box) {
-    const auto isIt = [box](const Entry& entry) { return entry.box == std::string_view(box); };
+    const auto isIt = [box](const Entry& entry) { return entry.row.box == std::string_view(box); };
     Fill(*std::find_if(Entries().begin(), Entries().end(), isIt));
 }
 
@@ -129,36 +128,22 @@ void frmScales::EnableStandardEntries() {
                true);
 }
 
-void frmScales::SetEnabled(std::initializer_list<const char*> controls, bool enabled) {
-    for (const char* control : controls) {
-        findChild<QWidget*>(QLatin1String(control))->setEnabled(enabled);
-    }
-}
-
-EntryBox& frmScales::Box(const char* name) const {
-    return *findChild<EntryBox*>(QLatin1String(name));
-}
-
-OptionButton& frmScales::OptionNumber(int number) const {
-    return *findChild<OptionButton*>(QString::fromStdString(OptionName(number)));
-}
-
 void frmScales::Redraw() {
     const QString caption = QString::fromStdString(
         "Print arcs and tics on #" + PlainNumber(std::int32_t{Design.ActiveScale}) + ":");
     fraPrintTics_->setTitle(caption);
     fraPrintTics_->setAccessibleName(caption);
-    DrawDesign(plate_->Surface(), ScalesTraits(), sizes_);
+    DrawingPage::Redraw();
 }
 
 void frmScales::NumberChanged(const Entry& entry) {
-    std::string text = Box(entry.box).Text();
+    std::string text = Box(entry.row.box).Text();
     StoreEntry(text, entry.field(Design.ActiveScale, 0), entry.lowest, entry.highest);
     Redraw();
 }
 
 void frmScales::txtLinearityExponentChanged(const Entry& entry) {
-    std::string text = Box(entry.box).Text();
+    std::string text = Box(entry.row.box).Text();
     ParseEntry(text, linearityExponent_);
     Design.LinearityExponent[Design.ActiveScale] =
         static_cast<float>(std::clamp(double{linearityExponent_}, entry.lowest, entry.highest));
@@ -166,13 +151,13 @@ void frmScales::txtLinearityExponentChanged(const Entry& entry) {
 }
 
 void frmScales::txtRelFontsizeChanged(const Entry& entry) {
-    std::string text = Box(entry.box).Text();
+    std::string text = Box(entry.row.box).Text();
     float& size = Design.RelativeFontSize[Design.ActiveScale];
     ParseEntry(text, size);
     const float held = static_cast<float>(std::clamp(double{size}, entry.lowest, entry.highest));
     if (held != size) {
         size = held;
-        Box(entry.box).Write(PlainNumber(held));
+        Box(entry.row.box).Write(PlainNumber(held));
     }
     Redraw();
 }
@@ -183,7 +168,7 @@ void frmScales::txtRelFontSizeUpDownChanged() {
 }
 
 void frmScales::txtScaleTitleChanged(const Entry& entry) {
-    const std::string text = Box(entry.box).Text();
+    const std::string text = Box(entry.row.box).Text();
     std::string& title = Design.ScaleTitle[Design.ActiveScale];
     title = Trimmed(text);
     title = Leftmost(text, kLongestTitle); // the blanks that were typed stay
@@ -202,7 +187,7 @@ void frmScales::ScaleClicked(int scale) {
         FillPartner();
     }
     EnableStandardEntries();
-    OptionNumber(scale).SetInk(ToQColor(std::abs(Design.ScaleColor[scale])));
+    OptionNumber(scale).SetInk(ToQColor(InkOf(scale)));
     OptionNumber(scale).SetGround(ToQColor(Design.PlateBackground));
     for (const char* box :
          {"txtScaleLeftEnd", "txtScaleLength", "txtBottomToTitle", "txtBottomToScaleCeiling",
@@ -240,13 +225,13 @@ void frmScales::cmdGetColorClicked() {
         Design.ActiveScale = 1;
     }
     std::int32_t& colour = Design.ScaleColor[Design.ActiveScale];
-    colour = AskForColour(this, "Get scale color", std::abs(colour));
+    colour = AskForColour(this, "Get scale color", InkOf(Design.ActiveScale));
     if (colour == 0) {
         colour = 1; // so that black can carry a sign
     }
     colour *= sign;
     if (Design.ActiveScale <= kScales) {
-        OptionNumber(Design.ActiveScale).SetInk(ToQColor(std::abs(colour)));
+        OptionNumber(Design.ActiveScale).SetInk(ToQColor(InkOf(Design.ActiveScale)));
     }
     Redraw();
 }

@@ -2,13 +2,11 @@
 // drawn anew at every change.
 #pragma once
 
-#include <initializer_list>
 #include <span>
 #include <string>
 
 #include "core/slot.h"
-#include "pages/designpage.h"
-#include "render/drawing.h"
+#include "pages/drawingpage.h"
 
 class QGridLayout;
 class QGroupBox;
@@ -17,15 +15,14 @@ class QPushButton;
 
 namespace vernacle {
 
-class EntryBox;
-class OptionButton;
-class PictureBox;
-
-class frmScales : public DesignPage {
+class frmScales : public DrawingPage {
     Q_OBJECT
 
 public:
     frmScales();
+
+protected:
+    void Redraw() override;
 
 private:
     struct Entry;
@@ -41,10 +38,8 @@ private:
     void Build();
     QLayout* MakeEntries();
     void AddEntry(const Entry& entry, QGridLayout& grid, int row);
-    EntryBox& MakePartner(const Entry& entry);
     QLayout* MakeFrames();
     QPushButton* MakeButtonOf(const Button& button);
-    QGroupBox* MakeScaleNumbers();
     QGroupBox* MakeYesNo(const char* name, const char* title, const Option& yes, const Option& no);
     QLayout* MakeButtons();
 
@@ -75,14 +70,7 @@ private:
     void cmdSelectTicsHelpClicked();
     void cmdLinearityExponentClicked();
 
-    void Redraw();
-    EntryBox& Box(const char* name) const;
-    OptionButton& OptionNumber(int number) const;
-    void SetEnabled(std::initializer_list<const char*> controls, bool enabled);
-
-    PictureBox* plate_ = nullptr;
     QGroupBox* fraPrintTics_ = nullptr;
-    PageSizes sizes_;
     float linearityExponent_ = 0; // as typed, before its limits
     float relativeSize_ = 0;      // as the arrows of the relative size ask for it
 };

@@ -1,8 +1,8 @@
 // The rows of which the scales page is made.
 #pragma once
 
+#include "pages/entryrow.h"
 #include "pages/frmScales.h"
-#include "platform/updown.h"
 
 namespace vernacle {
 
@@ -25,25 +25,15 @@ struct frmScales::Button {
     void (frmScales::*clicked)();
 };
 
-// An entry: its field, the limits of what is typed, its arrows and their range.
+// An entry: its field, and the limits of what is typed.
 struct frmScales::Entry {
-    const char* box = nullptr;
-    const char* label = nullptr;
-    const char* caption = nullptr;
+    EntryRow row;
     const char* text = nullptr; // before it is filled
     Place field = nullptr;
     double lowest = 0;
     double highest = 0;
-    const char* arrows = nullptr; // none if null
-    StepRange range;
     void (frmScales::*changed)(const Entry& entry) = nullptr;
-    const char* partner = nullptr; // that the arrows step instead
     const Button* help = nullptr;
 };
-
-// "Option1" to "Option10".
-inline std::string OptionName(int number) {
-    return "Option" + std::to_string(number);
-}
 
 } // namespace vernacle

@@ -1,12 +1,18 @@
 #include "platform/entrybox.h"
 
+#include <algorithm>
+
 #include <QKeyEvent>
 
+#include "core/entry.h"
+#include "core/numbertext.h"
 #include "platform/updown.h"
 
 namespace vernacle {
 
 namespace {
+
+constexpr double kLargest = 1e30;
 
 // Counts a handler that is under way, also when it is left by a failure.
 class Running {
@@ -34,6 +40,21 @@ void EntryBox::Changed() {
         const Running running(running_);
         handler_();
     }
+}
+
+float EntryBox::Number() const {
+    return static_cast<float>(std::clamp(NumericValue(Text()), -kLargest, kLargest));
+}
+
+float EntryBox::ParsedNumber() const {
+    std::string text = Text();
+    float value = Number();
+    ParseEntry(text, value);
+    return value;
+}
+
+void EntryBox::Show(const std::string& text) {
+    setText(QString::fromStdString(text));
 }
 
 void EntryBox::Write(const std::string& text) {

@@ -21,6 +21,16 @@ public:
 
     std::string Text() const { return text().toStdString(); }
 
+    // The number that the text starts with, else 0; held to what a float takes with ease.
+    float Number() const;
+
+    // The number that an entry's rules make of the text; what they ignore is read plainly.
+    float ParsedNumber() const;
+
+    // Writes from the program, and runs the handler only if the text is another: for a pair of
+    // boxes that tell each other until they agree.
+    void Show(const std::string& text);
+
     // Writes from the program. The text that the box holds already runs the handler too, unless it
     // is running: two boxes that show the same value in two forms would else never end.
     void Write(const std::string& text);

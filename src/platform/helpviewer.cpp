@@ -8,7 +8,8 @@
 #include <QSvgRenderer>
 #include <QTextBrowser>
 #include <QVBoxLayout>
-#include <QWindow>
+
+#include "platform/companions.h"
 
 namespace vernacle {
 
@@ -69,11 +70,6 @@ public:
                     height);
     }
 
-    void BelongTo(const QWidget& page) {
-        winId(); // so that it has a window that can belong to another
-        windowHandle()->setTransientParent(page.windowHandle());
-    }
-
 private:
     QTextBrowser* topic_;
 };
@@ -89,24 +85,10 @@ void ShowHelp(const QWidget& page, const std::string& topic) {
     }
     if (!shownBook) {
         shownBook = new HelpWindow;
-        shownBook->setAttribute(Qt::WA_DeleteOnClose);
         shownBook->PlaceBeside(page);
-        shownBook->BelongTo(page);
     }
     shownBook->Open(file);
-    shownBook->show();
-    shownBook->activateWindow();
-}
-
-void KeepHelpBeside(const QWidget& page) {
-    if (!shownBook) {
-        return;
-    }
-    shownBook->hide(); // what a window belongs to is read when it is shown
-    shownBook->BelongTo(page);
-    shownBook->setAttribute(Qt::WA_ShowWithoutActivating);
-    shownBook->show();
-    shownBook->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    ShowBeside(*shownBook, page);
 }
 
 } // namespace vernacle

@@ -11,7 +11,4 @@ namespace vernacle {
 // is not reported.
 void ShowHelp(const QWidget& page, const std::string& topic);
 
-// Keeps an open book above the page that is shown now.
-void KeepHelpBeside(const QWidget& page);
-
 } // namespace vernacle

@@ -5,7 +5,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "core/entry.h"
 #include "core/numbertext.h"
 #include "platform/entrybox.h"
 
@@ -13,18 +12,8 @@ namespace vernacle {
 
 namespace {
 
-constexpr double kLargest = 1e30; // that a float holds with ease
-
-// The number that the box's own handler would take from it. What that ignores is read plainly.
-float ShownNumber(const EntryBox& box) {
-    std::string text = box.Text();
-    auto value = static_cast<float>(std::clamp(NumericValue(text), -kLargest, kLargest));
-    ParseEntry(text, value);
-    return value;
-}
-
 void StepBox(EntryBox& box, double step, const StepRange& range) {
-    const double value = double{ShownNumber(box)} + step;
+    const double value = double{box.ParsedNumber()} + step;
     box.Write(PlainNumber(static_cast<float>(std::clamp(value, range.lowest, range.highest))));
 }
 

@@ -1,12 +1,15 @@
 #include "platform/walk.h"
 
 #include <algorithm>
+#include <map>
+#include <string>
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTimer>
 
-#include "platform/helpviewer.h"
+#include "platform/companions.h"
 
 namespace vernacle {
 
@@ -64,7 +67,7 @@ void ShowPage(std::unique_ptr<QWidget> page, const QString& focusedControl) {
     shownPage = page.release();
     FocusOn(*shownPage, focusedControl);
     shownPage->showMaximized();
-    KeepHelpBeside(*shownPage);
+    KeepBeside(*shownPage);
     ActivateSurely(*shownPage);
     Unload(left);
 }
@@ -116,6 +119,21 @@ void ShowModal(std::string_view name) {
         dialog->setParent(shownPage, dialog->windowFlags()); // above it, and on its middle
     }
     dialog->exec();
+}
+
+void ShowFormBeside(std::string_view name) {
+    static std::map<std::string, QPointer<QWidget>, std::less<>> open;
+    std::unique_ptr<QWidget> form = MakeForm(name);
+    if (!form || !shownPage) {
+        return;
+    }
+    QPointer<QWidget>& former = open[std::string(name)];
+    if (former) {
+        form->setGeometry(former->geometry());
+        former->close();
+    }
+    former = form.release();
+    ShowBeside(*former, *shownPage);
 }
 
 void UnloadPage() {

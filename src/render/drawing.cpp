@@ -97,7 +97,7 @@ PlateFrame PageFrame(const DrawingTraits& traits) {
     return frame;
 }
 
-void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageSizes& sizes) {
+void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageCopies& sizes) {
     Prepare(traits.preparation);
     DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
     Drawing.WhereMarker = kMarkStart;

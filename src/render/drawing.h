@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+#include "core/freetexts.h"
 #include "render/geometry.h"
 #include "render/surface.h"
 #include "render/ticwalk.h"
@@ -32,9 +33,10 @@ struct DrawingState {
 extern DrawingState Drawing;
 
 // A page's copies, taken when it loads: a change reaches its drawing at the next load.
-struct PageSizes {
+struct PageCopies {
     float fontSize = 0;
     float labelSpacing = 0;
+    const FreeTexts* texts = nullptr; // those of the design if null
 };
 
 struct DrawingRun; // one drawing under way: render/stages
@@ -87,7 +89,13 @@ DrawingTraits WizardTraits();
 // Draws the design. A run-time failure of a stage ends the drawing silently: what was drawn so far
 // stays, and Design.CurrentScale and Design.TicLoop stay where they stood. One on the way there, in
 // the scale tables or the frame, is not trapped.
-void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageSizes& sizes);
+void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageCopies& sizes);
+
+// The width in mm of a free text of that size as a drawing writes it. Sets the ruler's font.
+double FreeTextWidthMm(DrawingSurface& ruler, const std::string& text, double points);
+
+// The colour of a scale: the magnitude of ScaleColor.
+Colour InkOf(int scale);
 
 // The frame of a page, its numbers also kept in Drawing. An AspectRatio of 0 or less becomes 1. A
 // plate without height is a run-time error.

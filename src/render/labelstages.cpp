@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "render/primitives.h"
 #include "render/stages.h"
+#include "scale/scale.h"
 
 namespace vernacle {
 
@@ -16,6 +17,11 @@ constexpr double kLabelHeight = 0.0513;
 constexpr double kTitleHeight = 0.05;
 constexpr double kCharacterWidth = 0.0198;
 constexpr double kOrdinarySize = 0.0285;
+
+constexpr double kRulerPoints = 100; // large enough that its pixels do not round
+constexpr double kTwipsPerPoint = 20;
+constexpr double kTwipsPerPixel = 15;
+constexpr double kAverageCharacter = 904.5 / 2048; // of Arial, ems
 
 // The height of a made font per point; the sampled fitting asks for that of the characters.
 double HeightPerPoint(const DrawingRun& run, double usual) {
@@ -199,18 +205,29 @@ void TitlesStage(DrawingRun& run) {
 }
 
 void FreeTextsStage(DrawingRun& run) {
+    const FreeTexts texts = run.sizes.texts ? *run.sizes.texts : CopyOfTexts();
     for (int text = 1; text <= kTexts; ++text) {
-        if (Design.TextString[text].empty()) {
+        if (texts.TextString[text].empty()) {
             continue;
         }
-        const double fromLeft = double{Design.LeftToText[text]};
-        const double fromBottom = double{Design.BottomToText[text]};
-        run.surface.SetForeColor(Design.TextColor[text]);
-        WriteText(run, PlatePoint(run.frame, fromLeft, fromBottom), Design.TextString[text],
+        const double fromLeft = double{texts.LeftToText[text]};
+        const double fromBottom = double{texts.BottomToText[text]};
+        run.surface.SetForeColor(texts.TextColor[text]);
+        WriteText(run, PlatePoint(run.frame, fromLeft, fromBottom), texts.TextString[text],
                   {.heightPerPoint = kLabelHeight,
-                   .points = double{run.sizes.fontSize} * double{Design.TextRelativeSize[text]},
+                   .points = double{run.sizes.fontSize} * double{texts.TextRelativeSize[text]},
                    .escapement = 0});
     }
+}
+
+// A made font is asked for by its average character, in pixels; the ruler tells ems.
+double FreeTextWidthMm(DrawingSurface& ruler, const std::string& text, double points) {
+    ruler.SetFontName(Design.FontName);
+    ruler.SetFontSize(kRulerPoints);
+    const double twips = double{ruler.TextWidth(text)} * double{Design.ScreenScaleX};
+    const double ems = twips / (kTwipsPerPoint * kRulerPoints);
+    const double halfMmPerEm = kCharacterWidth * kTwipsPerPixel / kAverageCharacter;
+    return ems * points * halfMmPerEm / 2;
 }
 
 } // namespace vernacle

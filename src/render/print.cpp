@@ -12,6 +12,7 @@
 #include "render/page.h"
 #include "render/primitives.h"
 #include "render/stages.h"
+#include "scale/scale.h"
 
 namespace vernacle {
 
@@ -38,7 +39,7 @@ public:
     SizesKeeper(const SizesKeeper&) = delete;
     SizesKeeper& operator=(const SizesKeeper&) = delete;
 
-    const PageSizes kept;
+    const PageCopies kept;
 };
 
 void PrintAt(PrinterSurface& printer, double x, double y, const std::string& text) {

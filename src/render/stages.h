@@ -14,7 +14,7 @@ struct DrawingRun {
     DrawingSurface& surface;
     const DrawingTraits& traits;
     DrawingState& state;
-    PageSizes sizes;
+    PageCopies sizes;
     PlateFrame frame;
 };
 
@@ -67,9 +67,6 @@ struct Ruler {
 };
 
 void DrawRuler(DrawingRun& run, const Ruler& ruler);
-
-// The colour of a scale: the magnitude of ScaleColor.
-Colour InkOf(int scale);
 
 // RelativeFontSize of the scale, made 1 in the design if it is 0 or less.
 double RelativeSizeOf(int scale);

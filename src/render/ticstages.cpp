@@ -6,6 +6,7 @@
 #include "correction/curve.h"
 #include "render/primitives.h"
 #include "render/stages.h"
+#include "scale/scale.h"
 
 namespace vernacle {
 

@@ -87,10 +87,6 @@ void WalkSpecialLabels(int scale, LabelFlags flags,
 
 } // namespace
 
-bool IsSpecial(int scale) {
-    return Design.ScaleColor[scale] < 0;
-}
-
 void WalkTics(int scale, TicFlags flags, const std::function<void(const Tic&)>& visit) {
     if (IsSpecial(scale)) {
         WalkSpecialTics(scale, visit);

@@ -35,8 +35,6 @@ struct TicLabel {
     std::string text;
 };
 
-bool IsSpecial(int scale);
-
 // Visits the tics of a scale in rising order, with Design.TicLoop as the loop variable, which stays
 // where a failure left it. A major or label interval of 0 is a run-time error.
 void WalkTics(int scale, TicFlags flags, const std::function<void(const Tic&)>& visit);

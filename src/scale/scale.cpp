@@ -75,6 +75,10 @@ void CollectDeletedTics() {
     }
 }
 
+bool IsSpecial(int scale) {
+    return Design.ScaleColor[scale] < 0;
+}
+
 bool IsMultiple(int tic, int every) {
     const double quotient = CheckedDivide(tic, every);
     return quotient == std::floor(quotient);

@@ -17,6 +17,9 @@ void ComputeTicLabels();
 // run- time error when all 361 are deleted: a list has 360 entries.
 void CollectDeletedTics();
 
+// Whether a scale's tics are those that a setup stored, as its negative colour marks.
+bool IsSpecial(int scale);
+
 // Whether tic is a multiple of every; the run-time error of a division by 0 if every is 0.
 bool IsMultiple(int tic, int every);
 

@@ -96,7 +96,7 @@ protected:
 
     // From the plate page's first box: the last button stands before the keys of the toolbar.
     void Calibrate() const {
-        constexpr int kToolbarKeys = 8; // that are enabled
+        constexpr int kToolbarKeys = 11; // that are enabled
         display->Press("shift+Tab", kToolbarKeys + 1);
         display->Press("space");
         ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Calibration routine"));

@@ -291,7 +291,7 @@ TEST_F(ScalesLoadTest, LabelIsDrawnOnlyIfItIsFlagged) {
 
 TEST_F(ScalesLoadTest, SizesAreThoseOfTheLoad) {
     OpenScales();
-    const PageSizes atLoad = {Design.FontSize, Design.LabelSpacing};
+    const PageCopies atLoad = {Design.FontSize, Design.LabelSpacing};
     Design.FontSize = 14;
     Design.LabelSpacing = 1;
     Type("txtNumberOfTics", "30");

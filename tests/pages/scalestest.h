@@ -94,7 +94,7 @@ protected:
     std::vector<std::string> ShownPlate() const { return CallsOf("picPlate"); }
 
     // The drawing of the design as it is now, with the sizes that the page had at its load.
-    static std::vector<std::string> PlateOf(const PageSizes& sizes) {
+    static std::vector<std::string> PlateOf(const PageCopies& sizes) {
         const std::int16_t currentScale = Design.CurrentScale;
         PictureBox picture("expected", {0, 0, 12000, 9000}, UnitShape::OfScreen);
         DrawDesign(picture.Surface(), ScalesTraits(), sizes);

@@ -5,6 +5,7 @@
 
 #include "core/runtimeerror.h"
 #include "rendertest.h"
+#include "scale/scale.h"
 
 namespace vernacle::test {
 namespace {

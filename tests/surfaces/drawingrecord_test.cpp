@@ -104,7 +104,7 @@ TEST_F(DrawingRecordTest, ARecordedDesignPaintsTheSamePicture) {
         surface.Flush();
         return image;
     };
-    const PageSizes sizes{Design.FontSize, Design.LabelSpacing};
+    const PageCopies sizes{Design.FontSize, Design.LabelSpacing};
     DrawingRecord kept(DeviceMap::OfScreen(1600, 900), [] {});
     DrawDesign(kept, ScalesTraits(), sizes);
     const QImage replayed = paint([&](DrawingSurface& surface) { kept.Replay(surface); });

@@ -1,0 +1,60 @@
+#include "pages/entryrow.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+#include "platform/entrybox.h"
+#include "platform/formkit.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr int kColumns = 3; // caption, box, illustration
+
+EntryBox* MakePartner(const EntryRow& entry, QWidget& page) {
+    if (!entry.partner) {
+        return nullptr;
+    }
+    auto* partner = new EntryBox(entry.partner, QString::fromUtf8(entry.caption), &page);
+    partner->hide();
+    return partner;
+}
+
+EntryBox* MakeBox(const EntryRow& entry) {
+    return new EntryBox(entry.box, QString::fromUtf8(entry.caption));
+}
+
+QLabel* MakeCaption(const EntryRow& entry, EntryBox& box) {
+    QLabel* label = MakeLabel(entry.label, QString::fromUtf8(entry.caption));
+    label->setBuddy(&box);
+    return label;
+}
+
+} // namespace
+
+EntryControls AddTextRow(const EntryRow& entry, QGridLayout& grid, int row) {
+    EntryBox* box = MakeBox(entry);
+    auto* line = new QHBoxLayout;
+    line->addWidget(MakeCaption(entry, *box));
+    line->addWidget(box, 1);
+    grid.addLayout(line, row, 0, 1, kColumns);
+    return {*box, nullptr};
+}
+
+EntryControls AddEntryRow(const EntryRow& entry, QGridLayout& grid, int row, QWidget& page) {
+    EntryBox* box = MakeBox(entry); // its layout places it in the order of Tab
+    EntryBox* partner = MakePartner(entry, page);
+    grid.addWidget(MakeCaption(entry, *box), row, 0);
+    if (!entry.arrows) {
+        grid.addLayout(MakeStepped(*box, nullptr), row, 1);
+        return {*box, partner};
+    }
+    auto* arrows = new UpDown(entry.arrows, box->accessibleName());
+    grid.addLayout(MakeStepped(*box, arrows), row, 1);
+    arrows->AttachTo(partner ? *partner : *box, entry.range);
+    box->SetArrows(arrows);
+    return {*box, partner};
+}
+
+} // namespace vernacle

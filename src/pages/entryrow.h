@@ -1,0 +1,34 @@
+// A row of a page's grid: caption, box, arrows. The arrows step the box, or a partner that is not
+// shown, in units of its own.
+#pragma once
+
+#include "platform/updown.h"
+
+class QGridLayout;
+class QWidget;
+
+namespace vernacle {
+
+class EntryBox;
+
+struct EntryRow {
+    const char* box = nullptr;
+    const char* label = nullptr;
+    const char* caption = nullptr;
+    const char* arrows = nullptr; // none if null
+    StepRange range;
+    const char* partner = nullptr; // that the arrows step instead of the box
+};
+
+struct EntryControls {
+    EntryBox& box;
+    EntryBox* partner;
+};
+
+// A text takes what the columns of numbers leave.
+EntryControls AddTextRow(const EntryRow& entry, QGridLayout& grid, int row);
+
+// Adds the row to the grid, caption and box in its first two columns.
+EntryControls AddEntryRow(const EntryRow& entry, QGridLayout& grid, int row, QWidget& page);
+
+} // namespace vernacle

@@ -1,0 +1,163 @@
+#include "pages/frmGraphic.h"
+
+#include <algorithm>
+#include <limits>
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/entry.h"
+#include "core/numbertext.h"
+#include "pages/entryrow.h"
+#include "platform/dialogs.h"
+#include "platform/entrybox.h"
+#include "platform/formkit.h"
+
+namespace vernacle {
+
+namespace {
+
+using D = DesignRecord;
+
+constexpr float kNoLimit = std::numeric_limits<float>::infinity();
+
+constexpr OwnTip kOwnTips[] = {{"Scales", "Go to the Scales Design page"}};
+
+constexpr PageTraits kTraits = {.form = "frmGraphic",
+                                .title = "Graphic entry",
+                                .helpTopic = "vgraphic.htm",
+                                .printing = Printing::GreyedAndDead,
+                                .ownTips = kOwnTips};
+
+struct Limits {
+    float lowest;
+    float highest;
+};
+
+void Hold(float& value, const Limits& limits) {
+    value = std::clamp(value, limits.lowest, limits.highest);
+}
+
+std::string UpperCased(const std::string& path) {
+    return QString::fromStdString(path).toUpper().toStdString();
+}
+
+} // namespace
+
+// A measure of the graphic: what typing is held to, and what leaving by the toolbar holds it to.
+struct frmGraphic::Measure {
+    EntryRow row;
+    float D::*field;
+    Limits typed;
+    Limits kept;
+};
+
+// clang-format off
+const frmGraphic::Measure frmGraphic::kMeasures[] = {
+    {{"txtLeftToImage",   "lblLeftToImage",   "Left to graphic:",       "UpDown1", {0, 180}, "txtLeftToImageUpDown"},   &D::LeftToGraphic,   {-kNoLimit, kNoLimit}, {0, 180}},
+    {{"txtBottomToImage", "lblBottomToImage", "Bottom to graphic top:", "UpDown2", {0, 180}, "txtBottomToImageUpDown"}, &D::BottomToGraphic, {-kNoLimit, kNoLimit}, {0, 120}},
+    {{"txtGraphicWidth",  "lblGraphicWidth",  "Graphic width:",         "UpDown3", {0, 180}, "txtGraphicWidthUpDown"},  &D::GraphicWidth,    {2, 180},              {2, 180}},
+    {{"txtGraphicHeight", "lblGraphicHeight", "Graphic height:",        "UpDown4", {0, 180}, "txtGraphicHeightUpDown"}, &D::GraphicHeight,   {2, 180},              {2, 180}},
+};
+// clang-format on
+
+frmGraphic::frmGraphic() : TextKeepingPage(kTraits, TextTraits()) {
+    Build();
+    Load();
+}
+
+void frmGraphic::Build() {
+    auto* grid = new QGridLayout;
+    grid->setSpacing(kEntrySpacing);
+    grid->setColumnStretch(0, 1);
+    for (const Measure& measure : kMeasures) {
+        const EntryControls controls = AddEntryRow(measure.row, *grid, grid->rowCount(), *this);
+        controls.box.OnChange([this, &measure] { MeasureChanged(measure); });
+        controls.partner->OnChange([this, &measure] { PartnerChanged(measure); });
+    }
+    Column().addLayout(grid);
+    QPushButton* get = MakeButton("cmdGetGraphic", QStringLiteral("Browse to get graphic"),
+                                  QStringLiteral("Get a graphic to place on the plate"));
+    QPushButton* remove = MakeButton("cmdRemoveGraphic", QStringLiteral("Remove graphic"));
+    connect(get, &QPushButton::clicked, this, &frmGraphic::cmdGetGraphicClicked);
+    connect(remove, &QPushButton::clicked, this, &frmGraphic::cmdRemoveGraphicClicked);
+    lblGraphicName_ = MakeLabel("lblGraphicName", {});
+    lblGraphicName_->setWordWrap(true);
+    Column().addWidget(get);
+    Column().addWidget(remove);
+    Column().addWidget(lblGraphicName_);
+}
+
+void frmGraphic::Load() {
+    TakeCopies();
+    lblGraphicName_->setText(Design.GraphicFileName.empty()
+                                 ? QStringLiteral("(No graphic currently selected)")
+                                 : QString::fromStdString(UpperCased(Design.GraphicFileName)));
+    for (const Measure& measure : kMeasures) {
+        const std::string text = PlainNumber(Design.*measure.field);
+        Box(measure.row.box).Write(text);
+        Box(measure.row.partner).Show(text);
+        SetEnabled({measure.row.box, measure.row.label, measure.row.partner, measure.row.arrows},
+                   false);
+    }
+    SetEnabled({"cmdGetGraphic", "cmdRemoveGraphic"}, false);
+    Redraw();
+}
+
+void frmGraphic::BeforeKey() {
+    TextKeepingPage::BeforeKey();
+    LimitGraphicEntries();
+}
+
+void frmGraphic::LimitGraphicEntries() {
+    for (const Measure& measure : kMeasures) {
+        std::string text = Box(measure.row.box).Text();
+        ParseEntry(text, Design.*measure.field);
+    }
+    for (const Measure& measure : kMeasures) {
+        Hold(Design.*measure.field, measure.kept);
+    }
+    for (const Measure& measure : kMeasures) {
+        Box(measure.row.box).Write(PlainNumber(Design.*measure.field));
+    }
+}
+
+void frmGraphic::MeasureChanged(const Measure& measure) {
+    float& value = Design.*measure.field;
+    value = Box(measure.row.box).Number();
+    Hold(value, measure.typed);
+    Box(measure.row.partner).Show(PlainNumber(value));
+    Redraw();
+}
+
+void frmGraphic::PartnerChanged(const Measure& measure) {
+    float& value = Design.*measure.field;
+    value = Box(measure.row.partner).Number();
+    Hold(value, measure.typed);
+    Box(measure.row.box).Show(PlainNumber(value));
+}
+
+void frmGraphic::cmdGetGraphicClicked() {
+    const std::string chosen = AskForFileToOpen(
+        this,
+        {"Get graphic", "Graphic files (.bmp, .gif, .ico, .jpg)|*.JPG;*.GIF;*.BMP;*.ICO", ""});
+    Design.GraphicFileName = UpperCased(chosen);
+    lblGraphicName_->setText(QString::fromStdString(Design.GraphicFileName));
+    Design.DrawGraphic = "Y";
+    Redraw();
+}
+
+// The boxes go on showing what was there.
+void frmGraphic::cmdRemoveGraphicClicked() {
+    Design.GraphicFileName.clear();
+    lblGraphicName_->clear();
+    Design.DrawGraphic = "N";
+    for (const Measure& measure : kMeasures) {
+        Design.*measure.field = 0;
+    }
+    Redraw();
+}
+
+} // namespace vernacle

@@ -1,0 +1,36 @@
+// The graphic page: one picture on the plate, its file, place and size.
+#pragma once
+
+#include "pages/drawingpage.h"
+
+class QLabel;
+
+namespace vernacle {
+
+class frmGraphic : public TextKeepingPage {
+    Q_OBJECT
+
+public:
+    frmGraphic();
+
+protected:
+    void BeforeKey() override;
+
+private:
+    struct Measure;
+    static const Measure kMeasures[];
+
+    void Build();
+    void Load();
+
+    void LimitGraphicEntries();
+
+    void MeasureChanged(const Measure& measure);
+    void PartnerChanged(const Measure& measure);
+    void cmdGetGraphicClicked();
+    void cmdRemoveGraphicClicked();
+
+    QLabel* lblGraphicName_ = nullptr;
+};
+
+} // namespace vernacle

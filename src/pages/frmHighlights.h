@@ -1,0 +1,39 @@
+// The highlights page: ten coloured bands along the scale, by percent and millimetres.
+#pragma once
+
+#include "core/slot.h"
+#include "pages/drawingpage.h"
+
+namespace vernacle {
+
+class frmHighlights : public TextKeepingPage {
+    Q_OBJECT
+
+public:
+    frmHighlights();
+
+protected:
+    void Redraw() override;
+
+private:
+    struct Entry;
+    static const Entry kEntries[];
+
+    void Build();
+    void Load();
+
+    void FillHighlightEntry();
+
+    void OptionClicked(int highlight);
+    void EntryChanged(const Entry& entry);
+    void txtLength1Changed(const Entry& entry);
+    void txtLength10Changed();
+    void cmdGetColorClicked();
+    void cmdShowTicInfoClicked();
+
+    void ShowTenfoldLength();
+
+    std::int16_t CurrentHighlight_ = 0; // none is selected
+};
+
+} // namespace vernacle

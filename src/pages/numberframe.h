@@ -1,0 +1,26 @@
+// The frame of numbered options with which a page selects what it edits: a scale, a text, a
+// highlight. The numbers wear the colours of what they stand for, made for paper.
+#pragma once
+
+#include <functional>
+#include <string>
+
+class QGroupBox;
+
+namespace vernacle {
+
+struct NumberFrameTraits {
+    const char* frame;
+    const char* label;
+    const char* labelText;
+    const char* spoken; // before each number, for a screen reader
+    int options;
+    int tips; // as many of the first options have one
+};
+
+// "Option1" to "Option10".
+std::string OptionName(int number);
+
+QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected);
+
+} // namespace vernacle

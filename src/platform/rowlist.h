@@ -1,0 +1,32 @@
+// A list of rows in a font of one pitch, so that the columns of the rows stand below each other.
+#pragma once
+
+#include <functional>
+
+#include <QListWidget>
+
+namespace vernacle {
+
+class RowList : public QListWidget {
+    Q_OBJECT
+
+public:
+    RowList(const char* name, const QString& accessibleName);
+
+    void SetRows(const QStringList& rows);
+
+    // The user chose the row of that index, by a click or a key; -1 for a click with no row under
+    // it.
+    void OnChoose(std::function<void(int row)> handler) { handler_ = std::move(handler); }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Chosen(int row);
+
+    std::function<void(int)> handler_;
+};
+
+} // namespace vernacle
