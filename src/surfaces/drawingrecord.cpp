@@ -1,5 +1,7 @@
 #include "surfaces/drawingrecord.h"
 
+#include "surfaces/picturefile.h"
+
 #include <utility>
 
 namespace vernacle {

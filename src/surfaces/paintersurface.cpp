@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QImageReader>
-
 #include "core/runtimeerror.h"
 #include "surfaces/colours.h"
+#include "surfaces/picturefile.h"
 
 namespace vernacle {
 
@@ -65,16 +64,6 @@ QString ShownText(const std::string& text) {
     QString shown = QString::fromStdString(text);
     shown.removeIf([](QChar letter) { return letter.category() == QChar::Other_Control; });
     return shown;
-}
-
-QImage LoadPicture(const std::string& file) {
-    QImageReader reader(QString::fromStdString(file));
-    reader.setDecideFormatFromContent(true);
-    QImage image = reader.read();
-    if (image.isNull()) {
-        throw RunTimeError(file + ": " + reader.errorString().toStdString());
-    }
-    return image;
 }
 
 DeviceMap DeviceMap::OfScreen(int widthPixels, int heightPixels) {

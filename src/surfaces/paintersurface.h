@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 
-#include <QImage>
 #include <QPainter>
 #include <QPolygonF>
 
@@ -29,9 +28,6 @@ struct DeviceMap {
 
 // The text without its control characters: they have no shape, and an SVG that holds one is no XML.
 QString ShownText(const std::string& text);
-
-// The picture of a file, whatever its name's ending says; a RunTimeError if it does not load.
-QImage LoadPicture(const std::string& file);
 
 class PainterSurface : public virtual DrawingSurface {
 public:
