@@ -1,11 +1,12 @@
-// A keystroke on the scales page, from the key to the finished picture, on a screen of 1920 x 1080
-// with the dense example.
+// On a screen of 1920 x 1080: a keystroke on the scales page with the dense example, from the key
+// to the finished picture; and the list of all tics, filled with as many as it takes.
 #include <benchmark/benchmark.h>
 
 #include <fstream>
 #include <string>
 
 #include <QKeyEvent>
+#include <QPushButton>
 
 #include "app/forms.h"
 #include "core/design.h"
@@ -64,6 +65,22 @@ void Keystroke(benchmark::State& state, const char* name) {
 BENCHMARK_CAPTURE(Keystroke, Title, "txtScaleTitle")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Keystroke, Ceiling, "txtBottomToScaleCeiling")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Keystroke, LeftEnd, "txtScaleLeftEnd")->Unit(benchmark::kMillisecond);
+
+// The refill behind "Accept", painted: 4 scales of 361 rows.
+void FillTicList(benchmark::State& state) {
+    Design.NumberOfScales = 4;
+    for (int scale = 1; scale <= 4; ++scale) {
+        Design.NrOfTicmarks[scale] = kLastTic;
+    }
+    const std::unique_ptr<QWidget> form = MakeForm("frmSelectTics");
+    form->show();
+    auto* accept = form->findChild<QPushButton*>(QStringLiteral("cmdAccept"));
+    for ([[maybe_unused]] auto _ : state) {
+        accept->click();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(FillTicList)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vernacle::bench

@@ -96,9 +96,8 @@ void frmGraphic::Load() {
                                  ? QStringLiteral("(No graphic currently selected)")
                                  : QString::fromStdString(UpperCased(Design.GraphicFileName)));
     for (const Measure& measure : kMeasures) {
-        const std::string text = PlainNumber(Design.*measure.field);
-        Box(measure.row.box).Write(text);
-        Box(measure.row.partner).Show(text);
+        Box(measure.row.box).Write(PlainNumber(Design.*measure.field));
+        Box(measure.row.partner).Show(PlainNumber(Design.*measure.field)); // which may be limited
         SetEnabled({measure.row.box, measure.row.label, measure.row.partner, measure.row.arrows},
                    false);
     }

@@ -7,9 +7,9 @@
 
 #include "core/design.h"
 #include "core/numbertext.h"
+#include "pages/ticlist.h"
 #include "platform/formkit.h"
 #include "platform/optionbutton.h"
-#include "platform/rowlist.h"
 #include "scale/scale.h"
 
 namespace vernacle {
@@ -53,7 +53,7 @@ void frmSelectTics::Build() {
     auto* heading = MakeLabel(
         "Label1",
         QStringLiteral("  Scale:      Tic #:        Print tic:       Label:      Print label:"));
-    lstTicsData_ = new RowList("lstTicsData", heading->text().simplified());
+    lstTicsData_ = new TicList(heading->text());
     const int character = lstTicsData_->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     lstTicsData_->setMinimumSize(kColumns * character, kSmallestHeight);
     lstTicsData_->OnChoose([this](int index) { RowChosen(index); });
@@ -115,17 +115,12 @@ QWidget* frmSelectTics::MakeFlagFrame(const char* name) {
 }
 
 void frmSelectTics::FillTicList() {
-    rows_.Fill(SelectionRow);
-    QStringList shown;
-    for (int row = 1; row <= rows_.Count(); ++row) {
-        shown << QString::fromStdString(rows_[row]);
-    }
-    lstTicsData_->SetRows(shown);
+    lstTicsData_->Fill(SelectionRow);
 }
 
 // The details are read back from the row. Row 0, which a click beside all rows chooses, is empty.
 void frmSelectTics::RowChosen(int index) {
-    const SelectedTic chosen = ReadSelectionRow(rows_[index + 1]);
+    const SelectedTic chosen = ReadSelectionRow(lstTicsData_->Row(index + 1));
     SetDetailsVisible(true);
     Design.CurrentScale = chosen.scale;
     Label("lblData1").setText(Numbered("Scale number: ", chosen.scale));
@@ -172,8 +167,12 @@ void frmSelectTics::SetDetailsVisible(bool visible) {
     }
 }
 
+// One that is selected already has no handler to run: the flag is as it says.
 void frmSelectTics::Select(const char* option) {
-    findChild<OptionButton*>(QLatin1String(option))->Select();
+    auto* button = findChild<OptionButton*>(QLatin1String(option));
+    if (!button->isChecked()) {
+        button->Select();
+    }
 }
 
 QWidget& frmSelectTics::Control(const char* name) const {

@@ -2,14 +2,13 @@
 #pragma once
 
 #include "platform/form.h"
-#include "scale/ticrows.h"
 
 class QLabel;
 class QLayout;
 
 namespace vernacle {
 
-class RowList;
+class TicList;
 
 class frmSelectTics : public ModalForm {
     Q_OBJECT
@@ -38,8 +37,7 @@ private:
     QWidget& Control(const char* name) const;
     QLabel& Label(const char* name) const;
 
-    RowList* lstTicsData_ = nullptr;
-    TicRows rows_;
+    TicList* lstTicsData_ = nullptr;
 };
 
 } // namespace vernacle

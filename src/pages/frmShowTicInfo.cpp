@@ -3,8 +3,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "pages/ticlist.h"
 #include "platform/formkit.h"
-#include "platform/rowlist.h"
 
 namespace vernacle {
 
@@ -19,7 +19,7 @@ frmShowTicInfo::frmShowTicInfo() {
     setWindowFlags(Qt::Dialog); // stands above the page it belongs to
     setWindowTitle(QStringLiteral("Vernacle - Show tic info"));
     auto* heading = MakeLabel("lblHeader", QStringLiteral("        Tic: Label: Defl%:"));
-    lstTicsData_ = new RowList("lstTicsData", heading->text().simplified());
+    lstTicsData_ = new TicList(heading->text());
     heading->setFont(lstTicsData_->font());
     lstTicsData_->setSelectionMode(QAbstractItemView::NoSelection); // is read only
     QPushButton* exit = MakeButton("cmdExit", QStringLiteral("Close"));
@@ -35,12 +35,7 @@ frmShowTicInfo::frmShowTicInfo() {
 }
 
 void frmShowTicInfo::FillTicList() {
-    rows_.Fill(InformationRow);
-    QStringList shown;
-    for (int row = 1; row <= rows_.Count(); ++row) {
-        shown << QString::fromStdString(rows_[row]);
-    }
-    lstTicsData_->SetRows(shown);
+    lstTicsData_->Fill(InformationRow);
 }
 
 } // namespace vernacle

@@ -4,11 +4,9 @@
 
 #include <QWidget>
 
-#include "scale/ticrows.h"
-
 namespace vernacle {
 
-class RowList;
+class TicList;
 
 class frmShowTicInfo : public QWidget {
     Q_OBJECT
@@ -19,8 +17,7 @@ public:
 private:
     void FillTicList();
 
-    RowList* lstTicsData_ = nullptr;
-    TicRows rows_;
+    TicList* lstTicsData_ = nullptr;
 };
 
 } // namespace vernacle

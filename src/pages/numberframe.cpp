@@ -1,5 +1,7 @@
 #include "pages/numberframe.h"
 
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 
 #include "platform/formkit.h"
@@ -9,6 +11,7 @@ namespace vernacle {
 
 namespace {
 
+constexpr int kMostPerLine = 6; // options; more would widen the column at the plate's cost
 constexpr QColor kPaper(0xF4, 0xF4, 0xF4);
 constexpr QColor kFadedInk(0x90, 0x90, 0x90);
 
@@ -38,8 +41,9 @@ QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(i
     paper->setObjectName(frame->objectName() + QStringLiteral("Paper"));
     paper->setAutoFillBackground(true);
     paper->setPalette(PaperPalette());
-    auto* options = new QHBoxLayout(paper);
+    auto* options = new QGridLayout(paper);
     options->setContentsMargins(6, 3, 6, 3);
+    const int perLine = traits.options > kMostPerLine ? (traits.options + 1) / 2 : traits.options;
     for (int number = 1; number <= traits.options; ++number) {
         const QString shown = QString::number(number);
         auto* option = new OptionButton(OptionName(number).c_str(), shown);
@@ -48,7 +52,7 @@ QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(i
         }
         option->setAccessibleName(QString::fromUtf8(traits.spoken) + shown);
         option->OnSelect([selected, number] { selected(number); });
-        options->addWidget(option);
+        options->addWidget(option, (number - 1) / perLine, (number - 1) % perLine);
     }
     line->addWidget(paper, 1);
     return frame;

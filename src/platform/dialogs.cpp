@@ -10,13 +10,18 @@ namespace vernacle {
 
 namespace {
 
-QString DescriptionOf(const char* filter) {
-    return QString::fromUtf8(filter).section(QLatin1Char('|'), 0, 0);
+// The dialog shows the description alone, and hides the patterns that it finds at its end.
+void SetFilter(QFileDialog& dialog, const char* filter) {
+    const QStringList parts = QString::fromUtf8(filter).split(QLatin1Char('|'));
+    QString patterns = parts.last();
+    patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilter(parts.first() + QStringLiteral(" (%1)").arg(patterns));
 }
 
 void Prepare(QFileDialog& dialog, const char* name, const FileQuestion& question) {
     dialog.setObjectName(QLatin1String(name));
-    dialog.setNameFilter(DescriptionOf(question.filter));
+    SetFilter(dialog, question.filter);
     dialog.setDefaultSuffix(QLatin1String(question.ending));
 }
 

@@ -10,7 +10,8 @@ class QWidget;
 
 namespace vernacle {
 
-// A filter is a description and its pattern: "Vernacle files (*.VRN)|*.VRN".
+// A filter is a description and its patterns: "Vernacle files (*.VRN)|*.VRN",
+// "Pictures|*.GIF;*.BMP".
 struct FileQuestion {
     const char* title;
     const char* filter;

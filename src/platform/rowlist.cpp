@@ -18,11 +18,6 @@ RowList::RowList(const char* name, const QString& accessibleName) {
     setFont(font);
 }
 
-void RowList::SetRows(const QStringList& rows) {
-    clear();
-    addItems(rows);
-}
-
 void RowList::mousePressEvent(QMouseEvent* event) {
     QListWidget::mousePressEvent(event);
     const int row = indexAt(event->pos()).row();

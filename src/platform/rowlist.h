@@ -13,8 +13,6 @@ class RowList : public QListWidget {
 public:
     RowList(const char* name, const QString& accessibleName);
 
-    void SetRows(const QStringList& rows);
-
     // The user chose the row of that index, by a click or a key; -1 for a click with no row under
     // it.
     void OnChoose(std::function<void(int row)> handler) { handler_ = std::move(handler); }

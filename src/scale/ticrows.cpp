@@ -66,7 +66,7 @@ float DeflectionOf(int scale, int tic) {
                             : Design.StandardDeflection[scale][tic];
 }
 
-void TicRows::Fill(const std::function<std::string(int scale, int tic)>& row) {
+void TicRows::Fill(const RowText& row) {
     count_ = 0;
     rows_.fill({});
     for (Design.CurrentScale = 1; Design.CurrentScale <= Design.NumberOfScales;

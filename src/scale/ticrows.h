@@ -20,10 +20,11 @@ float DeflectionOf(int scale, int tic); // fraction, before any movement correct
 class TicRows {
 public:
     static constexpr int kMost = 1444;
+    using RowText = std::function<std::string(int scale, int tic)>;
 
     // Takes the row of every tic of every scale, with Design.CurrentScale and Design.TicLoop as the
     // loop variables, which end behind. One row too many is a run-time error.
-    void Fill(const std::function<std::string(int scale, int tic)>& row);
+    void Fill(const RowText& row);
 
     int Count() const { return count_; }
     const std::string& operator[](int row) const { return rows_[row]; }

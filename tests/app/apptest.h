@@ -12,6 +12,10 @@
 
 namespace vernacle::test {
 
+// The pages that the toolbar walks between.
+constexpr const char* kDesignPages[] = {"frmPlate",   "frmScales",     "frmText",
+                                        "frmGraphic", "frmHighlights", "frmPreview"};
+
 class AppTest : public FormTest {
 protected:
     // From now on the clock stands but for waits, which are counted; meanwhile runs at the first

@@ -29,7 +29,8 @@ constexpr FormRow kPlainForm[] = {{"frmPlain", MakePlain}};
 class CloseBoxTest : public AppTest {};
 
 TEST_F(CloseBoxTest, SavesTheSessionAndEnds) {
-    for (const char* page : {"frmPlate", "frmScales", "frmPreview"}) {
+    for (const char* page :
+         {"frmPlate", "frmScales", "frmPreview", "frmGraphic", "frmHighlights"}) {
         SCOPED_TRACE(page);
         std::filesystem::remove(Path("LASTSESSION.VRN"));
         Design.DesignFileName = "/designs/mine.VRN";
@@ -83,14 +84,26 @@ TEST_F(CloseBoxTest, PageThatJustEndsLosesTheSession) {
     EXPECT_EQ(CurrentPage(), nullptr);
 }
 
+TEST_F(CloseBoxTest, TextPageJustEnds) {
+    WriteDesignFile("LASTSESSION.VRN", 61);
+    const QPointer<QWidget> closed = &OpenPage("frmText");
+    Design.PlateWidth = 64;
+    CloseByUser(*closed);
+    EXPECT_TRUE(TakeProcessEnd());
+    EXPECT_EQ(WidthIn("LASTSESSION.VRN"), 61) << "the older one stays";
+    Settle();
+    EXPECT_TRUE(closed.isNull());
+}
+
 TEST_F(CloseBoxTest, DeadPrintKeyDoesNothing) {
-    SetForms(kPlainForm);
-    OpenPage("frmPlain");
-    auto& print = Find<QToolButton>("Print");
-    EXPECT_FALSE(print.isEnabled());
-    print.setEnabled(true);
-    Click("Print"); // a dialog would wait for ever
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    for (const char* page : {"frmText", "frmGraphic", "frmHighlights"}) {
+        OpenPage(page);
+        auto& print = Find<QToolButton>("Print");
+        EXPECT_FALSE(print.isEnabled());
+        print.setEnabled(true);
+        Click("Print"); // a dialog would wait for ever
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
 }
 
 TEST_F(CloseBoxTest, KeysOfPagesThatAreNotThereAreGreyed) {

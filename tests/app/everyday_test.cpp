@@ -6,6 +6,8 @@
 #include <span>
 #include <sstream>
 
+#include <QListWidget>
+
 #include "core/design.h"
 #include "core/numbertext.h"
 #include "core/seam.h"
@@ -180,6 +182,34 @@ protected:
         EXPECT_EQ(std::count(drawn.begin(), drawn.end(), kTitle), 1);
     }
 
+    // The pages on which nothing can be entered.
+    void LookAtTheOtherPages() {
+        PressKeys(Qt::CTRL | Qt::Key_3);
+        ExpectPage("frmText", "Vernacle - Text entry");
+        EXPECT_EQ(TextOf("txtText"), "");
+        PressKeys(Qt::CTRL | Qt::Key_4);
+        ExpectPage("frmGraphic", "Vernacle - Graphic entry");
+        EXPECT_EQ(Find<QLabel>("lblGraphicName").text(),
+                  QLatin1String("(No graphic currently selected)"));
+        PressKeys(Qt::CTRL | Qt::Key_5);
+        ExpectPage("frmHighlights", "Vernacle - Highlight entry");
+        ReadPercents();
+    }
+
+    // Of the tics, from the list beside the page.
+    void ReadPercents() {
+        Click("cmdShowTicInfo");
+        Settle();
+        QWidget* list = QApplication::activeWindow();
+        ASSERT_TRUE(list);
+        EXPECT_EQ(list->objectName(), QLatin1String("frmShowTicInfo"));
+        const auto& rows = On<QListWidget>(*list, "lstTicsData");
+        ASSERT_EQ(rows.count(), 36);
+        EXPECT_EQ(rows.item(35)->text(), QLatin1String("Scale 1   35    30   100         "));
+        Click(On<QPushButton>(*list, "cmdExit"));
+        Settle();
+    }
+
     void EnterAspect() {
         PressKeys(Qt::CTRL | Qt::Key_6);
         ExpectPage("frmPreview", "Vernacle - Preview");
@@ -326,6 +356,7 @@ TEST_F(EverydayTest, WhatIsEnteredTodayIsThereTomorrow) {
     StartNewDesign();
     EnterPlate();
     EnterScale();
+    LookAtTheOtherPages();
     EnterAspect();
     Calibrate();
     PressKeys(Qt::CTRL | Qt::Key_6);
@@ -360,17 +391,38 @@ TEST_F(EverydayTest, WhatIsEnteredTodayIsThereTomorrow) {
     ExpectAllThere();
 }
 
+struct ClosedPage {
+    Qt::Key key; // that leads there
+    const char* page;
+    bool keepsSession;
+};
+
+constexpr ClosedPage kClosedPages[] = {
+    {Qt::Key_1, "frmPlate", true},   {Qt::Key_2, "frmScales", true},
+    {Qt::Key_4, "frmGraphic", true}, {Qt::Key_5, "frmHighlights", true},
+    {Qt::Key_6, "frmPreview", true}, {Qt::Key_3, "frmText", false},
+};
+
+// On all pages but one, where the session before comes back.
 TEST_F(EverydayTest, TheCloseBoxKeepsTheSessionToo) {
-    StartNewDesign();
-    EnterPlate();
-    EnterScale();
-    CloseByUser(Page());
-    EXPECT_TRUE(TakeProcessEnd());
-    RestartAtLastSession();
-    PressKeys(Qt::CTRL | Qt::Key_1);
-    ExpectAll(kPlateEntries);
-    PressKeys(Qt::CTRL | Qt::Key_2);
-    ExpectAll(kScaleEntries);
+    float kept = 0;
+    for (const ClosedPage& row : kClosedPages) {
+        SCOPED_TRACE(row.page);
+        StartNewDesign();
+        EnterPlate();
+        EnterScale();
+        const float height = kept + 1;
+        Type("txtBottomToTitle", PlainNumber(height));
+        PressKeys(Qt::CTRL | row.key);
+        ExpectPage(row.page, Page().windowTitle().toStdString());
+        CloseByUser(Page());
+        EXPECT_TRUE(TakeProcessEnd());
+        kept = row.keepsSession ? height : kept;
+        RestartAtLastSession();
+        EXPECT_EQ(Design.BottomToTitle[1], kept);
+        PressKeys(Qt::CTRL | Qt::Key_1);
+        ExpectAll(kPlateEntries);
+    }
 }
 
 TEST_F(EverydayTest, ALaterSessionTakesThePlaceOfTheEarlierOne) {

@@ -12,14 +12,14 @@ struct TitleRow {
 
 class TitlesTest : public AppTest {};
 
-constexpr TitleRow kDesignPages[] = {
-    {"frmPlate", "Vernacle - Plate design"},
-    {"frmScales", "Vernacle - Scale design"},
-    {"frmPreview", "Vernacle - Preview"},
+constexpr TitleRow kPageTitles[] = {
+    {"frmPlate", "Vernacle - Plate design"},    {"frmScales", "Vernacle - Scale design"},
+    {"frmPreview", "Vernacle - Preview"},       {"frmText", "Vernacle - Text entry"},
+    {"frmGraphic", "Vernacle - Graphic entry"}, {"frmHighlights", "Vernacle - Highlight entry"},
 };
 
 TEST_F(TitlesTest, DesignPagesNameTheFile) {
-    for (const TitleRow& row : kDesignPages) {
+    for (const TitleRow& row : kPageTitles) {
         Design.DesignFileName.clear();
         EXPECT_EQ(TitleOf(OpenPage(row.form)), row.title);
         Design.DesignFileName = "/designs/Prüf plate.VRN";
@@ -33,6 +33,9 @@ constexpr TitleRow kOtherForms[] = {
     {"frmOpening", "Vernacle - Welcome !"},
     {"frmExit", "Vernacle - Exit ?"},
     {"frmCalibrate", "Vernacle - Calibration routine"},
+    {"frmSelectTics", "Vernacle - select tics"},
+    {"frmShowTicInfo", "Vernacle - Show tic info"},
+    {"frmTicsHelp", "Vernacle - Tics Help"},
 };
 
 TEST_F(TitlesTest, OtherFormsDoNot) {

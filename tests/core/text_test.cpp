@@ -37,5 +37,17 @@ TEST(TextTest, LeftmostCountsCharacters) {
     EXPECT_EQ(Leftmost("\u00B5A\u20AC", 3), "\u00B5A\u20AC");
 }
 
+TEST(TextTest, MiddleCountsCharactersFromOne) {
+    EXPECT_EQ(Middle("volts", 1, 2), "vo");
+    EXPECT_EQ(Middle("volts", 4, 2), "ts");
+    EXPECT_EQ(Middle("volts", 5, 9), "s");
+    EXPECT_EQ(Middle("volts", 6, 1), "");
+    EXPECT_EQ(Middle("volts", 60, 1), "");
+    EXPECT_EQ(Middle("volts", 2, 0), "");
+    EXPECT_EQ(Middle("", 1, 4), "");
+    EXPECT_EQ(Middle("\u00B5A\u20AC", 2, 2), "A\u20AC");
+    EXPECT_EQ(Middle("\u00B5A\u20AC", 3, 1), "\u20AC");
+}
+
 } // namespace
 } // namespace vernacle::test

@@ -8,12 +8,7 @@
 #include "core/design.h"
 #include "core/numbertext.h"
 #include "core/slot.h"
-#include "platform/entrybox.h"
-#include "platform/optionbutton.h"
-#include "platform/picturebox.h"
-#include "render/drawing.h"
-#include "support/formtest.h"
-#include "support/recordingsurface.h"
+#include "pages/pagedrawing.h"
 
 namespace vernacle::test {
 
@@ -60,7 +55,7 @@ inline const ScaleEntry& EntryOf(const std::string& stem) {
     throw std::runtime_error("no entry " + stem);
 }
 
-class ScalesTest : public FormTest {
+class ScalesTest : public DrawingPageTest {
 protected:
     QWidget& OpenScales() { return OpenPage("frmScales"); }
 
@@ -81,8 +76,6 @@ protected:
 
     bool IsEnabled(const std::string& control) const { return Find(control).isEnabled(); }
 
-    bool IsSelected(const std::string& option) const { return Option(option).isChecked(); }
-
     // The colours of an option, whether or not it is enabled.
     QColor InkOf(const std::string& option) const {
         return Option(option).palette().color(QPalette::Active, QPalette::WindowText);
@@ -91,17 +84,9 @@ protected:
         return Option(option).grab().toImage().pixelColor(0, 0); // as it is painted
     }
 
-    std::vector<std::string> ShownPlate() const { return CallsOf("picPlate"); }
-
     // The drawing of the design as it is now, with the sizes that the page had at its load.
     static std::vector<std::string> PlateOf(const PageCopies& sizes) {
-        const std::int16_t currentScale = Design.CurrentScale;
-        PictureBox picture("expected", {0, 0, 12000, 9000}, UnitShape::OfScreen);
-        DrawDesign(picture.Surface(), ScalesTraits(), sizes);
-        Design.CurrentScale = currentScale;
-        RecordingSurface surface;
-        picture.Record().Replay(surface);
-        return surface.calls;
+        return DrawnPlate(ScalesTraits(), sizes);
     }
     static std::vector<std::string> PlateOfDesign() {
         return PlateOf({Design.FontSize, Design.LabelSpacing});
@@ -109,7 +94,7 @@ protected:
 
     // Takes the drawing away and puts nonsense into the tables: only a redraw mends both.
     void Spoil() const {
-        Picture("picPlate").Surface().Clear();
+        Wipe();
         for (int scale = 1; scale <= Design.NumberOfScales; ++scale) {
             Design.StandardDeflection[scale][1] = 9;
             Design.StandardLabel[scale][0] = "spoilt";

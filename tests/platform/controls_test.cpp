@@ -42,6 +42,29 @@ TEST_F(ControlsTest, AWriteRunsTheHandlerAlsoForTheTextThatIsThere) {
     EXPECT_EQ(seen, (std::vector<std::string>{"30", "30"}));
 }
 
+TEST_F(ControlsTest, ShowingRunsTheHandlerOnlyForAnotherText) {
+    box.Show("30");
+    box.Show("30");
+    box.Show("31");
+    EXPECT_EQ(seen, (std::vector<std::string>{"30", "31"}));
+}
+
+struct NumberRow {
+    const char* text;
+    float number;
+};
+
+TEST_F(ControlsTest, NumberIsWhatTheTextStartsWith) {
+    const NumberRow rows[] = {
+        {"", 0},         {"abc", 0},    {"12.5mm", 12.5F}, {"-20", -20},       {"1 2", 1},
+        {"3.5.5", 3.5F}, {"1e3", 1000}, {"1E38", 1e30F},   {"-1E300", -1e30F},
+    };
+    for (const NumberRow& row : rows) {
+        box.Show(row.text);
+        EXPECT_EQ(box.Number(), row.number) << row.text;
+    }
+}
+
 TEST_F(ControlsTest, TwoBoxesThatWriteEachOtherComeToAnEnd) {
     EntryBox other("txtOther", QStringLiteral("Other"));
     int runs = 0;
