@@ -60,11 +60,10 @@ const char* TipOf(const PageTraits& traits, const ToolbarKey& key) {
     return key.tip;
 }
 
-KeyState StateOf(const PageTraits& traits, const ToolbarKey& key, const char* page) {
-    const bool leadsNowhere = page && !IsFormKnown(page);
+KeyState StateOf(const PageTraits& traits, const ToolbarKey& key) {
     const bool greyed =
         key.key == std::string_view("Print") && traits.printing != Printing::Offered;
-    return leadsNowhere || greyed ? KeyState::Greyed : KeyState::Enabled;
+    return greyed ? KeyState::Greyed : KeyState::Enabled;
 }
 
 } // namespace
@@ -79,7 +78,7 @@ void DesignPage::AddToolbar() {
     for (const Key& key : kKeys) {
         ToolbarKey face = key.face;
         face.tip = TipOf(traits_, face);
-        toolbar->AddKey(face, StateOf(traits_, face, key.page), [this, &key] { KeyClicked(key); });
+        toolbar->AddKey(face, StateOf(traits_, face), [this, &key] { KeyClicked(key); });
     }
     Body().addWidget(toolbar);
 }

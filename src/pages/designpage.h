@@ -36,7 +36,7 @@ class DesignPage : public Page {
     Q_OBJECT
 
 protected:
-    // The traits stay where they are.
+    // The traits must outlive the page.
     explicit DesignPage(const PageTraits& traits);
 
     void CloseBoxClicked() override;

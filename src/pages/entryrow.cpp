@@ -22,7 +22,9 @@ EntryBox* MakePartner(const EntryRow& entry, QWidget& page) {
 }
 
 EntryBox* MakeBox(const EntryRow& entry) {
-    return new EntryBox(entry.box, QString::fromUtf8(entry.caption));
+    auto* box = new EntryBox(entry.box, QString::fromUtf8(entry.caption));
+    box->SetReading(entry.reading);
+    return box;
 }
 
 QLabel* MakeCaption(const EntryRow& entry, EntryBox& box) {
@@ -53,7 +55,7 @@ EntryControls AddEntryRow(const EntryRow& entry, QGridLayout& grid, int row, QWi
     auto* arrows = new UpDown(entry.arrows, box->accessibleName());
     grid.addLayout(MakeStepped(*box, arrows), row, 1);
     arrows->AttachTo(partner ? *partner : *box, entry.range);
-    box->SetArrows(arrows);
+    box->SetArrows(arrows); // its Up and Down keys step a partner too
     return {*box, partner};
 }
 

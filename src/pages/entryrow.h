@@ -2,14 +2,13 @@
 // shown, in units of its own.
 #pragma once
 
+#include "platform/entrybox.h"
 #include "platform/updown.h"
 
 class QGridLayout;
 class QWidget;
 
 namespace vernacle {
-
-class EntryBox;
 
 struct EntryRow {
     const char* box = nullptr;
@@ -18,6 +17,7 @@ struct EntryRow {
     const char* arrows = nullptr; // none if null
     StepRange range;
     const char* partner = nullptr; // that the arrows step instead of the box
+    Reading reading = Reading::Entry;
 };
 
 struct EntryControls {
@@ -25,7 +25,7 @@ struct EntryControls {
     EntryBox* partner;
 };
 
-// A text takes what the columns of numbers leave.
+// Adds a row for a text: its box is as wide as the grid leaves room beside the caption.
 EntryControls AddTextRow(const EntryRow& entry, QGridLayout& grid, int row);
 
 // Adds the row to the grid, caption and box in its first two columns.

@@ -14,6 +14,7 @@
 #include "platform/dialogs.h"
 #include "platform/entrybox.h"
 #include "platform/formkit.h"
+#include "platform/pathlabel.h"
 
 namespace vernacle {
 
@@ -83,8 +84,7 @@ void frmGraphic::Build() {
     QPushButton* remove = MakeButton("cmdRemoveGraphic", QStringLiteral("Remove graphic"));
     connect(get, &QPushButton::clicked, this, &frmGraphic::cmdGetGraphicClicked);
     connect(remove, &QPushButton::clicked, this, &frmGraphic::cmdRemoveGraphicClicked);
-    lblGraphicName_ = MakeLabel("lblGraphicName", {});
-    lblGraphicName_->setWordWrap(true);
+    lblGraphicName_ = new PathLabel("lblGraphicName");
     Column().addWidget(get);
     Column().addWidget(remove);
     Column().addWidget(lblGraphicName_);
@@ -96,8 +96,7 @@ void frmGraphic::Load() {
                                  ? QStringLiteral("(No graphic currently selected)")
                                  : QString::fromStdString(UpperCased(Design.GraphicFileName)));
     for (const Measure& measure : kMeasures) {
-        Box(measure.row.box).Write(PlainNumber(Design.*measure.field));
-        Box(measure.row.partner).Show(PlainNumber(Design.*measure.field)); // which may be limited
+        Box(measure.row.box).Write(PlainNumber(Design.*measure.field)); // and its partner by that
         SetEnabled({measure.row.box, measure.row.label, measure.row.partner, measure.row.arrows},
                    false);
     }
@@ -114,8 +113,6 @@ void frmGraphic::LimitGraphicEntries() {
     for (const Measure& measure : kMeasures) {
         std::string text = Box(measure.row.box).Text();
         ParseEntry(text, Design.*measure.field);
-    }
-    for (const Measure& measure : kMeasures) {
         Hold(Design.*measure.field, measure.kept);
     }
     for (const Measure& measure : kMeasures) {

@@ -50,10 +50,10 @@ struct frmHighlights::Entry {
 
 // clang-format off
 const frmHighlights::Entry frmHighlights::kEntries[] = {
-    {{"txtStart1",   "lblStart",  "Start %:",   "UpDown1", {0, 100}},                At<&D::HighlightStart>,   &frmHighlights::EntryChanged},
-    {{"txtStop1",    "lblStop",   "Stop %:",    "UpDown2", {0, 100}},                At<&D::HighlightStop>,    &frmHighlights::EntryChanged},
-    {{"txtCeiling1", "lblBottom", "Bottom mm:", "UpDown3", {0, 180}},                At<&D::HighlightCeiling>, &frmHighlights::EntryChanged},
-    {{"txtLength1",  "lblHeight", "Height mm:", "UpDown4", {0, 180}, "txtLength10"}, At<&D::HighlightLength>,  &frmHighlights::txtLength1Changed},
+    {{"txtStart1",   "lblStart",  "Start %:",   "UpDown1", {0, 100}, nullptr, Reading::Plain}, At<&D::HighlightStart>,   &frmHighlights::EntryChanged},
+    {{"txtStop1",    "lblStop",   "Stop %:",    "UpDown2", {0, 100}, nullptr, Reading::Plain}, At<&D::HighlightStop>,    &frmHighlights::EntryChanged},
+    {{"txtCeiling1", "lblBottom", "Bottom mm:", "UpDown3", {0, 180}, nullptr, Reading::Plain}, At<&D::HighlightCeiling>, &frmHighlights::EntryChanged},
+    {{"txtLength1",  "lblHeight", "Height mm:", "UpDown4", {0, 180}, "txtLength10"},           At<&D::HighlightLength>,  &frmHighlights::txtLength1Changed},
 };
 // clang-format on
 
@@ -93,7 +93,6 @@ void frmHighlights::Load() {
         SetEnabled({entry.row.label, entry.row.box, entry.row.arrows}, false);
     }
     SetEnabled({"Label1", "fraTextNumber", "txtLength10", "cmdGetColor"}, false);
-    CurrentHighlight_ = 0;
     Redraw();
 }
 
@@ -123,13 +122,17 @@ void frmHighlights::OptionClicked(int highlight) {
     }
 }
 
-void frmHighlights::EntryChanged(const Entry& entry) {
+void frmHighlights::Store(const Entry& entry) {
     StoreInSlot(double{Box(entry.row.box).Number()}, entry.field(CurrentHighlight_, 0));
+}
+
+void frmHighlights::EntryChanged(const Entry& entry) {
+    Store(entry);
     Redraw();
 }
 
 void frmHighlights::txtLength1Changed(const Entry& entry) {
-    StoreInSlot(double{Box(entry.row.box).Number()}, entry.field(CurrentHighlight_, 0));
+    Store(entry);
     ShowTenfoldLength();
     Redraw();
 }

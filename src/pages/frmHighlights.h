@@ -31,6 +31,7 @@ private:
     void cmdGetColorClicked();
     void cmdShowTicInfoClicked();
 
+    void Store(const Entry& entry);
     void ShowTenfoldLength();
 
     std::int16_t CurrentHighlight_ = 0; // none is selected

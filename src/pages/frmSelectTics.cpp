@@ -79,11 +79,9 @@ QLayout* frmSelectTics::MakeDetails() {
     column->addSpacing(12);
     column->addWidget(MakeLabel("lblData1", QStringLiteral("Scale number:")));
     column->addWidget(MakeLabel("lblData2", QStringLiteral("Ticmark #:")));
-    column->addWidget(MakeLabel("lblData3", QStringLiteral("Print:")));
-    column->addWidget(MakeFlagFrame("fraTics"));
+    column->addLayout(MakeFlagLine("lblData3", "fraTics"));
     column->addWidget(MakeLabel("lblData4", QStringLiteral("Label:")));
-    column->addWidget(MakeLabel("lblData5", QStringLiteral("Print:")));
-    column->addWidget(MakeFlagFrame("fraLabels"));
+    column->addLayout(MakeFlagLine("lblData5", "fraLabels"));
     column->addSpacing(12);
     column->addWidget(MakeLabel(
         "Label3",
@@ -98,6 +96,13 @@ QLayout* frmSelectTics::MakeDetails() {
     column->addWidget(accept);
     column->addWidget(exit);
     return column;
+}
+
+QLayout* frmSelectTics::MakeFlagLine(const char* label, const char* frame) {
+    auto* line = new QHBoxLayout;
+    line->addWidget(MakeLabel(label, QStringLiteral("Print:")));
+    line->addWidget(MakeFlagFrame(frame), 1);
+    return line;
 }
 
 QWidget* frmSelectTics::MakeFlagFrame(const char* name) {
@@ -167,7 +172,7 @@ void frmSelectTics::SetDetailsVisible(bool visible) {
     }
 }
 
-// One that is selected already has no handler to run: the flag is as it says.
+// One that is selected already runs no handler: nothing is selected that was not.
 void frmSelectTics::Select(const char* option) {
     auto* button = findChild<OptionButton*>(QLatin1String(option));
     if (!button->isChecked()) {

@@ -22,6 +22,7 @@ private:
 
     void Build();
     QLayout* MakeDetails();
+    QLayout* MakeFlagLine(const char* label, const char* frame);
     QWidget* MakeFlagFrame(const char* name);
 
     void FillTicList();

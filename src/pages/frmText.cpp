@@ -17,7 +17,7 @@
 #include "platform/entrybox.h"
 #include "platform/formkit.h"
 #include "platform/optionbutton.h"
-#include "platform/picturebox.h"
+#include "surfaces/typeface.h"
 
 namespace vernacle {
 
@@ -41,8 +41,8 @@ constexpr NumberFrameTraits kNumbers = {.frame = "fraTextNumber",
 
 // clang-format off
 constexpr EntryRow kText   = {"txtText",         "lblText",         "Text:",           nullptr,   {}};
-constexpr EntryRow kLeft   = {"txtLeftToText",   "lblLeftToText",   "Left to text:",   "UpDown1", {-100, 180}};
-constexpr EntryRow kBottom = {"txtBottomToText", "lblBottomToText", "Bottom to text:", "UpDown2", {0, 180}};
+constexpr EntryRow kLeft   = {"txtLeftToText",   "lblLeftToText",   "Left to text:",   "UpDown1", {-100, 180}, nullptr, Reading::Plain};
+constexpr EntryRow kBottom = {"txtBottomToText", "lblBottomToText", "Bottom to text:", "UpDown2", {0, 180},    nullptr, Reading::Plain};
 constexpr EntryRow kSize   = {"txtRelSize",      "lblRelSize",      "Relative size:",  "UpDown3", {1, 20}, "txtRelSizeUpDown"};
 // clang-format on
 
@@ -113,11 +113,11 @@ void frmText::MeasureTextWidth(int entry) {
         "Text width (mm): " + PlainNumber(RoundedToTenths(TextWidthMm_[entry]))));
 }
 
-// On a surface of its own: measuring sets a font.
-float frmText::DrawnWidthMm(int entry) {
-    DrawingRecord ruler = Plate().Ruler();
+float frmText::DrawnWidthMm(int entry) const {
+    const Typeface face{std::string(Trimmed(Design.FontName))};
+    const QString text = QString::fromStdString(texts_.TextString[entry]);
     const double points = double{copies_.fontSize} * double{texts_.TextRelativeSize[entry]};
-    return static_cast<float>(FreeTextWidthMm(ruler, texts_.TextString[entry], points));
+    return static_cast<float>(FreeTextWidthMm(face.Advance(text) / face.AverageWidth(), points));
 }
 
 void frmText::OptionClicked(int entry) {

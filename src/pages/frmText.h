@@ -29,11 +29,11 @@ private:
     void cmdCenterTextClicked();
     void cmdGetColorClicked();
 
-    float DrawnWidthMm(int entry);
+    float DrawnWidthMm(int entry) const;
 
     QLabel* lblTextWidthmm_ = nullptr;
     std::int16_t CurrentTextEntry_ = 1;
-    int textsAtLoad_ = 0;
+    int textsAtLoad_ = 0;              // that are not empty
     Table<float, kTexts> TextWidthMm_; // as last computed
 };
 

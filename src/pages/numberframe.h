@@ -1,5 +1,5 @@
 // The frame of numbered options with which a page selects what it edits: a scale, a text, a
-// highlight. The numbers wear the colours of what they stand for, made for paper.
+// highlight. They stand on paper, whose colours the colours of scales and highlights are made for.
 #pragma once
 
 #include <functional>

@@ -46,10 +46,12 @@ float EntryBox::Number() const {
     return static_cast<float>(std::clamp(NumericValue(Text()), -kLargest, kLargest));
 }
 
-float EntryBox::ParsedNumber() const {
+float EntryBox::SteppedNumber() const {
     std::string text = Text();
     float value = Number();
-    ParseEntry(text, value);
+    if (reading_ == Reading::Entry) {
+        ParseEntry(text, value);
+    }
     return value;
 }
 

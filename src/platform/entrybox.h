@@ -11,6 +11,11 @@ namespace vernacle {
 
 class UpDown;
 
+enum class Reading {
+    Entry, // by the rules of an entry, "2k2" and "1,5"
+    Plain, // the number that the text starts with
+};
+
 class EntryBox : public QLineEdit {
     Q_OBJECT
 
@@ -24,8 +29,11 @@ public:
     // The number that the text starts with, else 0; held to what a float takes with ease.
     float Number() const;
 
-    // The number that an entry's rules make of the text; what they ignore is read plainly.
-    float ParsedNumber() const;
+    // The number that the box stands for, from which its arrows step. What the rules of an entry
+    // ignore is read plainly.
+    float SteppedNumber() const;
+
+    void SetReading(Reading reading) { reading_ = reading; }
 
     // Writes from the program, and runs the handler only if the text is another: for a pair of
     // boxes that tell each other until they agree.
@@ -49,6 +57,7 @@ private:
 
     std::function<void()> handler_;
     UpDown* arrows_ = nullptr;
+    Reading reading_ = Reading::Entry;
     int running_ = 0; // handlers under way
 };
 

@@ -36,10 +36,6 @@ PictureBox::PictureBox(const char* name, const LogicalArea& area, UnitShape shap
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-DrawingRecord PictureBox::Ruler() const {
-    return DrawingRecord(ScreenMap(shape_), [] {});
-}
-
 QSize PictureBox::sizeHint() const {
     const DeviceMap map = MapToWidget();
     const double widthToHeight = area_.width * map.perUnitX / (area_.height * map.perUnitY);

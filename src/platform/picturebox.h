@@ -23,9 +23,6 @@ public:
     DrawingSurface& Surface() { return record_; }
     const DrawingRecord& Record() const { return record_; }
 
-    // A surface that measures texts as this picture does, and shows nothing.
-    DrawingRecord Ruler() const;
-
     QSize sizeHint() const override;
 
 protected:

@@ -1,9 +1,19 @@
 #include "platform/rowlist.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QFontDatabase>
 #include <QMouseEvent>
 
 namespace vernacle {
+
+namespace {
+
+constexpr int kMoves[] = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                          Qt::Key_Home, Qt::Key_End,  Qt::Key_Space};
+
+} // namespace
 
 RowList::RowList(const char* name, const QString& accessibleName) {
     setObjectName(QLatin1String(name));
@@ -19,18 +29,29 @@ RowList::RowList(const char* name, const QString& accessibleName) {
 }
 
 void RowList::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     QListWidget::mousePressEvent(event);
     const int row = indexAt(event->pos()).row();
     setCurrentRow(row);
     Chosen(row);
 }
 
+// The row that a key leads to is chosen, also the one at which the list stands before any was.
 void RowList::keyPressEvent(QKeyEvent* event) {
-    const int before = currentRow();
+    const int before = SelectedRow();
     QListWidget::keyPressEvent(event);
-    if (currentRow() != before) {
-        Chosen(currentRow());
+    if (std::find(std::begin(kMoves), std::end(kMoves), event->key()) != std::end(kMoves)) {
+        setCurrentRow(currentRow());
     }
+    if (SelectedRow() != before) {
+        Chosen(SelectedRow());
+    }
+}
+
+int RowList::SelectedRow() const {
+    return selectedItems().isEmpty() ? -1 : currentRow();
 }
 
 void RowList::Chosen(int row) {

@@ -19,9 +19,11 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* /*event*/) override {} // dragging chooses no other row
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    int SelectedRow() const;
     void Chosen(int row);
 
     std::function<void(int)> handler_;

@@ -13,7 +13,7 @@ namespace vernacle {
 namespace {
 
 void StepBox(EntryBox& box, double step, const StepRange& range) {
-    const double value = double{box.ParsedNumber()} + step;
+    const double value = double{box.SteppedNumber()} + step;
     box.Write(PlainNumber(static_cast<float>(std::clamp(value, range.lowest, range.highest))));
 }
 

@@ -91,8 +91,9 @@ DrawingTraits WizardTraits();
 // the scale tables or the frame, is not trapped.
 void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageCopies& sizes);
 
-// The width in mm of a free text of that size as a drawing writes it. Sets the ruler's font.
-double FreeTextWidthMm(DrawingSurface& ruler, const std::string& text, double points);
+// The width in mm of a free text of that size, from its width in average characters of its font, by
+// which a made font is asked for. Drawings round the font's width to whole pixels.
+double FreeTextWidthMm(double averageCharacters, double points);
 
 // The colour of a scale: the magnitude of ScaleColor.
 Colour InkOf(int scale);

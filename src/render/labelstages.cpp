@@ -18,10 +18,7 @@ constexpr double kTitleHeight = 0.05;
 constexpr double kCharacterWidth = 0.0198;
 constexpr double kOrdinarySize = 0.0285;
 
-constexpr double kRulerPoints = 100; // large enough that its pixels do not round
-constexpr double kTwipsPerPoint = 20;
 constexpr double kTwipsPerPixel = 15;
-constexpr double kAverageCharacter = 904.5 / 2048; // of Arial, ems
 
 // The height of a made font per point; the sampled fitting asks for that of the characters.
 double HeightPerPoint(const DrawingRun& run, double usual) {
@@ -220,14 +217,10 @@ void FreeTextsStage(DrawingRun& run) {
     }
 }
 
-// A made font is asked for by its average character, in pixels; the ruler tells ems.
-double FreeTextWidthMm(DrawingSurface& ruler, const std::string& text, double points) {
-    ruler.SetFontName(Design.FontName);
-    ruler.SetFontSize(kRulerPoints);
-    const double twips = double{ruler.TextWidth(text)} * double{Design.ScreenScaleX};
-    const double ems = twips / (kTwipsPerPoint * kRulerPoints);
-    const double halfMmPerEm = kCharacterWidth * kTwipsPerPixel / kAverageCharacter;
-    return ems * points * halfMmPerEm / 2;
+// A pixel counts as so many units as it has twips on a screen of usual size.
+double FreeTextWidthMm(double averageCharacters, double points) {
+    const double halfMm = averageCharacters * kCharacterWidth * kTwipsPerPixel * points;
+    return halfMm / 2;
 }
 
 } // namespace vernacle

@@ -52,7 +52,7 @@ void Collect(DeletionFlags::Row flags, std::int16_t& count, DeletedList& list) {
 
 void ComputeTicDeflections() {
     for (int scale = 1; scale <= Design.NumberOfScales; ++scale) {
-        if (Design.ScaleColor[scale] >= 0) {
+        if (!IsSpecial(scale)) {
             ComputeDeflections(scale);
         }
     }

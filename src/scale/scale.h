@@ -14,7 +14,7 @@ void ComputeTicDeflections();
 void ComputeTicLabels();
 
 // Rebuilds the lists of deleted tics and labels from the flags of all 361 tics of each scale. A
-// run- time error when all 361 are deleted: a list has 360 entries.
+// run-time error when all 361 are deleted: a list has 360 entries.
 void CollectDeletedTics();
 
 // Whether a scale's tics are those that a setup stored, as its negative colour marks.

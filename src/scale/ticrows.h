@@ -22,8 +22,9 @@ public:
     static constexpr int kMost = 1444;
     using RowText = std::function<std::string(int scale, int tic)>;
 
-    // Takes the row of every tic of every scale, with Design.CurrentScale and Design.TicLoop as the
-    // loop variables, which end behind. One row too many is a run-time error.
+    // Takes the row of every tic of every scale. Its loop variables are Design.CurrentScale and
+    // Design.TicLoop, which stand behind the last scale and tic then. One row too many is a
+    // run-time error.
     void Fill(const RowText& row);
 
     int Count() const { return count_; }

@@ -1,5 +1,6 @@
 #include "surfaces/drawingrecord.h"
 
+#include "core/runtimeerror.h"
 #include "surfaces/picturefile.h"
 
 #include <utility>
@@ -91,8 +92,14 @@ void DrawingRecord::EndFont() {
 
 void DrawingRecord::PaintPicture(const std::string& file, float x, float y, float width,
                                  float height) {
-    LoadPicture(file); // one that does not load fails here, not at the next exposure
-    Keep([=](DrawingSurface& surface) { surface.PaintPicture(file, x, y, width, height); });
+    LoadPicture(file); // one that does not load fails here, where the drawing deals with it
+    Keep([=](DrawingSurface& surface) {
+        try {
+            surface.PaintPicture(file, x, y, width, height);
+        } catch (const RunTimeError&) {
+            // The file has gone since.
+        }
+    });
 }
 
 } // namespace vernacle

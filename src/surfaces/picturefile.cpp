@@ -1,6 +1,7 @@
 #include "surfaces/picturefile.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QImageReader>
 
 #include "core/runtimeerror.h"
@@ -9,15 +10,15 @@ namespace vernacle {
 
 namespace {
 
-// What stands in the folder under that name: the name itself first, then those of other case.
-QStringList Candidates(const QDir& folder, const QString& name) {
+// The folders or files there of that name: the name itself first, then those of other case.
+QStringList Candidates(const QDir& folder, const QString& name, QDir::Filters kind) {
     QStringList found;
-    if (name == QLatin1String("..") || folder.exists(name)) {
+    const QFileInfo exact(folder, name);
+    if (kind == QDir::Files ? exact.isFile() : exact.isDir()) {
         found << name;
     }
     const QString wanted = name.toUpper();
-    const auto kinds = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
-    for (const QString& entry : folder.entryList(kinds, QDir::Name)) {
+    for (const QString& entry : folder.entryList(kind | QDir::Hidden, QDir::Name)) {
         if (entry != name && entry.toUpper() == wanted) {
             found << entry;
         }
@@ -27,9 +28,11 @@ QStringList Candidates(const QDir& folder, const QString& name) {
 
 // Two folders may differ in case only, and the file stand in either. Empty if it is in none.
 QString FindBelow(const QDir& folder, const QStringList& path) {
-    for (const QString& entry : Candidates(folder, path.first())) {
+    const bool isLast = path.size() == 1;
+    for (const QString& entry :
+         Candidates(folder, path.first(), isLast ? QDir::Files : QDir::Dirs)) {
         const QString found = folder.filePath(entry);
-        if (path.size() == 1) {
+        if (isLast) {
             return found;
         }
         const QString below = FindBelow(QDir(found), path.mid(1));
@@ -43,8 +46,8 @@ QString FindBelow(const QDir& folder, const QStringList& path) {
 } // namespace
 
 QString ExistingFile(const std::string& name) {
-    const QString exact = QString::fromStdString(name);
-    if (exact.isEmpty() || QFile::exists(exact)) {
+    QString exact = QString::fromStdString(name);
+    if (exact.isEmpty() || QFileInfo(exact).isFile()) {
         return exact;
     }
     const QString clean = QDir::cleanPath(exact);

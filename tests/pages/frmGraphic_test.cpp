@@ -308,6 +308,28 @@ TEST_F(GraphicPageTest, EveryKeyOfTheToolbarLimits) {
     EXPECT_TRUE(said.empty());
 }
 
+TEST_F(GraphicPageTest, SavedFileHoldsTheLimits) {
+    Design.DrawGraphic = "Y";
+    Design.GraphicFileName = "MARK.BMP";
+    OpenGraphic();
+    Paste("txtBottomToImage", "150");
+    Answer(TypeFile(Path("saved.VRN")));
+    Click("Save");
+    EXPECT_NE(ReadFile("saved.VRN").find("Bottom to graphic: 120"), std::string::npos);
+}
+
+TEST_F(GraphicPageTest, LongNamesBreakAndLeaveThePlateItsRoom) {
+    OpenPage("frmGraphic");
+    const int width = Find("picPlate").width();
+    Design.GraphicFileName = "/" + std::string(300, 'm') + ".bmp";
+    OpenPage("frmGraphic");
+    Settle();
+    EXPECT_EQ(Find("picPlate").width(), width);
+    const auto& name = Find<QLabel>("lblGraphicName");
+    EXPECT_GE(name.height(), name.heightForWidth(name.width())) << "all of it shows";
+    EXPECT_GT(name.heightForWidth(name.width()), 5 * name.fontMetrics().height());
+}
+
 TEST_F(GraphicPageTest, ToolbarGivesTheTextsBack) {
     Design.TextString[3] = "mark";
     Design.NumberOfTexts = 0;
@@ -332,7 +354,7 @@ TEST_F(GraphicPageTest, OpenReadsWithTheFirstScaleActive) {
     Click("Open");
     Settle();
     EXPECT_EQ(Design.ActiveScale, 1);
-    EXPECT_EQ(TextOf("txtGraphicWidth"), PlainNumber(Design.GraphicWidth));
+    EXPECT_EQ(TextOf("txtGraphicWidth"), "77");
 }
 
 TEST_F(GraphicPageTest, ChosenFileIsStoredInUpperCase) {

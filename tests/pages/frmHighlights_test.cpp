@@ -1,6 +1,8 @@
 // The highlights page. Its entries start disabled; the tests enable them to reach their handlers.
 #include <algorithm>
 #include <cmath>
+#include <locale>
+#include <sstream>
 
 #include <QColorDialog>
 #include <QGroupBox>
@@ -161,15 +163,17 @@ TEST_F(HighlightsPageTest, SelectingFillsAndEnables) {
         Click("Option" + std::to_string(highlight));
         for (const Entry& entry : kEntries) {
             EXPECT_EQ(TextOf(entry.box), PlainNumber(ValueOf(entry, highlight)));
-            ExpectEnabled({entry.box, entry.label}, true);
+            ExpectEnabled({entry.box, entry.label, entry.arrows}, true);
         }
         EXPECT_EQ(TextOf("txtLength10"), PlainNumber(Design.HighlightLength[highlight] * 10));
         ExpectEnabled({"cmdGetColor"}, true);
         ExpectEnabled({"Label1", "Option7"}, false);
     }
-    GiveAll(); // nothing was changed by selecting
-    EXPECT_EQ(Design.HighlightStart[5], 15);
-    EXPECT_EQ(Design.HighlightLength[10], 2.5F);
+    for (int highlight = 1; highlight <= kHighlights; ++highlight) {
+        const auto number = static_cast<float>(highlight);
+        EXPECT_EQ(Design.HighlightStart[highlight], 10 + number) << "selecting changes nothing";
+        EXPECT_EQ(Design.HighlightLength[highlight], number / 4);
+    }
 }
 
 // The others are drawn only where a text changes.
@@ -291,6 +295,15 @@ TEST_F(HighlightsPageTest, ArrowsHaveTheirRanges) {
     }
 }
 
+TEST_F(HighlightsPageTest, ArrowsStepFromThePlainNumber) {
+    OpenHighlights();
+    Click("Option1");
+    Paste("txtStart1", "2,5");
+    EXPECT_EQ(Design.HighlightStart[1], 2);
+    StepUp("UpDown1");
+    EXPECT_EQ(TextOf("txtStart1"), "3");
+}
+
 TEST_F(HighlightsPageTest, WithoutASelectionEntriesGoNowhere) {
     OpenHighlights();
     const DesignRecord before = Design;
@@ -303,7 +316,11 @@ TEST_F(HighlightsPageTest, WithoutASelectionEntriesGoNowhere) {
         EXPECT_EQ(Design.HighlightCeiling[highlight], before.HighlightCeiling[highlight]);
         EXPECT_EQ(Design.HighlightLength[highlight], before.HighlightLength[highlight]);
     }
+    EXPECT_EQ(Design.HighlightStart[0], 12) << "which nothing reads";
     EXPECT_EQ(Design.NumberOfHighlights, 0);
+    EXPECT_EQ(Sample(), std::vector<std::string>{});
+    Answer(Cancel);
+    Click("cmdGetColor");
     EXPECT_EQ(Sample(), std::vector<std::string>{});
 }
 
@@ -359,13 +376,19 @@ TEST_F(HighlightsPageTest, SelectionDoesNotSurviveThePage) {
 }
 
 TEST_F(HighlightsPageTest, ToolbarGivesTheTextsBack) {
-    Design.TextString[10] = "mark";
-    OpenPage("frmHighlights");
-    Design.TextString[10] = "spoilt";
-    Design.NumberOfTexts = 9;
-    PressOwnKey();
-    EXPECT_EQ(Design.TextString[10], "mark");
-    EXPECT_EQ(Design.NumberOfTexts, 1);
+    Design.TextString[1] = "mark";
+    for (const char* key : {"Highlights", "Save", "Preview"}) {
+        OpenPage("frmHighlights");
+        Design.TextString[1] = "spoilt";
+        Design.NumberOfTexts = 9;
+        if (key == std::string("Save")) {
+            Answer(TypeFile(Path("saved.VRN")));
+        }
+        Click(key);
+        EXPECT_EQ(Design.TextString[1], "mark");
+        EXPECT_EQ(Design.NumberOfTexts, 1);
+    }
+    EXPECT_NE(ReadFile("saved.VRN").find("mark"), std::string::npos);
 }
 
 TEST_F(HighlightsPageTest, OpenReadsWithTheFirstScaleActive) {
@@ -402,8 +425,8 @@ TEST_F(HighlightsPageTest, CloseBoxKeepsTheSession) {
     EXPECT_TRUE(Exists("LASTSESSION.VRN"));
 }
 
-// The band of a highlight that was entered here, with its stage in service: between the two radii
-// and the two pointer angles that its entries ask for.
+// The band of a highlight that was entered here, with its stage in service: each line reaches from
+// the bottom's arc outward by the height, the first and the last at the pointer's angles.
 TEST_F(HighlightsPageTest, EnteredBandStandsWhereItsEntriesSay) {
     Design.AspectRatio = 1;
     OpenHighlights();
@@ -421,16 +444,27 @@ TEST_F(HighlightsPageTest, EnteredBandStandsWhereItsEntriesSay) {
     const std::vector<std::string> lines = surface.CallsOf("Line");
     EXPECT_NEAR(static_cast<double>(lines.size()), 2001, 1); // 40 percent in steps of .02
     const PlateFrame frame = PageFrame(traits);
-    for (const std::size_t index : {std::size_t{0}, lines.size() - 1}) {
+    const double radius = 30 - double{Design.BottomToBearing} + double{Design.ActualVirtualOffset};
+    const SurfacePoint centre = VirtualBearing(frame);
+    const auto expectLine = [&](const std::string& line, double fraction) {
         double x1 = 0;
         double y1 = 0;
         double x2 = 0;
         double y2 = 0;
-        ASSERT_EQ(std::sscanf(lines[index].c_str(), "Line %lf %lf %lf %lf", &x1, &y1, &x2, &y2), 4);
-        const double mm = std::hypot(x2 - x1, y2 - y1) / (2 * frame.upPerHalfMm);
-        EXPECT_NEAR(mm, 4, 0.01);
-        EXPECT_TRUE(lines[index].ends_with(" ff"));
-    }
+        std::istringstream numbers(line.substr(std::string("Line").size()));
+        numbers.imbue(std::locale::classic());
+        ASSERT_TRUE(numbers >> x1 >> y1 >> x2 >> y2) << line;
+        const double unitsPerMm = 2 * frame.upPerHalfMm;
+        EXPECT_NEAR(std::hypot(x1 - centre.x, y1 - centre.y) / unitsPerMm, radius, 0.01);
+        EXPECT_NEAR(std::hypot(x2 - x1, y2 - y1) / unitsPerMm, 4, 0.01);
+        const double swing = double{Design.PointerDeflection};
+        const double degrees = 90 - swing / 2 + swing * fraction; // from the left
+        const double drawn = std::atan2(y1 - y2, x1 - x2) * 180 / std::acos(-1.);
+        EXPECT_NEAR(drawn, degrees, 0.05);
+        EXPECT_TRUE(line.ends_with(" ff"));
+    };
+    expectLine(lines.front(), 0.2);
+    expectLine(lines.back(), 0.6);
 }
 
 } // namespace

@@ -250,12 +250,7 @@ TEST_F(SelectTicsTest, LongLabelsAreCutInTheDetailsAndHideTheFlag) {
 }
 
 TEST_F(SelectTicsTest, AClickBesideTheRowsShowsZero) {
-    OnForm([this](QWidget&) {
-        ChooseRow(10);
-        Press("cmdAccept");
-        Design.NrOfTicmarks[1] = 3;
-        Press("cmdExit");
-    });
+    OpenPage("frmScales");
     Design.NrOfTicmarks[1] = 3;
     OnFormAbove([this](QWidget&) {
         ClickBesideRows();
@@ -325,6 +320,14 @@ TEST_F(SelectTicsTest, NegativeColourEditsTheSpecialTables) {
         Press("optLabelNo");
         EXPECT_EQ(Design.TicPrintYN[1][3], "N");
         EXPECT_EQ(Design.TicLabelYN[1][3], "N");
+        Design.StandardTicYN[1][3] = Design.StandardLabelYN[1][3] = "standard";
+        Press("optTicYes");
+        Press("optLabelYes");
+        EXPECT_EQ(Design.TicPrintYN[1][3], "Y");
+        EXPECT_EQ(Design.TicLabelYN[1][3], "Y");
+        EXPECT_EQ(Design.StandardTicYN[1][3], "standard");
+        EXPECT_EQ(Design.StandardLabelYN[1][3], "standard");
+        Design.StandardTicYN[1][3] = Design.StandardLabelYN[1][3] = "Y";
         EXPECT_EQ(Design.StandardTicYN[1][3], "Y");
         EXPECT_EQ(Design.StandardLabelYN[1][3], "Y");
     });
@@ -369,6 +372,61 @@ TEST_F(SelectTicsTest, OneDeletionTooManyIsARunTimeError) {
     const std::unique_ptr<QWidget> form = MakeForm("frmSelectTics");
     form->show();
     EXPECT_THROW(Click(On<QPushButton>(*form, "cmdExit")), RunTimeError);
+}
+
+TEST_F(SelectTicsTest, AUsersClickCountsAlsoOnWhatIsSelected) {
+    OnForm([this](QWidget&) {
+        ChooseRow(10);
+        Press("cmdAccept");
+        ChooseRow(20);
+        EXPECT_EQ(State(), "row chosen");
+        Press("optTicYes");
+        EXPECT_EQ(State(), "flag changed");
+        EXPECT_EQ(Design.StandardTicYN[1][20], "Y");
+    });
+}
+
+// The rows only look old until they are accepted: an old one that is chosen anew selects what it
+// says, and so can take a deletion back.
+TEST_F(SelectTicsTest, OldRowsSelectWhatTheySay) {
+    OnForm([this](QWidget&) {
+        ChooseRow(20);
+        Press("optTicNo");
+        EXPECT_EQ(Design.StandardTicYN[1][20], "N");
+        ChooseRow(20);
+        EXPECT_TRUE(IsChecked("optTicYes"));
+        EXPECT_EQ(Design.StandardTicYN[1][20], "Y");
+    });
+}
+
+TEST_F(SelectTicsTest, LongLabelsHideEitherFlag) {
+    OpenPage("frmScales");
+    Design.StandardLabel[1][10] = "12345678901";
+    Design.StandardLabelYN[1][10] = "N";
+    OnFormAbove([this](QWidget&) {
+        ChooseRow(10);
+        EXPECT_TRUE(IsChecked("optLabelNo"));
+        EXPECT_EQ(Design.StandardLabelYN[1][10], "N");
+    });
+}
+
+// The lists of deletions are the button's work; the flags stand all the same.
+TEST_F(SelectTicsTest, CloseBoxAndEscapeCollectNothing) {
+    for (const bool escape : {true, false}) {
+        OpenPage("frmScales");
+        OnFormAbove([&](QWidget& form) {
+            ChooseRow(5);
+            Press("optTicNo");
+            if (escape) {
+                QTest::keyClick(&form, Qt::Key_Escape);
+            } else {
+                CloseByUser(form);
+            }
+        });
+        EXPECT_EQ(Design.StandardTicYN[1][5], "N");
+        EXPECT_EQ(Design.DeletedTicCount[1], 0);
+        EXPECT_FALSE(TakeProcessEnd());
+    }
 }
 
 TEST_F(SelectTicsTest, TabFollowsReadingOrder) {

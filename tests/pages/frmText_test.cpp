@@ -369,6 +369,64 @@ TEST_F(TextPageTest, EmptyTextsHaveNoWidth) {
     EXPECT_EQ(WidthShown(), "0") << "trimmed to nothing";
 }
 
+// Of another font, whose average character is another.
+TEST_F(TextPageTest, WidthIsThatOfTheDesignsFont) {
+    Design.FontName = " Liberation Mono ";
+    OpenText();
+    Type("txtText", "HHHHHHHHHH");
+    const double mm = 10 * 8 * .0198 * 15 / 2; // each letter is as wide as the average
+    EXPECT_NEAR(NumericValue(WidthShown()), mm, 0.0501);
+}
+
+TEST_F(TextPageTest, FontSizeIsThatOfTheLoad) {
+    OpenText();
+    Type("txtText", "H");
+    const std::string width = WidthShown();
+    Design.FontSize = 20;
+    Type("txtText", "H");
+    EXPECT_EQ(WidthShown(), width);
+}
+
+TEST_F(TextPageTest, TypedSizeLeavesTheArrowsWhereTheyAre) {
+    OpenText();
+    Type("txtRelSize", "1.7");
+    EXPECT_EQ(TextOf("txtRelSizeUpDown"), "10");
+    StepUp("UpDown3");
+    EXPECT_EQ(TextOf("txtRelSize"), "1.1");
+}
+
+TEST_F(TextPageTest, ArrowsStepFromThePlainNumber) {
+    OpenText();
+    for (const char* box : {"txtLeftToText", "txtBottomToText"}) {
+        Paste(box, "2,5");
+        StepUp(box == std::string("txtLeftToText") ? "UpDown1" : "UpDown2");
+        EXPECT_EQ(TextOf(box), "3");
+    }
+}
+
+// Filling the boxes runs their handlers.
+TEST_F(TextPageTest, WhatTheDesignBringsIsLimitedAtTheLoad) {
+    GiveText(1, "  blanks  ", -150, 500, 3);
+    OpenText();
+    EXPECT_EQ(TextOf("txtLeftToText"), "-100");
+    EXPECT_EQ(TextOf("txtRelSize"), "2");
+    const Kept kept = KeptOf(1);
+    EXPECT_EQ(kept.text, "blanks");
+    EXPECT_EQ(kept.left, -100);
+    EXPECT_EQ(kept.bottom, 500);
+    EXPECT_EQ(kept.size, 2);
+}
+
+TEST_F(TextPageTest, FirstEntryIsEditedAtEachLoad) {
+    OpenText();
+    Click("Option7");
+    Click("Preview");
+    OpenText();
+    EXPECT_TRUE(IsSelected("Option1"));
+    Type("txtText", "first");
+    EXPECT_EQ(KeptOf(1).text, "first");
+}
+
 TEST_F(TextPageTest, TabFollowsReadingOrder) {
     OpenText();
     std::vector<std::string> order;

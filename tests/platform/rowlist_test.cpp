@@ -59,6 +59,43 @@ TEST_F(RowListTest, KeysChooseToo) {
     EXPECT_EQ(std::count(chosen.begin(), chosen.end(), 2), 1);
 }
 
+TEST_F(RowListTest, KeysChooseTheFirstRowFromTheStart) {
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Up, Qt::Key_Space}) {
+        list.clear();
+        list.addItems({QStringLiteral("first"), QStringLiteral("second")});
+        chosen.clear();
+        list.setFocus();
+        list.setCurrentRow(0, QItemSelectionModel::NoUpdate); // where the focus puts it
+        QTest::keyClick(&list, key);
+        EXPECT_EQ(chosen, std::vector<int>{0}) << key;
+        EXPECT_EQ(list.selectedItems().size(), 1);
+    }
+}
+
+TEST_F(RowListTest, OtherKeysChooseNothing) {
+    list.setFocus();
+    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_F5}) {
+        QTest::keyClick(&list, key);
+    }
+    EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(RowListTest, DraggingAndOtherButtonsChooseNothing) {
+    ClickRow(0);
+    const QPoint from = list.visualItemRect(list.item(0)).center();
+    const QPoint to = list.visualItemRect(list.item(2)).center();
+    QTest::mousePress(list.viewport(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(list.viewport(), to);
+    QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, to);
+    EXPECT_EQ(chosen, (std::vector<int>{0, 0}));
+    EXPECT_EQ(list.currentRow(), 0);
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseClick(list.viewport(), button, {}, to);
+    }
+    EXPECT_EQ(chosen.size(), 2U);
+    EXPECT_EQ(list.currentRow(), 0);
+}
+
 TEST_F(RowListTest, FillingChoosesNothing) {
     list.clear();
     list.addItems({QStringLiteral("new")});

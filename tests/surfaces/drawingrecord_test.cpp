@@ -9,6 +9,7 @@
 #include "scale/scale.h"
 #include "support/enginetest.h"
 #include "support/recordingsurface.h"
+#include "surfaces/surfacetest.h"
 
 namespace vernacle::test {
 namespace {
@@ -88,6 +89,17 @@ TEST_F(DrawingRecordTest, MeasuresAsTheScreenDoes) {
 TEST_F(DrawingRecordTest, APictureThatDoesNotLoadFailsAtOnce) {
     EXPECT_THROW(record.PaintPicture(Path("missing.bmp"), 0, 0, 1, 1), RunTimeError);
     EXPECT_EQ(Replayed().size(), 0U);
+}
+
+TEST_F(DrawingRecordTest, APictureThatHasGoneSinceIsLeftOut) {
+    record.PaintPicture(WriteFile("picture.bmp", PictureBytes("BMP")), 0, 0, 1, 1);
+    record.Line(1, 2, 3, 4, 0);
+    std::filesystem::remove(Path("picture.bmp"));
+    QImage image(120, 90, QImage::Format_RGB32);
+    QPainter painter(&image);
+    PainterSurface surface(painter, DeviceMap::OfScreen(120, 90));
+    EXPECT_NO_THROW(record.Replay(surface));
+    EXPECT_EQ(Replayed().size(), 2U);
 }
 
 TEST_F(DrawingRecordTest, ARecordedDesignPaintsTheSamePicture) {

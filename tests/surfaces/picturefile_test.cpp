@@ -77,6 +77,12 @@ TEST_F(PictureFileTest, WhatIsNotThereKeepsItsName) {
     }
 }
 
+TEST_F(PictureFileTest, AFolderDoesNotHideTheFile) {
+    MakeFolder("LOGO.BMP");
+    const std::string file = WriteFile("logo.bmp", PictureBytes("BMP"));
+    EXPECT_EQ(Found(Path("LOGO.BMP")), file);
+}
+
 TEST_F(PictureFileTest, AFolderIsNoPicture) {
     MakeFolder("Logo.bmp");
     EXPECT_THROW(LoadPicture(Path("LOGO.BMP")), RunTimeError);
