@@ -18,6 +18,13 @@
 #include "pages/frmTicsHelp.h"
 #include "render/frmCalibrate.h"
 #include "render/frmHPGL.h"
+#include "setups/frmSetupMenu.h"
+#include "setups/frmSetupOhmmeter.h"
+#include "setups/frmSetupPreview.h"
+#include "setups/frmSetupSmeter.h"
+#include "setups/frmSetupVSWR.h"
+#include "setups/frmSetupdB.h"
+#include "setups/frmSpecialScale.h"
 
 namespace vernacle {
 
@@ -38,6 +45,13 @@ constexpr FormRow kForms[] = {
     {"frmHighlights", Make<frmHighlights>},
     {"frmSelectTics", Make<frmSelectTics>},
     {"frmShowTicInfo", Make<frmShowTicInfo>},
+    {"frmSetupMenu", Make<frmSetupMenu>},
+    {"frmSetupOhmmeter", Make<frmSetupOhmmeter>},
+    {"frmSpecialScale", Make<frmSpecialScale>},
+    {"frmSetupSmeter", Make<frmSetupSmeter>},
+    {"frmSetupVSWR", Make<frmSetupVSWR>},
+    {"frmSetupdB", Make<frmSetupdB>},
+    {"frmSetupPreview", Make<frmSetupPreview>},
     {"frmHPGL", Make<frmHPGL>},
     {"frmCalibrate", Make<frmCalibrate>},
     {"frmTicsHelp", Make<frmTicsHelp>},

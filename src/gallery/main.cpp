@@ -64,6 +64,7 @@ void Prepare(const Arguments& arguments) {
         ReadDesign(arguments.design);
     }
     ComputeScales();
+    Design.CurrentScale = Design.ActiveScale; // as the scales page leaves it to a setup
 }
 
 void EnableAll(QWidget& form) {

@@ -2,24 +2,12 @@
 
 #include <QGridLayout>
 
-#include "core/seam.h"
 #include "platform/formkit.h"
 #include "platform/picturebox.h"
 
 namespace vernacle {
 
 namespace {
-
-constexpr double kShareOfScreen = 0.8;
-constexpr double kTwipsPerPixel = 15;
-constexpr QSize kLargestForm(1280, 860);
-
-QSize UsualSize() {
-    const ScreenSize screen = Host.screenSize();
-    const QSizeF pixels(double{screen.widthTwips} / kTwipsPerPixel,
-                        double{screen.heightTwips} / kTwipsPerPixel);
-    return (pixels * kShareOfScreen).toSize().boundedTo(kLargestForm);
-}
 
 QLabel* MakeText(const char* name, const char* text) {
     QLabel* label = MakeLabel(name, QString::fromUtf8(text));
@@ -56,7 +44,7 @@ IllustrationForm::IllustrationForm(const IllustrationTraits& traits)
     button->setDefault(true);
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
     grid->addWidget(button, grid->rowCount(), 0, 1, traits.columns, Qt::AlignRight);
-    resize(UsualSize());
+    resize(RoomySize());
 }
 
 } // namespace vernacle

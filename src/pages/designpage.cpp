@@ -9,6 +9,7 @@
 #include "pages/vernaclefile.h"
 #include "platform/helpviewer.h"
 #include "platform/printers.h"
+#include "platform/session.h"
 #include "platform/toolbar.h"
 #include "platform/walk.h"
 #include "render/print.h"
@@ -128,10 +129,10 @@ void DesignPage::AboutClicked() {
 
 void DesignPage::CloseBoxClicked() {
     if (traits_.closeBox == CloseBox::SavesSession) {
-        SaveLastSession();
+        SaveSessionAndEnd();
+    } else {
+        JustEnd();
     }
-    UnloadPage();
-    EndProcess();
 }
 
 } // namespace vernacle

@@ -28,10 +28,6 @@ QPalette PaperPalette() {
 
 } // namespace
 
-std::string OptionName(int number) {
-    return "Option" + std::to_string(number);
-}
-
 QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected) {
     QGroupBox* frame = MakeFrame(traits.frame, QStringLiteral("Edit"));
     frame->setToolTip(QStringLiteral("Select the scale to edit"));

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <string>
 
 class QGroupBox;
 
@@ -17,9 +16,6 @@ struct NumberFrameTraits {
     int options;
     int tips; // as many of the first options have one
 };
-
-// "Option1" to "Option10".
-std::string OptionName(int number);
 
 QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected);
 

@@ -4,7 +4,17 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "core/seam.h"
+
 namespace vernacle {
+
+namespace {
+
+constexpr double kShareOfScreen = 0.8;
+constexpr double kTwipsPerPixel = 15;
+constexpr QSize kLargestForm(1280, 860);
+
+} // namespace
 
 Page::Page(const char* name) {
     setObjectName(QLatin1String(name));
@@ -29,6 +39,13 @@ void Page::closeEvent(QCloseEvent* event) {
 ModalForm::ModalForm(const char* name, const QString& title) {
     setObjectName(QLatin1String(name));
     setWindowTitle(title);
+}
+
+QSize ModalForm::RoomySize() {
+    const ScreenSize screen = Host.screenSize();
+    const QSizeF pixels(double{screen.widthTwips} / kTwipsPerPixel,
+                        double{screen.heightTwips} / kTwipsPerPixel);
+    return (pixels * kShareOfScreen).toSize().boundedTo(kLargestForm);
 }
 
 } // namespace vernacle

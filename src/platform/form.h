@@ -34,6 +34,10 @@ class ModalForm : public QDialog {
 
 public:
     ModalForm(const char* name, const QString& title);
+
+protected:
+    // That of one whose pictures want room: most of the screen, but no more than they need.
+    static QSize RoomySize();
 };
 
 } // namespace vernacle

@@ -2,6 +2,10 @@
 
 namespace vernacle {
 
+std::string OptionName(int number) {
+    return "Option" + std::to_string(number);
+}
+
 OptionButton::OptionButton(const char* name, const QString& caption, QWidget* parent)
     : QRadioButton(caption, parent) {
     setObjectName(QLatin1String(name));

@@ -3,10 +3,14 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <QRadioButton>
 
 namespace vernacle {
+
+// The name of an option that is known by its number: "Option1".
+std::string OptionName(int number);
 
 class OptionButton : public QRadioButton {
     Q_OBJECT

@@ -20,6 +20,7 @@ constexpr int kFocusCheckMs = 300;
 
 std::span<const FormRow> registeredForms;
 QWidget* shownPage = nullptr;
+std::map<std::string, std::unique_ptr<QWidget>, std::less<>> pagesBehind; // loaded, not shown
 
 const FormRow* FindForm(std::string_view name) {
     const auto found = std::find_if(registeredForms.begin(), registeredForms.end(),
@@ -62,20 +63,32 @@ void ActivateSurely(QWidget& page) {
     });
 }
 
-void ShowPage(std::unique_ptr<QWidget> page, const QString& focusedControl) {
+// Gives the page that was shown.
+QWidget* ShowPage(std::unique_ptr<QWidget> page, const QString& focusedControl) {
     QWidget* left = shownPage;
     shownPage = page.release();
     FocusOn(*shownPage, focusedControl);
     shownPage->showMaximized();
     KeepBeside(*shownPage);
     ActivateSurely(*shownPage);
-    Unload(left);
+    return left;
+}
+
+std::unique_ptr<QWidget> LoadedPage(std::string_view name) {
+    const auto behind = pagesBehind.find(name);
+    if (behind == pagesBehind.end()) {
+        return MakeForm(name);
+    }
+    std::unique_ptr<QWidget> page = std::move(behind->second);
+    pagesBehind.erase(behind);
+    return page;
 }
 
 } // namespace
 
 void SetForms(std::span<const FormRow> forms) {
     registeredForms = forms;
+    pagesBehind.clear();
 }
 
 bool IsFormKnown(std::string_view name) {
@@ -89,7 +102,22 @@ std::unique_ptr<QWidget> MakeForm(std::string_view name) {
 
 void GoToPage(std::string_view name) {
     if (IsFormKnown(name)) {
-        ShowPage(MakeForm(name), {});
+        Unload(ShowPage(LoadedPage(name), {}));
+    }
+}
+
+void GoToPageUnloading(std::string_view name, std::string_view unloaded) {
+    if (!IsFormKnown(name)) {
+        return;
+    }
+    std::unique_ptr<QWidget> left(ShowPage(LoadedPage(name), {}));
+    if (const auto behind = pagesBehind.find(unloaded); behind != pagesBehind.end()) {
+        pagesBehind.erase(behind);
+    }
+    if (left) {
+        left->hide();
+        const std::string leftName = left->objectName().toStdString();
+        pagesBehind[leftName] = std::move(left);
     }
 }
 
@@ -102,7 +130,7 @@ void ReloadPage() {
         backdrop->showMaximized();
     }
     UnloadPage();
-    ShowPage(MakeForm(name), focusedControl);
+    static_cast<void>(ShowPage(MakeForm(name), focusedControl)); // none was left
 }
 
 QWidget* CurrentPage() {
@@ -142,6 +170,7 @@ void UnloadPage() {
 }
 
 void EndProcess() {
+    pagesBehind.clear();
     QCoreApplication::exit(EXIT_SUCCESS);
 }
 

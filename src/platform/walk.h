@@ -16,7 +16,7 @@ struct FormRow {
     std::unique_ptr<QWidget> (*make)(); // builds and loads it
 };
 
-// The forms of the program; the rows stay where they are.
+// The forms of the program; the rows must outlive their use. No page stays loaded behind.
 void SetForms(std::span<const FormRow> forms);
 
 // Whether a form of that name is registered.
@@ -25,9 +25,13 @@ bool IsFormKnown(std::string_view name);
 // The form of that name, loaded and not shown; none if it is not registered.
 std::unique_ptr<QWidget> MakeForm(std::string_view name);
 
-// Shows the page of that name, filling the screen, and unloads the one that was shown. A name that
-// is not registered does nothing.
+// Shows the page of that name, filling the screen, and unloads the one that was shown. One that
+// stayed loaded is shown as it was left. A name that is not registered does nothing.
 void GoToPage(std::string_view name);
+
+// The same, but it unloads the page of the other name, if that is loaded, and the one that was
+// shown stays loaded behind.
+void GoToPageUnloading(std::string_view name, std::string_view unloaded);
 
 // Builds the page that is shown anew, behind a backdrop that keeps the desktop from flashing
 // through. The control of the same name has the focus again.

@@ -13,13 +13,14 @@ DrawingState Drawing;
 
 namespace {
 
-// Plates up to this much wider than high are scaled by their height.
-constexpr double kSquare = 1.0001;
-
 constexpr DrawingStage kPreviewStages[] = {
     ClearStage,  PlateStage,  TrimMarksStage,     HolesStage, BearingsStage,
     RulerStage,  TicsStage,   PointerLengthStage, ArcsStage,  FontStage,
     LabelsStage, TitlesStage, EndStage,
+};
+
+constexpr DrawingStage kSetupStages[] = {
+    ClearStage, OutlineStage, SetupMarksStage, TicsStage, FontStage, LabelsStage, ArcsStage,
 };
 
 constexpr DrawingStage kPageStages[] = {
@@ -49,6 +50,24 @@ void Prepare(Preparation preparation) {
     ComputeTicDeflections();
     ComputeTicLabels();
 }
+
+void RunStages(DrawingRun& run) {
+    for (const DrawingStage stage : run.traits.stages) {
+        stage(run);
+    }
+}
+
+// Keeps Design.CurrentScale, which the stages run over.
+class ScaleKeeper {
+public:
+    ScaleKeeper() = default;
+    ~ScaleKeeper() { Design.CurrentScale = kept_; }
+    ScaleKeeper(const ScaleKeeper&) = delete;
+    ScaleKeeper& operator=(const ScaleKeeper&) = delete;
+
+private:
+    const std::int16_t kept_ = Design.CurrentScale;
+};
 
 } // namespace
 
@@ -83,17 +102,31 @@ DrawingTraits WizardTraits() {
             .stages = kPageStages};
 }
 
+DrawingTraits SetupTraits() {
+    return {.extent = 3200,
+            .centre = {6000, 4300},
+            .square = 1,
+            .aspect = Aspect::Ignored,
+            .tables = Tables::SpecialOfCurrentScale,
+            .preparation = Preparation::None,
+            .labelFlags = LabelFlags::OnlyFlagged,
+            .correction = Correction::NotApplied,
+            .stages = kSetupStages};
+}
+
 PlateFrame PageFrame(const DrawingTraits& traits) {
-    RaiseAspectRatio();
     const double width = double{Design.PlateWidth};
     const double height = double{Design.PlateHeight};
-    const double larger = CheckedDivide(width, height) <= kSquare ? height : width;
+    const double larger = CheckedDivide(width, height) <= traits.square ? height : width;
     Drawing.PlateScale = static_cast<float>(traits.extent / larger);
     Drawing.PlateCentreX = static_cast<float>(traits.centre.x);
     Drawing.PlateCentreY = static_cast<float>(traits.centre.y);
     Drawing.DegreesPerRadian = ComputeDegreesPerRadian();
     PlateFrame frame = FrameOfDesign(double{Drawing.PlateScale}, traits.centre);
-    frame.aspect = double{Design.AspectRatio};
+    if (traits.aspect == Aspect::OfDesign) {
+        RaiseAspectRatio();
+        frame.aspect = double{Design.AspectRatio};
+    }
     return frame;
 }
 
@@ -102,12 +135,17 @@ void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const Page
     DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
     Drawing.WhereMarker = kMarkStart;
     try {
-        for (const DrawingStage stage : traits.stages) {
-            stage(run);
-        }
+        RunStages(run);
     } catch (const RunTimeError&) {
         // The picture ends here; the page stays usable and the next change draws it anew.
     }
+}
+
+void DrawSetup(DrawingSurface& surface, const PageCopies& sizes) {
+    const ScaleKeeper keeper;
+    const DrawingTraits traits = SetupTraits();
+    DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
+    RunStages(run);
 }
 
 void EndStage(DrawingRun& run) {

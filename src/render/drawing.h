@@ -59,6 +59,17 @@ enum class LabelFitting {
     Sampled,  // by the size of a sample, with the height of the characters
 };
 
+// Which tables the tics and labels are taken from.
+enum class Tables {
+    ByColour,              // of each scale, standard or special as its colour says
+    SpecialOfCurrentScale, // of Design.CurrentScale alone, whatever its colour says
+};
+
+enum class Aspect {
+    OfDesign,
+    Ignored,
+};
+
 struct LineWidths {
     int trimMarks;
     int holes;
@@ -69,6 +80,9 @@ struct LineWidths {
 struct DrawingTraits {
     double extent = 3000; // units from the plate's centre to the end of its larger dimension
     SurfacePoint centre = {3400, 4400};
+    double square = 1.0001; // plates up to this much wider than high are scaled by their height
+    Aspect aspect = Aspect::OfDesign;
+    Tables tables = Tables::ByColour;
     Preparation preparation = Preparation::RaiseAndCompute;
     TicInk ticInk = TicInk::ScaleColour;
     TicFlags ticFlags = TicFlags::Honoured;
@@ -85,11 +99,16 @@ DrawingTraits ScalesTraits();
 DrawingTraits TextTraits();
 DrawingTraits HighlightsTraits();
 DrawingTraits WizardTraits();
+DrawingTraits SetupTraits();
 
 // Draws the design. A run-time failure of a stage ends the drawing silently: what was drawn so far
 // stays, and Design.CurrentScale and Design.TicLoop stay where they stood. One on the way there, in
 // the scale tables or the frame, is not trapped.
 void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageCopies& sizes);
+
+// Draws the scale that is being set up, from the special tables of Design.CurrentScale, which stays
+// as it is. A run-time failure passes through; what was drawn so far stays.
+void DrawSetup(DrawingSurface& surface, const PageCopies& sizes);
 
 // The width in mm of a free text of that size, from its width in average characters of its font, by
 // which a made font is asked for. Drawings round the font's width to whole pixels.
@@ -98,8 +117,8 @@ double FreeTextWidthMm(double averageCharacters, double points);
 // The colour of a scale: the magnitude of ScaleColor.
 Colour InkOf(int scale);
 
-// The frame of a page, its numbers also kept in Drawing. An AspectRatio of 0 or less becomes 1. A
-// plate without height is a run-time error.
+// The frame of a page, its numbers also kept in Drawing. An AspectRatio of 0 or less becomes 1
+// where it counts. A plate without height is a run-time error.
 PlateFrame PageFrame(const DrawingTraits& traits);
 
 // An aspect ratio held to the preview's limits, 0.5 to 1.15.

@@ -81,7 +81,7 @@ SurfacePoint MeasuredCorner(const DrawingRun& run, const TicLabel& label, Surfac
     }
     if (Design.LabelRotation ==
         "B") { // a special scale's turned labels take the plate's size alone
-        const double turned = IsSpecial(label.scale) ? fontSize : points;
+        const double turned = label.special ? fontSize : points;
         return AlongRadius(anchor, MeasureLabel(run, label, turned), t);
     }
     return anchor;
@@ -132,9 +132,14 @@ void DrawLabels(DrawingRun& run, int scale) {
         Design.ScaleColor[scale] = 0;
     }
     run.surface.SetForeColor(InkOf(scale));
-    run.state.WhereMarker = IsSpecial(scale) ? kMarkSpecialLabels : kMarkStandardLabels;
-    WalkLabels(scale, run.traits.labelFlags,
-               [&run](const TicLabel& label) { DrawLabel(run, label); });
+    const auto draw = [&run](const TicLabel& label) { DrawLabel(run, label); };
+    if (ShowsSpecial(run, scale)) {
+        run.state.WhereMarker = kMarkSpecialLabels;
+        WalkSpecialLabels(scale, run.traits.labelFlags, draw);
+    } else {
+        run.state.WhereMarker = kMarkStandardLabels;
+        WalkStandardLabels(scale, run.traits.labelFlags, draw);
+    }
 }
 
 // Half plate widths from the centre line to the titles of a quadrant plate's scales.
@@ -189,8 +194,13 @@ void FontStage(DrawingRun& run) {
 }
 
 void LabelsStage(DrawingRun& run) {
-    if (Design.PrintText == "Y") {
+    if (Design.PrintText != "Y") {
+        return;
+    }
+    if (run.traits.tables == Tables::ByColour) {
         ForEachScaleUpward([&run](int scale) { DrawLabels(run, scale); });
+    } else {
+        DrawLabels(run, Design.CurrentScale);
     }
 }
 

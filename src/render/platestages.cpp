@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "core/design.h"
 #include "core/numbertext.h"
@@ -32,6 +33,24 @@ void DrawCross(const DrawingRun& run, SurfacePoint at, double arm, Colour colour
 
 void DrawCircle(const DrawingRun& run, SurfacePoint at, double radius, Colour colour) {
     run.surface.Circle(F(at.x), F(at.y), F(radius), colour);
+}
+
+double HoleRadius(const PlateFrame& frame) {
+    return 60 * frame.plateScale / kMarkScale;
+}
+
+double BearingRadius(const PlateFrame& frame) {
+    return 30 * frame.plateScale / kMarkScale + 16;
+}
+
+// The left one first; a quadrant plate has none.
+std::vector<SurfacePoint> HolesOf(const PlateFrame& frame) {
+    if (Design.PlateStyle != 0) {
+        return {};
+    }
+    const double apart = frame.AcrossPerHalfMm() * double{Design.HoleSeparation};
+    const double y = frame.Bottom() - 2 * frame.upPerHalfMm * double{Design.BottomToHoles};
+    return {{frame.centreX - apart, y}, {frame.centreX + apart, y}};
 }
 
 // A number or the unit, beginning at (x, y).
@@ -71,18 +90,16 @@ void TrimMarksStage(DrawingRun& run) {
 }
 
 void HolesStage(DrawingRun& run) {
-    if (Design.PlateStyle != 0) {
+    const std::vector<SurfacePoint> holes = HolesOf(run.frame);
+    if (holes.empty()) {
         return;
     }
-    const PlateFrame& frame = run.frame;
-    const double apart = frame.AcrossPerHalfMm() * double{Design.HoleSeparation};
-    const double y = frame.Bottom() - 2 * frame.upPerHalfMm * double{Design.BottomToHoles};
     run.surface.SetLineWidth(run.traits.lineWidths.holes);
-    for (const double x : {frame.centreX - apart, frame.centreX + apart}) {
-        DrawCircle(run, {x, y}, 60 * frame.plateScale / kMarkScale, kBlackInk);
-        DrawCircle(run, {x, y}, 30 * frame.plateScale / kMarkScale + 16, kWhiteInk);
-        DrawCross(run, {x, y}, 100, kBlackInk);
-        DrawCross(run, {x, y}, 130, kWhiteInk);
+    for (const SurfacePoint hole : holes) {
+        DrawCircle(run, hole, HoleRadius(run.frame), kBlackInk);
+        DrawCircle(run, hole, BearingRadius(run.frame), kWhiteInk);
+        DrawCross(run, hole, 100, kBlackInk);
+        DrawCross(run, hole, 130, kWhiteInk);
     }
 }
 
@@ -90,8 +107,22 @@ void BearingsStage(DrawingRun& run) {
     const SurfacePoint bearing = RealBearing(run.frame);
     run.surface.SetLineWidth(run.traits.lineWidths.bearings);
     DrawCross(run, bearing, 100, kWhiteInk);
-    DrawCircle(run, bearing, 30 * run.frame.plateScale / kMarkScale + 16, kBlackInk);
+    DrawCircle(run, bearing, BearingRadius(run.frame), kBlackInk);
     DrawCross(run, VirtualBearing(run.frame), 100, kBlackInk);
+}
+
+void OutlineStage(DrawingRun& run) {
+    DrawPlateBox(run, 0, kBlackInk);
+}
+
+void SetupMarksStage(DrawingRun& run) {
+    for (const SurfacePoint hole : HolesOf(run.frame)) {
+        DrawCircle(run, hole, HoleRadius(run.frame), kBlackInk);
+        DrawCross(run, hole, 130, Design.PlateBackground);
+    }
+    const SurfacePoint bearing = RealBearing(run.frame);
+    DrawCross(run, bearing, 100, Design.PlateBackground);
+    DrawCircle(run, bearing, BearingRadius(run.frame), kBlackInk);
 }
 
 void RulerStage(DrawingRun& run) {

@@ -9,6 +9,7 @@
 #include "core/design.h"
 #include "render/drawing.h"
 #include "render/stages.h"
+#include "setups/samplescales.h"
 
 namespace vernacle {
 
@@ -33,13 +34,14 @@ struct SampleScale {
     float bottomToCeiling;
     float bottomToTitle;
     const char* title;
-    float span; // the value at the right end, the left end being 0
-    std::int16_t tics;
-    std::int16_t majorEvery;
-    std::int16_t labelsEvery;
-    float exponent;
+    float span = 50; // the value at the right end, the left end being 0
+    std::int16_t tics = 50;
+    std::int16_t majorEvery = 5;
+    std::int16_t labelsEvery = 10;
+    float exponent = 1;
     std::span<const int> deletedTics = {};
     std::span<const int> deletedLabels = {};
+    void (*special)(int scale) = nullptr; // makes it a special one
 };
 
 // On the plate, mm from its left and bottom edge.
@@ -92,6 +94,19 @@ constexpr SampleScale kExponents[] = {
 };
 constexpr SampleScale kQuadrant[] = {{38, 50, "VOLTS", 50, 50, 5, 10, 1}};
 
+constexpr SampleScale kOhmmeter[] = {
+    {.bottomToCeiling = 56, .bottomToTitle = 44, .title = "OHMS", .special = SetUpSampleOhmmeter}};
+constexpr SampleScale kArbitrary[] = {
+    {.bottomToCeiling = 56, .bottomToTitle = 44, .title = "FUEL", .special = SetUpSampleArbitrary}};
+constexpr SampleScale kSmeter[] = {{.bottomToCeiling = 56,
+                                    .bottomToTitle = 44,
+                                    .title = "S-UNITS, dB",
+                                    .special = SetUpSampleSmeter}};
+constexpr SampleScale kVswr[] = {
+    {.bottomToCeiling = 56, .bottomToTitle = 44, .title = "VSWR", .special = SetUpSampleVswr}};
+constexpr SampleScale kDecibel[] = {
+    {.bottomToCeiling = 56, .bottomToTitle = 44, .title = "dB", .special = SetUpSampleDecibel}};
+
 constexpr Detail kLeftEnd = {.left = 12, .bottom = 44, .width = 26, .height = 19};
 
 // Those of a page, but for the trim marks: no sample is ever cut out.
@@ -117,6 +132,11 @@ constexpr SampleRow kSamples[] = {
     {Sample::RotatedHorizontal, kHorizontalPlate, kAllTics, nullptr},
     {Sample::StandardStyle, kUsualPlate, kAllTics, nullptr},
     {Sample::QuadrantStyle, kQuadrantPlate, kQuadrant, nullptr},
+    {Sample::Ohmmeter, kUsualPlate, kOhmmeter, nullptr},
+    {Sample::Arbitrary, kUsualPlate, kArbitrary, nullptr},
+    {Sample::Smeter, kUsualPlate, kSmeter, nullptr},
+    {Sample::Vswr, kUsualPlate, kVswr, nullptr},
+    {Sample::Decibel, kUsualPlate, kDecibel, nullptr},
 };
 
 const SampleRow& RowOf(Sample sample) {
@@ -181,6 +201,9 @@ void SetScale(int scale, const SampleScale& values) {
     }
     for (const int label : values.deletedLabels) {
         Design.StandardLabelYN[scale][label] = "N";
+    }
+    if (values.special) {
+        values.special(scale);
     }
 }
 

@@ -18,6 +18,11 @@ enum class Sample {
     RotatedHorizontal,
     StandardStyle,
     QuadrantStyle,
+    Ohmmeter, // a special scale of each kind
+    Arbitrary,
+    Smeter,
+    Vswr,
+    Decibel,
 };
 
 // Draws the sample for a surface of square units. It borrows Design and Drawing: both are put back

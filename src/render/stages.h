@@ -36,6 +36,8 @@ void PlateStage(DrawingRun& run);
 void TrimMarksStage(DrawingRun& run);
 void HolesStage(DrawingRun& run);
 void BearingsStage(DrawingRun& run);
+void OutlineStage(DrawingRun& run);    // of a setup: the plate's edge alone
+void SetupMarksStage(DrawingRun& run); // holes and bearing with crosses in the plate's colour
 void RulerStage(DrawingRun& run);
 
 // ticstages: tics from the highest scale down, then the arcs
@@ -67,6 +69,9 @@ struct Ruler {
 };
 
 void DrawRuler(DrawingRun& run, const Ruler& ruler);
+
+// Whether the scale's special tables are drawn.
+bool ShowsSpecial(const DrawingRun& run, int scale);
 
 // RelativeFontSize of the scale, made 1 in the design if it is 0 or less.
 double RelativeSizeOf(int scale);

@@ -43,13 +43,29 @@ void DrawArc(DrawingRun& run, int scale) {
     }
 }
 
+bool IsDrawn(int scale) {
+    return NumberOf(Design.PrintTicsAndArcs[scale]) == 0;
+}
+
+void DrawTics(DrawingRun& run, int scale) {
+    RelativeSizeOf(scale);
+    const auto draw = [&run](const Tic& tic) { DrawTic(run, tic); };
+    if (ShowsSpecial(run, scale)) {
+        run.state.WhereMarker = kMarkSpecialTics;
+        WalkSpecialTics(scale, draw);
+    } else {
+        run.state.WhereMarker = kMarkStandardTics;
+        WalkStandardTics(scale, run.traits.ticFlags, draw);
+    }
+}
+
 // Runs over the scales from the highest number down, so that scale 1 is drawn last and on top.
 template <typename Draw>
 void ForEachDrawnScale(Draw draw) {
     for (Design.CurrentScale = Design.NumberOfScales; Design.CurrentScale >= 1;
          --Design.CurrentScale) {
         const int scale = Design.CurrentScale;
-        if (NumberOf(Design.PrintTicsAndArcs[scale]) == 0) {
+        if (IsDrawn(scale)) {
             draw(scale);
         }
     }
@@ -59,6 +75,10 @@ void ForEachDrawnScale(Draw draw) {
 
 Colour InkOf(int scale) {
     return static_cast<Colour>(std::abs(std::int64_t{Design.ScaleColor[scale]}));
+}
+
+bool ShowsSpecial(const DrawingRun& run, int scale) {
+    return run.traits.tables == Tables::SpecialOfCurrentScale || IsSpecial(scale);
 }
 
 double RelativeSizeOf(int scale) {
@@ -83,11 +103,11 @@ double TicLength(const Tic& tic) {
 }
 
 void TicsStage(DrawingRun& run) {
-    ForEachDrawnScale([&run](int scale) {
-        RelativeSizeOf(scale);
-        run.state.WhereMarker = IsSpecial(scale) ? kMarkSpecialTics : kMarkStandardTics;
-        WalkTics(scale, run.traits.ticFlags, [&run](const Tic& tic) { DrawTic(run, tic); });
-    });
+    if (run.traits.tables == Tables::ByColour) {
+        ForEachDrawnScale([&run](int scale) { DrawTics(run, scale); });
+    } else if (IsDrawn(Design.CurrentScale)) {
+        DrawTics(run, Design.CurrentScale);
+    }
 }
 
 // From the real bearing to the outer end of the last tic drawn, one of scale 1.

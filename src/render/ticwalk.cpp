@@ -43,7 +43,9 @@ void ForEachTic(int last, Visit visit) {
     }
 }
 
-void WalkStandardTics(int scale, TicFlags flags, const std::function<void(const Tic&)>& visit) {
+} // namespace
+
+void WalkStandardTics(int scale, TicFlags flags, const TicVisit& visit) {
     ForEachTic(Design.NrOfTicmarks[scale], [&](int tic) {
         if (flags == TicFlags::Ignored || Design.StandardTicYN[scale][tic] != "N") {
             visit({scale, tic, Design.StandardDeflection[scale][tic], IsMajor(scale, tic)});
@@ -51,7 +53,7 @@ void WalkStandardTics(int scale, TicFlags flags, const std::function<void(const 
     });
 }
 
-void WalkSpecialTics(int scale, const std::function<void(const Tic&)>& visit) {
+void WalkSpecialTics(int scale, const TicVisit& visit) {
     ForEachTic(Design.SpecialNrOfTicmarks[scale], [&](int tic) {
         if (Design.TicPrintYN[scale][tic] == "Y") {
             const bool major = Design.TicMajorYN[scale][tic] == "Y";
@@ -60,19 +62,17 @@ void WalkSpecialTics(int scale, const std::function<void(const Tic&)>& visit) {
     });
 }
 
-void WalkStandardLabels(int scale, LabelFlags flags,
-                        const std::function<void(const TicLabel&)>& visit) {
+void WalkStandardLabels(int scale, LabelFlags flags, const LabelVisit& visit) {
     ForEachTic(Design.NrOfTicmarks[scale], [&](int tic) {
         if (IsShown(Design.StandardLabelYN[scale][tic], flags) &&
             IsMultiple(tic, Design.LabelsEveryHowMany[scale])) {
             visit({scale, tic, Design.StandardDeflection[scale][tic],
-                   Normalised(Design.StandardLabel[scale][tic])});
+                   Normalised(Design.StandardLabel[scale][tic]), false});
         }
     });
 }
 
-void WalkSpecialLabels(int scale, LabelFlags flags,
-                       const std::function<void(const TicLabel&)>& visit) {
+void WalkSpecialLabels(int scale, LabelFlags flags, const LabelVisit& visit) {
     const bool setBack = flags == LabelFlags::SetBack;
     ForEachTic(Design.SpecialNrOfTicmarks[scale], [&](int tic) {
         if (setBack) {
@@ -80,14 +80,12 @@ void WalkSpecialLabels(int scale, LabelFlags flags,
         }
         if (Design.TicLabelYN[scale][tic] == "Y") {
             visit({scale, tic, Design.TicDeflection[scale][tic],
-                   Normalised(Design.TicLabelText[scale][tic])});
+                   Normalised(Design.TicLabelText[scale][tic]), true});
         }
     });
 }
 
-} // namespace
-
-void WalkTics(int scale, TicFlags flags, const std::function<void(const Tic&)>& visit) {
+void WalkTics(int scale, TicFlags flags, const TicVisit& visit) {
     if (IsSpecial(scale)) {
         WalkSpecialTics(scale, visit);
     } else {
@@ -95,7 +93,7 @@ void WalkTics(int scale, TicFlags flags, const std::function<void(const Tic&)>& 
     }
 }
 
-void WalkLabels(int scale, LabelFlags flags, const std::function<void(const TicLabel&)>& visit) {
+void WalkLabels(int scale, LabelFlags flags, const LabelVisit& visit) {
     if (IsSpecial(scale)) {
         WalkSpecialLabels(scale, flags, visit);
     } else {

@@ -33,13 +33,21 @@ struct TicLabel {
     int number;
     float deflection;
     std::string text;
+    bool special = false; // of a special scale's tables
 };
+
+using TicVisit = std::function<void(const Tic&)>;
+using LabelVisit = std::function<void(const TicLabel&)>;
 
 // Visits the tics of a scale in rising order, with Design.TicLoop as the loop variable, which stays
 // where a failure left it. A major or label interval of 0 is a run-time error.
-void WalkTics(int scale, TicFlags flags, const std::function<void(const Tic&)>& visit);
+void WalkStandardTics(int scale, TicFlags flags, const TicVisit& visit);
+void WalkSpecialTics(int scale, const TicVisit& visit);
+void WalkTics(int scale, TicFlags flags, const TicVisit& visit); // as the scale's colour says
 
 // Visits the labels in the same way; their texts have full stops for commas and no outer blanks.
-void WalkLabels(int scale, LabelFlags flags, const std::function<void(const TicLabel&)>& visit);
+void WalkStandardLabels(int scale, LabelFlags flags, const LabelVisit& visit);
+void WalkSpecialLabels(int scale, LabelFlags flags, const LabelVisit& visit);
+void WalkLabels(int scale, LabelFlags flags, const LabelVisit& visit);
 
 } // namespace vernacle

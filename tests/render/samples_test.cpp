@@ -15,10 +15,14 @@ namespace vernacle::test {
 namespace {
 
 constexpr Sample kAll[] = {
-    Sample::LinearScale,     Sample::ExponentOne,       Sample::ExponentTwo,
-    Sample::SomeTicsRemoved, Sample::LeftEndCleared,    Sample::Exponents,
-    Sample::RotatedBearing,  Sample::RotatedHorizontal, Sample::StandardStyle,
-    Sample::QuadrantStyle,
+    Sample::LinearScale,    Sample::ExponentOne,
+    Sample::ExponentTwo,    Sample::SomeTicsRemoved,
+    Sample::LeftEndCleared, Sample::Exponents,
+    Sample::RotatedBearing, Sample::RotatedHorizontal,
+    Sample::StandardStyle,  Sample::QuadrantStyle,
+    Sample::Ohmmeter,       Sample::Arbitrary,
+    Sample::Smeter,         Sample::Vswr,
+    Sample::Decibel,
 };
 
 constexpr double kDegree = 0.017453292519943295;

@@ -1,0 +1,236 @@
+#include "setups/frmSetupdB.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "core/design.h"
+#include "core/entry.h"
+#include "core/numbertext.h"
+#include "platform/entrybox.h"
+#include "platform/formkit.h"
+#include "platform/optionbutton.h"
+#include "setups/rowtable.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr SetupPageTraits kTraits = {.form = "frmSetupdB",
+                                     .title = "Vernacle - dB setup",
+                                     .heading = "dB setup",
+                                     .acceptCaption = "Accept and return to Scale Design page",
+                                     .ignoreCaption = "Ignore; just return to Scale Design page",
+                                     .computes = kAtLoad | kAtPreview,
+                                     .readsBack = true};
+
+struct Entry {
+    const char* label;
+    const char* caption;
+    const char* box;
+    const char* start;
+};
+
+constexpr Entry kEntries[] = {
+    {"lblFullScaledB", "Full-scale dB value:", "txtFullScaledB", "0"},
+    {"lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks", "11"},
+    {"lblLinearityExponent", "Linearity exponent:", "txtLinearityExponent", "1"},
+    {"lblFullscaleMultiplier", "Fullscale multiplier:", "txtFullscaleMultiplier", "1"},
+};
+
+// Both start with Yes.
+struct Question {
+    const char* frame;
+    const char* text;
+    const char* yes;
+    const char* no;
+};
+
+constexpr Question kQuestions[] = {
+    {"fraUnlabelledAtBottom", "Unlabelled ticmark at zero deflection?", "optUnlabelledAtBottomYes",
+     "optUnlabelledAtBottomNo"},
+    {"fraPrefix", "Prefix  '+'  to positive decibel labels?", "optY", "optN"},
+};
+
+constexpr const char* kHeadings[] = {
+    "Tic#:", "Deflection:", "Label:", "Print label?", "Major/minor?", "Print tic?"};
+
+constexpr const char* kHiddenParts[] = {"fraTics", "fraMajorMinor", "Value", "fraPrintLabel",
+                                        "DeflectLabel"};
+
+QWidget* MakeQuestion(const Question& question) {
+    QGroupBox* frame = MakeFrame(question.frame, QString::fromUtf8(question.text));
+    auto* line = new QHBoxLayout(frame);
+    auto* yes = new OptionButton(question.yes, QStringLiteral("Yes"));
+    yes->ShowSelected();
+    line->addWidget(yes);
+    line->addWidget(new OptionButton(question.no, QStringLiteral("No")));
+    line->addStretch();
+    return frame;
+}
+
+} // namespace
+
+frmSetupdB::frmSetupdB() : SetupPage(kTraits) {
+    Build();
+    EnterSetup();
+}
+
+void frmSetupdB::Build() {
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(16);
+    halves->addWidget(MakeTable(), 1);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(10);
+    column->addLayout(MakeEntries());
+    for (const Question& question : kQuestions) {
+        column->addWidget(MakeQuestion(question));
+    }
+    column->addLayout(MakeButtons());
+    column->addStretch();
+    halves->insertLayout(0, column);
+    Body().addLayout(halves, 1);
+}
+
+QLayout* frmSetupdB::MakeEntries() {
+    auto* grid = new QGridLayout;
+    grid->setSpacing(kEntrySpacing);
+    for (const Entry& entry : kEntries) {
+        const int row = grid->rowCount();
+        auto* box = new EntryBox(entry.box, QString::fromUtf8(entry.caption));
+        QLabel* label = MakeLabel(entry.label, QString::fromUtf8(entry.caption));
+        label->setBuddy(box);
+        box->Show(entry.start);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(box, row, 1);
+    }
+    return grid;
+}
+
+QLayout* frmSetupdB::MakeButtons() {
+    auto* column = new QVBoxLayout;
+    QPushButton* enter = MakeButton("cmdEnter", QStringLiteral("Enter"));
+    QPushButton* preview = MakeButton("cmdPreview", QStringLiteral("Preview"));
+    connect(enter, &QPushButton::clicked, this, &frmSetupdB::ComputeDecibelTics);
+    connect(preview, &QPushButton::clicked, this, &frmSetupdB::ShowSetupPreview);
+    for (QPushButton* button : {enter, preview, MakeIgnore(), MakeAccept()}) {
+        column->addWidget(button);
+    }
+    return column;
+}
+
+RowTable* frmSetupdB::MakeTable() {
+    auto* table = new RowTable("tblTics", kHeadings);
+    for (int row = 0; row < kDecibelRows; ++row) {
+        const auto label = [row](const char* name) { return MakeRowLabel(name, row); };
+        const auto choice = [row](const char* frame, const char* question, const char* first,
+                                  const char* second, const char* yes, const char* no) {
+            return MakeRowChoice(frame, question, {first, yes}, {second, no}, row);
+        };
+        table->AddRow(
+            {label("Tic"), label("DeflectLabel"), label("Value"),
+             choice("fraPrintLabel", "Print label", "PrintLabelYes", "PrintLabelNo", "Yes", "No"),
+             choice("fraMajorMinor", "Class of tic", "Major", "Minor", "Major", "Minor"),
+             choice("fraTics", "Print tic", "PrintTicYes", "PrintTicNo", "Yes", "No")});
+    }
+    for (int row = 0; row < kDecibelRows; ++row) {
+        table->findChild<OptionButton*>(QString::fromStdString(RowName("PrintTicYes", row)))
+            ->ShowSelected();
+    }
+    table->findChild<OptionButton*>(QStringLiteral("Major0"))->ShowSelected();
+    table->AlignHeadings();
+    return table;
+}
+
+void frmSetupdB::ReadBack() {
+    const int scale = Scale();
+    Box("txtNrOfTicmarks").Write(PlainNumber(std::int32_t{Design.SpecialNrOfTicmarks[scale]}));
+    const auto fullScale = static_cast<float>(NumericValue(Design.TicLabelText[scale][0]));
+    Box("txtFullScaledB").Write(PlainNumber(fullScale));
+    Box("txtLinearityExponent").Write(PlainNumber(Design.LinearityExponent[scale]));
+    Box("txtFullscaleMultiplier").Write(PlainNumber(Design.FullscaleMultiplier[scale]));
+    for (int row = 0; row < kDecibelRows; ++row) {
+        SelectIf("PrintTicYes", "PrintTicNo", row, Design.TicPrintYN[scale][row] != "N");
+        SelectIf("Major", "Minor", row, Design.TicMajorYN[scale][row] != "N");
+        SelectIf("PrintLabelYes", "PrintLabelNo", row, Design.TicLabelYN[scale][row] != "N");
+        SetText("Value", row, Design.TicLabelText[scale][row]);
+        SetText("DeflectLabel", row, PlainNumber(Design.TicDeflection[scale][row]));
+    }
+}
+
+void frmSetupdB::ComputeDecibelTics() {
+    ReadEntries();
+    vernacle::ComputeDecibelTics(Scale(), entries_);
+    ShowNumbers();
+    ShowRows();
+}
+
+void frmSetupdB::ReadEntries() {
+    const auto read = [this](const char* box, float& number) {
+        std::string text = Box(box).Text();
+        ParseEntry(text, number);
+    };
+    read("txtFullScaledB", entries_.fullScale);
+    read("txtNrOfTicmarks", entries_.ticmarks);
+    read("txtLinearityExponent", entries_.exponent);
+    read("txtFullscaleMultiplier", entries_.multiplier);
+    entries_.plusSigns = AnswerOf("optY");
+    entries_.unlabelledBottomTic = AnswerOf("optUnlabelledAtBottomYes");
+    for (int row = 0; row < kDecibelRows; ++row) {
+        entries_.tics.at(static_cast<std::size_t>(row)) = {
+            .printed = AnswerOf(RowName("PrintTicYes", row)),
+            .major = AnswerOf(RowName("Major", row)),
+            .labelled = AnswerOf(RowName("PrintLabelYes", row))};
+    }
+}
+
+// The exponent goes on showing what was typed.
+void frmSetupdB::ShowNumbers() {
+    std::string text;
+    FormatByMagnitude(double{entries_.fullScale}, text);
+    Box("txtFullScaledB").Write(text);
+    FormatByMagnitude(double{entries_.ticmarks}, text);
+    Box("txtNrOfTicmarks").Write(text);
+    Box("txtFullscaleMultiplier").Write(PlainNumber(entries_.multiplier));
+}
+
+// The row behind the last tic is the bottom tic's, also where that is switched off.
+void frmSetupdB::ShowRows() {
+    const int last = Design.SpecialNrOfTicmarks[Scale()];
+    for (int row = 0; row < kDecibelRows; ++row) {
+        for (const char* text : {"Tic", "Value", "DeflectLabel"}) {
+            SetText(text, row, {});
+        }
+        for (const char* part : kHiddenParts) {
+            Control(RowName(part, row).c_str()).setVisible(row <= last);
+        }
+    }
+    for (int row = 0; row < last; ++row) {
+        ShowRow(row);
+    }
+    if (Design.UnlabelledBottomTic[Scale()] == "Y") {
+        SetText("Tic", last, "(bottom)");
+        SetText("DeflectLabel", last, "0");
+    }
+}
+
+void frmSetupdB::ShowRow(int row) {
+    SetText("Tic", row, PlainNumber(std::int32_t{row}) + (row == 0 ? " (top)" : ""));
+    SetText("Value", row, Design.TicLabelText[Scale()][row]);
+    SetText("DeflectLabel", row, PlainNumber(Design.TicDeflection[Scale()][row]));
+}
+
+void frmSetupdB::SetText(const char* label, int row, const std::string& text) {
+    findChild<QLabel*>(QString::fromStdString(RowName(label, row)))
+        ->setText(QString::fromStdString(text));
+}
+
+void frmSetupdB::SelectIf(const char* option, const char* other, int row, bool selected) {
+    Option(RowName(selected ? option : other, row).c_str()).ShowSelected();
+}
+
+Answer frmSetupdB::AnswerOf(const std::string& option) const {
+    return AnswerIf(Option(option.c_str()).isChecked());
+}
+
+} // namespace vernacle

@@ -1,0 +1,55 @@
+// A table of real controls: headings that stay in view above rows that scroll. A control of row 3
+// is named with the number behind: "PrintTicYes3".
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <vector>
+
+#include <QWidget>
+
+class QGridLayout;
+class QLabel;
+
+namespace vernacle {
+
+class OptionButton;
+
+// "Tic3".
+std::string RowName(const char* control, int row);
+
+// One of a row's options, in words.
+struct RowOption {
+    const char* name;
+    const char* caption;
+};
+
+// A frame with two options, of which a row has one or none. The question is told to a screen
+// reader.
+QWidget* MakeRowChoice(const char* frame, const char* question, const RowOption& first,
+                       const RowOption& second, int row);
+
+// A label of a row, wide enough for any number.
+QLabel* MakeRowLabel(const char* name, int row);
+
+class RowTable : public QWidget {
+    Q_OBJECT
+
+public:
+    RowTable(const char* name, std::span<const char* const> headings);
+
+    // Adds the next row, a control for each heading.
+    void AddRow(std::initializer_list<QWidget*> controls);
+
+    // Once all rows stand: the headings stand above their columns.
+    void AlignHeadings();
+
+private:
+    QGridLayout* headings_;
+    QGridLayout* rows_;
+    int columns_;
+    int count_ = 0;
+};
+
+} // namespace vernacle
