@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kStageOpen = 407;
 constexpr int kStageReset = 413;
+constexpr const char* kBackup = "Backup.DAT";
 
 // A text on its line: a line end inside it would shift all that follows.
 std::string OnOneLine(std::string text) {
@@ -116,8 +117,12 @@ void SaveDesign(const std::string& name) {
     }
 }
 
+void RestoreBackup() {
+    ReadDesign(kBackup);
+}
+
 void BackupDesign() {
-    Design.DesignFileName = "Backup.DAT";
+    Design.DesignFileName = kBackup;
     WriteDesign();
     Design.DesignFileName.clear();
 }

@@ -16,6 +16,9 @@ void SaveDesign(const std::string& name);
 // Writes the design to "Backup.DAT" and leaves it without a name.
 void BackupDesign();
 
+// Reads it back, with what the reader forces on every design.
+void RestoreBackup();
+
 // Writes the design to "LASTSESSION.VRN" beside the program and leaves that name.
 void SaveLastSession();
 

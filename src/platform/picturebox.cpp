@@ -54,6 +54,16 @@ DeviceMap PictureBox::MapToWidget() const {
     return map;
 }
 
+QPointF PictureBox::ToWidget(double x, double y) const {
+    const DeviceMap map = MapToWidget();
+    return {map.originX + x * map.perUnitX, map.originY + y * map.perUnitY};
+}
+
+QPointF PictureBox::FromWidget(const QPointF& at) const {
+    const DeviceMap map = MapToWidget();
+    return {(at.x() - map.originX) / map.perUnitX, (at.y() - map.originY) / map.perUnitY};
+}
+
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);

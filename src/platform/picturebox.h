@@ -25,6 +25,10 @@ public:
 
     QSize sizeHint() const override;
 
+    // Between the drawing's coordinates and those of this widget.
+    QPointF ToWidget(double x, double y) const;
+    QPointF FromWidget(const QPointF& at) const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -20,7 +20,7 @@ constexpr int kFocusCheckMs = 300;
 
 std::span<const FormRow> registeredForms;
 QWidget* shownPage = nullptr;
-std::map<std::string, std::unique_ptr<QWidget>, std::less<>> pagesBehind; // loaded, not shown
+std::map<std::string, QWidget*, std::less<>> pagesBehind; // loaded, not shown; owned here
 
 const FormRow* FindForm(std::string_view name) {
     const auto found = std::find_if(registeredForms.begin(), registeredForms.end(),
@@ -57,7 +57,7 @@ void ActivateSurely(QWidget& page) {
     QTimer::singleShot(kFocusCheckMs, &page, [&page] {
         const QWidget* active = QApplication::activeWindow();
         const bool free = !active || active == &page; // the toolkit's belief may be old
-        if (free && !QApplication::activeModalWidget()) {
+        if (free && page.isVisible() && !QApplication::activeModalWidget()) {
             page.activateWindow();
         }
     });
@@ -79,16 +79,29 @@ std::unique_ptr<QWidget> LoadedPage(std::string_view name) {
     if (behind == pagesBehind.end()) {
         return MakeForm(name);
     }
-    std::unique_ptr<QWidget> page = std::move(behind->second);
+    std::unique_ptr<QWidget> page(behind->second);
     pagesBehind.erase(behind);
     return page;
+}
+
+// What had the focus on a page that was left loaded.
+QString FocusedOn(const QWidget& page) {
+    const QWidget* focused = page.focusWidget();
+    return focused ? focused->objectName() : QString();
+}
+
+void UnloadPagesBehind() {
+    for (const auto& [name, page] : pagesBehind) {
+        delete page;
+    }
+    pagesBehind.clear();
 }
 
 } // namespace
 
 void SetForms(std::span<const FormRow> forms) {
     registeredForms = forms;
-    pagesBehind.clear();
+    UnloadPagesBehind();
 }
 
 bool IsFormKnown(std::string_view name) {
@@ -102,7 +115,9 @@ std::unique_ptr<QWidget> MakeForm(std::string_view name) {
 
 void GoToPage(std::string_view name) {
     if (IsFormKnown(name)) {
-        Unload(ShowPage(LoadedPage(name), {}));
+        std::unique_ptr<QWidget> page = LoadedPage(name);
+        const QString focused = FocusedOn(*page);
+        Unload(ShowPage(std::move(page), focused));
     }
 }
 
@@ -110,21 +125,20 @@ void GoToPageUnloading(std::string_view name, std::string_view unloaded) {
     if (!IsFormKnown(name)) {
         return;
     }
-    std::unique_ptr<QWidget> left(ShowPage(LoadedPage(name), {}));
+    QWidget* left = ShowPage(LoadedPage(name), {});
     if (const auto behind = pagesBehind.find(unloaded); behind != pagesBehind.end()) {
+        delete behind->second;
         pagesBehind.erase(behind);
     }
     if (left) {
         left->hide();
-        const std::string leftName = left->objectName().toStdString();
-        pagesBehind[leftName] = std::move(left);
+        pagesBehind[left->objectName().toStdString()] = left;
     }
 }
 
 void ReloadPage() {
     const std::string name = shownPage->objectName().toStdString();
-    const QWidget* focused = shownPage->focusWidget();
-    const QString focusedControl = focused ? focused->objectName() : QString();
+    const QString focusedControl = FocusedOn(*shownPage);
     const std::unique_ptr<QWidget> backdrop = MakeForm(kBackdrop);
     if (backdrop) {
         backdrop->showMaximized();
@@ -170,7 +184,7 @@ void UnloadPage() {
 }
 
 void EndProcess() {
-    pagesBehind.clear();
+    UnloadPagesBehind();
     QCoreApplication::exit(EXIT_SUCCESS);
 }
 

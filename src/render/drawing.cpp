@@ -145,6 +145,7 @@ void DrawSetup(DrawingSurface& surface, const PageCopies& sizes) {
     const ScaleKeeper keeper;
     const DrawingTraits traits = SetupTraits();
     DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
+    Drawing.WhereMarker = kMarkStart;
     RunStages(run);
 }
 

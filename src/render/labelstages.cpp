@@ -79,8 +79,8 @@ SurfacePoint MeasuredCorner(const DrawingRun& run, const TicLabel& label, Surfac
     if (Design.LabelRotation == "H") {
         return Upright(anchor, MeasureLabel(run, label, points));
     }
-    if (Design.LabelRotation ==
-        "B") { // a special scale's turned labels take the plate's size alone
+    if (Design.LabelRotation == "B") {
+        // A special scale's turned labels take the plate's size alone.
         const double turned = label.special ? fontSize : points;
         return AlongRadius(anchor, MeasureLabel(run, label, turned), t);
     }

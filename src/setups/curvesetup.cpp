@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "core/design.h"
 #include "core/entry.h"
 #include "platform/entrybox.h"
 #include "platform/formkit.h"
@@ -56,9 +57,10 @@ QWidget* CurveSetupPage::MakeOptions() {
 
 void CurveSetupPage::OptionClicked(int option) {
     std::string text = Box("txtLinearityExponent").Text();
-    ParseEntry(text, exponent_);
+    float exponent = Design.LinearityExponent[Scale()]; // stays where the text is no entry
+    ParseEntry(text, exponent);
     ComputeOrReport([&] {
-        ComputeTics(option, exponent_);
+        ComputeTics(option, exponent);
         picture_->DrawScale();
     });
 }

@@ -35,7 +35,6 @@ private:
 
     const CurveSetupTraits& traits_;
     SetupPicture* picture_ = nullptr;
-    float exponent_ = 0; // as last read
 };
 
 } // namespace vernacle

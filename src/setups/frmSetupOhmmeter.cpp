@@ -37,12 +37,21 @@ constexpr SetupPageTraits kTraits = {.form = "frmSetupOhmmeter",
 
 constexpr const char* kHeadings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
 
+// The number as text that is an entry again: in its short form where all digits are too long.
+std::string EntryTextOf(float number) {
+    constexpr std::size_t kLongestEntry = 10;
+    std::string text = PlainNumber(number);
+    if (text.size() > kLongestEntry) {
+        FormatByMagnitude(double{number}, text);
+    }
+    return text;
+}
+
 } // namespace
 
 frmSetupOhmmeter::frmSetupOhmmeter() : SetupPage(kTraits) {
     Build();
     EnterSetup();
-    LayOutResistanceRows();
 }
 
 void frmSetupOhmmeter::Build() {
@@ -135,12 +144,12 @@ void frmSetupOhmmeter::StartAnew() {
 void frmSetupOhmmeter::ReadBack() {
     const int scale = Scale();
     Design.LinearityExponent[scale] = 1;
-    ListCount_ = std::min<std::int16_t>(Design.SpecialNrOfTicmarks[scale], kLastRow);
+    ListCount_ = std::clamp<std::int16_t>(Design.SpecialNrOfTicmarks[scale], -1, kLastRow);
     for (int row = 0; row <= ListCount_; ++row) {
         MendEmptyLabel(scale, row);
         const bool major = Design.TicMajorYN[scale][row] == "Y";
         TicOf(row).setText(QString::number(row));
-        SetRow(row, {.deflection = PlainNumber(Design.TicDeflection[scale][row]),
+        SetRow(row, {.deflection = EntryTextOf(Design.TicDeflection[scale][row]),
                      .label = Design.TicLabelText[scale][row],
                      .ticClass = major ? TicClass::Major : TicClass::Minor});
     }
@@ -186,6 +195,8 @@ void frmSetupOhmmeter::txtEnterResistanceChanged() {
 }
 
 void frmSetupOhmmeter::cmdComputeDeflectionClicked() {
+    lblResultingDeflection_->clear();
+    SetEnabled({"cmdAddToList", "cmdIgnoreEntry"}, false); // until there is a result again
     ComputeOrReport([this] { ComputeResistanceDeflection(); });
 }
 

@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "setups/ohmmeter.h"
 #include "setups/setuppage.h"
@@ -24,6 +25,7 @@ public:
 protected:
     void ReadBack() override;
     void StartAnew() override;
+    void ShowStored() override { LayOutResistanceRows(); }
     void Compute() override { StoreResistanceList(); }
 
 private:

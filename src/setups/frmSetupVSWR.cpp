@@ -29,7 +29,7 @@ frmSetupVSWR::frmSetupVSWR() : CurveSetupPage(kTraits) {
     EnterSetup();
 }
 
-// There is no way back from here.
+// What is accepted cannot be ignored any more, also while the next page is built.
 void frmSetupVSWR::AcceptSetup() {
     Control("cmdIgnore").setEnabled(false);
     CurveSetupPage::AcceptSetup();

@@ -1,5 +1,7 @@
 #include "setups/frmSetupdB.h"
 
+#include <algorithm>
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -79,7 +81,6 @@ frmSetupdB::frmSetupdB() : SetupPage(kTraits) {
 void frmSetupdB::Build() {
     auto* halves = new QHBoxLayout;
     halves->setSpacing(16);
-    halves->addWidget(MakeTable(), 1);
     auto* column = new QVBoxLayout;
     column->setSpacing(10);
     column->addLayout(MakeEntries());
@@ -88,7 +89,8 @@ void frmSetupdB::Build() {
     }
     column->addLayout(MakeButtons());
     column->addStretch();
-    halves->insertLayout(0, column);
+    halves->addLayout(column);
+    halves->addWidget(MakeTable(), 1);
     Body().addLayout(halves, 1);
 }
 
@@ -123,15 +125,16 @@ RowTable* frmSetupdB::MakeTable() {
     auto* table = new RowTable("tblTics", kHeadings);
     for (int row = 0; row < kDecibelRows; ++row) {
         const auto label = [row](const char* name) { return MakeRowLabel(name, row); };
-        const auto choice = [row](const char* frame, const char* question, const char* first,
-                                  const char* second, const char* yes, const char* no) {
-            return MakeRowChoice(frame, question, {first, yes}, {second, no}, row);
+        const auto choice = [row](const char* frame, const char* question, const RowOption& first,
+                                  const RowOption& second) {
+            return MakeRowChoice(frame, question, first, second, row);
         };
         table->AddRow(
             {label("Tic"), label("DeflectLabel"), label("Value"),
-             choice("fraPrintLabel", "Print label", "PrintLabelYes", "PrintLabelNo", "Yes", "No"),
-             choice("fraMajorMinor", "Class of tic", "Major", "Minor", "Major", "Minor"),
-             choice("fraTics", "Print tic", "PrintTicYes", "PrintTicNo", "Yes", "No")});
+             choice("fraPrintLabel", "Print label", {"PrintLabelYes", "Yes"},
+                    {"PrintLabelNo", "No"}),
+             choice("fraMajorMinor", "Class of tic", {"Major", "Major"}, {"Minor", "Minor"}),
+             choice("fraTics", "Print tic", {"PrintTicYes", "Yes"}, {"PrintTicNo", "No"})});
     }
     for (int row = 0; row < kDecibelRows; ++row) {
         table->findChild<OptionButton*>(QString::fromStdString(RowName("PrintTicYes", row)))
@@ -142,13 +145,18 @@ RowTable* frmSetupdB::MakeTable() {
     return table;
 }
 
+// A number whose text is too long for an entry is kept as it is read here.
 void frmSetupdB::ReadBack() {
     const int scale = Scale();
+    constexpr double kLargest = 1e30;
+    const double fullScale = NumericValue(Design.TicLabelText[scale][0]);
+    entries_.fullScale = static_cast<float>(std::clamp(fullScale, -kLargest, kLargest));
+    entries_.exponent = Design.LinearityExponent[scale];
+    entries_.multiplier = Design.FullscaleMultiplier[scale];
     Box("txtNrOfTicmarks").Write(PlainNumber(std::int32_t{Design.SpecialNrOfTicmarks[scale]}));
-    const auto fullScale = static_cast<float>(NumericValue(Design.TicLabelText[scale][0]));
-    Box("txtFullScaledB").Write(PlainNumber(fullScale));
-    Box("txtLinearityExponent").Write(PlainNumber(Design.LinearityExponent[scale]));
-    Box("txtFullscaleMultiplier").Write(PlainNumber(Design.FullscaleMultiplier[scale]));
+    Box("txtFullScaledB").Write(PlainNumber(entries_.fullScale));
+    Box("txtLinearityExponent").Write(PlainNumber(entries_.exponent));
+    Box("txtFullscaleMultiplier").Write(PlainNumber(entries_.multiplier));
     for (int row = 0; row < kDecibelRows; ++row) {
         SelectIf("PrintTicYes", "PrintTicNo", row, Design.TicPrintYN[scale][row] != "N");
         SelectIf("Major", "Minor", row, Design.TicMajorYN[scale][row] != "N");

@@ -1,6 +1,8 @@
 #include "setups/frmSpecialScale.h"
 
 #include <algorithm>
+#include <array>
+#include <string>
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

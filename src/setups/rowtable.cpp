@@ -59,7 +59,6 @@ QWidget* MakeRowChoice(const char* frame, const char* question, const RowOption&
 
 QLabel* MakeRowLabel(const char* name, int row) {
     QLabel* label = MakeLabel(RowName(name, row).c_str(), {});
-    label->setTextFormat(Qt::PlainText);
     label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("8.888888E-88")));
     return label;
 }

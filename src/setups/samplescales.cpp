@@ -1,7 +1,9 @@
 #include "setups/samplescales.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
+#include <string>
 #include <vector>
 
 #include "core/entry.h"

@@ -2,7 +2,6 @@
 // tables; only the sign of its ScaleColor tells that they count.
 #pragma once
 
-#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -45,8 +44,8 @@ void StoreTic(int scale, int tic, const TicEntry& entry);
 // A design file writes "/" for an empty label: such a label becomes a blank.
 void MendEmptyLabel(int scale, int tic);
 
-// A whole number as it is, another with one place behind the point and without a 0 there: "2",
-// "1.5", and "10" for 9.99.
+// A number from 0 up, with one place behind the point unless that is 0: "2", "1.5", and "10" for
+// 9.99.
 std::string ShortLabel(float value);
 
 } // namespace vernacle

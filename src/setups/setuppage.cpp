@@ -20,7 +20,6 @@ namespace vernacle {
 namespace {
 
 constexpr const char* kScalesPage = "frmScales";
-constexpr const char* kBackup = "Backup.DAT";
 
 } // namespace
 
@@ -74,7 +73,7 @@ void SetupPage::AcceptSetup() {
 }
 
 void SetupPage::IgnoreSetup() {
-    ReadDesign(kBackup);
+    RestoreBackup();
     GoToPage(kScalesPage);
 }
 

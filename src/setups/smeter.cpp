@@ -1,6 +1,7 @@
 #include "setups/smeter.h"
 
 #include <array>
+#include <string>
 
 #include "core/design.h"
 #include "core/numbertext.h"
@@ -75,9 +76,12 @@ void ComputeSmeterTics(int scale, float exponent, SmeterSetup& setup) {
         const auto share = static_cast<float>(setup.TicStep / static_cast<double>(type.top));
         const float deflection = BentDeflection(share, exponent);
         const std::string label = LabelOf(type, setup.TicStep);
-        const Answer shown = AnswerIf(!label.empty());
         ++setup.LastTic;
-        StoreTic(scale, setup.LastTic, {deflection, label, shown, shown, shown});
+        if (label.empty()) { // stays as it was wiped, or not, on a scale above those
+            Design.TicDeflection[scale][setup.LastTic] = deflection;
+        } else {
+            StoreTic(scale, setup.LastTic, {.deflection = deflection, .label = label});
+        }
     }
     Design.TicMajorYN[scale][0] = "Y";
     Design.SpecialNrOfTicmarks[scale] = setup.LastTic;

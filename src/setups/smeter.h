@@ -18,7 +18,8 @@ struct SmeterSetup {
 };
 
 // Stores the exponent, held to -4 .. 4, empties the labels and flags of scales 1 to 4, and writes
-// the tables of this scale; no type ends it there. A negative exponent is an ImpossibleEntry.
+// the tables of this scale; no type ends it there. A negative exponent is an ImpossibleEntry behind
+// the emptying.
 void ComputeSmeterTics(int scale, float exponent, SmeterSetup& setup);
 
 } // namespace vernacle

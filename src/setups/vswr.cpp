@@ -1,6 +1,7 @@
 #include "setups/vswr.h"
 
 #include <algorithm>
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
@@ -87,11 +88,14 @@ constexpr TicEntry FullReflection() {
 void ComputeVSWRTics(int scale, float exponent, VswrSetup& setup) {
     exponent = HeldExponent(exponent);
     Design.LinearityExponent[scale] = exponent;
-    const StepRule& rule = *std::ranges::find(kRules, setup.StepSize, &StepRule::step);
     setup.LastTic = -1;
+    const auto* rule = std::ranges::find(kRules, setup.StepSize, &StepRule::step);
+    if (rule == std::end(kRules)) {
+        return;
+    }
     for (setup.CurrentRatio = 1; setup.CurrentRatio <= kLastRatio;
          setup.CurrentRatio += setup.StepSize) {
-        const TicEntry entry = EntryOf(rule, setup.CurrentRatio, exponent);
+        const TicEntry entry = EntryOf(*rule, setup.CurrentRatio, exponent);
         ++setup.LastTic;
         StoreTic(scale, setup.LastTic, entry);
     }

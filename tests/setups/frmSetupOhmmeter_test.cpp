@@ -298,6 +298,41 @@ TEST_F(OhmmeterPageTest, AScaleOfMoreTicsThanRowsFillsTheRows) {
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 29);
 }
 
+TEST_F(OhmmeterPageTest, AScaleWithoutTicsGivesAnEmptyList) {
+    Design.ScaleColor[1] = -1;
+    for (const std::int16_t count : {std::int16_t{-1}, std::int16_t{-5}}) {
+        Design.SpecialNrOfTicmarks[1] = count;
+        OpenOhmmeter();
+        EXPECT_TRUE(Rows().empty());
+        Add("300");
+        EXPECT_EQ(Rows(), std::vector<std::string>{"0 | .25 | 300"});
+    }
+}
+
+// Texts of all digits can be too long for an entry, and would then keep what their place held.
+TEST_F(OhmmeterPageTest, LongDeflectionsMoveWithTheirRows) {
+    Design.ScaleColor[1] = -1;
+    Design.SpecialNrOfTicmarks[1] = 2;
+    Design.TicDeflection[1][0] = 1;
+    Design.TicDeflection[1][1] = 0.5F;
+    Design.TicDeflection[1][2] = 7.079457E-02F;
+    OpenOhmmeter();
+    EXPECT_LE(Shown("lblDeflection2").size(), 10U);
+    Click("Tic1");
+    PressPreview();
+    EXPECT_NEAR(Design.TicDeflection[1][1], 7.079457E-02F, 1e-5);
+}
+
+TEST_F(OhmmeterPageTest, AFailedResultCannotBeAdded) {
+    OpenOhmmeter();
+    Compute("100", "100");
+    Type("txtEnterMidscale", "0");
+    Click("cmdComputeDeflection");
+    EXPECT_EQ(said.size(), 2U);
+    EXPECT_EQ(Shown("lblResultingDeflection"), "");
+    ExpectEnabled({"cmdAddToList", "cmdIgnoreEntry"}, false);
+}
+
 TEST_F(OhmmeterPageTest, ImpossibleEntriesAreToldAndThePageStays) {
     OpenOhmmeter();
     const std::pair<const char*, const char*> rows[] = {{"0", "100"}, {"100", "-100"}, {"", "5"}};

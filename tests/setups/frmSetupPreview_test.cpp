@@ -106,6 +106,32 @@ TEST_F(SetupPreviewTest, PrintedTicsOfTheTablesAreDrawn) {
     EXPECT_GE(Design.ScaleColor[1], 0) << "its kind is not asked";
 }
 
+// At their deflections, outward for odd scales, and whatever the aspect.
+TEST_F(SetupPreviewTest, TicsStandAtTheirDeflections) {
+    for (const float aspect : {1.F, 0.6F}) {
+        Design.AspectRatio = aspect;
+        const PlateFrame frame = FrameOfDesign(40, {6000, 4300});
+        const double radius = ScaleRadius(frame, double{Design.BottomToScaleCeiling[1]});
+        const double shares[] = {0, 0.25, 1};
+        const std::vector<std::string> lines = TicLines();
+        ASSERT_EQ(lines.size(), 3U);
+        for (std::size_t index = 0; index < 3; ++index) {
+            const SurfacePoint at =
+                PlaceOnArc(frame, PointerAngle(frame, shares[index]), radius).point;
+            const std::vector<double> drawn = NumbersIn(lines[index]);
+            EXPECT_NEAR(drawn[2], at.x, 0.01);
+            EXPECT_NEAR(drawn[3], at.y, 0.01);
+            EXPECT_LT(drawn[1], drawn[3]) << "outward";
+        }
+    }
+}
+
+TEST_F(SetupPreviewTest, ScalesThatAreSwitchedOffHaveNoTicsAndArcs) {
+    Design.PrintTicsAndArcs[1] = std::int16_t{1};
+    EXPECT_EQ(Draw().Count("Line"), 6U) << "the marks' crosses";
+    EXPECT_EQ(Draw().texts.size(), 3U);
+}
+
 TEST_F(SetupPreviewTest, NoCorrectionIsApplied) {
     const std::vector<std::string> before = TicLines();
     for (int segment = 1; segment < kCurvePoints; ++segment) {

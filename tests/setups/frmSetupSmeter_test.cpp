@@ -38,6 +38,7 @@ TEST_F(SmeterPageTest, NothingIsComputedOrDrawnAtTheLoad) {
     OpenSmeter();
     EXPECT_EQ(TicInWords(1, 5), "[old] print label major");
     EXPECT_EQ(TextOf("txtLinearityExponent"), "1") << "nothing is read back";
+    EXPECT_FALSE(IsSelected("Option1"));
     EXPECT_TRUE(CallsOf("picPlate").empty());
 }
 
@@ -100,6 +101,23 @@ TEST_F(SmeterPageTest, ExponentIsClampedSilently) {
     EXPECT_EQ(Design.LinearityExponent[1], 4);
     EXPECT_EQ(TextOf("txtLinearityExponent"), "9");
     EXPECT_TRUE(said.empty());
+}
+
+TEST_F(SmeterPageTest, LongExponentsKeepTheDesigns) {
+    Design.LinearityExponent[1] = 2;
+    OpenSmeter();
+    Paste("txtLinearityExponent", "1.000000000");
+    Click("Option1");
+    EXPECT_EQ(Design.LinearityExponent[1], 2);
+}
+
+TEST_F(SmeterPageTest, OptionsAreChosenByKeys) {
+    OpenSmeter();
+    Find("Option1").setFocus();
+    QTest::keyClick(&Option("Option1"), Qt::Key_Space);
+    EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 9);
+    QTest::keyClick(&Option("Option1"), Qt::Key_Down);
+    EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 94);
 }
 
 TEST_F(SmeterPageTest, NegativeExponentIsToldAndThePageStays) {

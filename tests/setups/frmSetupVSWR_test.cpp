@@ -19,9 +19,12 @@ TEST_F(VswrPageTest, CaptionsAndStartingState) {
         const std::string name = "Option" + std::to_string(option);
         EXPECT_EQ(Option(name).text(), QLatin1String(options[option - 1]));
         EXPECT_FALSE(IsSelected(name));
+        EXPECT_TRUE(Find("fraScaletype").isAncestorOf(&Option(name)));
     }
     EXPECT_EQ(Find<QGroupBox>("fraScaletype").title(), QLatin1String("Scale stepsize"));
     EXPECT_EQ(TextOf("txtLinearityExponent"), "1");
+    EXPECT_EQ(Shown("lblLinearityExponent"), "Linearity exponent:");
+    EXPECT_EQ(Page().findChild<QWidget*>(QStringLiteral("cmdPreview")), nullptr);
     EXPECT_EQ(Find<QPushButton>("cmdAccept").text(),
               QLatin1String("Accept and return to Scale Design page"));
     EXPECT_EQ(Find<QPushButton>("cmdIgnore").text(),
@@ -74,9 +77,27 @@ TEST_F(VswrPageTest, AcceptLeavesNoWayBack) {
     EXPECT_EQ(PageName(), "frmScales");
 }
 
+TEST_F(VswrPageTest, NothingIsReadBackAndAcceptMarksWhateverIsThere) {
+    Design.ScaleColor[1] = -1;
+    Design.LinearityExponent[1] = 3;
+    SpoilTables(1);
+    OpenVswr();
+    EXPECT_EQ(TextOf("txtLinearityExponent"), "1");
+    EXPECT_FALSE(IsSelected("Option1"));
+    Design.ScaleColor[1] = 0;
+    Design.ActiveScale = 2;
+    Press("cmdAccept");
+    EXPECT_EQ(Design.ScaleColor[1], -1);
+    EXPECT_EQ(TicInWords(1, 5), "[old] print label major");
+}
+
 TEST_F(VswrPageTest, ExponentIsClampedSilently) {
     OpenVswr();
     Type("txtLinearityExponent", "-9");
+    Click("Option3");
+    EXPECT_EQ(Design.LinearityExponent[1], -4);
+    EXPECT_EQ(TextOf("txtLinearityExponent"), "-9");
+    said.clear(); // of what cannot be bent
     Type("txtLinearityExponent", "9");
     Click("Option3");
     EXPECT_EQ(Design.LinearityExponent[1], 4);

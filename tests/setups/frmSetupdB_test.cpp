@@ -230,6 +230,55 @@ TEST_F(DecibelPageTest, AScaleOfAnotherSetupIsReadAsOne) {
     EXPECT_EQ(TextOf("txtFullScaledB"), "0") << "no number";
 }
 
+TEST_F(DecibelPageTest, LongAndAbsurdNumbersAreReadBack) {
+    Design.ScaleColor[1] = -1;
+    Design.SpecialNrOfTicmarks[1] = 3;
+    Design.LinearityExponent[1] = 0.01234567F; // whose text is too long for an entry
+    Design.FullscaleMultiplier[1] = 1;
+    for (const char* label : {"1E39", "9E99", "123456789"}) {
+        Design.TicLabelText[1][0] = label;
+        OpenDecibel();
+        EXPECT_EQ(TextOf("txtFullScaledB"), "200");
+        EXPECT_EQ(Design.LinearityExponent[1], 0.01234567F);
+    }
+    EXPECT_TRUE(said.empty());
+}
+
+TEST_F(DecibelPageTest, LongTextsKeepWhatWasReadBefore) {
+    OpenDecibel();
+    Enter("txtFullScaledB", "3");
+    Paste("txtFullScaledB", "12345678901");
+    Click("cmdEnter");
+    EXPECT_EQ(TextOf("txtFullScaledB"), "3");
+}
+
+TEST_F(DecibelPageTest, BottomTicIsDrawnWithoutALabel) {
+    OpenDecibel();
+    Paste("txtNrOfTicmarks", "-30");
+    for (const int row : {0, 23, 24}) {
+        Click(RowName("PrintLabelYes", row));
+    }
+    PressPreview([this](QWidget& form) {
+        EXPECT_EQ(TextsIn(On<PictureBox>(form, "picPlate")),
+                  (std::vector<std::string>{"0", "-23"}));
+    });
+    EXPECT_EQ(RowShown(24), "(bottom) | 0 | ");
+}
+
+TEST_F(DecibelPageTest, TabFollowsReadingOrder) {
+    OpenDecibel();
+    std::vector<std::string> order;
+    Find("txtFullScaledB").setFocus();
+    for (int control = 0; control < 11; ++control) {
+        order.push_back(Page().focusWidget()->objectName().toStdString());
+        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, (std::vector<std::string>{
+                         "txtFullScaledB", "txtNrOfTicmarks", "txtLinearityExponent",
+                         "txtFullscaleMultiplier", "optUnlabelledAtBottomYes", "optY", "cmdEnter",
+                         "cmdPreview", "cmdIgnore", "cmdAccept", "PrintLabelYes0"}));
+}
+
 TEST_F(DecibelPageTest, AStandardScaleIsNotReadBack) {
     Design.TicLabelText[1][0] = "77";
     Design.SpecialNrOfTicmarks[1] = 5;

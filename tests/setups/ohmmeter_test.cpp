@@ -18,14 +18,10 @@ struct OhmsRow {
 
 TEST_F(OhmmeterTest, DeflectionIsThatOfASeriesOhmmeter) {
     const OhmsRow rows[] = {
-        {100, 100, 0.5F},      {100, 0, 1},        {100, 300, 0.25F},
-        {20, 7, 0.740740716F}, {3, 1, 0.75F},      {1, 1e10F, 1.0e-10F},
-        {100, -50, 2},         {100, -300, -0.5F}, {-100, 100, 0},
+        {100, 100, 0.5F}, {100, 0, 1},          {100, 300, 0.25F}, {20, 7, 0.740740716F},
+        {3, 1, 0.75F},    {1, 1e10F, 1.0e-10F}, {100, -50, 2},     {100, -300, -0.5F},
     };
     for (const OhmsRow& row : rows) {
-        if (row.midscale + row.resistance == 0) {
-            continue; // told below
-        }
         EXPECT_FLOAT_EQ(ComputeResistanceDeflection(row.midscale, row.resistance), row.deflection)
             << row.resistance;
     }

@@ -1,4 +1,4 @@
-// A table of real controls: names, headings in view, keyboard, and the time it takes.
+// A table of real controls: names, headings in view, keyboard.
 #include "setups/rowtable.h"
 
 #include <QLineEdit>

@@ -5,6 +5,7 @@
 
 #include "core/runtimeerror.h"
 #include "core/seam.h"
+#include "correction/curve.h"
 #include "platform/walk.h"
 #include "scale/scale.h"
 
@@ -74,7 +75,6 @@ TEST_F(SetupPageTest, EnteringBacksTheDesignUpAndNamesTheScale) {
         EXPECT_EQ(Design.DesignFileName, "");
         EXPECT_EQ(Shown("lblWorking"), "Working with scale # 1");
         EXPECT_EQ(Design.CurrentScale, 1);
-        EXPECT_EQ(ReadFile("Backup.DAT").find("SpecialNr"), std::string::npos);
         const DesignRecord now = Design;
         ReadDesign("Backup.DAT");
         EXPECT_EQ(Design.PlateWidth, 63);
@@ -171,6 +171,17 @@ TEST_F(SetupPageTest, IgnoreBringsTheDesignBack) {
     EXPECT_TRUE(said.empty());
 }
 
+// The reader forces a curve of its own on every design.
+TEST_F(SetupPageTest, IgnoreLosesTheCorrectionCurve) {
+    Design.CorrectionPair[3] = 0.1F;
+    Design.CorrectionPair[4] = 0.2F;
+    OpenSetup("frmSetupdB");
+    Press("cmdIgnore");
+    EXPECT_NE(Design.CorrectionPair[3], 0.1F);
+    float share = 0.1F;
+    EXPECT_FLOAT_EQ(CorrectDeflection(share), 0.1F);
+}
+
 TEST_F(SetupPageTest, IgnoreTakesBackAMarkOfThePreview) {
     OpenSetup("frmSetupOhmmeter");
     PressPreview();
@@ -182,14 +193,16 @@ TEST_F(SetupPageTest, IgnoreTakesBackAMarkOfThePreview) {
 
 TEST_F(SetupPageTest, SetupsWorkOnTheActiveScale) {
     OpenPage("frmScales");
-    for (const std::int16_t active : {std::int16_t{0}, std::int16_t{3}}) {
-        OpenPage("frmScales");
-        Design.ActiveScale = active;
-        Find("cmddBsetup").setEnabled(true);
-        Press("cmddBsetup");
-        Press("cmddB");
-        EXPECT_EQ(Shown("lblWorking"),
-                  "Working with scale # " + std::to_string(active == 0 ? 1 : active));
+    for (const SetupRow& row : kSetups) {
+        for (const std::int16_t active : {std::int16_t{0}, std::int16_t{3}}) {
+            OpenPage("frmScales");
+            Design.ActiveScale = active;
+            Find("cmddBsetup").setEnabled(true);
+            Press("cmddBsetup");
+            Press(row.button);
+            EXPECT_EQ(Shown("lblWorking"),
+                      "Working with scale # " + std::to_string(active == 0 ? 1 : active));
+        }
     }
 }
 
@@ -207,6 +220,17 @@ TEST_F(SetupPageTest, AcceptedSmeterPageComesBackAsItWasLeft) {
     EXPECT_FALSE(Exists("Backup.DAT")) << "no new backup";
     EXPECT_EQ(Shown("lblWorking"), "Working with scale # 2") << "the old number";
     EXPECT_TRUE(IsSelected("Option3"));
+    EXPECT_EQ(page->focusWidget()->objectName(), QLatin1String("cmdAccept"));
+}
+
+// The process ends with the page behind, by whatever way.
+TEST_F(SetupPageTest, EndingUnloadsThePageBehind) {
+    const QPointer<QWidget> page = &OpenSetup("frmSetupSmeter");
+    Press("cmdAccept");
+    ASSERT_FALSE(page.isNull());
+    CloseByUser(Page());
+    EXPECT_TRUE(page.isNull());
+    EXPECT_TRUE(TakeProcessEnd());
 }
 
 TEST_F(SetupPageTest, IgnoreOnItsSecondVisitReturnsToTheBackupOfTheFirst) {

@@ -121,6 +121,15 @@ TEST_F(SmeterTest, FourScalesAreWipedAndNoOther) {
     EXPECT_EQ(Design.StandardLabel[1][5], "standard");
 }
 
+// Above the four only what is printed is written.
+TEST_F(SmeterTest, OnAFifthScaleOnlyPrintedTicsAreWritten) {
+    SpoilTables(5);
+    Compute(2, 1, 5);
+    EXPECT_EQ(TicInWords(5, 6), "[ 1] print label major");
+    EXPECT_EQ(TicInWords(5, 7), "[old] print label major");
+    EXPECT_EQ(Design.TicDeflection[5][7], static_cast<float>(7. / 94));
+}
+
 // Of the computation before; the first has made none, and tic 0 is its own.
 TEST_F(SmeterTest, LastTicsDeflectionIsWiped) {
     Compute(4, 1);

@@ -167,6 +167,19 @@ TEST_F(VswrTest, LastTicIsPrintedAndMajorAndHasNoLabel) {
     }
 }
 
+TEST_F(VswrTest, AnExponentOfZeroGivesFullDeflectionEverywhere) {
+    Compute(0.5F, 0);
+    EXPECT_EQ(DeflectionsOf(1, 19), std::vector<float>(20, 1));
+}
+
+TEST_F(VswrTest, AnotherStepEndsAtOnce) {
+    Design.SpecialNrOfTicmarks[1] = 5;
+    for (const float step : {0.F, 0.3F, -1.F}) {
+        Compute(step);
+        EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 5);
+    }
+}
+
 TEST_F(VswrTest, NegativeExponentFailsAtTheFirstTic) {
     Compute(1);
     EXPECT_THROW(Compute(0.5F, -1), ImpossibleEntry);
