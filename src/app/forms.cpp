@@ -4,7 +4,10 @@
 #include "app/frmBlank.h"
 #include "app/frmExit.h"
 #include "app/frmOpening.h"
+#include "correction/frmCorrectionEntry.h"
+#include "correction/frmCorrectionShow.h"
 #include "help/frmExponent.h"
+#include "help/frmHelp.h"
 #include "help/frmRotateIllustration.h"
 #include "help/frmStyleHelp.h"
 #include "pages/frmGraphic.h"
@@ -25,6 +28,8 @@
 #include "setups/frmSetupVSWR.h"
 #include "setups/frmSetupdB.h"
 #include "setups/frmSpecialScale.h"
+#include "wizard/frmWizard.h"
+#include "wizard/frmWizardPart2.h"
 
 namespace vernacle {
 
@@ -52,6 +57,11 @@ constexpr FormRow kForms[] = {
     {"frmSetupVSWR", Make<frmSetupVSWR>},
     {"frmSetupdB", Make<frmSetupdB>},
     {"frmSetupPreview", Make<frmSetupPreview>},
+    {"frmCorrectionEntry", Make<frmCorrectionEntry>},
+    {"frmCorrectionShow", Make<frmCorrectionShow>},
+    {"frmWizard", Make<frmWizard>},
+    {"frmWizardPart2", Make<frmWizardPart2>},
+    {"frmHelp", Make<frmHelp>},
     {"frmHPGL", Make<frmHPGL>},
     {"frmCalibrate", Make<frmCalibrate>},
     {"frmTicsHelp", Make<frmTicsHelp>},

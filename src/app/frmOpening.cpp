@@ -80,7 +80,9 @@ frmOpening::frmOpening() {
     SetVersionAndScreenScale();
     setWindowTitle(QString::fromStdString(Design.ProgramName + " - Welcome !"));
     Build();
-    SetOpeningValues();
+    if (!CurrentPage()) { // the program starts: who comes back from the wizard keeps the design
+        SetOpeningValues();
+    }
     ReadCalibrate();
 }
 

@@ -8,6 +8,7 @@
 #include "platform/formkit.h"
 #include "platform/optionbutton.h"
 #include "platform/picturebox.h"
+#include "platform/walk.h"
 
 namespace vernacle {
 
@@ -36,6 +37,11 @@ void DrawingPage::TakeSizes() {
 
 void DrawingPage::Redraw() {
     DrawDesign(plate_->Surface(), drawing_, copies_);
+}
+
+void DrawingPage::Illustrate(std::int16_t topic) {
+    Design.HelpTopic = topic;
+    ShowModal("frmHelp");
 }
 
 EntryBox& DrawingPage::Box(const char* name) const {

@@ -1,6 +1,7 @@
 // The design pages that draw the plate beside their entries.
 #pragma once
 
+#include <cstdint>
 #include <initializer_list>
 
 #include "core/freetexts.h"
@@ -33,6 +34,9 @@ protected:
     void TakeSizes();
 
     virtual void Redraw();
+
+    // Opens the illustrated help on that topic.
+    static void Illustrate(std::int16_t topic);
 
     EntryBox& Box(const char* name) const;
     OptionButton& OptionNumber(int number) const;

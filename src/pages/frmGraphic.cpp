@@ -22,6 +22,11 @@ namespace {
 
 using D = DesignRecord;
 
+constexpr std::int16_t kLeftTopic = 30; // of the illustrated help, as the next ones
+constexpr std::int16_t kBottomTopic = 31;
+constexpr std::int16_t kWidthTopic = 32;
+constexpr std::int16_t kHeightTopic = 33;
+
 constexpr float kNoLimit = std::numeric_limits<float>::infinity();
 
 constexpr OwnTip kOwnTips[] = {{"Scales", "Go to the Scales Design page"}};
@@ -33,8 +38,8 @@ constexpr PageTraits kTraits = {.form = "frmGraphic",
                                 .ownTips = kOwnTips};
 
 struct Limits {
-    float lowest;
-    float highest;
+    float lowest = 0;
+    float highest = 0;
 };
 
 void Hold(float& value, const Limits& limits) {
@@ -50,9 +55,9 @@ std::string UpperCased(const std::string& path) {
 // A measure of the graphic: what typing is held to, and what leaving by the toolbar holds it to.
 struct frmGraphic::Measure {
     EntryRow row;
-    float D::*field;
-    Limits typed;
-    Limits kept;
+    float D::*field = nullptr;
+    Limits typed = {};
+    Limits kept = {};
 };
 
 // clang-format off
@@ -133,6 +138,22 @@ void frmGraphic::PartnerChanged(const Measure& measure) {
     value = Box(measure.row.partner).Number();
     Hold(value, measure.typed);
     Box(measure.row.box).Show(PlainNumber(value));
+}
+
+void frmGraphic::cmdLeftToImageClicked() {
+    Illustrate(kLeftTopic);
+}
+
+void frmGraphic::cmdBottomToImageClicked() {
+    Illustrate(kBottomTopic);
+}
+
+void frmGraphic::cmdGraphicWidthClicked() {
+    Illustrate(kWidthTopic);
+}
+
+void frmGraphic::cmdGraphicHeightClicked() {
+    Illustrate(kHeightTopic);
 }
 
 void frmGraphic::cmdGetGraphicClicked() {

@@ -13,6 +13,12 @@ class frmGraphic : public TextKeepingPage {
 public:
     frmGraphic();
 
+    // Illustrate an entry; no control leads there.
+    void cmdLeftToImageClicked();
+    void cmdBottomToImageClicked();
+    void cmdGraphicWidthClicked();
+    void cmdGraphicHeightClicked();
+
 protected:
     void BeforeKey() override;
 

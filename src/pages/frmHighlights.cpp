@@ -44,8 +44,8 @@ constexpr LogicalArea kArea{-400, 900, 9300, 7000};
 
 struct frmHighlights::Entry {
     EntryRow row;
-    Place field;
-    void (frmHighlights::*changed)(const Entry& entry);
+    Place field = nullptr;
+    void (frmHighlights::*changed)(const Entry& entry) = nullptr;
 };
 
 // clang-format off

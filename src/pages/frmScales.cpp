@@ -22,6 +22,8 @@ namespace vernacle {
 namespace {
 
 constexpr std::size_t kLongestTitle = 60;
+constexpr std::int16_t kTitleTopic = 23; // of the illustrated help, as the next one
+constexpr std::int16_t kCeilingTopic = 24;
 constexpr std::int16_t kExponentTopic = 28;
 
 constexpr PageTraits kTraits = {
@@ -252,6 +254,14 @@ void frmScales::cmdSelectTicsHelpClicked() {
 void frmScales::cmdLinearityExponentClicked() {
     Design.HelpTopic = kExponentTopic;
     ShowModal("frmExponent");
+}
+
+void frmScales::cmdBottomToTitleClicked() {
+    Illustrate(kTitleTopic);
+}
+
+void frmScales::cmdBottomToScaleCeilingClicked() {
+    Illustrate(kCeilingTopic);
 }
 
 // Works on the scale that the last drawing ended behind; what it shows there the boxes store in the

@@ -21,6 +21,10 @@ class frmScales : public DrawingPage {
 public:
     frmScales();
 
+    // Illustrate an entry; no control leads there.
+    void cmdBottomToTitleClicked();
+    void cmdBottomToScaleCeilingClicked();
+
 protected:
     void Redraw() override;
 

@@ -12,8 +12,8 @@
 namespace vernacle {
 
 struct FormRow {
-    const char* name;
-    std::unique_ptr<QWidget> (*make)(); // builds and loads it
+    const char* name = nullptr;
+    std::unique_ptr<QWidget> (*make)() = nullptr; // builds and loads it
 };
 
 // The forms of the program; the rows must outlive their use. No page stays loaded behind.

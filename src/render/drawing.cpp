@@ -98,6 +98,7 @@ DrawingTraits WizardTraits() {
             .ticFlags = TicFlags::Ignored,
             .labelFlags = LabelFlags::Ignored,
             .labelFitting = LabelFitting::Sampled,
+            .fontName = "Arial",
             .correction = Correction::NotApplied,
             .stages = kPageStages};
 }

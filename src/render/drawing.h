@@ -56,7 +56,7 @@ enum class Correction { Applied, NotApplied };
 // Where a label stands relative to its anchor, and how its font's height is asked for.
 enum class LabelFitting {
     Measured, // by the text's own size
-    Sampled,  // by the size of a sample, with the height of the characters
+    Sampled,  // by the size of sample texts, with the height of the characters
 };
 
 // Which tables the tics and labels are taken from.
@@ -88,6 +88,7 @@ struct DrawingTraits {
     TicFlags ticFlags = TicFlags::Honoured;
     LabelFlags labelFlags = LabelFlags::SkipDeleted;
     LabelFitting labelFitting = LabelFitting::Measured;
+    const char* fontName = nullptr; // that of the design if null
     Correction correction = Correction::Applied;
     LineWidths lineWidths = {1, 1, 1, 1};
     std::span<const DrawingStage> stages;

@@ -88,18 +88,16 @@ SurfacePoint MeasuredCorner(const DrawingRun& run, const TicLabel& label, Surfac
 }
 
 // The wizard's page: fitted by eye to a sample text of 303 by 149 units at 16 points.
-SurfacePoint SampledCorner(const DrawingRun& run, const TicLabel& label, SurfacePoint anchor,
-                           double t) {
-    const double points =
-        double{run.sizes.fontSize} * double{Design.RelativeFontSize[label.scale]} / 16;
+SurfacePoint SampledCorner(const DrawingRun& run, int scale, SurfacePoint anchor, double t) {
+    const double points = double{run.sizes.fontSize} * double{Design.RelativeFontSize[scale]} / 16;
     const double across = run.frame.AcrossPerHalfMm() * double{Design.ScreenScaleY} * points;
     const double up = run.frame.upPerHalfMm * double{Design.ScreenScaleY} * points;
     if (Design.LabelRotation == "H") {
         return Upright(anchor, {across * 0.014, up * 0.011, 303, 149});
     }
     if (Design.LabelRotation == "B") {
-        const double width = double{run.surface.TextWidth(label.text)};
-        const double height = double{run.surface.TextHeight(label.text)};
+        const double width = double{run.surface.TextWidth("jjj")};
+        const double height = double{run.surface.TextHeight("jjjj")};
         return AlongRadius(anchor, {across * kOrdinarySize, across * kOrdinarySize, width, height},
                            t);
     }
@@ -115,8 +113,8 @@ void DrawLabel(DrawingRun& run, const TicLabel& label) {
         AlongPointer(run.frame, place.point, t, double{run.sizes.labelSpacing} * relative,
                      DirectionOf(label.scale));
     const bool sampled = run.traits.labelFitting == LabelFitting::Sampled;
-    const SurfacePoint corner =
-        sampled ? SampledCorner(run, label, anchor, t) : MeasuredCorner(run, label, anchor, t);
+    const SurfacePoint corner = sampled ? SampledCorner(run, label.scale, anchor, t)
+                                        : MeasuredCorner(run, label, anchor, t);
     WriteText(run, corner, label.text,
               {.heightPerPoint = HeightPerPoint(run, kLabelHeight),
                .points = double{run.sizes.fontSize} * relative,
@@ -164,8 +162,8 @@ void DrawTitle(DrawingRun& run, int scale) {
 
 } // namespace
 
-std::string FontFace() {
-    return std::string(Trimmed(Design.FontName)) + '\0';
+std::string FontFace(const std::string& name) {
+    return std::string(Trimmed(name)) + '\0';
 }
 
 int LabelEscapement(const PlateFrame& frame, const ArcPlace& place) {
@@ -189,8 +187,9 @@ std::optional<double> QuadrantTitleX(const PlateFrame& frame, int scale) {
 
 void FontStage(DrawingRun& run) {
     run.state.WhereMarker = kMarkFont;
-    run.state.LabelFontFace = FontFace();
-    run.surface.SetFontName(Design.FontName);
+    const std::string name = run.traits.fontName ? run.traits.fontName : Design.FontName;
+    run.state.LabelFontFace = FontFace(name);
+    run.surface.SetFontName(name);
 }
 
 void LabelsStage(DrawingRun& run) {

@@ -150,7 +150,7 @@ void DrawSchematic(DrawingSurface& surface, int topic, const SchematicLook& look
     if (look.pointer) {
         DrawPointer(surface, *look.pointer);
     }
-    DrawTopicMark(surface, topic);
+    DrawTopicMark(surface, topic, look.arrowStem);
     if (const char* caption = TopicCaption(topic)) {
         DrawCaption(surface, caption, look.paper);
     }

@@ -67,11 +67,14 @@ struct SchematicLook {
     Colour border = kBlackInk;
     std::optional<Colour> pointer = std::nullopt; // none is drawn without it
     Colour paper = kWhiteInk;                     // behind the caption
+    double arrowStem = kArrowStem;
 };
 
 constexpr SchematicLook kPlatePageLook = {.plate = 0xC0CCD0};
+constexpr SchematicLook kWizardLook = {.plate = 0xC0CCD0};
+// Its dimension lines end in the arrows' heads alone.
 constexpr SchematicLook kHelpPageLook = {
-    .border = 0xC0CCD0, .pointer = kBlueInk, .paper = 0xE0ECF0};
+    .border = 0xC0CCD0, .pointer = kBlueInk, .paper = 0xE0ECF0, .arrowStem = kArrowBack};
 
 // Clears the surface and draws the model plate, with the measure of that help topic marked and
 // captioned; a number without a topic gives the bare plate.

@@ -1,5 +1,6 @@
 #include "render/schematicmarks.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "render/primitives.h"
@@ -259,39 +260,47 @@ const Topic* FindTopic(int number) {
     return nullptr;
 }
 
+// With what dimension lines are drawn.
+struct MarkPen {
+    DrawingSurface& surface;
+    double stem; // of the arrows, units
+
+    // That two arrows need between the ends.
+    double Room() const { return std::max(stem, 2 * kArrowBack); }
+};
+
 // Two arrows with their tips at a measure's ends and a line between the tips: from within where
 // both stems have room, else from outside.
-void DrawAcross(DrawingSurface& surface, double y, double left, double right) {
-    const bool within = right - left >= kArrowStem;
-    surface.SetLineWidth(kArrowPixels);
-    DrawLine(surface, {left, y}, {right, y}, kMarkInk);
-    DrawArrow(surface, F(left), F(y), within ? Pointing::Left : Pointing::Right);
-    DrawArrow(surface, F(right), F(y), within ? Pointing::Right : Pointing::Left);
-    surface.SetLineWidth(1);
+void DrawAcross(const MarkPen& pen, double y, double left, double right) {
+    const bool within = right - left >= pen.Room();
+    pen.surface.SetLineWidth(kArrowPixels);
+    DrawLine(pen.surface, {left, y}, {right, y}, kMarkInk);
+    DrawArrow(pen.surface, F(left), F(y), within ? Pointing::Left : Pointing::Right, pen.stem);
+    DrawArrow(pen.surface, F(right), F(y), within ? Pointing::Right : Pointing::Left, pen.stem);
+    pen.surface.SetLineWidth(1);
 }
 
-void DrawUpright(DrawingSurface& surface, double x, double bottom, double top) {
-    const bool within = bottom - top >= kArrowStem;
-    surface.SetLineWidth(kArrowPixels);
-    DrawLine(surface, {x, bottom}, {x, top}, kMarkInk);
-    DrawArrow(surface, F(x), F(bottom), within ? Pointing::Down : Pointing::Up);
-    DrawArrow(surface, F(x), F(top), within ? Pointing::Up : Pointing::Down);
-    surface.SetLineWidth(1);
+void DrawUpright(const MarkPen& pen, double x, double bottom, double top) {
+    const bool within = bottom - top >= pen.Room();
+    pen.surface.SetLineWidth(kArrowPixels);
+    DrawLine(pen.surface, {x, bottom}, {x, top}, kMarkInk);
+    DrawArrow(pen.surface, F(x), F(bottom), within ? Pointing::Down : Pointing::Up, pen.stem);
+    DrawArrow(pen.surface, F(x), F(top), within ? Pointing::Up : Pointing::Down, pen.stem);
+    pen.surface.SetLineWidth(1);
 }
 
-void MarkUpright(DrawingSurface& surface, SurfacePoint lower, SurfacePoint upper, double x,
+void MarkUpright(const MarkPen& pen, SurfacePoint lower, SurfacePoint upper, double x,
                  double beyond) {
     const double end = x + std::copysign(beyond, x - lower.x);
-    DrawLine(surface, lower, {end, lower.y}, kMarkInk);
-    DrawLine(surface, upper, {end, upper.y}, kMarkInk);
-    DrawUpright(surface, x, lower.y, upper.y);
+    DrawLine(pen.surface, lower, {end, lower.y}, kMarkInk);
+    DrawLine(pen.surface, upper, {end, upper.y}, kMarkInk);
+    DrawUpright(pen, x, lower.y, upper.y);
 }
 
-void MarkLevel(DrawingSurface& surface, SurfacePoint left, SurfacePoint right, double y,
-               double beyond) {
-    DrawLine(surface, left, {left.x, y + beyond}, kMarkInk);
-    DrawLine(surface, right, {right.x, y + beyond}, kMarkInk);
-    DrawAcross(surface, y, left.x, right.x);
+void MarkLevel(const MarkPen& pen, SurfacePoint left, SurfacePoint right, double y, double beyond) {
+    DrawLine(pen.surface, left, {left.x, y + beyond}, kMarkInk);
+    DrawLine(pen.surface, right, {right.x, y + beyond}, kMarkInk);
+    DrawAcross(pen, y, left.x, right.x);
 }
 
 // The point of the line from the real bearing to an arc where it crosses that level.
@@ -301,8 +310,7 @@ SurfacePoint OnPointer(SurfacePoint arcPoint, double y) {
     return {bearing.x + share * (arcPoint.x - bearing.x), y};
 }
 
-void DrawAngle(DrawingSurface& surface, SurfacePoint centre, SurfacePoint left,
-               SurfacePoint right) {
+void DrawAngle(const MarkPen& pen, SurfacePoint centre, SurfacePoint left, SurfacePoint right) {
     constexpr int kChords = 30;
     const double first = std::atan2(centre.y - left.y, left.x - centre.x);
     const double last = std::atan2(centre.y - right.y, right.x - centre.x);
@@ -311,45 +319,45 @@ void DrawAngle(DrawingSurface& surface, SurfacePoint centre, SurfacePoint left,
         const double angle = first + (last - first) * chord / kChords;
         const SurfacePoint point = {centre.x + kAngleRadius * std::cos(angle),
                                     centre.y - kAngleRadius * std::sin(angle)};
-        DrawLine(surface, chord == 0 ? point : previous, point, kMarkInk);
+        DrawLine(pen.surface, chord == 0 ? point : previous, point, kMarkInk);
         previous = point;
     }
 }
 
-void MarkPointers(DrawingSurface& surface, SurfacePoint left, SurfacePoint right) {
+void MarkPointers(const MarkPen& pen, SurfacePoint left, SurfacePoint right) {
     const SurfacePoint bearing = RealBearing(SchematicFrame());
     const double y = bearing.y - kAcrossPointers;
-    DrawLine(surface, bearing, left, kMarkInk);
-    DrawLine(surface, bearing, right, kMarkInk);
-    DrawAngle(surface, bearing, left, right);
-    DrawAcross(surface, y, OnPointer(left, y).x, OnPointer(right, y).x);
+    DrawLine(pen.surface, bearing, left, kMarkInk);
+    DrawLine(pen.surface, bearing, right, kMarkInk);
+    DrawAngle(pen, bearing, left, right);
+    DrawAcross(pen, y, OnPointer(left, y).x, OnPointer(right, y).x);
 }
 
-void MarkBetween(DrawingSurface& surface, Lane lane, SurfacePoint from, SurfacePoint to) {
+void MarkBetween(const MarkPen& pen, Lane lane, SurfacePoint from, SurfacePoint to) {
     const PlateFrame frame = SchematicFrame();
     switch (lane) {
     case Lane::LeftOfPlate:
-        return MarkUpright(surface, from, to, frame.Left() - kOffObject, kBeyondLane);
+        return MarkUpright(pen, from, to, frame.Left() - kOffObject, kBeyondLane);
     case Lane::RightOfPlate:
-        return MarkUpright(surface, from, to, frame.Right() + kOffObject, kBeyondLane);
+        return MarkUpright(pen, from, to, frame.Right() + kOffObject, kBeyondLane);
     case Lane::BelowPlate:
-        return MarkLevel(surface, from, to, frame.Bottom() + kOffObject, kBeyondLane);
+        return MarkLevel(pen, from, to, frame.Bottom() + kOffObject, kBeyondLane);
     case Lane::RightOfEnds:
-        return MarkUpright(surface, from, to, to.x + kOffObject, kBeyondLane);
+        return MarkUpright(pen, from, to, to.x + kOffObject, kBeyondLane);
     case Lane::BesideCrown:
-        return MarkUpright(surface, from, to, frame.centreX + kBesideCrown, kBeyondNearLane);
+        return MarkUpright(pen, from, to, frame.centreX + kBesideCrown, kBeyondNearLane);
     case Lane::BesideTitle:
-        return MarkUpright(surface, from, to, frame.centreX + kBesideTitle, kBeyondNearLane);
+        return MarkUpright(pen, from, to, frame.centreX + kBesideTitle, kBeyondNearLane);
     case Lane::UnderTic:
-        return MarkLevel(surface, from, to, from.y + kUnderTic, kBeyondUnderTic);
+        return MarkLevel(pen, from, to, from.y + kUnderTic, kBeyondUnderTic);
     case Lane::AcrossPointers:
-        return MarkPointers(surface, from, to);
+        return MarkPointers(pen, from, to);
     }
 }
 
 } // namespace
 
-void DrawArrow(DrawingSurface& surface, float tipX, float tipY, Pointing pointing) {
+void DrawArrow(DrawingSurface& surface, float tipX, float tipY, Pointing pointing, double stem) {
     const bool level = pointing == Pointing::Left || pointing == Pointing::Right;
     const double back = pointing == Pointing::Left || pointing == Pointing::Up ? 1 : -1;
     const SurfacePoint tip = {double{tipX}, double{tipY}};
@@ -358,7 +366,7 @@ void DrawArrow(DrawingSurface& surface, float tipX, float tipY, Pointing pointin
                                        : SurfacePoint{tip.x + aside, tip.y + back * along};
         DrawLine(surface, tip, end, kMarkInk);
     };
-    drawTo(kArrowStem, 0);
+    drawTo(stem, 0);
     drawTo(kArrowBack, -kArrowSide);
     drawTo(kArrowBack, kArrowSide);
 }
@@ -368,7 +376,7 @@ const char* TopicCaption(int topic) {
     return row ? row->caption : nullptr;
 }
 
-void DrawTopicMark(DrawingSurface& surface, int topic) {
+void DrawTopicMark(DrawingSurface& surface, int topic, double arrowStem) {
     const Topic* row = FindTopic(topic);
     if (!row) {
         return;
@@ -376,7 +384,7 @@ void DrawTopicMark(DrawingSurface& surface, int topic) {
     if (row->shown) {
         row->shown(surface);
     }
-    MarkBetween(surface, row->lane, row->from(surface), row->to(surface));
+    MarkBetween({surface, arrowStem}, row->lane, row->from(surface), row->to(surface));
 }
 
 } // namespace vernacle

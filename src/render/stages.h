@@ -98,7 +98,7 @@ void ForEachScaleUpward(Draw draw) {
     }
 }
 
-// FontName without outer blanks and with one NUL behind it, as a font's record holds it.
-std::string FontFace();
+// A font's name without outer blanks and with one NUL behind it, as a font's record holds it.
+std::string FontFace(const std::string& name);
 
 } // namespace vernacle

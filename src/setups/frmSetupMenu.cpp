@@ -20,11 +20,11 @@ constexpr int kColumns = 3;
 } // namespace
 
 struct frmSetupMenu::Entry {
-    const char* button;
-    const char* caption;
-    const char* tip;
-    const char* page;
-    const char* picture;
+    const char* button = nullptr;
+    const char* caption = nullptr;
+    const char* tip = nullptr;
+    const char* page = nullptr;
+    const char* picture = nullptr;
     std::optional<Sample> sample;
 };
 

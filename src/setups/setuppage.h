@@ -24,11 +24,11 @@ enum class Marking {
 };
 
 struct SetupPageTraits {
-    const char* form;
-    const char* title;
-    const char* heading;
-    const char* acceptCaption;
-    const char* ignoreCaption;
+    const char* form = nullptr;
+    const char* title = nullptr;
+    const char* heading = nullptr;
+    const char* acceptCaption = nullptr;
+    const char* ignoreCaption = nullptr;
     const char* ignoreName = "cmdIgnore";
     unsigned computes = 0; // moments
     Marking marking = Marking::ByAccept;

@@ -48,7 +48,8 @@ void ClearScales(int ownScale, int lastTic) {
 // blank of a number without a sign.
 std::string DecibelLabel(int decibels) {
     if (decibels <= kTopUnit && decibels % kDecibelsPerUnit == 0) {
-        return SignedNumber(static_cast<float>(decibels / kDecibelsPerUnit));
+        const int units = decibels / kDecibelsPerUnit;
+        return SignedNumber(static_cast<float>(units));
     }
     const int above = decibels - kTopUnit;
     if (above > 0 && above % kDecibelsPerLabel == 0) {

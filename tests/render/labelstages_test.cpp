@@ -79,9 +79,9 @@ protected:
         const double gap = (row.scale % 2 == 0 ? -0.5 : 0.5) * 1.5;
         double ax = at.AlongX(t, 4, gap);
         double ay = at.AlongY(t, 4, gap);
-        const double tw = 2 * 6 * (k * 0.0285 * e * 0.5);
+        const bool sampled = row.fit == Fit::Sampled; // by "jjj"
+        const double tw = (sampled ? 3 : 2) * 6 * (k * 0.0285 * e * 0.5);
         const double th = 11 * (k * 0.0285 * e * 0.5);
-        const bool sampled = row.fit == Fit::Sampled;
         int escapement = 0;
         if (*row.rotation == 'H') {
             ax -= sampled ? k * 0.014 * 0.5 * 0.5 * 303 * e / 16 : k * 0.0011 * 0.5 * 3 * tw * e;
@@ -253,11 +253,14 @@ TEST_F(LabelStagesTest, FacesAreTrimmedAndEndWithOneNul) {
     const std::string face("Courier New\0", 12);
     EXPECT_EQ(faceSurface.faces, (std::vector<std::string>{face, face}));
     EXPECT_EQ(Drawing.LabelFontFace, face);
-    EXPECT_EQ(FontFace(), face);
+    EXPECT_EQ(FontFace(" Courier New  "), face);
 }
 
 TEST_F(LabelStagesTest, FontStageNamesTheOrdinaryFont) {
     Design.FontName = "Courier New";
+    DrawStages({FontStage}, WizardTraits());
+    EXPECT_EQ(surface.calls, (Calls{"SetFontName [Arial]"})) << "the wizard's own";
+    surface = RecordingSurface();
     DrawStages({FontStage});
     EXPECT_EQ(surface.calls, (Calls{"SetFontName [Courier New]"}));
     EXPECT_EQ(Drawing.WhereMarker, 541);

@@ -204,7 +204,7 @@ TEST_F(SchematicMarksTest, ArrowsPointInFourDirections) {
     };
     for (const ArrowRow& row : rows) {
         surface = MeasuringSurface();
-        DrawArrow(surface, 5000, 4000, row.pointing);
+        DrawArrow(surface, 5000, 4000, row.pointing, kArrowStem);
         const std::vector<Stroke> strokes = surface.Strokes(kRed);
         EXPECT_EQ(strokes.size(), 3U);
         ASSERT_EQ(ArrowsOf(strokes).size(), 1U);

@@ -1,0 +1,34 @@
+// The wizard's second page: the design in full, beside eleven values to nudge.
+#pragma once
+
+#include "platform/form.h"
+
+class QGridLayout;
+
+namespace vernacle {
+
+class PictureBox;
+struct Nudge;
+
+class frmWizardPart2 : public Page {
+    Q_OBJECT
+
+public:
+    frmWizardPart2();
+
+protected:
+    void CloseBoxClicked() override;
+
+private:
+    void Build();
+    void AddNudge(const Nudge& nudge, QGridLayout& grid, int row);
+    void Load();
+
+    void Step(const Nudge& nudge, double by);
+    void Redraw();
+    void cmdAcceptClicked();
+
+    PictureBox* plate_ = nullptr;
+};
+
+} // namespace vernacle
