@@ -16,6 +16,8 @@
 #include <QStyleOptionFrame>
 #include <QToolButton>
 
+#include "platform/picturebox.h"
+
 namespace vernacle::test {
 
 namespace {
@@ -172,6 +174,10 @@ private:
             Read(*scroller->widget());
         } else if (widget.layout()) {
             ReadLayout(*widget.layout());
+        } else if (qobject_cast<const PictureBox*>(&widget)) {
+            for (const auto* part : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+                Read(*part);
+            }
         }
     }
 
