@@ -248,13 +248,17 @@ void SetOpeningValues() {
     }
 }
 
-void SetLinearCurve() {
+void SetLinearPairs() {
     constexpr std::array<float, kCurvePoints> kPoints = {0, 0.15F, 0.3F, 0.5F, 0.7F, 0.85F, 1};
     for (int point = 1; point <= kCurvePoints; ++point) {
         const float coordinate = kPoints[static_cast<std::size_t>(point - 1)];
         Design.CorrectionPair[2 * point - 1] = coordinate;
         Design.CorrectionPair[2 * point] = coordinate;
     }
+}
+
+void SetLinearCurve() {
+    SetLinearPairs();
     for (int segment = 1; segment < kCurvePoints; ++segment) {
         Design.CorrectionSlope[segment] = 1;
     }

@@ -163,6 +163,7 @@ void ResetDesign();
 
 // Makes the correction curve the straight line through its seven usual points, all slopes 1.
 void SetLinearCurve();
+void SetLinearPairs(); // the same without its slopes
 
 // Repairs what a file may have brought and forces what the program does not offer: one scale, its
 // law linear, its colour the default, the font "Arial". Returns 0.

@@ -53,13 +53,11 @@ void CurveHandle::mouseReleaseEvent(QMouseEvent* event) {
     dragged_ = false;
     const QPoint at = mapToParent(event->pos());
     const bool stayed = QRect(home_, size()).contains(at);
-    if (stayed || !parentWidget()->rect().contains(at)) {
-        move(home_);
-    }
     if (stayed) {
+        move(home_);
         events_.pressed();
-    } else {
-        events_.released(at);
+    } else if (events_.released(at) == DropResult::Refused) {
+        move(home_);
     }
 }
 

@@ -8,10 +8,12 @@
 
 namespace vernacle {
 
+enum class DropResult { Taken, Refused };
+
 // What a handle tells its page. Places are in the coordinates of its parent.
 struct HandleEvents {
     std::function<void()> pressed;
-    std::function<void(QPoint at)> released;         // where the pointer stands, after a drag
+    std::function<DropResult(QPoint at)> released;   // where the pointer stands, after a drag
     std::function<void(int across, int up)> stepped; // by a key, one step each
 };
 

@@ -91,6 +91,20 @@ void CurvePicture::PlaceMark(const Mark& mark) const {
     mark.label->move(box.topLeft());
 }
 
+void CurvePicture::MoveHandle(int point, SurfacePoint at) {
+    places_.at(static_cast<std::size_t>(point)) = at;
+    PlaceMarks();
+}
+
+bool CurvePicture::IsSurface(const QPoint& at, const QWidget& handle) const {
+    for (const auto* part : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (part != &handle && part->geometry().contains(at)) {
+            return false;
+        }
+    }
+    return rect().contains(at);
+}
+
 SurfacePoint CurvePicture::PlotPlace(const QPoint& at) const {
     const QPointF place = FromWidget(at);
     return {place.x(), place.y()};

@@ -25,6 +25,12 @@ public:
     // Puts the handles onto the points of the curve.
     void PlaceHandles();
 
+    // Puts one handle's middle there, wherever its point is.
+    void MoveHandle(int point, SurfacePoint at);
+
+    // Whether the place is on the plot's surface and on no control but that handle.
+    bool IsSurface(const QPoint& at, const QWidget& handle) const;
+
     // Where a place on this widget lies in the plot.
     SurfacePoint PlotPlace(const QPoint& at) const;
 
@@ -36,9 +42,9 @@ private:
     enum class Side { Below, LeftOf, Above };
 
     struct Mark {
-        QLabel* label;
-        SurfacePoint at;
-        Side side;
+        QLabel* label = nullptr;
+        SurfacePoint at = {};
+        Side side = Side::Below;
     };
 
     void AddMark(const char* name, const char* text, SurfacePoint at, Side side);

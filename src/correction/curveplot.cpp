@@ -1,5 +1,7 @@
 #include "correction/curveplot.h"
 
+#include <vector>
+
 #include "core/design.h"
 #include "correction/curve.h"
 #include "render/primitives.h"
@@ -46,11 +48,17 @@ void DrawUpright(DrawingSurface& surface, double x, double top, double bottom, C
 
 // The step is added up in floats, and so does not reach the last line.
 void DrawGrid(DrawingSurface& surface) {
-    for (float share = 0; share <= 1; share += kGridStep) {
-        DrawUpright(surface, kLeft + kSpan * double{share}, kTop, kBottom, kGridInk);
+    std::vector<double> shares;
+    float share = 0;
+    while (share <= 1) {
+        shares.push_back(double{share});
+        share += kGridStep;
     }
-    for (float share = 0; share <= 1; share += kGridStep) {
-        const double y = kBottom - kSpan * double{share};
+    for (const double across : shares) {
+        DrawUpright(surface, kLeft + kSpan * across, kTop, kBottom, kGridInk);
+    }
+    for (const double up : shares) {
+        const double y = kBottom - kSpan * up;
         DrawLine(surface, {kLeft, y}, {kRight, y}, kGridInk);
     }
 }

@@ -1,5 +1,7 @@
 #include "correction/frmCorrectionEntry.h"
 
+#include <algorithm>
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -9,7 +11,6 @@
 #include "core/runtimeerror.h"
 #include "core/seam.h"
 #include "correction/curve.h"
-#include "correction/curvehandle.h"
 #include "correction/curvepicture.h"
 #include "correction/curveplot.h"
 #include "correction/curvetable.h"
@@ -24,8 +25,9 @@ namespace {
 
 constexpr int kFirstEntered = 3; // the boxes of the end points are not read
 constexpr int kLastEntered = 12;
-constexpr int kTexts14 = 2 * kCurvePoints;
-constexpr double kKeyStep = 25; // units: half a percent
+constexpr int kTextBoxes = 2 * kCurvePoints;
+constexpr double kLargest = 1e30; // percent
+constexpr double kKeyStep = 25;   // units: half a percent
 constexpr int kBoxCharacters = 16;
 constexpr int kButtonColumns = 2;
 constexpr const char* kFilter = "Linearity files (*.COR)|*.COR";
@@ -50,6 +52,8 @@ QString TitleOf(const char* page) {
 frmCorrectionEntry::frmCorrectionEntry()
     : ModalForm("frmCorrectionEntry", TitleOf("Vernacle - Correction Entry")) {
     Build();
+    picture_->PlaceHandles(); // of a curve that is not allowed too
+    FillBoxes();
     RedrawCorrectionCurve();
 }
 
@@ -118,12 +122,13 @@ void frmCorrectionEntry::MakeHandles() {
     for (int index = 1; index < kCurvePoints - 1; ++index) {
         picture_->Handle(index).SetEvents(
             {.pressed = [this, index] { HandlePressed(index); },
-             .released = [this, index](QPoint at) { HandleDropped(index, at); },
+             .released = [this, index](QPoint at) { return HandleDropped(index, at); },
              .stepped = [this, index](int across, int up) { HandleStepped(index, across, up); }});
     }
 }
 
 void frmCorrectionEntry::SetPointFromDrop(int index, double x, double y) {
+    picture_->MoveHandle(index, {x, y});
     PutCurvePoint(index, x, y);
     RedrawCorrectionCurve();
 }
@@ -149,20 +154,21 @@ void frmCorrectionEntry::RedrawCorrectionCurve() {
 }
 
 void frmCorrectionEntry::FillBoxes() {
-    for (int number = 1; number <= kTexts14; ++number) {
+    for (int number = 1; number <= kTextBoxes; ++number) {
         Text(number).Show(FormatPercentEntry(Design.CorrectionPair[number]));
     }
 }
 
 // Until the redraw, which need not come.
 void frmCorrectionEntry::FillBoxesPlainly() {
-    for (int number = 1; number <= kTexts14; ++number) {
+    for (int number = 1; number <= kTextBoxes; ++number) {
         Text(number).Show(PlainNumber(Design.CorrectionPair[number]));
     }
 }
 
+// The slopes are the redraw's.
 void frmCorrectionEntry::ResetToLinear() {
-    SetLinearCurve();
+    SetLinearPairs();
     int number = 0;
     for (const char* text : kLinearTexts) {
         Text(++number).Show(text);
@@ -173,13 +179,15 @@ void frmCorrectionEntry::HandlePressed(int index) {
     DraggedPoint_ = static_cast<std::int16_t>(index);
 }
 
-// What is let go beside the plot's surface is no drop.
-void frmCorrectionEntry::HandleDropped(int index, const QPoint& at) {
+// What is let go beside the plot's surface, or on another control upon it, is no drop.
+DropResult frmCorrectionEntry::HandleDropped(int index, const QPoint& at) {
     DraggedPoint_ = static_cast<std::int16_t>(index);
-    if (picture_->rect().contains(at)) {
-        const SurfacePoint place = picture_->PlotPlace(at);
-        SetPointFromDrop(DraggedPoint_, place.x, place.y);
+    if (!picture_->IsSurface(at, picture_->Handle(index))) {
+        return DropResult::Refused;
     }
+    const SurfacePoint place = picture_->PlotPlace(at);
+    SetPointFromDrop(DraggedPoint_, place.x, place.y);
+    return DropResult::Taken;
 }
 
 void frmCorrectionEntry::HandleStepped(int index, int across, int up) {
@@ -190,9 +198,10 @@ void frmCorrectionEntry::HandleStepped(int index, int across, int up) {
 void frmCorrectionEntry::cmdAcceptXYClicked() {
     Design.CorrectionPair[1] = Design.CorrectionPair[2] = 0;
     for (int number = kFirstEntered; number <= kLastEntered; ++number) {
-        Design.CorrectionPair[number] = static_cast<float>(double{Text(number).Number()} * 0.01);
+        const double percent = std::clamp(NumericValue(Text(number).Text()), -kLargest, kLargest);
+        Design.CorrectionPair[number] = static_cast<float>(percent * 0.01);
     }
-    Design.CorrectionPair[kTexts14 - 1] = Design.CorrectionPair[kTexts14] = 1;
+    Design.CorrectionPair[kTextBoxes - 1] = Design.CorrectionPair[kTextBoxes] = 1;
     Design.NumberOfCorrectionPoints = kCurvePoints;
     RedrawCorrectionCurve();
 }

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "correction/curvehandle.h"
 #include "platform/form.h"
 
 class QLabel;
@@ -33,7 +34,7 @@ private:
     void ResetToLinear();
 
     void HandlePressed(int index);
-    void HandleDropped(int index, const QPoint& at);
+    DropResult HandleDropped(int index, const QPoint& at);
     void HandleStepped(int index, int across, int up);
     void cmdAcceptXYClicked();
     void cmdReadClicked();

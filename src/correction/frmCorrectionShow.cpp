@@ -1,5 +1,7 @@
 #include "correction/frmCorrectionShow.h"
 
+#include <algorithm>
+
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
@@ -46,7 +48,8 @@ QStringList CurveLines(int first, int count) {
 
 QStringList SegmentLines() {
     QStringList lines{QString::fromUtf8(kSegmentHeading)};
-    for (int segment = 1; segment < Design.NumberOfCorrectionPoints; ++segment) {
+    const int points = std::min<int>(Design.NumberOfCorrectionPoints, kCurvePoints);
+    for (int segment = 1; segment < points; ++segment) {
         lines << QString::fromStdString(SegmentRow(segment));
     }
     return lines;

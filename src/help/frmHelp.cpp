@@ -5,12 +5,14 @@
 #include "core/design.h"
 #include "platform/formkit.h"
 #include "platform/picturebox.h"
+#include "render/drawing.h"
 #include "render/schematic.h"
 #include "render/schematicmarks.h"
 
 namespace vernacle {
 
 frmHelp::frmHelp() : ModalForm("frmHelp", QStringLiteral("Vernacle - Help")) {
+    Drawing.DegreesPerRadian = ComputeDegreesPerRadian();
     auto* picture = new PictureBox("picSchematic", SchematicArea(), UnitShape::Square);
     const char* caption = TopicCaption(Design.HelpTopic);
     picture->setAccessibleName(QString::fromUtf8(caption ? caption : "The plate"));

@@ -31,7 +31,7 @@ UpDown::UpDown(const char* name, const QString& accessibleName, QWidget* parent)
         arrow->setAccessibleName(accessibleName + QLatin1Char(' ') + arrowName);
         arrow->setArrowType(type);
         arrow->setAutoRepeat(true);
-        arrow->setFocusPolicy(Qt::NoFocus); // the box has the keys
+        arrow->setFocusPolicy(Qt::NoFocus); // a box has the keys
         arrow->setFixedWidth(kWidth);
         arrow->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
         connect(arrow, &QToolButton::clicked, this, step);
@@ -46,6 +46,12 @@ void UpDown::AttachTo(EntryBox& box, const StepRange& range) {
     box.SetArrows(this);
     OnStep([&box, range] { StepBox(box, range.step, range); },
            [&box, range] { StepBox(box, -range.step, range); });
+}
+
+void UpDown::TakeKeys() {
+    for (auto* arrow : findChildren<QToolButton*>()) {
+        arrow->setFocusPolicy(Qt::StrongFocus);
+    }
 }
 
 void UpDown::OnStep(std::function<void()> up, std::function<void()> down) {

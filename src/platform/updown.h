@@ -27,6 +27,9 @@ public:
     // box's own handler does the rest. The box steps by its Up and Down keys too.
     void AttachTo(EntryBox& box, const StepRange& range);
 
+    // Makes the arrows stops of the Tab key, where no box has the keys.
+    void TakeKeys();
+
     // What the arrows do instead.
     void OnStep(std::function<void()> up, std::function<void()> down);
 

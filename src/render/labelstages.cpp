@@ -87,7 +87,7 @@ SurfacePoint MeasuredCorner(const DrawingRun& run, const TicLabel& label, Surfac
     return anchor;
 }
 
-// The wizard's page: fitted by eye to a sample text of 303 by 149 units at 16 points.
+// The wizard's page: fitted to a sample text of 303 by 149 units at 16 points.
 SurfacePoint SampledCorner(const DrawingRun& run, int scale, SurfacePoint anchor, double t) {
     const double points = double{run.sizes.fontSize} * double{Design.RelativeFontSize[scale]} / 16;
     const double across = run.frame.AcrossPerHalfMm() * double{Design.ScreenScaleY} * points;

@@ -66,7 +66,7 @@ struct SchematicLook {
     Colour plate = kWhiteInk;
     Colour border = kBlackInk;
     std::optional<Colour> pointer = std::nullopt; // none is drawn without it
-    Colour paper = kWhiteInk;                     // behind the caption
+    Colour paper = kWhiteInk;                     // of the dot at which the caption begins
     double arrowStem = kArrowStem;
 };
 

@@ -70,6 +70,7 @@ void frmWizardPart2::AddNudge(const Nudge& nudge, QGridLayout& grid, int row) {
     auto* arrows = new UpDown(nudge.upDown, caption);
     arrows->setToolTip(QString::fromUtf8(nudge.tip));
     arrows->setMinimumHeight(kArrowsHeight); // a label is lower than a box
+    arrows->TakeKeys();
     arrows->OnStep([this, &nudge] { Step(nudge, 1); }, [this, &nudge] { Step(nudge, -1); });
     grid.addWidget(MakeLabel(captionName.c_str(), caption), row, 0);
     grid.addWidget(number, row, 1);
@@ -84,6 +85,7 @@ void frmWizardPart2::Load() {
     Design.LinearityExponent[1] = 1;
     Design.RelativeFontSize[1] = 1;
     Design.PlateStyle = 0;
+    copies_ = {Design.FontSize, Design.LabelSpacing};
     Redraw();
 }
 
@@ -95,6 +97,7 @@ void frmWizardPart2::Step(const Nudge& nudge, double by) {
     number->setText(QString::fromStdString(PlainNumber(static_cast<float>(to))));
     switch (ApplyNudge(nudge, number->text().toStdString())) {
     case NudgeResult::Accepted:
+        TakeSize(nudge);
         return Redraw();
     case NudgeResult::Corrected:
         return number->setText(QString::fromStdString(NudgeValue(nudge)));
@@ -103,10 +106,20 @@ void frmWizardPart2::Step(const Nudge& nudge, double by) {
     }
 }
 
+// What the drawing works with: a spacing that is not accepted does not reach it.
+void frmWizardPart2::TakeSize(const Nudge& nudge) {
+    const Slot stepped = nudge.field(1, 0);
+    if (stepped == Slot(&Design.LabelSpacing)) {
+        copies_.labelSpacing = Design.LabelSpacing;
+    } else if (stepped == Slot(&Design.FontSize)) {
+        copies_.fontSize = Design.FontSize;
+    }
+}
+
 // What was overtyped on the page before need be no scale.
 void frmWizardPart2::Redraw() {
     try {
-        DrawDesign(plate_->Surface(), WizardTraits(), {Design.FontSize, Design.LabelSpacing});
+        DrawDesign(plate_->Surface(), WizardTraits(), copies_);
     } catch (const RunTimeError&) {
         ReportFailure("The scale cannot be drawn: it has more ticmarks than a scale can hold, or a "
                       "plate without a height.");

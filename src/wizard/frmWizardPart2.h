@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/form.h"
+#include "render/drawing.h"
 
 class QGridLayout;
 
@@ -25,10 +26,12 @@ private:
     void Load();
 
     void Step(const Nudge& nudge, double by);
+    void TakeSize(const Nudge& nudge);
     void Redraw();
     void cmdAcceptClicked();
 
     PictureBox* plate_ = nullptr;
+    PageCopies copies_;
 };
 
 } // namespace vernacle

@@ -99,11 +99,11 @@ constexpr int kReadingOrder[] = {0, 1, 2, 3, 4, 5, 6, 8, 7, 10, 9, 11, 12, 13, 1
 
 // A prompt, with up to two numbers of the design in it.
 struct Prompt {
-    int topic;
-    const char* text;
+    int topic = 0;
+    const char* text = nullptr;
     Place field = nullptr; // whose number stands behind the text
     const char* between = "";
-    double shareOfHeight = 0; // whose whole millimetres stand behind that
+    int tenthsOfHeight = 0; // whose whole millimetres stand behind that
     const char* after = "";
 };
 
@@ -122,7 +122,7 @@ constexpr Prompt kPrompts[] = {
      "Enter a value for the Actual/Virtual offset, in mm, 0 to 100,000. Enter 0 if for an "
      "'old-fashioned' design or if you don't know the value. For a modern design a typical value "
      "would be about half the plate height (i.e., ",
-     nullptr, "", 0.5, ")."},
+     nullptr, "", 5, ")."},
     {9, "Enter a value for the Minor tic length, in mm, .5 minimum to 20 maximum. A suggested "
         "value is 2. This cannot be greater than the major tic length."},
     {10, "Enter a value for the Major tic length, in mm, 1 minimum to 20 maximum. A suggested "
@@ -138,11 +138,11 @@ constexpr Prompt kPrompts[] = {
     {23,
      "Enter a value for the distance from the plate bottom to the top of the scale title, in mm, "
      "0 to ",
-     kHeight, " maximum. A typical value would be about .5 times scale height i.e., ", 0.5, " mm"},
+     kHeight, " maximum. A typical value would be about .5 times scale height i.e., ", 5, " mm"},
     {24,
      "Enter a value for the distance from the plate bottom to the top of the scale arc (the "
      "'ceiling') in mm, 0 minimum to ",
-     kHeight, " maximum.  A typical value would be about .7 times scale height i.e., ", 0.7, " mm"},
+     kHeight, " maximum.  A typical value would be about .7 times scale height i.e., ", 7, " mm"},
     {25, "Enter a value for the thickness of the arc, in tenths of a mm, .5 minimum to 20 maximum. "
          "A suggested is a value of 2."},
 };
@@ -152,10 +152,10 @@ enum class When { Equal, NotAbove, Below, Above, Always };
 // If a field's number compares so with the bound, it becomes the value; both are fields where one
 // is named.
 struct RepairRow {
-    Place field;
-    When when;
-    double bound;
-    double value;
+    Place field = nullptr;
+    When when = When::Always;
+    double bound = 0;
+    double value = 0;
     Place boundField = nullptr;
     Place valueField = nullptr; // to which the value is added
 };
@@ -268,8 +268,8 @@ std::string WizardPrompt(int topic) {
         prompt += Plain(NumberAt(row->field));
     }
     prompt += row->between;
-    if (row->shareOfHeight != 0) {
-        prompt += Plain(std::floor(row->shareOfHeight * double{Design.PlateHeight}));
+    if (row->tenthsOfHeight != 0) {
+        prompt += Plain(std::floor(row->tenthsOfHeight * double{Design.PlateHeight} / 10));
     }
     return prompt + row->after;
 }

@@ -44,7 +44,7 @@ std::span<const WizardStep> WizardSteps();
 // number has its leading blank; nothing if it is accepted.
 std::optional<std::string> EnterWizardStep(const WizardStep& step, const std::string& text);
 
-// The value of a step's field, with its leading blank.
+// The value that a step has read, with its leading blank.
 std::string WizardValue(const WizardStep& step);
 
 // What the user is asked for a help topic; empty for a number without a prompt.

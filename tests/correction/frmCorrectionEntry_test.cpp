@@ -190,6 +190,9 @@ TEST_F(CorrectionEntryTest, BadDropsAreDisallowedAndStay) {
         EXPECT_EQ(said, std::vector<std::string>{kDisallowed});
         EXPECT_NEAR(Current(5), 1.05, 0.002) << "the bad value stays";
         EXPECT_EQ(TextIn(11), before) << "and the old box";
+        const QPointF dropped = Plot().ToWidget(5000 + 5000 * 1.05, 6000 - 5000 * 0.9);
+        EXPECT_LE((Handle(5).geometry().center() - dropped.toPoint()).manhattanLength(), 2)
+            << "the handle stands where it was dropped";
         said.clear();
         Press("cmdRestore");
         EXPECT_TRUE(said.empty());
@@ -213,6 +216,9 @@ TEST_F(CorrectionEntryTest, ReleasesElsewhereChangeNothing) {
         QTest::mouseClick(&Handle(2), Qt::LeftButton); // pressed only
         DragTo(2, {-60, 40});                          // beside the surface
         DragTo(2, {40, -200});
+        EXPECT_EQ(Handle(2).pos(), home);
+        DragTo(2, Handle(4).geometry().center()); // on another control
+        DragTo(2, The<QLabel>("Label60").geometry().center());
         EXPECT_EQ(Handle(2).pos(), home);
         EXPECT_EQ(Current(2), 0.3F);
         EXPECT_EQ(Drawn(), before);
@@ -303,6 +309,22 @@ TEST_F(CorrectionEntryTest, RestoreShowsTheLinearCurve) {
     EXPECT_EQ(Design.CorrectionSlope[1], 1);
 }
 
+// Bad pairs stay in the design: the page that opens on them can be used to mend them.
+TEST_F(CorrectionEntryTest, OpensOnABadCurveToo) {
+    Design.CorrectionPair[7] = 0.1F;
+    OnPage([this] {
+        EXPECT_EQ(said, std::vector<std::string>{kDisallowed});
+        EXPECT_EQ(TextIn(7), "10. ");
+        EXPECT_EQ(TextIn(9), "70. ");
+        EXPECT_TRUE(Plot().rect().contains(Handle(3).geometry()));
+        said.clear();
+        Enter(7, "50");
+        Press("cmdAcceptXY");
+        EXPECT_TRUE(said.empty());
+        EXPECT_EQ(Current(3), 0.5F);
+    });
+}
+
 TEST_F(CorrectionEntryTest, TinyValuesShowAsNoneAndStayUntilApplied) {
     Design.CorrectionPair[4] = 0.0005F;
     OnPage([this] {
@@ -343,6 +365,7 @@ TEST_F(CorrectionEntryTest, CancelledReadLeavesALinearCurveBehindTheOldPicture) 
         Answer(Cancel);
         Press("cmdRead");
         EXPECT_EQ(Deflection(1), 0.15F);
+        EXPECT_FLOAT_EQ(Design.CorrectionSlope[1], 2) << "those of the old curve";
         EXPECT_EQ(Texts(1, 12), (std::vector<std::string>{"0", "0", "20", "20", "50", "50", "80",
                                                           "80", "100", "100", "85. ", "85. "}));
         EXPECT_EQ(Drawn(), before);
@@ -432,6 +455,8 @@ TEST_F(CorrectionEntryTest, CurveReachesPreviewAndPrintAlone) {
     const std::vector<std::string> print = printed();
     const std::string plot = plotted();
     const std::vector<std::string> setup = setUp();
+    EXPECT_GT(plot.size(), 1000U);
+    EXPECT_GT(setup.size(), 100U);
     OnPage([this] { Drag(3, 0.5, 0.6); });
     OpenPage("frmPreview");
     EXPECT_NE(CallsOf("picPlate"), preview);
@@ -500,6 +525,14 @@ TEST_F(CorrectionShowTest, FewerPointsGiveFewerSegments) {
     OnTable([](QWidget& form) {
         const std::string segments = Block(form, "txtSegments");
         EXPECT_EQ(std::count(segments.begin(), segments.end(), '\n'), 3);
+    });
+}
+
+TEST_F(CorrectionShowTest, MorePointsGiveNoMoreSegments) {
+    Design.NumberOfCorrectionPoints = 10;
+    OnTable([](QWidget& form) {
+        const std::string segments = Block(form, "txtSegments");
+        EXPECT_EQ(std::count(segments.begin(), segments.end(), '\n'), 6);
     });
 }
 

@@ -9,6 +9,7 @@
 #include "render/drawing.h"
 #include "support/answers.h"
 #include "support/formtest.h"
+#include "support/recordingsurface.h"
 #include "wizard/nudges.h"
 
 namespace vernacle::test {
@@ -137,6 +138,17 @@ TEST_F(WizardPart2Test, SpacingOutOfRangeIsKeptAndNotDrawn) {
     EXPECT_EQ(Design.LabelSpacing, 60);
     EXPECT_EQ(Shown("lblLabelSpacing"), "60");
     EXPECT_FALSE(WasRedrawn());
+    StepUp("UpDown2");
+    RecordingSurface expected;
+    DrawDesign(expected, WizardTraits(), {Design.FontSize, 50});
+    EXPECT_EQ(CallsOf("picPlate").size(), expected.calls.size());
+    const auto firstLabel = [](const std::vector<std::string>& calls) {
+        return *std::find_if(calls.begin(), calls.end(), [](const std::string& call) {
+            return call.starts_with("SetCurrentX");
+        });
+    };
+    EXPECT_EQ(firstLabel(CallsOf("picPlate")), firstLabel(expected.calls))
+        << "the drawing stands at the last value in range";
     for (int step = 0; step < 10; ++step) {
         StepDown("UpDown4");
     }
@@ -167,6 +179,16 @@ TEST_F(WizardPart2Test, CountsNeverLeaveOne) {
     StepUp("UpDown10");
     StepUp("UpDown10");
     EXPECT_EQ(Design.MajorEveryHowMany[1], 3);
+}
+
+TEST_F(WizardPart2Test, ArrowsArePressedByKeys) {
+    OpenPart2();
+    Find("UpDown2Up").setFocus();
+    const float title = Design.BottomToTitle[1];
+    QTest::keyClick(&Find("UpDown2Up"), Qt::Key_Space);
+    EXPECT_EQ(Design.BottomToTitle[1], title + 1);
+    QTest::keyClick(&Find("UpDown2Up"), Qt::Key_Tab);
+    EXPECT_EQ(Page().focusWidget()->objectName(), QLatin1String("UpDown2Down"));
 }
 
 TEST_F(WizardPart2Test, WhatCannotBeDrawnIsTold) {

@@ -3,6 +3,7 @@
 
 #include <QPushButton>
 
+#include "app/frmOpening.h"
 #include "core/design.h"
 #include "core/numbertext.h"
 #include "platform/entrybox.h"
@@ -206,7 +207,10 @@ TEST_F(WizardTest, CloseBoxKeepsTheSession) {
 
 // What a newcomer does: eighteen values, a nudge, the preview, a sheet of paper.
 TEST_F(WizardTest, FromAnEmptyPageToAPrintedPlate) {
-    OpenWizard();
+    OpenPage("frmOpening");
+    dynamic_cast<frmOpening&>(Page()).StartNewDesign();
+    Settle();
+    ASSERT_EQ(PageName(), "frmWizard");
     EnterAllUpTo(18);
     Click("cmdAccept");
     Settle();

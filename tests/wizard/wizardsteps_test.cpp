@@ -221,6 +221,17 @@ TEST_F(WizardStepsTest, PromptsFollowTheTopicAndThePlate) {
               "Enter a value for the distance from the plate bottom to the top of the scale arc "
               "(the 'ceiling') in mm, 0 minimum to 61 maximum.  A typical value would be about .7 "
               "times scale height i.e., 42 mm");
+    Design.PlateHeight = 90;
+    EXPECT_TRUE(WizardPrompt(24).ends_with("i.e., 63 mm"));
+    EXPECT_EQ(WizardPrompt(25), "Enter a value for the thickness of the arc, in tenths of a mm, .5 "
+                                "minimum to 20 maximum. A suggested is a value of 2.");
+    EXPECT_EQ(WizardPrompt(14),
+              "Enter a value for the spacing between the arc and the top of the ticmark labels, in "
+              "mm, 0 minimum to 200 maximum. A suggested value is 6.");
+    EXPECT_EQ(
+        WizardPrompt(9),
+        "Enter a value for the Minor tic length, in mm, .5 minimum to 20 maximum. A suggested "
+        "value is 2. This cannot be greater than the major tic length.");
     for (const int topic : {0, 8, 15, 22, 26, -1}) {
         EXPECT_EQ(WizardPrompt(topic), "") << topic;
     }
