@@ -1,5 +1,6 @@
 #include "platform/formkit.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 
@@ -69,6 +70,16 @@ QLayout* MakeStepped(EntryBox& box, UpDown* arrows) {
         pair->addSpacing(UpDown::kWidth);
     }
     return pair;
+}
+
+EntryBox* AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box) {
+    const int row = grid.rowCount();
+    auto* entry = new EntryBox(box, QString::fromUtf8(caption));
+    QLabel* text = MakeLabel(label, QString::fromUtf8(caption));
+    text->setBuddy(entry);
+    grid.addWidget(text, row, 0);
+    grid.addWidget(entry, row, 1);
+    return entry;
 }
 
 QLabel* MakeHeading(const char* name, const QString& text) {

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+class QGridLayout;
+
 namespace vernacle {
 
 class EntryBox;
@@ -25,6 +27,9 @@ constexpr int kEntrySpacing = 6;
 // A box with its arrows at its right side; without arrows their place stays free, so that boxes in
 // a column are of one width.
 QLayout* MakeStepped(EntryBox& box, UpDown* arrows);
+
+// A box behind its caption, as the next row of the grid.
+EntryBox* AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box);
 
 // The page's heading, in a larger font.
 QLabel* MakeHeading(const char* name, const QString& text);

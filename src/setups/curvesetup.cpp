@@ -20,14 +20,11 @@ CurveSetupPage::CurveSetupPage(const CurveSetupTraits& traits)
 
 void CurveSetupPage::Build() {
     picture_ = new SetupPicture;
-    auto* box = new EntryBox("txtLinearityExponent", QStringLiteral("Linearity exponent:"));
+    auto* exponent = new QGridLayout;
+    EntryBox* box =
+        AddEntry(*exponent, "lblLinearityExponent", "Linearity exponent:", "txtLinearityExponent");
     box->Show("1");
     box->OnChange([this] { txtLinearityExponentChanged(); });
-    QLabel* label = MakeLabel("lblLinearityExponent", box->accessibleName());
-    label->setBuddy(box);
-    auto* exponent = new QHBoxLayout;
-    exponent->addWidget(label);
-    exponent->addWidget(box);
     auto* column = new QVBoxLayout;
     column->setSpacing(10);
     column->addWidget(MakeOptions());

@@ -84,23 +84,15 @@ void frmSetupOhmmeter::Build() {
 QLayout* frmSetupOhmmeter::MakeEntries() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
-    const auto addBox = [grid](const char* label, const char* caption, const char* name) {
-        const int row = grid->rowCount();
-        auto* box = new EntryBox(name, QString::fromUtf8(caption));
-        QLabel* text = MakeLabel(label, QString::fromUtf8(caption));
-        text->setBuddy(box);
-        grid->addWidget(text, row, 0);
-        grid->addWidget(box, row, 1);
-        return box;
-    };
     const auto addButton = [this, grid](const char* name, const char* caption, auto clicked) {
         QPushButton* button = MakeButton(name, QString::fromUtf8(caption));
         connect(button, &QPushButton::clicked, this, clicked);
         grid->addWidget(button, grid->rowCount(), 0, 1, 2);
     };
-    addBox("lblEnterMidscale", "Enter midscale resistance value:", "txtEnterMidscale")
+    AddEntry(*grid, "lblEnterMidscale", "Enter midscale resistance value:", "txtEnterMidscale")
         ->OnChange([this] { txtEnterMidscaleChanged(); });
-    addBox("lblEnterResistance", "Enter resistance to get deflection:", "txtEnterResistance")
+    AddEntry(*grid, "lblEnterResistance",
+             "Enter resistance to get deflection:", "txtEnterResistance")
         ->OnChange([this] { txtEnterResistanceChanged(); });
     addButton("cmdComputeDeflection", "Compute deflection",
               &frmSetupOhmmeter::cmdComputeDeflectionClicked);

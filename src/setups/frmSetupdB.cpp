@@ -98,13 +98,7 @@ QLayout* frmSetupdB::MakeEntries() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     for (const Entry& entry : kEntries) {
-        const int row = grid->rowCount();
-        auto* box = new EntryBox(entry.box, QString::fromUtf8(entry.caption));
-        QLabel* label = MakeLabel(entry.label, QString::fromUtf8(entry.caption));
-        label->setBuddy(box);
-        box->Show(entry.start);
-        grid->addWidget(label, row, 0);
-        grid->addWidget(box, row, 1);
+        AddEntry(*grid, entry.label, entry.caption, entry.box)->Show(entry.start);
     }
     return grid;
 }

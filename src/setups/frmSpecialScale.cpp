@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -46,13 +47,10 @@ frmSpecialScale::frmSpecialScale() : SetupPage(kTraits) {
 }
 
 void frmSpecialScale::Build() {
-    auto* box = new EntryBox("txtNrOfTicmarks", QStringLiteral("Number of ticmarks:"));
-    box->OnChange([this] { ApplySpecialTable(); });
-    QLabel* label = MakeLabel("lblNrOfTicmarks", box->accessibleName());
-    label->setBuddy(box);
-    auto* count = new QHBoxLayout;
-    count->addWidget(label);
-    count->addWidget(box);
+    auto* count = new QGridLayout;
+    AddEntry(*count, "lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks")->OnChange([this] {
+        ApplySpecialTable();
+    });
     QLabel* note = MakeLabel(
         "lblFullScale",
         QStringLiteral("Full-scale deflection is 1.0; for a \"blank\" label, use a space."));
