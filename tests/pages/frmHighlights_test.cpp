@@ -89,16 +89,7 @@ TEST_F(HighlightsPageTest, CaptionsAndTips) {
     EXPECT_EQ(Find<QPushButton>("cmdGetColor").text(), QLatin1String("Color"));
     EXPECT_EQ(Find<QPushButton>("cmdShowTicInfo").text(),
               QLatin1String("Show ticmark information"));
-    EXPECT_EQ(Find<QGroupBox>("fraTextNumber").title(), QLatin1String("Edit"));
-    EXPECT_EQ(Find("fraTextNumber").toolTip(), QLatin1String("Select the scale to edit"));
-    for (int highlight = 1; highlight <= kHighlights; ++highlight) {
-        const QString number = QString::number(highlight);
-        const auto& option = Option("Option" + std::to_string(highlight));
-        EXPECT_EQ(option.text(), number);
-        EXPECT_EQ(option.toolTip(),
-                  highlight <= 6 ? QStringLiteral("Edit scale #") + number : QString());
-        EXPECT_TRUE(Find("fraTextNumber").isAncestorOf(&option));
-    }
+    ExpectEditOptions(kHighlights);
 }
 
 TEST_F(HighlightsPageTest, OnlyTheTicInformationStartsEnabled) {

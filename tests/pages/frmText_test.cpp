@@ -72,16 +72,7 @@ TEST_F(TextPageTest, CaptionsAndTips) {
     EXPECT_EQ(Find("cmdCenterText").toolTip(), QString());
     EXPECT_EQ(Find<QPushButton>("cmdGetColor").text(), QLatin1String("Get text color"));
     EXPECT_EQ(Find("cmdGetColor").toolTip(), QLatin1String("Select color for text #1"));
-    EXPECT_EQ(Find<QGroupBox>("fraTextNumber").title(), QLatin1String("Edit"));
-    EXPECT_EQ(Find("fraTextNumber").toolTip(), QLatin1String("Select the scale to edit"));
-    for (int entry = 1; entry <= kTexts; ++entry) {
-        const QString number = QString::number(entry);
-        const auto& option = Option("Option" + std::to_string(entry));
-        EXPECT_EQ(option.text(), number);
-        EXPECT_EQ(option.toolTip(),
-                  entry <= 6 ? QStringLiteral("Edit scale #") + number : QString());
-        EXPECT_TRUE(Find("fraTextNumber").isAncestorOf(&option));
-    }
+    ExpectEditOptions(kTexts);
 }
 
 TEST_F(TextPageTest, EverythingButTheToolbarStartsDisabled) {

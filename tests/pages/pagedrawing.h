@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include <QGroupBox>
+
 #include "core/design.h"
 #include "platform/entrybox.h"
 #include "platform/optionbutton.h"
@@ -33,6 +35,20 @@ protected:
         const char* text;
         const char* tip;
     };
+
+    // The frame of the entries: only the first six options have a tip, and it speaks of scales.
+    void ExpectEditOptions(int count) const {
+        EXPECT_EQ(Find<QGroupBox>("fraTextNumber").title(), QLatin1String("Edit"));
+        EXPECT_EQ(Find("fraTextNumber").toolTip(), QLatin1String("Select the scale to edit"));
+        for (int entry = 1; entry <= count; ++entry) {
+            const QString number = QString::number(entry);
+            const auto& option = Option("Option" + std::to_string(entry));
+            EXPECT_EQ(option.text(), number);
+            EXPECT_EQ(option.toolTip(),
+                      entry <= 6 ? QStringLiteral("Edit scale #") + number : QString());
+            EXPECT_TRUE(Find("fraTextNumber").isAncestorOf(&option));
+        }
+    }
 
     // Whatever the page starts with.
     void EnableAll() const {
