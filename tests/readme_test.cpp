@@ -5,12 +5,14 @@
 
 #include <gtest/gtest.h>
 
+#include "support/sourcetree.h"
+
 namespace vernacle::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kRoot = VERNACLE_SOURCE_DIR;
+const fs::path kRoot = SourcePath("");
 
 std::string Readme() {
     std::ifstream file(kRoot / "README.md");

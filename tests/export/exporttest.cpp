@@ -4,6 +4,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "support/sourcetree.h"
+
 namespace vernacle::test {
 
 ProcessResult ExportTest::Export(const Words& arguments, const ProcessSetting& setting) {
@@ -22,7 +24,7 @@ void ExportTest::ExportQuietly(const std::string& design, const Words& outputs,
 }
 
 std::string ExportTest::Example(const std::string& name) {
-    return VERNACLE_SOURCE_DIR "/examples/" + name + ".VRN";
+    return SourcePath("examples/" + name + ".VRN");
 }
 
 std::string ExportTest::EditedExample(const std::string& name, const Edits& edits) const {

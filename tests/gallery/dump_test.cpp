@@ -10,6 +10,7 @@
 #include <regex>
 
 #include "support/enginetest.h"
+#include "support/sourcetree.h"
 
 namespace vernacle::test {
 
@@ -47,7 +48,7 @@ protected:
 };
 
 std::string Source(const char* file) {
-    std::ifstream stream(std::string(VERNACLE_SOURCE_DIR) + "/src/" + file);
+    std::ifstream stream(SourcePath(std::string("src/") + file));
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 

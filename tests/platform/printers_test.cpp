@@ -30,6 +30,7 @@
 #include "support/filelimit.h"
 #include "support/pdfreader.h"
 #include "support/process.h"
+#include "support/sourcetree.h"
 
 namespace vernacle::test {
 
@@ -141,7 +142,7 @@ protected:
 
     static void ReadExample() {
         SetOpeningValues();
-        ReadDesign(VERNACLE_SOURCE_DIR "/examples/VOLTS-0-15.VRN");
+        ReadDesign(SourcePath("examples/VOLTS-0-15.VRN"));
         Design.CalibrationX = Design.CalibrationY = 1;
         ComputeTicDeflections();
         ComputeTicLabels();

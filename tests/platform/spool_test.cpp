@@ -21,6 +21,7 @@
 #include "render/hpgl.h"
 #include "scale/scale.h"
 #include "support/enginetest.h"
+#include "support/sourcetree.h"
 
 namespace vernacle::test {
 
@@ -259,7 +260,7 @@ class PlotterPortTest : public SpoolTest {
 protected:
     void Plot(const PrinterPort& port) {
         SetOpeningValues();
-        ReadDesign(VERNACLE_SOURCE_DIR "/examples/VOLTS-0-15.VRN");
+        ReadDesign(SourcePath("examples/VOLTS-0-15.VRN"));
         ComputeTicDeflections();
         ComputeTicLabels();
         Host.openForOutput = [port](const std::string& name) {

@@ -11,6 +11,7 @@
 #include "scale/scale.h"
 #include "support/pdfreader.h"
 #include "support/process.h"
+#include "support/sourcetree.h"
 #include "surfaces/surfacetest.h"
 
 namespace vernacle::test {
@@ -25,7 +26,7 @@ protected:
         SetOpeningValues();
         Design.CalibrationX = Design.CalibrationY = 1;
         Design.DesignFileName = name;
-        ReadDesign(VERNACLE_SOURCE_DIR "/examples/" + name);
+        ReadDesign(SourcePath("examples/" + name));
         NormalizeDesign();
         ComputeTicDeflections();
         ComputeTicLabels();
