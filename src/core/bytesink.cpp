@@ -1,9 +1,11 @@
 #include "core/bytesink.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 
 #include "core/runtimeerror.h"
 
@@ -52,13 +54,21 @@ private:
     File file_;
 };
 
-} // namespace
-
-std::unique_ptr<ByteSink> OpenFileSink(const std::string& path) {
-    return std::make_unique<FileSink>(path);
+// Whatever gives bytes without being a file: opening it may wait for another process. What is not
+// there or is a folder tells its own reason when it is opened and read.
+bool IsDevice(const std::string& path) {
+    std::error_code ignored;
+    const auto status = std::filesystem::status(path, ignored);
+    return std::filesystem::is_other(status);
 }
 
-std::string ReadWholeFile(const std::string& path) {
+bool IsStandardInput(const std::string& path) {
+    constexpr std::array<std::string_view, 3> kNames = {"/dev/stdin", "/dev/fd/0",
+                                                        "/proc/self/fd/0"};
+    return std::find(kNames.begin(), kNames.end(), path) != kNames.end();
+}
+
+std::string ReadToEnd(const std::string& path) {
     const File file = Open(path, "rb");
     std::string bytes;
     std::array<char, 65536> part{};
@@ -73,6 +83,23 @@ std::string ReadWholeFile(const std::string& path) {
         Fail(path);
     }
     return bytes;
+}
+
+} // namespace
+
+std::unique_ptr<ByteSink> OpenFileSink(const std::string& path) {
+    return std::make_unique<FileSink>(path);
+}
+
+std::string ReadWholeFile(const std::string& path) {
+    if (IsDevice(path)) {
+        throw FileFailure(path + ": not a regular file");
+    }
+    return ReadToEnd(path);
+}
+
+std::string ReadFileOrInput(const std::string& path) {
+    return IsStandardInput(path) ? ReadToEnd(path) : ReadWholeFile(path);
 }
 
 } // namespace vernacle

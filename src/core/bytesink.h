@@ -22,8 +22,13 @@ public:
 // Opens a file for output, replacing what was there; throws FileFailure.
 std::unique_ptr<ByteSink> OpenFileSink(const std::string& path);
 
-// The bytes of a file of at most kLargestFile bytes; throws FileFailure for anything else.
+// The bytes of a regular file of at most kLargestFile bytes; throws FileFailure for anything else:
+// a pipe that nobody writes to would be waited for without end.
 std::string ReadWholeFile(const std::string& path);
+
+// The same for a program that stands in a pipeline: its standard input is read too, by the name of
+// its device, whatever stands behind it.
+std::string ReadFileOrInput(const std::string& path);
 
 constexpr std::size_t kLargestFile = 16U << 20U; // a thousand times the largest design
 

@@ -54,6 +54,7 @@ void SetHost(const Arguments& arguments, Progress& progress) {
         progress.failed = true;
         Say(text);
     };
+    Host.readFile = ReadFileOrInput;
     Host.openForOutput = [&progress](const std::string& path) {
         auto sink = OpenFileSink(path);
         progress.opened = true;

@@ -3,6 +3,9 @@
 #include <cerrno>
 #include <cstring>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "core/runtimeerror.h"
 #include "support/enginetest.h"
 #include "support/filelimit.h"
@@ -95,7 +98,52 @@ TEST_F(ByteSinkTest, RefusesToReadMoreThanTheLargestFile) {
     EXPECT_EQ(ReadWholeFile(Path("file")).size(), kLargestFile);
     std::filesystem::resize_file(Path("file"), kLargestFile + 1);
     EXPECT_EQ(FailureOf([&] { ReadWholeFile(Path("file")); }), Path("file") + ": too large");
-    EXPECT_EQ(FailureOf([] { ReadWholeFile("/dev/zero"); }), "/dev/zero: too large");
+}
+
+// Opening it would wait for a writer that never comes.
+TEST_F(ByteSinkTest, RefusesToReadWhatIsNoRegularFile) {
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("pipe", Path("link"));
+    for (const std::string& path : {Path("pipe"), Path("link"), std::string("/dev/zero")}) {
+        const std::string refused = path + ": not a regular file";
+        EXPECT_EQ(FailureOf([&] { ReadWholeFile(path); }), refused);
+        EXPECT_EQ(FailureOf([&] { ReadFileOrInput(path); }), refused);
+    }
+    WriteFile("file", "text");
+    std::filesystem::create_symlink("file", Path("good"));
+    EXPECT_EQ(ReadWholeFile(Path("good")), "text");
+    EXPECT_EQ(ReadFileOrInput(Path("good")), "text");
+}
+
+// Standard input as a pipe that holds the text, put back at the end of the scope.
+class PipedInput {
+public:
+    explicit PipedInput(const std::string& text) {
+        int ends[2] = {};
+        EXPECT_EQ(pipe(ends), 0);
+        EXPECT_EQ(write(ends[1], text.data(), text.size()), static_cast<ssize_t>(text.size()));
+        close(ends[1]);
+        dup2(ends[0], STDIN_FILENO);
+        close(ends[0]);
+    }
+    ~PipedInput() {
+        dup2(before_, STDIN_FILENO);
+        close(before_);
+    }
+    PipedInput(const PipedInput&) = delete;
+    PipedInput& operator=(const PipedInput&) = delete;
+
+private:
+    int before_ = dup(STDIN_FILENO);
+};
+
+TEST_F(ByteSinkTest, ReadsTheStandardInputForAProgramInAPipeline) {
+    for (const char* device : {"/dev/stdin", "/dev/fd/0", "/proc/self/fd/0"}) {
+        const PipedInput input("piped");
+        EXPECT_EQ(FailureOf([&] { ReadWholeFile(device); }),
+                  std::string(device) + ": not a regular file");
+        EXPECT_EQ(ReadFileOrInput(device), "piped") << device;
+    }
 }
 
 } // namespace
