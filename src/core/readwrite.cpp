@@ -1,12 +1,14 @@
 #include "core/readwrite.h"
 
 #include <algorithm>
+#include <memory>
 #include <string_view>
 
 #include "core/codepage.h"
 #include "core/design.h"
 #include "core/designlines.h"
 #include "core/lines.h"
+#include "core/samefile.h"
 #include "core/seam.h"
 
 namespace vernacle {
@@ -16,6 +18,7 @@ namespace {
 constexpr int kStageOpen = 407;
 constexpr int kStageReset = 413;
 constexpr const char* kBackup = "Backup.DAT";
+constexpr const char* kLastSession = "LASTSESSION.VRN";
 
 // A text on its line: a line end inside it would shift all that follows.
 std::string OnOneLine(std::string text) {
@@ -85,6 +88,18 @@ private:
     int& stage_;
 };
 
+// The lines of a design would be read as the printer's factors, and every later plate come out at
+// another size. The name may lead there by accident: a calibration leaves it to the design.
+void RefuseCalibration(const std::string& name) {
+    std::vector<std::string> files = Host.calibrationsToRead();
+    files.push_back(Host.calibrationToWrite());
+    for (const std::string& file : files) {
+        if (IsSameFile(name, file)) {
+            throw FileFailure(name + ": the printer's calibration");
+        }
+    }
+}
+
 // The text is opened first and filled then, so that a failure on the way leaves the file as far as
 // it got.
 void WriteDesignFile(const std::string& name) {
@@ -101,14 +116,24 @@ void WriteDesignFile(const std::string& name) {
     sink->Close();
 }
 
+bool TryToWrite(const std::string& name) {
+    try {
+        RefuseCalibration(name);
+        WriteDesignFile(name);
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
 } // namespace
 
-void WriteDesign() {
-    try {
-        WriteDesignFile(Design.DesignFileName);
-    } catch (const RunTimeError&) {
+bool WriteDesign() {
+    const bool written = TryToWrite(Design.DesignFileName);
+    if (!written) {
         ReportFailure("The Vernacle file was not written correctly.\nReadWrite 364");
     }
+    return written;
 }
 
 void SaveDesign(const std::string& name) {
@@ -128,12 +153,20 @@ void BackupDesign() {
 }
 
 std::string LastSessionName() {
-    return Host.besideProgram("LASTSESSION.VRN");
+    return Host.newestBesideProgram(kLastSession);
 }
 
-void SaveLastSession() {
-    Design.DesignFileName = LastSessionName();
-    WriteDesign();
+bool SaveLastSession() {
+    Design.DesignFileName = Host.besideProgram(kLastSession);
+    return WriteDesign();
+}
+
+bool KeepLastSession() {
+    const auto inHand = std::make_unique<DesignRecord>(Design);
+    Design.DesignFileName = Host.besideProgram(kLastSession);
+    const bool kept = TryToWrite(Design.DesignFileName);
+    Design = *inHand;
+    return kept;
 }
 
 void ReadDesign(const std::string& name) {

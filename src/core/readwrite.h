@@ -5,10 +5,11 @@
 
 namespace vernacle {
 
-// Writes the design to DesignFileName, replacing the file. A failure is reported; the file stays as
-// far as it got. Writing changes the design a little: empty labels of special tics become "/", a
-// graphic that is not drawn loses its file name, the highlights and deletions are counted anew.
-void WriteDesign();
+// Writes the design to DesignFileName, replacing the file; false if that failed. A failure is
+// reported; the file stays as far as it got, and that of the printer's calibration is not touched.
+// Writing changes the design a little: empty labels of special tics become "/", a graphic that is
+// not drawn loses its file name, the highlights and deletions are counted anew.
+bool WriteDesign();
 
 // WriteDesign, unless the name is empty.
 void SaveDesign(const std::string& name);
@@ -19,10 +20,14 @@ void BackupDesign();
 // Reads it back, with what the reader forces on every design.
 void RestoreBackup();
 
-// Writes the design to "LASTSESSION.VRN" beside the program and leaves that name.
-void SaveLastSession();
+// Writes the design to "LASTSESSION.VRN" beside the program and leaves that name; false if that
+// failed, which is reported.
+bool SaveLastSession();
 
-// The name of the last session's file.
+// The same without a word, and with the design left as it is.
+bool KeepLastSession();
+
+// The name of the file of the last session that was kept, wherever that was.
 std::string LastSessionName();
 
 // Reads a design file over the defaults; an empty name does nothing at all. A file that ends early

@@ -34,6 +34,7 @@ double ClockSeconds() {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+constexpr const char* kCalibrationFile = "Calibrate.txt";
 constexpr ScreenSize kUsualScreen{1600 * 15, 900 * 15};
 
 } // namespace
@@ -43,6 +44,9 @@ HostSeam DefaultHost() {
         .readFile = ReadWholeFile,
         .openForOutput = OpenFileSink,
         .besideProgram = [](const std::string& name) { return name; },
+        .newestBesideProgram = [](const std::string& name) { return name; },
+        .calibrationsToRead = [] { return std::vector<std::string>{kCalibrationFile}; },
+        .calibrationToWrite = [] { return std::string(kCalibrationFile); },
         .localDateTime = LocalDateTime,
         .isoDateTime = IsoDateTime,
         .clockSeconds = ClockSeconds,

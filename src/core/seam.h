@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "core/bytesink.h"
 
@@ -16,8 +17,8 @@ struct ScreenSize {
 };
 
 struct HostSeam {
-    // The bytes of the file of that name; throws FileFailure. The names that the design fixes
-    // ("Calibrate.txt", "Backup.DAT") come bare: the program decides where they stand.
+    // The bytes of the file of that name; throws FileFailure. A bare name ("Backup.DAT") stands in
+    // the working folder.
     std::function<std::string(const std::string& name)> readFile;
 
     // A sink that replaces the file, or feeds the port ("LPT1"), of that name; throws FileFailure.
@@ -25,6 +26,14 @@ struct HostSeam {
 
     // The full path of a file that stands beside the program.
     std::function<std::string(const std::string& name)> besideProgram;
+
+    // Of the places that an earlier run may have left such a file in, the path of the newest.
+    std::function<std::string(const std::string& name)> newestBesideProgram;
+
+    // The printer's calibration: the files that it may be read from, of which the first that is
+    // whole counts, and the one that it is written to.
+    std::function<std::vector<std::string>()> calibrationsToRead;
+    std::function<std::string()> calibrationToWrite;
 
     std::function<std::string()> localDateTime; // now, in the machine's short form; never empty
     std::function<std::string()> isoDateTime;   // now, "YYYY-MM-DD hh:mm:ss"

@@ -1,16 +1,24 @@
 #include "platform/programfiles.h"
 
+#include <algorithm>
+#include <filesystem>
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryFile>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace vernacle {
 
 namespace {
 
 constexpr const char* kCalibrationFile = "Calibrate.txt";
+constexpr const char* kExamples = "examples";
 
 std::string PathIn(const std::string& folder, const std::string& name) {
     const QDir place(QString::fromStdString(folder));
@@ -24,25 +32,29 @@ bool CanWriteIn(const std::string& folder) {
     return trial.open();
 }
 
-// The copy is the user's own, and so can be written even where the original cannot.
-void CopyCalibration(const ProgramFolders& folders) {
-    const QString copy = QString::fromStdString(PathIn(folders.userData, kCalibrationFile));
-    if (QFile::copy(QString::fromStdString(PathIn(folders.program, kCalibrationFile)), copy)) {
-        QFile::setPermissions(copy,
-                              QFile::permissions(copy) | QFile::ReadOwner | QFile::WriteOwner);
-    }
+// Where files have no owner they are everybody's.
+bool IsOwnFile(const std::string& path) {
+    const QFileInfo file(QString::fromStdString(path));
+#ifdef Q_OS_UNIX
+    return file.isFile() && file.ownerId() == ::geteuid();
+#else
+    return file.isFile();
+#endif
 }
 
-void MakeUserData(const ProgramFolders& folders) {
-    const QDir folder(QString::fromStdString(folders.userData));
-    if (!folder.exists() && folder.mkpath(QStringLiteral("."))) {
-        CopyCalibration(folders);
-    }
+std::filesystem::file_time_type WrittenAt(const std::string& path) {
+    std::error_code ignored; // one that has gone is the oldest
+    return std::filesystem::last_write_time(path, ignored);
 }
 
 QString DocumentsFolder() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath();
+}
+
+QString ShareFolder() {
+    const QDir program(QCoreApplication::applicationDirPath());
+    return QDir::cleanPath(program.filePath(QStringLiteral(VERNACLE_SHARE)));
 }
 
 } // namespace
@@ -53,19 +65,64 @@ ProgramFolders SystemFolders() {
         .userData =
             QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation).toStdString(),
         .documents = DocumentsFolder().toStdString(),
+        .share = ShareFolder().toStdString(),
     };
 }
 
-std::string ProgramFile(const std::string& name) {
-    return ProgramFileIn(SystemFolders(), name);
+std::string ProgramFiles::PathOf(const std::string& name) {
+    if (chosen_.empty()) {
+        chosen_ = CanWriteIn(folders_.program) ? folders_.program : folders_.userData;
+    }
+    if (chosen_ == folders_.userData) {
+        QDir().mkpath(QString::fromStdString(chosen_)); // else the file's own failure tells
+    }
+    return PathIn(chosen_, name);
 }
 
-std::string ProgramFileIn(const ProgramFolders& folders, const std::string& name) {
-    if (CanWriteIn(folders.program)) {
-        return PathIn(folders.program, name);
+// The chosen one first.
+std::vector<std::string> ProgramFiles::Places(const std::string& name) {
+    const std::string chosen = PathOf(name);
+    const bool besideProgram = chosen_ == folders_.program;
+    return {chosen, PathIn(besideProgram ? folders_.userData : folders_.program, name)};
+}
+
+std::vector<std::string> ProgramFiles::OwnNewestFirst(const std::string& name) {
+    std::vector<std::string> files = Places(name);
+    std::erase_if(files, [](const std::string& file) { return !IsOwnFile(file); });
+    std::stable_sort(files.begin(), files.end(),
+                     [](const std::string& one, const std::string& other) {
+                         return WrittenAt(one) > WrittenAt(other);
+                     });
+    return files;
+}
+
+std::string ProgramFiles::NewestOf(const std::string& name) {
+    const std::vector<std::string> files = OwnNewestFirst(name);
+    return files.empty() ? PathOf(name) : files.front();
+}
+
+std::string ProgramFiles::Calibration() {
+    return PathOf(kCalibrationFile);
+}
+
+std::vector<std::string> ProgramFiles::Calibrations() {
+    std::vector<std::string> files = OwnNewestFirst(kCalibrationFile);
+    for (const std::string& place : Places(kCalibrationFile)) {
+        if (std::find(files.begin(), files.end(), place) == files.end()) {
+            files.push_back(place);
+        }
     }
-    MakeUserData(folders);
-    return PathIn(folders.userData, name);
+    files.push_back(PathIn(folders_.share, kCalibrationFile));
+    return files;
+}
+
+std::string ExamplesFolder() {
+    return ExamplesFolderIn(SystemFolders());
+}
+
+std::string ExamplesFolderIn(const ProgramFolders& folders) {
+    const std::string examples = PathIn(folders.share, kExamples);
+    return QFileInfo(QString::fromStdString(examples)).isDir() ? examples : std::string();
 }
 
 std::string PlotterFileName() {
@@ -78,14 +135,6 @@ std::string PlotterFileNameIn([[maybe_unused]] const ProgramFolders& folders) {
 #else
     return PathIn(folders.documents, "HPGLfile.HPGL");
 #endif
-}
-
-std::string FileFor(const std::string& name) {
-    return FileForIn(SystemFolders(), name);
-}
-
-std::string FileForIn(const ProgramFolders& folders, const std::string& name) {
-    return name == kCalibrationFile ? ProgramFileIn(folders, name) : name;
 }
 
 } // namespace vernacle

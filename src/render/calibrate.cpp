@@ -51,17 +51,20 @@ void ReadCalibration(const std::string& name) {
 }
 
 void ReadCalibrate() {
-    try {
-        ReadCalibration(kCalibrationFile);
-    } catch (const RunTimeError&) {
-        // Printing raises a factor that was never read, which shows on paper.
+    for (const std::string& file : Host.calibrationsToRead()) {
+        try {
+            ReadCalibration(file);
+            return;
+        } catch (const RunTimeError&) {
+            // The next one. Printing raises a factor that was never read, which shows on paper.
+        }
     }
 }
 
 void WriteCalibrate() {
     Design.DesignFileName = kCalibrationFile;
     try {
-        const auto sink = Host.openForOutput(Design.DesignFileName);
+        const auto sink = Host.openForOutput(Host.calibrationToWrite());
         sink->Write(CalibrationText());
         sink->Close();
     } catch (const RunTimeError&) {

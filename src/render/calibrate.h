@@ -8,14 +8,15 @@ namespace vernacle {
 
 class PrinterSurface;
 
-// Reads the two factors from "Calibrate.txt". A failure is not reported; it leaves the factors that
-// were not reached as they are.
+// Reads the two factors from the first of the calibration's files that has both. That there is none
+// is not reported; it leaves the factors that were not reached as they are.
 void ReadCalibrate();
 
 // The same from a file of that name; throws the failure.
 void ReadCalibration(const std::string& name);
 
-// Writes "Calibrate.txt" anew and leaves that name in DesignFileName. A failure is not reported.
+// Writes the calibration's file anew and leaves its bare name, "Calibrate.txt", in DesignFileName.
+// A failure is not reported.
 void WriteCalibrate();
 
 // Prints a square of 100 mm by the factors as they stand, a factor of 0 becoming 1. A failure is

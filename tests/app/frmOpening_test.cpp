@@ -4,6 +4,8 @@
 
 #include <QPixmap>
 
+#include <sys/stat.h>
+
 #include "platform/walk.h"
 
 namespace vernacle::test {
@@ -171,6 +173,26 @@ TEST_F(OpeningTest, LastSessionComesBack) {
     EXPECT_EQ(Design.DesignFileName, Path("LASTSESSION.VRN"));
     EXPECT_EQ(TitleOf(Page()), "Vernacle - Preview - " + Path("LASTSESSION.VRN"));
     EXPECT_TRUE(said.empty());
+}
+
+TEST_F(OpeningTest, LastSessionComesFromWhereItIsNewest) {
+    const std::string newest = WriteDesignFile("newest.VRN", 62);
+    Host.newestBesideProgram = [newest](const std::string&) { return newest; };
+    OpenOpening();
+    Click("cmdLastSession");
+    Settle();
+    EXPECT_EQ(Design.PlateWidth, 62);
+    EXPECT_EQ(Design.DesignFileName, newest);
+}
+
+TEST_F(OpeningTest, ALastSessionThatIsNoFileGoesOnWithTheDefaults) {
+    ASSERT_EQ(mkfifo(Path("LASTSESSION.VRN").c_str(), 0600), 0);
+    OpenOpening();
+    Click("cmdLastSession");
+    Settle();
+    ASSERT_EQ(said.size(), 2U);
+    EXPECT_TRUE(said[1].ends_with("ReadWrite 407")) << said[1];
+    EXPECT_EQ(PageName(), "frmPreview");
 }
 
 TEST_F(OpeningTest, MissingLastSessionGoesOnWithTheDefaults) {

@@ -3,6 +3,7 @@
 
 #include <limits>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "core/bytesink.h"
@@ -64,7 +65,6 @@ TEST_F(ReadWriteTest, TheLastSessionStandsBesideTheProgram) {
     Host.besideProgram = [this](const std::string& name) { return Path("beside-" + name); };
     Design.DesignFileName = Path("plate.vrn");
     SaveLastSession();
-    EXPECT_EQ(LastSessionName(), Path("beside-LASTSESSION.VRN"));
     EXPECT_EQ(Design.DesignFileName, Path("beside-LASTSESSION.VRN"));
     EXPECT_TRUE(Exists("beside-LASTSESSION.VRN"));
     EXPECT_FALSE(Exists("plate.vrn"));
@@ -105,6 +105,87 @@ TEST_F(ReadWriteTest, ReportsABackupAndALastSessionThatCannotBeWritten) {
     SaveLastSession();
     EXPECT_EQ(said, kNotWritten);
     EXPECT_EQ(Design.DesignFileName, LastSessionName());
+}
+
+TEST_F(ReadWriteTest, TellsWhetherTheDesignIsWritten) {
+    Design.DesignFileName = Path("plate.vrn");
+    EXPECT_TRUE(WriteDesign());
+    EXPECT_TRUE(SaveLastSession());
+    Design.DesignFileName = "/dev/full";
+    EXPECT_FALSE(WriteDesign());
+    Host.besideProgram = [](const std::string&) { return "/dev/full"; };
+    EXPECT_FALSE(SaveLastSession());
+}
+
+// For the next start it does not matter where the next session will be kept.
+TEST_F(ReadWriteTest, TheLastSessionIsReadWhereItIsNewest) {
+    Host.newestBesideProgram = [this](const std::string& name) { return Path("newest-" + name); };
+    EXPECT_EQ(LastSessionName(), Path("newest-LASTSESSION.VRN"));
+    SaveLastSession();
+    EXPECT_EQ(Design.DesignFileName, Path("LASTSESSION.VRN"));
+}
+
+TEST_F(ReadWriteTest, ASessionIsKeptWithoutAWordAndWithNothingChanged) {
+    Design.DesignFileName = Path("plate.vrn");
+    Design.PlateWidth = 61.5F;
+    Design.DrawGraphic = "N";
+    Design.GraphicFileName = "/pictures/logo.bmp";
+    EXPECT_TRUE(KeepLastSession());
+    EXPECT_NE(ReadFile("LASTSESSION.VRN").find("Plate width: 61.5\r\n"), std::string::npos);
+    EXPECT_EQ(ReadFile("LASTSESSION.VRN").find("Filename: " + Path("LASTSESSION.VRN")), 0U);
+    EXPECT_EQ(Design.DesignFileName, Path("plate.vrn"));
+    EXPECT_EQ(Design.GraphicFileName, "/pictures/logo.bmp") << "which writing empties";
+    Host.besideProgram = [](const std::string&) { return "/dev/full"; };
+    EXPECT_FALSE(KeepLastSession());
+    EXPECT_EQ(Design.DesignFileName, Path("plate.vrn"));
+    EXPECT_TRUE(said.empty());
+}
+
+// A design's lines read as factors would make every later plate too large.
+TEST_F(ReadWriteTest, TheCalibrationIsNotWrittenOverByAnyName) {
+    const std::string own = WriteFile("Calibrate.txt", "factors");
+    const std::string shipped = WriteFile("shipped.txt", "factors");
+    Host.calibrationsToRead = [=] { return std::vector<std::string>{own, shipped}; };
+    std::filesystem::create_symlink(own, Path("link.VRN"));
+    std::filesystem::create_hard_link(own, Path("hard.VRN"));
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(Path(""));
+    for (const std::string& name :
+         {own, Path("./Calibrate.txt"), Path("link.VRN"), Path("hard.VRN"), shipped,
+          std::string("Calibrate.txt"), std::string("./shipped.txt")}) {
+        said.clear();
+        Design.DesignFileName = name;
+        EXPECT_FALSE(WriteDesign());
+        EXPECT_EQ(said, kNotWritten) << name;
+        EXPECT_EQ(ReadFile("Calibrate.txt"), "factors") << name;
+        EXPECT_EQ(ReadFile("shipped.txt"), "factors") << name;
+        EXPECT_EQ(Design.DesignFileName, name);
+    }
+    std::filesystem::remove(own);
+    Design.DesignFileName = "Calibrate.txt";
+    EXPECT_FALSE(WriteDesign()) << "nor is one made of a design";
+    EXPECT_FALSE(Exists("Calibrate.txt"));
+    std::filesystem::current_path(before);
+}
+
+TEST_F(ReadWriteTest, TheBareNameThatACalibrationLeavesIsAFileOfTheWorkingFolder) {
+    std::filesystem::create_directory(Path("work"));
+    WriteFile("Calibrate.txt", "factors");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(Path("work"));
+    Design.DesignFileName = "Calibrate.txt";
+    EXPECT_TRUE(WriteDesign());
+    std::filesystem::current_path(before);
+    EXPECT_EQ(ReadFile("work/Calibrate.txt").find("Filename: Calibrate.txt\r\n"), 0U);
+    EXPECT_EQ(ReadFile("Calibrate.txt"), "factors");
+    EXPECT_TRUE(said.empty());
+}
+
+TEST_F(ReadWriteTest, APipeIsADesignThatCannotBeOpened) {
+    ASSERT_EQ(mkfifo(Path("plate.vrn").c_str(), 0600), 0);
+    ReadDesign(Path("plate.vrn"));
+    ASSERT_EQ(said.size(), 2U);
+    EXPECT_TRUE(said[1].ends_with("ReadWrite 407")) << said[1];
 }
 
 TEST_F(ReadWriteTest, ReportsASizeLimit) {

@@ -24,6 +24,8 @@ TEST_F(SeamTest, TheDefaultHostUsesPlainFiles) {
     EXPECT_THROW(host.readFile(Path("none")), FileFailure);
     EXPECT_THROW(host.openForOutput(Path("none/file")), FileFailure);
     EXPECT_NE(host.besideProgram("LASTSESSION.VRN").find("LASTSESSION.VRN"), std::string::npos);
+    EXPECT_EQ(host.newestBesideProgram("A"), host.besideProgram("A"));
+    EXPECT_EQ(host.calibrationsToRead(), std::vector{host.calibrationToWrite()});
 }
 
 TEST_F(SeamTest, TheDefaultHostTellsTheTime) {

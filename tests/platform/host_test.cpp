@@ -5,6 +5,13 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <array>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "core/runtimeerror.h"
 #include "support/formtest.h"
 
 namespace vernacle::test {
@@ -65,9 +72,41 @@ TEST_F(HostTest, TheLastSessionStandsBesideTheProgram) {
     EXPECT_EQ(name, QCoreApplication::applicationDirPath().toStdString() + "/LASTSESSION.VRN");
 }
 
-TEST_F(HostTest, TheCalibrationFileIsFoundByItsBareName) {
-    EXPECT_NE(desktop.readFile("Calibrate.txt").find("Vernacle calibration file"),
+TEST_F(HostTest, ThePlaceOfTheSessionsStaysTheSame) {
+    EXPECT_EQ(desktop.besideProgram("A"), desktop.besideProgram("A"));
+    EXPECT_EQ(desktop.newestBesideProgram("none-such"), desktop.besideProgram("none-such"));
+}
+
+TEST_F(HostTest, TheCalibrationThatCameWithTheProgramIsReadLast) {
+    EXPECT_EQ(desktop.calibrationToWrite(), desktop.besideProgram("Calibrate.txt"));
+    EXPECT_NE(desktop.readFile(desktop.calibrationsToRead().back()).find("Vernacle calibration"),
               std::string::npos);
+}
+
+// The name that a calibration leaves to the design is no way into the program's own folder.
+TEST_F(HostTest, ABareNameStandsInTheWorkingFolder) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(Path(""));
+    const auto sink = desktop.openForOutput("Calibrate.txt");
+    sink->Write("x");
+    sink->Close();
+    EXPECT_EQ(desktop.readFile("Calibrate.txt"), "x");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(ReadFile("Calibrate.txt"), "x");
+}
+
+TEST_F(HostTest, APipeThatNobodyReadsCannotBeOpened) {
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    EXPECT_THROW(desktop.openForOutput(Path("pipe")), FileFailure);
+    EXPECT_THROW(desktop.readFile(Path("pipe")), FileFailure);
+    const int reader = open(Path("pipe").c_str(), O_RDONLY | O_NONBLOCK);
+    const auto sink = desktop.openForOutput(Path("pipe"));
+    sink->Write("through");
+    sink->Close();
+    std::array<char, 16> bytes{};
+    EXPECT_EQ(read(reader, bytes.data(), bytes.size()), 7);
+    EXPECT_STREQ(bytes.data(), "through");
+    close(reader);
 }
 
 TEST_F(HostTest, OtherNamesArePaths) {

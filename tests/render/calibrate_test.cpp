@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include <sys/stat.h>
+
 #include "core/runtimeerror.h"
 #include "core/seam.h"
 #include "rendertest.h"
@@ -95,6 +97,55 @@ TEST_F(CalibrateTest, MissingFileIsNotReported) {
     EXPECT_TRUE(said.empty());
 }
 
+struct OrderRow {
+    const char* name;
+    const char* first; // nothing: there is no such file
+    const char* second;
+    float x;
+    float y;
+};
+
+constexpr const char* kWhole = "h\nd\n1.25\n.75\n";
+
+// Both factors are 0 before.
+constexpr OrderRow kOrder[] = {
+    {"the first counts", kWhole, "h\nd\n2\n2\n", 1.25F, 0.75F},
+    {"zeros are numbers", "h\nd\n0\nwide\n", kWhole, 0, 0},
+    {"no first", nullptr, kWhole, 1.25F, 0.75F},
+    {"an empty first", "", kWhole, 1.25F, 0.75F},
+    {"a first without numbers", "h\nd\n", kWhole, 1.25F, 0.75F},
+    {"a first with one number", "h\nd\n2\n", kWhole, 1.25F, 0.75F},
+    {"a first beyond a float", "h\nd\n1e99\n2\n", kWhole, 1.25F, 0.75F},
+    {"no second", "h\nd\n2\n", nullptr, 2, 0},
+    {"neither", nullptr, nullptr, 0, 0},
+};
+
+TEST_F(CalibrateTest, OneThatIsNotWholeIsReadFromTheNextPlace) {
+    for (const OrderRow& row : kOrder) {
+        for (const auto& [name, text] : {std::pair{"first", row.first}, {"second", row.second}}) {
+            std::filesystem::remove(Path(name));
+            if (text) {
+                WriteFile(name, text);
+            }
+        }
+        Host.calibrationsToRead = [this] { return std::vector{Path("first"), Path("second")}; };
+        SetFactors(0, 0);
+        ReadCalibrate();
+        EXPECT_EQ(Design.CalibrationX, row.x) << row.name;
+        EXPECT_EQ(Design.CalibrationY, row.y) << row.name;
+    }
+    EXPECT_TRUE(said.empty());
+}
+
+TEST_F(CalibrateTest, APipeIsAFileThatCannotBeOpened) {
+    ASSERT_EQ(mkfifo(Path("first").c_str(), 0600), 0);
+    WriteFile("second", kWhole);
+    Host.calibrationsToRead = [this] { return std::vector{Path("first"), Path("second")}; };
+    SetFactors(0, 0);
+    ReadCalibrate();
+    EXPECT_EQ(Design.CalibrationX, 1.25F);
+}
+
 TEST_F(CalibrateTest, ReadingByNamePassesTheFailureOn) {
     EXPECT_THROW(ReadCalibration(Path("none.txt")), RunTimeError);
     ReadCalibration(WriteFile("other.txt", "h\nd\n1.25\n1.5\n"));
@@ -111,7 +162,7 @@ TEST_F(CalibrateTest, WriteFailureIsNotReported) {
             return OpenFileSink(place);
         };
         WriteCalibrate();
-        EXPECT_EQ(asked, "Calibrate.txt");
+        EXPECT_EQ(asked, Path("Calibrate.txt"));
         EXPECT_TRUE(said.empty());
         EXPECT_EQ(Design.DesignFileName, "Calibrate.txt");
     }

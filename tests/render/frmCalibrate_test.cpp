@@ -8,6 +8,7 @@
 #include "core/seam.h"
 #include "platform/entrybox.h"
 #include "platform/walk.h"
+#include "render/calibrate.h"
 #include "support/answers.h"
 #include "support/formtest.h"
 #include "support/pdfreader.h"
@@ -251,13 +252,41 @@ TEST_F(CalibratePageTest, ReturnWritesTheSevenLines) {
     EXPECT_TRUE(said.empty());
 }
 
-// The design has no name of its own any more: a save that keeps the name goes over the factors.
-TEST_F(CalibratePageTest, NextSaveWithoutANameGoesToThatFile) {
+// The design has no name of its own any more: a save that keeps the name goes to a file of that
+// name in the working folder.
+TEST_F(CalibratePageTest, NextSaveWithoutANameGoesToTheWorkingFolder) {
+    std::filesystem::create_directory(Path("work"));
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(Path("work"));
     SetFactors(1, 1);
     Measure("80", "125");
+    const std::string factors = ReadFile("Calibrate.txt");
     Answer(Cancel);
     Click("Save");
-    EXPECT_TRUE(ReadFile("Calibrate.txt").find("\r\nPlate width:") != std::string::npos);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(ReadFile("Calibrate.txt"), factors);
+    EXPECT_NE(ReadFile("work/Calibrate.txt").find("\r\nPlate width:"), std::string::npos);
+    EXPECT_TRUE(said.empty());
+}
+
+// Where that is the factors' own file they stay, and the user is told.
+TEST_F(CalibratePageTest, NextSaveWithoutANameDoesNotGoOverTheFactors) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(Path(""));
+    SetFactors(1, 1);
+    Measure("80", "125");
+    const std::string factors = ReadFile("Calibrate.txt");
+    Answer(Cancel);
+    Click("Save");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(said, (std::vector<std::string>{
+                        "beep", "failure: The Vernacle file was not written correctly.\n"
+                                "ReadWrite 364"}));
+    EXPECT_EQ(ReadFile("Calibrate.txt"), factors);
+    SetFactors(0, 0);
+    ReadCalibrate();
+    EXPECT_EQ(Design.CalibrationX, 1.25F);
+    EXPECT_EQ(Design.CalibrationY, 0.8F);
 }
 
 TEST_F(CalibratePageTest, ReturnWithoutMeasuresWritesToo) {

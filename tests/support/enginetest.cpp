@@ -29,12 +29,14 @@ EngineTest::EngineTest() : folder_(MakeFolder()) {
     Drawing = DrawingState{};
     Host = DefaultHost();
     const auto place = [this](const std::string& name) {
-        const bool bare = name == "Calibrate.txt" || name == "Backup.DAT";
-        return bare ? Path(name) : name;
+        return name == "Backup.DAT" ? Path(name) : name;
     };
     Host.readFile = [place](const std::string& name) { return ReadWholeFile(place(name)); };
     Host.openForOutput = [place](const std::string& name) { return OpenFileSink(place(name)); };
-    Host.besideProgram = [this](const std::string& name) { return Path(name); };
+    Host.besideProgram =
+        Host.newestBesideProgram = [this](const std::string& name) { return Path(name); };
+    Host.calibrationToWrite = [this] { return Path("Calibrate.txt"); };
+    Host.calibrationsToRead = [this] { return std::vector<std::string>{Path("Calibrate.txt")}; };
     Host.localDateTime = [] { return kLocalTime; };
     Host.isoDateTime = [] { return kIsoTime; };
     Host.beep = [this] { said.emplace_back("beep"); };
