@@ -76,13 +76,20 @@ void frmExit::cmdCancelClicked() {
     reject();
 }
 
+// Who was told that the session could not be kept may mend it, or go all the same.
 void frmExit::cmdExitClicked() {
-    SaveLastSession();
-    cmdCancel_->setEnabled(false);
-    cmdExit_->setEnabled(false);
-    ShowNotice();
-    Delay(kNoticeSeconds);
-    Label1_->hide();
+    const std::string name = Design.DesignFileName;
+    if (SaveLastSession()) {
+        cmdCancel_->setEnabled(false);
+        cmdExit_->setEnabled(false);
+        ShowNotice();
+        Delay(kNoticeSeconds);
+        Label1_->hide();
+    } else if (!failed_) {
+        failed_ = true;
+        Design.DesignFileName = name;
+        return;
+    }
     accept();
     EndProcess();
 }

@@ -24,6 +24,7 @@ private:
     QLabel* Label1_;
     QPushButton* cmdCancel_;
     QPushButton* cmdExit_;
+    bool failed_ = false; // to keep the session, when Exit was pressed before
 };
 
 } // namespace vernacle

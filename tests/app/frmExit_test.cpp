@@ -190,13 +190,80 @@ TEST_F(ExitTest, NoticeFollowsTheScreensHeight) {
     }
 }
 
-TEST_F(ExitTest, EndsEvenWhereTheSessionCannotBeKept) {
-    Host.besideProgram = [this](const std::string& name) { return Path("none/" + name); };
-    ConfirmExit();
-    EXPECT_EQ(said, (std::vector<std::string>{
-                        "beep", "failure: The Vernacle file was not written correctly.\n"
-                                "ReadWrite 364"}));
+// Exit is pressed on a page that cannot keep the session; then goes on.
+class FailedExitTest : public ExitTest {
+protected:
+    FailedExitTest() {
+        Host.besideProgram = [this](const std::string& name) { return Path("none/" + name); };
+        WatchWaits();
+    }
+
+    void FailToExit(const DialogAnswer& then) {
+        Exit([=, this](QWidget& form) {
+            Click(On<QPushButton>(form, "cmdExit"));
+            EXPECT_TRUE(form.isVisible());
+            EXPECT_TRUE(On<QPushButton>(form, "cmdCancel").isEnabled());
+            EXPECT_TRUE(On<QPushButton>(form, "cmdExit").isEnabled());
+            EXPECT_FALSE(On<QLabel>(form, "Label1").isVisible());
+            EXPECT_EQ(On<QLabel>(form, "Label1").text(), QString());
+            EXPECT_EQ(said, notKept);
+            EXPECT_EQ(waited, 0);
+            said.clear();
+            then(form);
+        });
+    }
+
+    const std::vector<std::string> notKept = {
+        "beep", "failure: The Vernacle file was not written correctly.\nReadWrite 364"};
+};
+
+TEST_F(FailedExitTest, ASecondExitEndsAllTheSame) {
+    FailToExit([this](QWidget& form) {
+        Click(On<QPushButton>(form, "cmdExit"));
+        EXPECT_FALSE(form.isVisible());
+    });
+    EXPECT_EQ(said, notKept) << "it was tried again";
+    EXPECT_EQ(waited, 0) << "for nothing";
     EXPECT_TRUE(TakeProcessEnd());
+}
+
+TEST_F(FailedExitTest, ASecondExitKeepsTheSessionWhereThereIsRoomNow) {
+    Design.PlateWidth = 61;
+    FailToExit([this](QWidget& form) {
+        std::filesystem::create_directory(Path("none"));
+        Click(On<QPushButton>(form, "cmdExit"));
+    });
+    EXPECT_TRUE(said.empty());
+    EXPECT_EQ(waited, 2) << "for the notice";
+    EXPECT_EQ(WidthIn("none/LASTSESSION.VRN"), 61);
+    EXPECT_TRUE(TakeProcessEnd());
+}
+
+TEST_F(FailedExitTest, TheWayBackLeadsToTheDesignUnderItsName) {
+    for (const char* button : {"cmdCancel", ""}) {
+        FailToExit([&](QWidget& form) {
+            if (*button != '\0') {
+                Click(On<QPushButton>(form, button));
+            } else {
+                CloseByUser(form);
+            }
+        });
+        EXPECT_FALSE(TakeProcessEnd());
+        EXPECT_EQ(PageName(), "frmPreview");
+        EXPECT_EQ(Design.DesignFileName, "/designs/mine.VRN");
+    }
+}
+
+TEST_F(FailedExitTest, TheNextVisitAsksAnew) {
+    FailToExit([](QWidget& form) { Cancel(form); });
+    FailToExit([](QWidget& form) { Cancel(form); });
+    EXPECT_FALSE(TakeProcessEnd());
+}
+
+// A full disk takes a file's name and not its bytes.
+TEST_F(FailedExitTest, AFullDiskIsAFailureToo) {
+    Host.besideProgram = [](const std::string&) { return "/dev/full"; };
+    FailToExit([](QWidget& form) { Cancel(form); });
 }
 
 TEST_F(ExitTest, NextStartBringsTheDesignBack) {
