@@ -4,6 +4,7 @@
 
 #include "app/forms.h"
 #include "platform/application.h"
+#include "platform/endsignals.h"
 #include "platform/host.h"
 
 int main(int argc, char** argv) {
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
     Application application(argc, argv);
     Host = DesktopHost();
     SetForms(ProgramForms());
+    KeepSessionAtTheSystemsEnd();
     // From inside the event loop, where failures have their handler.
     QMetaObject::invokeMethod(
         &application, [] { GoToPage("frmOpening"); }, Qt::QueuedConnection);

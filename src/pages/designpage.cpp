@@ -128,7 +128,7 @@ void DesignPage::AboutClicked() {
 }
 
 void DesignPage::CloseBoxClicked() {
-    if (traits_.closeBox == CloseBox::SavesSession) {
+    if (KeepsSession()) {
         SaveSessionAndEnd();
     } else {
         JustEnd();

@@ -35,6 +35,9 @@ struct PageTraits {
 class DesignPage : public Page {
     Q_OBJECT
 
+public:
+    bool KeepsSession() const override { return traits_.closeBox == CloseBox::SavesSession; }
+
 protected:
     // The traits must outlive the page.
     explicit DesignPage(const PageTraits& traits);

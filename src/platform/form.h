@@ -15,6 +15,9 @@ class Page : public QWidget {
 public:
     explicit Page(const char* name);
 
+    // Whether its close box keeps the session.
+    virtual bool KeepsSession() const { return true; }
+
 protected:
     // The column that the page's parts stand in, from top to bottom.
     QVBoxLayout& Body() { return *body_; }

@@ -1,6 +1,7 @@
 #include "platform/session.h"
 
 #include "core/readwrite.h"
+#include "platform/form.h"
 #include "platform/walk.h"
 
 namespace vernacle {
@@ -13,6 +14,11 @@ void SaveSessionAndEnd() {
 void JustEnd() {
     UnloadPage();
     EndProcess();
+}
+
+bool KeepSession() {
+    const auto* page = qobject_cast<const Page*>(CurrentPage());
+    return !page || !page->KeepsSession() || KeepLastSession();
 }
 
 } // namespace vernacle

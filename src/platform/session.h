@@ -1,4 +1,4 @@
-// The end of a session from a page's close box.
+// The end of a session from a page's close box, or without one.
 #pragma once
 
 namespace vernacle {
@@ -8,5 +8,9 @@ void SaveSessionAndEnd();
 
 // Ends it without saving.
 void JustEnd();
+
+// Keeps the session where the close box of the page that is shown would keep it, without a word and
+// with nothing changed: nobody may be there to answer. False if that failed.
+bool KeepSession();
 
 } // namespace vernacle

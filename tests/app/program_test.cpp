@@ -7,6 +7,7 @@
 
 #include "support/display.h"
 #include "support/enginetest.h"
+#include "support/sourcetree.h"
 
 namespace vernacle::test {
 
@@ -20,7 +21,8 @@ bool Has(const std::string& text, const std::string& part) {
     return text.find(part) != text.npos;
 }
 
-// The program stands in a folder of its own, as an installed one with its files beside it.
+// The program stands in a folder of its own, which its user may write to, and what comes with it
+// where an installed one has it.
 class ProgramTest : public EngineTest {
 protected:
     void SetUp() override {
@@ -30,17 +32,22 @@ protected:
         }
         std::filesystem::create_directories(Path("program"));
         std::filesystem::create_directories(Path("home"));
-        for (const char* file : {VERNACLE_PROGRAM, VERNACLE_GALLERY, VERNACLE_CALIBRATION}) {
+        std::filesystem::create_directories(Path("share/vernacle"));
+        for (const char* file : {VERNACLE_PROGRAM, VERNACLE_GALLERY}) {
             const std::filesystem::path source(file);
             std::filesystem::copy_file(source, Path("program") / source.filename());
         }
+        std::filesystem::copy_file(SourcePath("packaging/Calibrate.txt"),
+                                   Path("share/vernacle/Calibrate.txt"));
         display = std::make_unique<Display>();
     }
 
+    // In the folder that the program stands in.
     void Start(const std::string& program, const std::vector<std::string>& arguments = {}) {
         std::vector<std::string> words = {Path("program/" + program)};
         words.insert(words.end(), arguments.begin(), arguments.end());
         std::vector<std::string> environment = display->Environment();
+        environment.insert(environment.begin(), {"-C", Path("program")});
         environment.insert(environment.end(),
                            {"HOME=" + Path("home"), "XDG_CONFIG_HOME=" + Path("home/.config"),
                             "XDG_DATA_HOME=" + Path("home/.local"),
@@ -194,6 +201,49 @@ TEST_F(ProgramTest, ADesignIsOpenedSavedAndLeft) {
     display->Press("alt+F4");
     EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
     EXPECT_TRUE(Exists("program/LASTSESSION.VRN"));
+}
+
+// The save is primed with the name that the calibration left, in the folder of the factors.
+TEST_F(ProgramTest, ACancelledSaveAfterACalibrationLeavesTheFactors) {
+    Start("vernacle");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
+    ChooseLastSession();
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // there is none yet, says its box
+    display->Press("Return");
+    ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
+    ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
+    ASSERT_NO_FATAL_FAILURE(Calibrate());
+    const std::string factors = ReadFile("program/Calibrate.txt");
+    EXPECT_TRUE(Has(factors, "\r\n1.25\r\n.8\r\n"));
+    display->Press("ctrl+s");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Save Vernacle file"));
+    display->Press("Escape");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // that it was not written, says its box
+    display->Press("Return");
+    ASSERT_NO_FATAL_FAILURE(ExpectPage("Plate design"));
+    EXPECT_EQ(ReadFile("program/Calibrate.txt"), factors);
+}
+
+// Even while a dialog stands open, which would save under the design's name when it is cancelled.
+TEST_F(ProgramTest, ASignalKeepsTheSession) {
+    std::filesystem::copy_file(VERNACLE_EXAMPLE, Path("plate.VRN"));
+    const std::string before = ReadFile("plate.VRN");
+    Start("vernacle");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
+    display->Press("ctrl+o");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Get Vernacle File"));
+    display->Type(Path("plate.VRN"));
+    display->Press("Return");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + Path("plate.VRN")));
+    display->Press("ctrl+1");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Plate design - " + Path("plate.VRN")));
+    ReplaceText("97.5");
+    display->Press("ctrl+s");
+    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Save Vernacle file"));
+    process->Send(SIGTERM);
+    EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
+    EXPECT_TRUE(Has(ReadFile("program/LASTSESSION.VRN"), "\r\nPlate width: 97.5\r\n"));
+    EXPECT_EQ(ReadFile("plate.VRN"), before);
 }
 
 TEST_F(ProgramTest, ARunTimeErrorShowsItsBoxAndEndsTheProcessWithItsStatus) {

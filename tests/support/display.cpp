@@ -88,6 +88,10 @@ bool BackgroundProgram::IsRunning() {
     return !status_;
 }
 
+void BackgroundProgram::Send(int signal) const {
+    kill(process_, signal);
+}
+
 std::optional<int> BackgroundProgram::Wait(double seconds) {
     WaitUntil([this] { return !IsRunning(); }, seconds);
     return status_;

@@ -24,6 +24,8 @@ public:
 
     bool IsRunning();
 
+    void Send(int signal) const;
+
     // The exit status once it has ended, minus the signal if one ended it; nothing if it is still
     // running after that time.
     std::optional<int> Wait(double seconds);

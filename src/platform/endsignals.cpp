@@ -1,0 +1,99 @@
+#include "platform/endsignals.h"
+
+#include <cstdlib>
+#include <exception>
+
+#include <QGuiApplication>
+#include <QSessionManager>
+#include <QSocketNotifier>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+#include "platform/session.h"
+
+namespace vernacle {
+
+namespace {
+
+#ifdef Q_OS_UNIX
+
+constexpr int kEndSignals[] = {SIGTERM, SIGINT, SIGHUP};
+
+// A handler may do next to nothing: it writes a byte here, which the event loop finds.
+int pipeEnds[2] = {-1, -1};
+
+extern "C" void PassOn(int /*signal*/) {
+    const int error = errno;
+    const char byte = 0;
+    static_cast<void>(!::write(pipeEnds[1], &byte, 1)); // a full pipe has said it already
+    errno = error;
+}
+
+// Nothing else of the program runs any more: a dialog that stands open would come back as cancelled
+// to a routine that goes on, as one that saves the design does.
+void EndAtOnce() {
+    bool kept = false;
+    try {
+        kept = KeepSession();
+    } catch (const std::exception&) { // no memory: the end comes all the same
+    }
+    std::_Exit(kept ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
+bool OpenPipe() {
+    if (::pipe(pipeEnds) != 0) {
+        return false;
+    }
+    for (const int end : pipeEnds) {
+        ::fcntl(end, F_SETFD, FD_CLOEXEC);
+        ::fcntl(end, F_SETFL, O_NONBLOCK);
+    }
+    return true;
+}
+
+void Handle(int signal) {
+    struct sigaction action {};
+    ::sigaction(signal, nullptr, &action);
+    if (action.sa_handler == SIG_IGN) {
+        return;
+    }
+    action = {};
+    action.sa_handler = PassOn;
+    action.sa_flags = SA_RESTART;
+    ::sigemptyset(&action.sa_mask);
+    ::sigaction(signal, &action, nullptr);
+}
+
+void HandleSignals() {
+    if (!OpenPipe()) {
+        return; // they end the program as ever
+    }
+    auto* notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, EndAtOnce);
+    for (const int signal : kEndSignals) {
+        Handle(signal);
+    }
+}
+
+#else
+
+void HandleSignals() {}
+
+#endif
+
+} // namespace
+
+// A session manager asks at times when nothing ends; where it does end it closes the pages next.
+void KeepSessionAtTheSystemsEnd() {
+    HandleSignals();
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp,
+                     [](QSessionManager& /*manager*/) { KeepSession(); });
+}
+
+} // namespace vernacle
