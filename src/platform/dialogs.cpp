@@ -1,9 +1,16 @@
 #include "platform/dialogs.h"
 
+#include <QApplication>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QUrl>
 
+#include "core/design.h"
+#include "platform/programfiles.h"
 #include "surfaces/colours.h"
 
 namespace vernacle {
@@ -19,35 +26,111 @@ void SetFilter(QFileDialog& dialog, const char* filter) {
     dialog.setNameFilter(parts.first() + QStringLiteral(" (%1)").arg(patterns));
 }
 
-void Prepare(QFileDialog& dialog, const char* name, const FileQuestion& question) {
-    dialog.setObjectName(QLatin1String(name));
-    SetFilter(dialog, question.filter);
-    dialog.setDefaultSuffix(QLatin1String(question.ending));
+// The toolkit's dialog takes what its list has selected before what its box says, and lets go of
+// the selection only while the box has the focus, which a window that has just come up may get
+// later than its first keys. Here the name that was typed counts.
+class FileDialog : public QFileDialog {
+public:
+    FileDialog(QWidget* parent, const FileQuestion& question, const char* name)
+        : QFileDialog(parent, QString::fromUtf8(question.title)) {
+        setObjectName(QLatin1String(name));
+        SetFilter(*this, question.filter);
+        setDefaultSuffix(QLatin1String(question.ending));
+        setFileMode(QFileDialog::AnyFile);
+        nameBox_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        list_ = findChild<QListView*>(QStringLiteral("listView"));
+        if (nameBox_) { // none in the desktop's own dialog
+            nameBox_->installEventFilter(this);
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool isKey =
+            event->type() == QEvent::KeyPress || event->type() == QEvent::InputMethod;
+        if (watched == nameBox_ && isKey && !nameBox_->hasFocus()) {
+            QApplication::setActiveWindow(this); // a window that gets keys has them
+        }
+        return QFileDialog::eventFilter(watched, event);
+    }
+
+protected:
+    void accept() override {
+        if (list_ && nameBox_ && !nameBox_->text().isEmpty() && nameBox_->text() != Selected()) {
+            list_->selectionModel()->clearSelection();
+        }
+        QFileDialog::accept();
+    }
+
+private:
+    QString Selected() const {
+        return list_->selectionModel()->selectedRows().value(0).data().toString();
+    }
+
+    QLineEdit* nameBox_ = nullptr;
+    QListView* list_ = nullptr;
+};
+
+// Where a file was chosen last in this run.
+QString& LastFolder() {
+    static QString folder;
+    return folder;
 }
 
-std::string Chosen(const QFileDialog& dialog) {
-    return dialog.selectedFiles().value(0).toStdString();
+// That of the design, which may have come without a dialog.
+QString StartFolder() {
+    const QFileInfo design(QString::fromStdString(Design.DesignFileName));
+    if (design.isAbsolute() && design.dir().exists()) {
+        return design.path();
+    }
+    return QFileInfo(LastFolder()).isDir() ? LastFolder()
+                                           : QString::fromStdString(SystemFolders().documents);
+}
+
+// The places at the dialog's side, with those that a user of plates goes to.
+QList<QUrl> WithOurPlaces(QList<QUrl> places) {
+    for (const std::string& folder : {SystemFolders().documents, ExamplesFolder()}) {
+        const QUrl place = QUrl::fromLocalFile(QString::fromStdString(folder));
+        if (!folder.empty() && !places.contains(place)) {
+            places << place;
+        }
+    }
+    return places;
+}
+
+// The name that was chosen; empty after a cancel.
+std::string Ask(QFileDialog& dialog) {
+    const QList<QUrl> places = dialog.sidebarUrls();
+    dialog.setSidebarUrls(WithOurPlaces(places));
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    dialog.setSidebarUrls(places); // the toolkit keeps them for all programs of this user
+    if (!accepted) {
+        return {};
+    }
+    const QString chosen = dialog.selectedFiles().value(0);
+    LastFolder() = QFileInfo(chosen).absolutePath();
+    return chosen.toStdString();
 }
 
 } // namespace
 
+// A missing file is the reader's to report.
 std::string AskForFileToOpen(QWidget* parent, const FileQuestion& question) {
-    QFileDialog dialog(parent, QString::fromUtf8(question.title));
-    Prepare(dialog, "dlgOpen", question);
-    dialog.setFileMode(QFileDialog::AnyFile); // a missing file is the reader's to report
-    return dialog.exec() == QDialog::Accepted ? Chosen(dialog) : std::string();
+    FileDialog dialog(parent, question, "dlgOpen");
+    dialog.setDirectory(StartFolder());
+    return Ask(dialog);
 }
 
 std::string AskForFileToSave(QWidget* parent, const FileQuestion& question,
                              const std::string& name) {
-    QFileDialog dialog(parent, QString::fromUtf8(question.title));
-    Prepare(dialog, "dlgSave", question);
+    FileDialog dialog(parent, question, "dlgSave");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDirectory(StartFolder());
     if (!name.empty()) {
-        dialog.selectFile(QString::fromStdString(name));
+        const QFileInfo file(QString::fromStdString(name));
+        dialog.selectFile(file.dir().exists() ? file.filePath() : file.fileName());
     }
-    return dialog.exec() == QDialog::Accepted ? Chosen(dialog) : name;
+    const std::string chosen = Ask(dialog);
+    return chosen.empty() ? name : chosen;
 }
 
 std::string AskForFont(QWidget* parent, const char* title, const std::string& family) {

@@ -1,5 +1,6 @@
 // The platform's dialogs, named by what they are for. Each returns what it then holds: a cancelled
-// one gives back what it was opened with.
+// one gives back what it was opened with. Those for files open beside the design, else where a file
+// was chosen before, else among the documents, with the examples one click away.
 #pragma once
 
 #include <string>

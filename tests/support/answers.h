@@ -7,9 +7,7 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QItemSelectionModel>
 #include <QLineEdit>
-#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -33,17 +31,6 @@ inline DialogAnswer TypeFile(const std::string& name) {
             ADD_FAILURE() << "no file dialog: " << dialog.metaObject()->className();
             Cancel(dialog);
             return;
-        }
-        // As for a user who types when the list is there: it selects the file that the dialog holds
-        // as soon as it has read the folder, and lets go of it for what is typed.
-        constexpr int kEnoughMs = 200;
-        const auto* selection = dialog.findChild<QListView*>()->selectionModel();
-        dialog.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
-        edit->setFocus();
-        if (!edit->text().isEmpty()) {
-            static_cast<void>(
-                QTest::qWaitFor([selection] { return selection->hasSelection(); }, kEnoughMs));
         }
         edit->setText(QString::fromStdString(name));
         dynamic_cast<QDialog&>(dialog).accept();
