@@ -36,6 +36,7 @@ void CurveHandle::mousePressEvent(QMouseEvent* event) {
     dragged_ = true;
     home_ = pos();
     raise();
+    setFocus(); // for the key that ends the drag
     events_.pressed();
 }
 
@@ -62,6 +63,11 @@ void CurveHandle::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void CurveHandle::keyPressEvent(QKeyEvent* event) {
+    if (dragged_ && event->matches(QKeySequence::Cancel)) {
+        dragged_ = false;
+        move(home_);
+        return;
+    }
     const int across = (event->key() == Qt::Key_Right ? 1 : 0) - (event->key() == Qt::Key_Left);
     const int up = (event->key() == Qt::Key_Up ? 1 : 0) - (event->key() == Qt::Key_Down);
     if (!movable_ || (across == 0 && up == 0)) {

@@ -1,5 +1,5 @@
-// A handle of the correction plot: dragged with the mouse, or moved in small steps by the arrow
-// keys.
+// A handle of the correction plot: dragged with the mouse, which Escape takes back, or moved in
+// small steps by the arrow keys.
 #pragma once
 
 #include <functional>

@@ -42,7 +42,7 @@ float TableDeflection(float current) {
         ComputeCorrectionSlopes();
         return CorrectDeflection(current);
     } catch (const RunTimeError&) {
-        Host.failureBox("An error was found in the Correction Table routine");
+        ReportFailure("An error was found in the Correction Table routine");
         return current;
     }
 }

@@ -91,6 +91,7 @@ QLayout* frmCorrectionEntry::MakeBoxes() {
             const QString spoken = caption + (axis == 0 ? QStringLiteral(" current %")
                                                         : QStringLiteral(" deflection %"));
             auto* box = new EntryBox(name.c_str(), spoken);
+            connect(box, &EntryBox::returnPressed, this, &frmCorrectionEntry::cmdAcceptXYClicked);
             box->setMaximumWidth(kBoxCharacters * box->fontMetrics().averageCharWidth());
             grid->addWidget(box, point + 1, axis + 1);
         }
@@ -103,7 +104,7 @@ QLayout* frmCorrectionEntry::MakeButtons() {
     grid->setSpacing(kEntrySpacing);
     const auto add = [&](const char* name, const char* caption, auto clicked) {
         QPushButton* button = MakeButton(name, QString::fromUtf8(caption));
-        button->setAutoDefault(false); // Return in a box presses none
+        button->setAutoDefault(false); // Return in a box applies, whatever has had the focus
         connect(button, &QPushButton::clicked, this, clicked);
         const int place = grid->count();
         grid->addWidget(button, place / kButtonColumns, place % kButtonColumns);
