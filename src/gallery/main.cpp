@@ -85,22 +85,15 @@ std::string PictureOf(QWidget& form) {
     return bytes.data().toStdString();
 }
 
-// Only a form that was built tells; what its load did is taken back.
-bool IsModal(const std::string& name) {
-    const auto before = std::make_unique<DesignRecord>(Design);
-    const bool modal = qobject_cast<QDialog*>(MakeForm(name).get()) != nullptr;
-    Design = *before;
-    return modal;
-}
-
 // A page is walked to, any other form stands by itself.
 QWidget* Show(const std::string& name, Exhibit& exhibit) {
-    if (!IsModal(name)) {
-        GoToPage(name);
+    std::unique_ptr<QWidget> form = MakeForm(name);
+    auto* dialog = qobject_cast<QDialog*>(form.get());
+    if (!dialog) {
+        GoToMadePage(std::move(form));
         return CurrentPage();
     }
-    exhibit.modal = MakeForm(name);
-    auto* dialog = qobject_cast<QDialog*>(exhibit.modal.get());
+    exhibit.modal = std::move(form);
     QObject::connect(dialog, &QDialog::finished, qApp, [] { EndProcess(); });
     dialog->show();
     return dialog;

@@ -115,10 +115,13 @@ std::unique_ptr<QWidget> MakeForm(std::string_view name) {
 
 void GoToPage(std::string_view name) {
     if (IsFormKnown(name)) {
-        std::unique_ptr<QWidget> page = LoadedPage(name);
-        const QString focused = FocusedOn(*page);
-        Unload(ShowPage(std::move(page), focused));
+        GoToMadePage(LoadedPage(name));
     }
+}
+
+void GoToMadePage(std::unique_ptr<QWidget> page) {
+    const QString focused = FocusedOn(*page);
+    Unload(ShowPage(std::move(page), focused));
 }
 
 void GoToPageUnloading(std::string_view name, std::string_view unloaded) {

@@ -29,8 +29,11 @@ std::unique_ptr<QWidget> MakeForm(std::string_view name);
 // stayed loaded is shown as it was left. A name that is not registered does nothing.
 void GoToPage(std::string_view name);
 
-// The same, but it unloads the page of the other name, if that is loaded, and the one that was
-// shown stays loaded behind.
+// The same for a page that is made already.
+void GoToMadePage(std::unique_ptr<QWidget> page);
+
+// The same as GoToPage, but it unloads the page of the other name, if that is loaded, and the one
+// that was shown stays loaded behind.
 void GoToPageUnloading(std::string_view name, std::string_view unloaded);
 
 // Builds the page that is shown anew, behind a backdrop that keeps the desktop from flashing

@@ -226,6 +226,15 @@ TEST_F(GalleryTest, AMalformedDesignIsSaidAndShownAsTheDefaults) {
     EXPECT_FALSE(Has(ReadFile("dump.txt"), "PlateWidth = 99\n"));
 }
 
+// What its load has to say comes once.
+TEST_F(GalleryTest, AModalFormIsBuiltOnce) {
+    const std::string design = DesignFile([] {}); // reading one leaves a curve that is not allowed
+    const ProcessResult result =
+        Gallery({"frmCorrectionEntry", design, "--shot", Path("shot.png")});
+    EXPECT_EQ(result.status, EXIT_SUCCESS);
+    EXPECT_EQ(result.err, "Disallowed entry\n");
+}
+
 TEST_F(GalleryTest, ARunTimeErrorOfAShotIsSaidAndHasItsStatus) {
     const std::string design = DesignFile([] { Design.NrOfTicmarks[1] = 0; });
     const ProcessResult result = Gallery({"frmScales", design, "--shot", Path("shot.png")});
