@@ -208,6 +208,26 @@ void FormatByMagnitude(double value, std::string& result) {
     }
 }
 
+std::string RangeText(const EntryLimits& limits, std::string_view unit) {
+    constexpr int kPlaces = 6;
+    const auto number = [](double value) { return RoundedToPlaces(ToFloat(value), kPlaces); };
+    const std::string behind = unit.empty() ? "" : " " + std::string(unit);
+    const std::string lowest = number(limits.lowest);
+    const std::string highest = number(limits.highest);
+    const bool hasLowest = limits.lowest > -EntryLimits::kNone;
+    const bool hasHighest = limits.highest < EntryLimits::kNone;
+    const std::string from = (limits.lowestIsOpen ? "above " : "at least ") + lowest;
+    const std::string to = (limits.highestIsOpen ? "below " : "at most ") + highest;
+    if (hasLowest && hasHighest) {
+        const bool closed = !limits.lowestIsOpen && !limits.highestIsOpen;
+        return (closed ? lowest + " to " + highest : from + ", " + to) + behind;
+    }
+    if (hasLowest) {
+        return from + behind;
+    }
+    return hasHighest ? to + behind : "";
+}
+
 double ArcSin(double& x) {
     constexpr double kLimit = 0.999999; // short of a right angle, so that the root is never 0
     Design.LastStepTrace.assign("In ArcSin, X=").append(PlainNumber(ToFloat(x)));

@@ -2,8 +2,11 @@
 // a design file pass, the short text of a number, and the small routines that all pages share.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <string>
+#include <string_view>
 
 namespace vernacle {
 
@@ -13,6 +16,24 @@ namespace vernacle {
 void ParseEntry(std::string& text, float& target);
 void ParseEntry(std::string& text, std::int16_t& target);
 void ParseEntry(std::string& text, std::int32_t& target);
+
+// What an entry is held to: a row of a page's table, from which both its limiting and what the page
+// tells of it come. An end without limit is infinite; an open one is not itself accepted.
+struct EntryLimits {
+    static constexpr double kNone = std::numeric_limits<double>::infinity();
+
+    double lowest = -kNone;
+    double highest = kNone;
+    bool lowestIsOpen = false;
+    bool highestIsOpen = false;
+
+    double Held(double value) const { return std::clamp(value, lowest, highest); }
+    float Held(float value) const { return static_cast<float>(Held(double{value})); }
+};
+
+// The limits in words, "20 to 180 mm", "at least -100 mm", "above 0, below 101"; empty where there
+// are none.
+std::string RangeText(const EntryLimits& limits, std::string_view unit);
 
 // The short text that labels and lists show: 1.5M, 1235, 123.46, .5, 0.
 void FormatByMagnitude(double value, std::string& result);

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "core/design.h"
+#include "core/entry.h"
 #include "core/numbertext.h"
 #include "core/runtimeerror.h"
 #include "core/seam.h"
@@ -26,8 +27,9 @@ namespace {
 constexpr int kFirstEntered = 3; // the boxes of the end points are not read
 constexpr int kLastEntered = 12;
 constexpr int kTextBoxes = 2 * kCurvePoints;
-constexpr double kLargest = 1e30; // percent
-constexpr double kKeyStep = 25;   // units: half a percent
+constexpr EntryLimits kPercent{0, 100}; // the ends of the curve, between which its points lie
+constexpr double kLargest = 1e30;       // percent
+constexpr double kKeyStep = 25;         // units: half a percent
 constexpr int kBoxCharacters = 16;
 constexpr int kButtonColumns = 2;
 constexpr const char* kFilter = "Linearity files (*.COR)|*.COR";
@@ -38,6 +40,10 @@ constexpr const char* kPointLabels[] = {"Label0", "Label1",  "Label2", "Label3",
 
 // Of a straight line, for as long as nothing else is shown.
 constexpr const char* kLinearTexts[] = {"0", "0", "20", "20", "50", "50", "80", "80", "100", "100"};
+
+float FractionOf(double percent) {
+    return static_cast<float>(percent * 0.01);
+}
 
 QString TitleOf(const char* page) {
     std::string title = page;
@@ -93,6 +99,9 @@ QLayout* frmCorrectionEntry::MakeBoxes() {
             auto* box = new EntryBox(name.c_str(), spoken);
             connect(box, &EntryBox::returnPressed, this, &frmCorrectionEntry::cmdAcceptXYClicked);
             box->setMaximumWidth(kBoxCharacters * box->fontMetrics().averageCharWidth());
+            if (point > 0 && point < kCurvePoints - 1) { // the ends cannot be entered
+                box->TellRange(RangeText(kPercent, "%"));
+            }
             grid->addWidget(box, point + 1, axis + 1);
         }
     }
@@ -197,12 +206,13 @@ void frmCorrectionEntry::HandleStepped(int index, int across, int up) {
 }
 
 void frmCorrectionEntry::cmdAcceptXYClicked() {
-    Design.CorrectionPair[1] = Design.CorrectionPair[2] = 0;
+    Design.CorrectionPair[1] = Design.CorrectionPair[2] = FractionOf(kPercent.lowest);
     for (int number = kFirstEntered; number <= kLastEntered; ++number) {
         const double percent = std::clamp(NumericValue(Text(number).Text()), -kLargest, kLargest);
-        Design.CorrectionPair[number] = static_cast<float>(percent * 0.01);
+        Design.CorrectionPair[number] = FractionOf(percent);
     }
-    Design.CorrectionPair[kTextBoxes - 1] = Design.CorrectionPair[kTextBoxes] = 1;
+    Design.CorrectionPair[kTextBoxes - 1] = Design.CorrectionPair[kTextBoxes] =
+        FractionOf(kPercent.highest);
     Design.NumberOfCorrectionPoints = kCurvePoints;
     RedrawCorrectionCurve();
 }

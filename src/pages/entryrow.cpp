@@ -21,9 +21,20 @@ EntryBox* MakePartner(const EntryRow& entry, QWidget& page) {
     return partner;
 }
 
+std::string RangeOf(const EntryRow& entry) {
+    const std::string limits = RangeText(entry.limits, entry.unit);
+    if (!limits.empty() || !entry.arrows) {
+        return limits;
+    }
+    const EntryLimits arrows{entry.range.lowest * entry.partnerUnit,
+                             entry.range.highest * entry.partnerUnit};
+    return RangeText(arrows, entry.unit) + " by the arrows";
+}
+
 EntryBox* MakeBox(const EntryRow& entry) {
     auto* box = new EntryBox(entry.box, QString::fromUtf8(entry.caption));
     box->SetReading(entry.reading);
+    box->TellRange(RangeOf(entry));
     return box;
 }
 

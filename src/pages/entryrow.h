@@ -1,7 +1,9 @@
 // A row of a page's grid: caption, box, arrows. The arrows step the box, or a partner that is not
-// shown, in units of its own.
+// shown, in units of its own. The box tells the limits of what is typed; where there are none, the
+// range of its arrows.
 #pragma once
 
+#include "core/entry.h"
 #include "platform/entrybox.h"
 #include "platform/updown.h"
 
@@ -15,8 +17,11 @@ struct EntryRow {
     const char* label = nullptr;
     const char* caption = nullptr;
     const char* arrows = nullptr; // none if null
-    StepRange range;
+    StepRange range = {};
+    EntryLimits limits = {};
+    const char* unit = "";
     const char* partner = nullptr; // that the arrows step instead of the box
+    double partnerUnit = 1;        // in the box's own
     Reading reading = Reading::Entry;
 };
 

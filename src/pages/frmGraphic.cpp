@@ -1,8 +1,5 @@
 #include "pages/frmGraphic.h"
 
-#include <algorithm>
-#include <limits>
-
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -27,8 +24,6 @@ constexpr std::int16_t kBottomTopic = 31;
 constexpr std::int16_t kWidthTopic = 32;
 constexpr std::int16_t kHeightTopic = 33;
 
-constexpr float kNoLimit = std::numeric_limits<float>::infinity();
-
 constexpr OwnTip kOwnTips[] = {{"Scales", "Go to the Scales Design page"}};
 
 constexpr PageTraits kTraits = {.form = "frmGraphic",
@@ -37,14 +32,8 @@ constexpr PageTraits kTraits = {.form = "frmGraphic",
                                 .printing = Printing::GreyedAndDead,
                                 .ownTips = kOwnTips};
 
-struct Limits {
-    float lowest = 0;
-    float highest = 0;
-};
-
-void Hold(float& value, const Limits& limits) {
-    value = std::clamp(value, limits.lowest, limits.highest);
-}
+// When the measure is held to its limits; by the toolbar every one is.
+enum class Holding { AtOnce, ByToolbar };
 
 std::string UpperCased(const std::string& path) {
     return QString::fromStdString(path).toUpper().toStdString();
@@ -52,20 +41,25 @@ std::string UpperCased(const std::string& path) {
 
 } // namespace
 
-// A measure of the graphic: what typing is held to, and what leaving by the toolbar holds it to.
 struct frmGraphic::Measure {
     EntryRow row;
     float D::*field = nullptr;
-    Limits typed = {};
-    Limits kept = {};
+    Holding holding = Holding::AtOnce;
+
+    float& Value() const { return Design.*field; }
+
+    // Takes what is typed.
+    void Take(float number) const {
+        Value() = holding == Holding::AtOnce ? row.limits.Held(number) : number;
+    }
 };
 
 // clang-format off
 const frmGraphic::Measure frmGraphic::kMeasures[] = {
-    {{"txtLeftToImage",   "lblLeftToImage",   "Left to graphic:",       "UpDown1", {0, 180}, "txtLeftToImageUpDown"},   &D::LeftToGraphic,   {-kNoLimit, kNoLimit}, {0, 180}},
-    {{"txtBottomToImage", "lblBottomToImage", "Bottom to graphic top:", "UpDown2", {0, 180}, "txtBottomToImageUpDown"}, &D::BottomToGraphic, {-kNoLimit, kNoLimit}, {0, 120}},
-    {{"txtGraphicWidth",  "lblGraphicWidth",  "Graphic width:",         "UpDown3", {0, 180}, "txtGraphicWidthUpDown"},  &D::GraphicWidth,    {2, 180},              {2, 180}},
-    {{"txtGraphicHeight", "lblGraphicHeight", "Graphic height:",        "UpDown4", {0, 180}, "txtGraphicHeightUpDown"}, &D::GraphicHeight,   {2, 180},              {2, 180}},
+    {{"txtLeftToImage",   "lblLeftToImage",   "Left to graphic:",       "UpDown1", {0, 180}, {0, 180}, "mm", "txtLeftToImageUpDown"},   &D::LeftToGraphic,   Holding::ByToolbar},
+    {{"txtBottomToImage", "lblBottomToImage", "Bottom to graphic top:", "UpDown2", {0, 180}, {0, 120}, "mm", "txtBottomToImageUpDown"}, &D::BottomToGraphic, Holding::ByToolbar},
+    {{"txtGraphicWidth",  "lblGraphicWidth",  "Graphic width:",         "UpDown3", {0, 180}, {2, 180}, "mm", "txtGraphicWidthUpDown"},  &D::GraphicWidth,    Holding::AtOnce},
+    {{"txtGraphicHeight", "lblGraphicHeight", "Graphic height:",        "UpDown4", {0, 180}, {2, 180}, "mm", "txtGraphicHeightUpDown"}, &D::GraphicHeight,   Holding::AtOnce},
 };
 // clang-format on
 
@@ -101,7 +95,7 @@ void frmGraphic::Load() {
                                  ? QStringLiteral("(No graphic currently selected)")
                                  : QString::fromStdString(UpperCased(Design.GraphicFileName)));
     for (const Measure& measure : kMeasures) {
-        Box(measure.row.box).Write(PlainNumber(Design.*measure.field)); // and its partner by that
+        Box(measure.row.box).Write(PlainNumber(measure.Value())); // and its partner by that
         SetEnabled({measure.row.box, measure.row.label, measure.row.partner, measure.row.arrows},
                    false);
     }
@@ -117,27 +111,23 @@ void frmGraphic::BeforeKey() {
 void frmGraphic::LimitGraphicEntries() {
     for (const Measure& measure : kMeasures) {
         std::string text = Box(measure.row.box).Text();
-        ParseEntry(text, Design.*measure.field);
-        Hold(Design.*measure.field, measure.kept);
+        ParseEntry(text, measure.Value());
+        measure.Value() = measure.row.limits.Held(measure.Value());
     }
     for (const Measure& measure : kMeasures) {
-        Box(measure.row.box).Write(PlainNumber(Design.*measure.field));
+        Box(measure.row.box).Write(PlainNumber(measure.Value()));
     }
 }
 
 void frmGraphic::MeasureChanged(const Measure& measure) {
-    float& value = Design.*measure.field;
-    value = Box(measure.row.box).Number();
-    Hold(value, measure.typed);
-    Box(measure.row.partner).Show(PlainNumber(value));
+    measure.Take(Box(measure.row.box).Number());
+    Box(measure.row.partner).Show(PlainNumber(measure.Value()));
     Redraw();
 }
 
 void frmGraphic::PartnerChanged(const Measure& measure) {
-    float& value = Design.*measure.field;
-    value = Box(measure.row.partner).Number();
-    Hold(value, measure.typed);
-    Box(measure.row.box).Show(PlainNumber(value));
+    measure.Take(Box(measure.row.partner).Number());
+    Box(measure.row.box).Show(PlainNumber(measure.Value()));
 }
 
 void frmGraphic::cmdLeftToImageClicked() {
@@ -172,7 +162,7 @@ void frmGraphic::cmdRemoveGraphicClicked() {
     lblGraphicName_->clear();
     Design.DrawGraphic = "N";
     for (const Measure& measure : kMeasures) {
-        Design.*measure.field = 0;
+        measure.Value() = 0;
     }
     Redraw();
 }

@@ -37,6 +37,8 @@ constexpr NumberFrameTraits kNumbers = {.frame = "fraTextNumber",
                                         .options = kHighlights,
                                         .tips = 6};
 
+constexpr double kTenths = 0.1; // of a millimetre, that the arrows of the height step
+
 // The colour sample stands beside the plate.
 constexpr LogicalArea kArea{-400, 900, 9300, 7000};
 
@@ -48,12 +50,13 @@ struct frmHighlights::Entry {
     void (frmHighlights::*changed)(const Entry& entry) = nullptr;
 };
 
+// What is typed has no limits.
 // clang-format off
 const frmHighlights::Entry frmHighlights::kEntries[] = {
-    {{"txtStart1",   "lblStart",  "Start %:",   "UpDown1", {0, 100}, nullptr, Reading::Plain}, At<&D::HighlightStart>,   &frmHighlights::EntryChanged},
-    {{"txtStop1",    "lblStop",   "Stop %:",    "UpDown2", {0, 100}, nullptr, Reading::Plain}, At<&D::HighlightStop>,    &frmHighlights::EntryChanged},
-    {{"txtCeiling1", "lblBottom", "Bottom mm:", "UpDown3", {0, 180}, nullptr, Reading::Plain}, At<&D::HighlightCeiling>, &frmHighlights::EntryChanged},
-    {{"txtLength1",  "lblHeight", "Height mm:", "UpDown4", {0, 180}, "txtLength10"},           At<&D::HighlightLength>,  &frmHighlights::txtLength1Changed},
+    {{"txtStart1",   "lblStart",  "Start %:",   "UpDown1", {0, 100}, {}, "%",  nullptr,       1, Reading::Plain}, At<&D::HighlightStart>,   &frmHighlights::EntryChanged},
+    {{"txtStop1",    "lblStop",   "Stop %:",    "UpDown2", {0, 100}, {}, "%",  nullptr,       1, Reading::Plain}, At<&D::HighlightStop>,    &frmHighlights::EntryChanged},
+    {{"txtCeiling1", "lblBottom", "Bottom mm:", "UpDown3", {0, 180}, {}, "mm", nullptr,       1, Reading::Plain}, At<&D::HighlightCeiling>, &frmHighlights::EntryChanged},
+    {{"txtLength1",  "lblHeight", "Height mm:", "UpDown4", {0, 180}, {}, "mm", "txtLength10", kTenths},           At<&D::HighlightLength>,  &frmHighlights::txtLength1Changed},
 };
 // clang-format on
 
@@ -108,7 +111,6 @@ void frmHighlights::FillHighlightEntry() {
     ShowTenfoldLength();
 }
 
-// The arrows step tenths of a millimetre.
 void frmHighlights::ShowTenfoldLength() {
     const double tenths = double{Design.HighlightLength[CurrentHighlight_]} * 10;
     Box("txtLength10").Show(PlainNumber(static_cast<float>(tenths)));
@@ -143,7 +145,7 @@ void frmHighlights::txtLength10Changed() {
     if (!tenths) {
         ThrowTypeMismatch();
     }
-    Box("txtLength1").Show(PlainNumber(static_cast<float>(*tenths * 0.1)));
+    Box("txtLength1").Show(PlainNumber(static_cast<float>(*tenths * kTenths)));
 }
 
 void frmHighlights::cmdGetColorClicked() {

@@ -1,7 +1,5 @@
 #include "pages/frmPlate.h"
 
-#include <algorithm>
-#include <limits>
 #include <string_view>
 
 #include <QGridLayout>
@@ -28,7 +26,6 @@ namespace {
 
 using D = DesignRecord;
 
-constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 constexpr int kItemsPerColumn = 7;
 constexpr int kFontNameWidth = 16; // characters
 constexpr std::int16_t kQuadrant = 1;
@@ -45,28 +42,28 @@ struct frmPlate::NumericItem {
     const char* caption = nullptr;
     float D::*field = nullptr;
     const char* box = nullptr;
-    double lowest = 0;
-    double highest = 0;
+    EntryLimits limits = {};
+    const char* unit = nullptr;
     StepRange arrows;
     std::int16_t topic = 0;
 };
 
 // clang-format off
 const frmPlate::NumericItem frmPlate::kItems[] = {
-    {"Plate width, mm",           &D::PlateWidth,          "txtPlateWidth",          20,        180,     {20, 180},          1},
-    {"Plate height, mm",          &D::PlateHeight,         "txtPlateHeight",         10,        180,     {10, 180},          2},
-    {"Bottom to bearing, mm",     &D::BottomToBearing,     "txtBottomToBearing",     -100000,   100000,  {-100000, 100000},  3},
-    {"Bottom to mounting, mm",    &D::BottomToHoles,       "txtBottomToHoles",       -1000,     150,     {-1000, 150},       4},
-    {"Hole separation, mm",       &D::HoleSeparation,      "txtHoleSeparation",      5,         180,     {5, 180},           5},
-    {"Pointer deflection, deg ",  &D::PointerDeflection,   "txtPointerDeflection",   0.1,       360,     {1, 360},           6},
-    {"Actual/virtual offset, mm", &D::ActualVirtualOffset, "txtActualVirtualOffset", -kNoLimit, 1000000, {0, 100000},        7},
-    {"Minor tic length, mm",      &D::MinorTicLength,      "txtMinorTicLength",      0.5,       15,      {1, 15},            9},
-    {"Major tic length, mm",      &D::MajorTicLength,      "txtMajorTicLength",      0.5,       15,      {1, 15},            10},
-    {"Minor tic width, .1 mm",    &D::MinorTicWidth,       "txtMinorTicWidth",       1,         20,      {1, 20},            11},
-    {"Major tic width, .1 mm",    &D::MajorTicWidth,       "txtMajorTicWidth",       1,         20,      {0, 10},            12},
-    {"Font size",                 &D::FontSize,            "txtFontSize",            2,         20,      {2, 20},            13},
-    {"Label-arc spacing, mm",     &D::LabelSpacing,        "txtLabelSpacing",        -200,      200,     {-200, 200},        14},
-    {"Arc thickness, mm",         &D::ArcWidth,            "txtArcWidth",            0.5,       20,      {1, 20},            25},
+    {"Plate width, mm",           &D::PlateWidth,            "txtPlateWidth",           {20, 180},                         "mm",            {20, 180},           1},
+    {"Plate height, mm",          &D::PlateHeight,           "txtPlateHeight",          {10, 180},                         "mm",            {10, 180},           2},
+    {"Bottom to bearing, mm",     &D::BottomToBearing,       "txtBottomToBearing",      {-100000, 100000},                 "mm",            {-100000, 100000},   3},
+    {"Bottom to mounting, mm",    &D::BottomToHoles,         "txtBottomToHoles",        {-1000, 150},                      "mm",            {-1000, 150},        4},
+    {"Hole separation, mm",       &D::HoleSeparation,        "txtHoleSeparation",       {5, 180},                          "mm",            {5, 180},            5},
+    {"Pointer deflection, deg ",  &D::PointerDeflection,     "txtPointerDeflection",    {0.1, 360},                        "degrees",       {1, 360},            6},
+    {"Actual/virtual offset, mm", &D::ActualVirtualOffset,   "txtActualVirtualOffset",  {-EntryLimits::kNone, 1000000},    "mm",            {0, 100000},         7},
+    {"Minor tic length, mm",      &D::MinorTicLength,        "txtMinorTicLength",       {0.5, 15},                         "mm",            {1, 15},             9},
+    {"Major tic length, mm",      &D::MajorTicLength,        "txtMajorTicLength",       {0.5, 15},                         "mm",            {1, 15},             10},
+    {"Minor tic width, .1 mm",    &D::MinorTicWidth,         "txtMinorTicWidth",        {1, 20},                           "tenths of mm",  {1, 20},             11},
+    {"Major tic width, .1 mm",    &D::MajorTicWidth,         "txtMajorTicWidth",        {1, 20},                           "tenths of mm",  {0, 10},             12},
+    {"Font size",                 &D::FontSize,              "txtFontSize",             {2, 20},                           "points",        {2, 20},             13},
+    {"Label-arc spacing, mm",     &D::LabelSpacing,          "txtLabelSpacing",         {-200, 200},                       "mm",            {-200, 200},         14},
+    {"Arc thickness, mm",         &D::ArcWidth,              "txtArcWidth",             {0.5, 20},                         "tenths of mm",  {1, 20},             25},
 };
 // clang-format on
 
@@ -213,6 +210,7 @@ QLayout* frmPlate::MakeItems() {
 void frmPlate::AddItem(const NumericItem& item, QGridLayout& grid, int row) {
     const QString caption = QString::fromUtf8(item.caption);
     auto* box = new EntryBox(item.box, caption);
+    box->TellRange(RangeText(item.limits, item.unit));
     QLabel* label = MakeLabel(Sibling("lbl", item.box).c_str(), caption);
     label->setBuddy(box);
     auto* arrows = new UpDown(Sibling("UpDown", item.box).c_str(), caption);
@@ -345,7 +343,7 @@ void frmPlate::ItemChanged(const NumericItem& item) {
     std::string text = Box(item.box).Text();
     float& value = Design.*item.field;
     ParseEntry(text, value);
-    value = static_cast<float>(std::clamp(double{value}, item.lowest, item.highest));
+    value = item.limits.Held(value);
     WarnOfQuadrant();
     Illustrate(item);
 }

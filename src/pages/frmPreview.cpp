@@ -92,6 +92,9 @@ QLayout* frmPreview::MakeAspect() {
     arrows->OnStep([this] { UpDown1Clicked(double{Design.AspectRatio} * kAspectStep); },
                    [this] { UpDown1Clicked(double{Design.AspectRatio} / kAspectStep); });
     txtAspectUpDown_->SetArrows(arrows);
+    const EntryLimits percents{kAspectLimits.lowest * 100, kAspectLimits.highest * 100};
+    txtAspect_->TellRange(RangeText(kAspectLimits, ""));
+    txtAspectUpDown_->TellRange(RangeText(percents, "%"));
     txtAspect_->OnChange([this] { txtAspectChanged(); });
     txtAspectUpDown_->OnChange([this] { txtAspectUpDownChanged(); });
     QLabel* lblAspect = MakeLabel("lblAspect", ratio);

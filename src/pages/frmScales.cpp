@@ -40,14 +40,13 @@ std::string TextOf(const Slot& slot) {
     return PlainNumber(static_cast<float>(NumberInSlot(slot)));
 }
 
-void StoreEntry(std::string& text, const Slot& slot, double lowest, double highest) {
+void StoreEntry(std::string& text, const Slot& slot, const EntryLimits& limits) {
     std::visit(
         [&](auto place) {
             using Number = std::remove_pointer_t<decltype(place)>;
             if constexpr (std::is_arithmetic_v<Number>) {
                 ParseEntry(text, *place);
-                *place =
-                    static_cast<Number>(std::clamp(static_cast<double>(*place), lowest, highest));
+                *place = static_cast<Number>(limits.Held(static_cast<double>(*place)));
             }
         },
         slot);
@@ -140,15 +139,14 @@ void frmScales::Redraw() {
 
 void frmScales::NumberChanged(const Entry& entry) {
     std::string text = Box(entry.row.box).Text();
-    StoreEntry(text, entry.field(Design.ActiveScale, 0), entry.lowest, entry.highest);
+    StoreEntry(text, entry.field(Design.ActiveScale, 0), entry.row.limits);
     Redraw();
 }
 
 void frmScales::txtLinearityExponentChanged(const Entry& entry) {
     std::string text = Box(entry.row.box).Text();
     ParseEntry(text, linearityExponent_);
-    Design.LinearityExponent[Design.ActiveScale] =
-        static_cast<float>(std::clamp(double{linearityExponent_}, entry.lowest, entry.highest));
+    Design.LinearityExponent[Design.ActiveScale] = entry.row.limits.Held(linearityExponent_);
     Redraw();
 }
 
@@ -156,10 +154,10 @@ void frmScales::txtRelFontsizeChanged(const Entry& entry) {
     std::string text = Box(entry.row.box).Text();
     float& size = Design.RelativeFontSize[Design.ActiveScale];
     ParseEntry(text, size);
-    const float held = static_cast<float>(std::clamp(double{size}, entry.lowest, entry.highest));
-    if (held != size) {
-        size = held;
-        Box(entry.row.box).Write(PlainNumber(held));
+    const float entered = size;
+    size = entry.row.limits.Held(entered);
+    if (size != entered) {
+        Box(entry.row.box).Write(PlainNumber(size));
     }
     Redraw();
 }

@@ -1,7 +1,5 @@
 #include "pages/frmScalesRows.h"
 
-#include <limits>
-
 #include <QGridLayout>
 #include <QHBoxLayout>
 
@@ -17,7 +15,6 @@ namespace {
 
 using D = DesignRecord;
 
-constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 constexpr NumberFrameTraits kNumbers = {.frame = "fraScaleNumber",
                                         .label = "lblScaleNumber",
                                         .labelText = "Scale #:",
@@ -45,17 +42,17 @@ const frmScales::Button frmScales::kExponentHelp = {
 
 // clang-format off
 const frmScales::Entry frmScales::kEntries[] = {
-    {{"txtScaleLeftEnd",          "lblScaleLeftEnd",          "Scale left end (units):",    nullptr,                      {}},                                  "0",   At<&D::ScaleLeftEnd>,         -kNoLimit, kNoLimit, &frmScales::NumberChanged},
-    {{"txtScaleLength",           "lblScaleLength",           "Scale length (units):",      nullptr,                      {}},                                  "100", At<&D::ScaleLengthUnits>,     -kNoLimit, kNoLimit, &frmScales::NumberChanged},
-    {{"txtBottomToScaleCeiling",  "lblBottomToScaleCeiling",  "Bottom to scale ceiling:",   "UpDownBottomToScaleCeiling", {0, 180}},                            "50",  At<&D::BottomToScaleCeiling>, -200,      200,      &frmScales::NumberChanged},
-    {{"txtBottomToTitle",         "lblBottomToTitle",         "Bottom to title:",           "UpDownBottomToTitle",        {0, 180}},                            "25",  At<&D::BottomToTitle>,        -200,      200,      &frmScales::NumberChanged},
-    {{"txtNumberOfTics",          "lblNumberOfTics",          "Number of tics",             "UpDown3",                    {0, 360}},                            "50",  At<&D::NrOfTicmarks>,         1,         360,      &frmScales::NumberChanged},
-    {{"txtMajorTicsEveryHowMany", "lblMajorTicsEveryHowMany", "Major tics every how many",  "UpDown4",                    {1, 50}},                             "5",   At<&D::MajorEveryHowMany>,    1,         360,      &frmScales::NumberChanged},
-    {{"txtLabelsEveryHowMany",    "lblLabelsEveryHowMany",    "Labels every how many",      "UpDown5",                    {1, 50}},                             "10",  At<&D::LabelsEveryHowMany>,   1,         360,      &frmScales::NumberChanged},
-    {{"txtLinearityExponent",     "lblLinearityExponent",     "Linearity exponent",         nullptr,                      {}},                                  "1",   At<&D::LinearityExponent>,    -4,        4,        &frmScales::txtLinearityExponentChanged, &kExponentHelp},
-    {{"txtRelFontsize",           "lblRelFontsize",           "Relative fontsize:",         "UpDown6",                    {5, 15}, "txtRelFontSizeUpDown"},     "1",   At<&D::RelativeFontSize>,     0.5,       1.5,      &frmScales::txtRelFontsizeChanged},
-    {{"txtOffset",                "lblOffset",                "Actual/virtual offset:",     "UpDown7",                    {0, 100000}},                         "",    At<&D::ActualVirtualOffset>,  0,         1000,     &frmScales::NumberChanged},
-    {{"txtScaleTitle",            "lblScaleTitle",            "Scale title:",               nullptr,                      {}},                                  "",    At<&D::ScaleTitle>,           0,         0,        &frmScales::txtScaleTitleChanged},
+    {{"txtScaleLeftEnd",          "lblScaleLeftEnd",          "Scale left end (units):",    nullptr,                      {},          {},          ""},                                     "0",   At<&D::ScaleLeftEnd>,         &frmScales::NumberChanged},
+    {{"txtScaleLength",           "lblScaleLength",           "Scale length (units):",      nullptr,                      {},          {},          ""},                                     "100", At<&D::ScaleLengthUnits>,     &frmScales::NumberChanged},
+    {{"txtBottomToScaleCeiling",  "lblBottomToScaleCeiling",  "Bottom to scale ceiling:",   "UpDownBottomToScaleCeiling", {0, 180},    {-200, 200}, "mm"},                                   "50",  At<&D::BottomToScaleCeiling>, &frmScales::NumberChanged},
+    {{"txtBottomToTitle",         "lblBottomToTitle",         "Bottom to title:",           "UpDownBottomToTitle",        {0, 180},    {-200, 200}, "mm"},                                   "25",  At<&D::BottomToTitle>,        &frmScales::NumberChanged},
+    {{"txtNumberOfTics",          "lblNumberOfTics",          "Number of tics",             "UpDown3",                    {0, 360},    {1, 360},    "tics"},                                 "50",  At<&D::NrOfTicmarks>,         &frmScales::NumberChanged},
+    {{"txtMajorTicsEveryHowMany", "lblMajorTicsEveryHowMany", "Major tics every how many",  "UpDown4",                    {1, 50},     {1, 360},    "tics"},                                 "5",   At<&D::MajorEveryHowMany>,    &frmScales::NumberChanged},
+    {{"txtLabelsEveryHowMany",    "lblLabelsEveryHowMany",    "Labels every how many",      "UpDown5",                    {1, 50},     {1, 360},    "tics"},                                 "10",  At<&D::LabelsEveryHowMany>,   &frmScales::NumberChanged},
+    {{"txtLinearityExponent",     "lblLinearityExponent",     "Linearity exponent",         nullptr,                      {},          {-4, 4},     ""},                                     "1",   At<&D::LinearityExponent>,    &frmScales::txtLinearityExponentChanged, &kExponentHelp},
+    {{"txtRelFontsize",           "lblRelFontsize",           "Relative fontsize:",         "UpDown6",                    {5, 15},     {0.5, 1.5},  "times the font size", "txtRelFontSizeUpDown"}, "1",   At<&D::RelativeFontSize>,     &frmScales::txtRelFontsizeChanged},
+    {{"txtOffset",                "lblOffset",                "Actual/virtual offset:",     "UpDown7",                    {0, 100000}, {0, 1000},   "mm"},                                   "",    At<&D::ActualVirtualOffset>,  &frmScales::NumberChanged},
+    {{"txtScaleTitle",            "lblScaleTitle",            "Scale title:",               nullptr,                      {},          {},          ""},                                     "",    At<&D::ScaleTitle>,           &frmScales::txtScaleTitleChanged},
 };
 // clang-format on
 

@@ -25,13 +25,11 @@ struct frmScales::Button {
     void (frmScales::*clicked)();
 };
 
-// An entry: its field, and the limits of what is typed.
+// An entry and its field.
 struct frmScales::Entry {
     EntryRow row;
     const char* text = nullptr; // before it is filled
     Place field = nullptr;
-    double lowest = 0;
-    double highest = 0;
     void (frmScales::*changed)(const Entry& entry) = nullptr;
     const Button* help = nullptr;
 };

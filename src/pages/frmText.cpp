@@ -23,9 +23,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr float kLeftmost = -100; // mm
-constexpr float kLargestSize = 2;
-
 constexpr PageTraits kTraits = {.form = "frmText",
                                 .title = "Text entry",
                                 .helpTopic = "vsignature.htm",
@@ -39,11 +36,13 @@ constexpr NumberFrameTraits kNumbers = {.frame = "fraTextNumber",
                                         .options = kTexts,
                                         .tips = 6};
 
+constexpr double kTenths = 0.1; // that the arrows of the size step
+
 // clang-format off
 constexpr EntryRow kText   = {"txtText",         "lblText",         "Text:",           nullptr,   {}};
-constexpr EntryRow kLeft   = {"txtLeftToText",   "lblLeftToText",   "Left to text:",   "UpDown1", {-100, 180}, nullptr, Reading::Plain};
-constexpr EntryRow kBottom = {"txtBottomToText", "lblBottomToText", "Bottom to text:", "UpDown2", {0, 180},    nullptr, Reading::Plain};
-constexpr EntryRow kSize   = {"txtRelSize",      "lblRelSize",      "Relative size:",  "UpDown3", {1, 20}, "txtRelSizeUpDown"};
+constexpr EntryRow kLeft   = {"txtLeftToText",   "lblLeftToText",   "Left to text:",   "UpDown1", {-100, 180}, {.lowest = -100}, "mm",                  nullptr,            1,       Reading::Plain};
+constexpr EntryRow kBottom = {"txtBottomToText", "lblBottomToText", "Bottom to text:", "UpDown2", {0, 180},    {},               "mm",                  nullptr,            1,       Reading::Plain};
+constexpr EntryRow kSize   = {"txtRelSize",      "lblRelSize",      "Relative size:",  "UpDown3", {1, 20},     {.highest = 2},   "times the font size", "txtRelSizeUpDown", kTenths, Reading::Entry};
 // clang-format on
 
 float RoundedToTenths(float value) {
@@ -134,10 +133,10 @@ void frmText::txtTextChanged() {
 }
 
 void frmText::txtLeftToTextChanged() {
+    const float entered = Box("txtLeftToText").Number();
     float& left = texts_.LeftToText[CurrentTextEntry_];
-    left = Box("txtLeftToText").Number();
-    if (left < kLeftmost) {
-        left = kLeftmost;
+    left = kLeft.limits.Held(entered);
+    if (left != entered) {
         Box("txtLeftToText").Write(PlainNumber(left));
     }
     Redraw();
@@ -152,17 +151,17 @@ void frmText::txtRelSizeChanged() {
     std::string text = Box("txtRelSize").Text();
     float& size = texts_.TextRelativeSize[CurrentTextEntry_];
     ParseEntry(text, size);
-    if (size > kLargestSize) {
-        size = kLargestSize;
+    const float entered = size;
+    size = kSize.limits.Held(entered);
+    if (size != entered) {
         Box("txtRelSize").Write(PlainNumber(size));
     }
     MeasureTextWidth(CurrentTextEntry_);
     Redraw();
 }
 
-// The arrows step tenths.
 void frmText::txtRelSizeUpDownChanged() {
-    const double size = double{Box("txtRelSizeUpDown").Number()} * 0.1;
+    const double size = double{Box("txtRelSizeUpDown").Number()} * kTenths;
     Box("txtRelSize").Write(PlainNumber(static_cast<float>(size)));
 }
 

@@ -55,6 +55,11 @@ float EntryBox::SteppedNumber() const {
     return value;
 }
 
+void EntryBox::TellRange(const std::string& range) {
+    setToolTip(QString::fromStdString(range));
+    setAccessibleDescription(toolTip());
+}
+
 void EntryBox::Show(const std::string& text) {
     setText(QString::fromStdString(text));
 }

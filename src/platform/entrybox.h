@@ -35,6 +35,9 @@ public:
 
     void SetReading(Reading reading) { reading_ = reading; }
 
+    // Tells the user, by the box's tip and to a screen reader, what numbers it takes.
+    void TellRange(const std::string& range);
+
     // Writes from the program, and runs the handler only if the text is another: for a pair of
     // boxes that tell each other until they agree.
     void Show(const std::string& text);

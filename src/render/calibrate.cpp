@@ -1,6 +1,7 @@
 #include "render/calibrate.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/design.h"
 #include "core/lines.h"
@@ -93,6 +94,14 @@ void Recalibrate(float& factor, double measuredMm) {
         const double corrected = double{factor} * kSquareMm / measuredMm;
         factor = std::clamp(F(corrected), kSmallestFactor, kLargestFactor);
     }
+}
+
+EntryLimits MeasureLimits(float factor) {
+    RaiseFactor(factor);
+    const auto tenths = [factor](float corrected) {
+        return std::round(double{factor} * kSquareMm / double{corrected} * 10) / 10;
+    };
+    return {tenths(kLargestFactor), tenths(kSmallestFactor)};
 }
 
 void HoldCalibration() {

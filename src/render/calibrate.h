@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "core/entry.h"
+
 namespace vernacle {
 
 class PrinterSurface;
@@ -26,6 +28,9 @@ bool PrintTestSquare(PrinterSurface& printer);
 // A measured side of the test square corrects the factor of its axis, held to 0.5 .. 2; a factor of
 // 0 becomes 1 first, and a side that is not above 0 mm leaves it at that.
 void Recalibrate(float& factor, double measuredMm);
+
+// The sides, to a tenth of a mm, that Recalibrate takes for a factor without holding it.
+EntryLimits MeasureLimits(float factor);
 
 // Holds both factors to 0.5 .. 2.
 void HoldCalibration();

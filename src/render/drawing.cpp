@@ -155,7 +155,7 @@ void EndStage(DrawingRun& run) {
 }
 
 float HeldAspect(double aspect) {
-    return static_cast<float>(std::clamp(aspect, 0.5, 1.15));
+    return static_cast<float>(kAspectLimits.Held(aspect));
 }
 
 void HoldAspectRatio() {

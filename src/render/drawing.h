@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+#include "core/entry.h"
 #include "core/freetexts.h"
 #include "render/geometry.h"
 #include "render/surface.h"
@@ -122,7 +123,8 @@ Colour InkOf(int scale);
 // where it counts. A plate without height is a run-time error.
 PlateFrame PageFrame(const DrawingTraits& traits);
 
-// An aspect ratio held to the preview's limits, 0.5 to 1.15.
+// What an aspect ratio is held to.
+constexpr EntryLimits kAspectLimits{0.5, 1.15};
 float HeldAspect(double aspect);
 
 // Holds AspectRatio to those limits and rounds it to whole hundredths.

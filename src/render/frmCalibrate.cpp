@@ -35,6 +35,8 @@ frmCalibrate::frmCalibrate()
     : ModalForm("frmCalibrate", QStringLiteral("Vernacle - Calibration routine")) {
     txtActualWidth_ = new EntryBox("txtActualWidth", QStringLiteral("Width, mm"));
     txtActualHeight_ = new EntryBox("txtActualHeight", QStringLiteral("Height, mm"));
+    txtActualWidth_->TellRange(RangeText(MeasureLimits(Design.CalibrationX), "mm"));
+    txtActualHeight_->TellRange(RangeText(MeasureLimits(Design.CalibrationY), "mm"));
     QPushButton* print = MakeButton("cmdPrint", QStringLiteral("Print test square"));
     QPushButton* back = MakeButton("cmdReturn", QStringLiteral("Return"));
     connect(print, &QPushButton::clicked, this, &frmCalibrate::cmdPrintClicked);

@@ -9,6 +9,7 @@
 #include "platform/entrybox.h"
 #include "platform/formkit.h"
 #include "platform/optionbutton.h"
+#include "setups/setup.h"
 #include "setups/setuppicture.h"
 
 namespace vernacle {
@@ -23,6 +24,7 @@ void CurveSetupPage::Build() {
     auto* exponent = new QGridLayout;
     EntryBox* box =
         AddEntry(*exponent, "lblLinearityExponent", "Linearity exponent:", "txtLinearityExponent");
+    box->TellRange(RangeText(kExponentLimits, ""));
     box->Show("1");
     box->OnChange([this] { txtLinearityExponentChanged(); });
     auto* column = new QVBoxLayout;

@@ -1,6 +1,5 @@
 #include "setups/decibel.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -11,17 +10,13 @@ namespace vernacle {
 
 namespace {
 
-constexpr float kMostDecibels = 200;
-constexpr float kMostTicmarks = kDecibelRows - 1;
-constexpr float kLeastMultiplier = 0.7F;
-constexpr float kMostMultiplier = 1.1F;
 constexpr double kTicsPerDecade = 20; // a ratio of voltages
 
 void Hold(DecibelEntries& entries) {
-    entries.fullScale = std::floor(std::clamp(entries.fullScale, -kMostDecibels, kMostDecibels));
-    entries.ticmarks = std::floor(std::min(std::abs(entries.ticmarks), kMostTicmarks));
+    entries.fullScale = std::floor(kFullScaleLimits.Held(entries.fullScale));
+    entries.ticmarks = std::floor(kTicmarksLimits.Held(std::abs(entries.ticmarks)));
     entries.exponent = HeldExponent(entries.exponent);
-    entries.multiplier = std::clamp(entries.multiplier, kLeastMultiplier, kMostMultiplier);
+    entries.multiplier = kMultiplierLimits.Held(entries.multiplier);
 }
 
 void StoreNumbers(int scale, const DecibelEntries& entries) {

@@ -14,6 +14,10 @@ namespace vernacle {
 
 constexpr int kDecibelRows = 25;
 
+constexpr EntryLimits kFullScaleLimits{-200, 200};          // decibels
+constexpr EntryLimits kTicmarksLimits{0, kDecibelRows - 1}; // whatever their sign
+constexpr EntryLimits kMultiplierLimits{0.7F, 1.1F};
+
 // What the user decided for a tic.
 struct DecibelTic {
     Answer printed = Answer::No;

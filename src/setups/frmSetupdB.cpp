@@ -12,6 +12,7 @@
 #include "platform/entrybox.h"
 #include "platform/formkit.h"
 #include "platform/optionbutton.h"
+#include "setups/decibel.h"
 #include "setups/rowtable.h"
 
 namespace vernacle {
@@ -31,14 +32,18 @@ struct Entry {
     const char* caption;
     const char* box;
     const char* start;
+    EntryLimits limits = {};
+    const char* unit;
 };
 
+// clang-format off
 constexpr Entry kEntries[] = {
-    {"lblFullScaledB", "Full-scale dB value:", "txtFullScaledB", "0"},
-    {"lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks", "11"},
-    {"lblLinearityExponent", "Linearity exponent:", "txtLinearityExponent", "1"},
-    {"lblFullscaleMultiplier", "Fullscale multiplier:", "txtFullscaleMultiplier", "1"},
+    {"lblFullScaledB",         "Full-scale dB value:",  "txtFullScaledB",         "0",  kFullScaleLimits,  "dB"},
+    {"lblNrOfTicmarks",        "Number of ticmarks:",   "txtNrOfTicmarks",        "11", kTicmarksLimits,   "ticmarks"},
+    {"lblLinearityExponent",   "Linearity exponent:",   "txtLinearityExponent",   "1",  kExponentLimits,   ""},
+    {"lblFullscaleMultiplier", "Fullscale multiplier:", "txtFullscaleMultiplier", "1",  kMultiplierLimits, ""},
 };
+// clang-format on
 
 // Both start with Yes.
 struct Question {
@@ -98,7 +103,9 @@ QLayout* frmSetupdB::MakeEntries() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     for (const Entry& entry : kEntries) {
-        AddEntry(*grid, entry.label, entry.caption, entry.box)->Show(entry.start);
+        EntryBox* box = AddEntry(*grid, entry.label, entry.caption, entry.box);
+        box->TellRange(RangeText(entry.limits, entry.unit));
+        box->Show(entry.start);
     }
     return grid;
 }

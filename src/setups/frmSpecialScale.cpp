@@ -48,9 +48,9 @@ frmSpecialScale::frmSpecialScale() : SetupPage(kTraits) {
 
 void frmSpecialScale::Build() {
     auto* count = new QGridLayout;
-    AddEntry(*count, "lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks")->OnChange([this] {
-        ApplySpecialTable();
-    });
+    EntryBox* last = AddEntry(*count, "lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks");
+    last->TellRange(RangeText(kLastRowLimits, "ticmarks"));
+    last->OnChange([this] { ApplySpecialTable(); });
     QLabel* note = MakeLabel(
         "lblFullScale",
         QStringLiteral("Full-scale deflection is 1.0; for a \"blank\" label, use a space."));
@@ -77,9 +77,10 @@ RowTable* frmSpecialScale::MakeTable() {
     auto* table = new RowTable("tblTics", kHeadings);
     for (int row = 0; row < kSpecialRows; ++row) {
         const QString number = QString::number(row);
-        table->AddRow({MakeRowLabel("Tic", row),
-                       new EntryBox(RowName("txtDeflection", row).c_str(),
-                                    QStringLiteral("Deflection of tic ") + number),
+        auto* deflection = new EntryBox(RowName("txtDeflection", row).c_str(),
+                                        QStringLiteral("Deflection of tic ") + number);
+        deflection->TellRange(RangeText(kDeflectionLimits, "of full scale"));
+        table->AddRow({MakeRowLabel("Tic", row), deflection,
                        new EntryBox(RowName("txtLabel", row).c_str(),
                                     QStringLiteral("Label of tic ") + number),
                        MakeRowChoice("fraMajorMinor", "Class of tic", {"Major", "Major"},

@@ -1,6 +1,5 @@
 #include "setups/setup.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -9,12 +8,6 @@
 #include "core/text.h"
 
 namespace vernacle {
-
-namespace {
-
-constexpr float kLargestExponent = 4;
-
-} // namespace
 
 void MarkSpecial(int scale) {
     std::int32_t& colour = Design.ScaleColor[scale];
@@ -25,7 +18,7 @@ void MarkSpecial(int scale) {
 }
 
 float HeldExponent(float exponent) {
-    return std::clamp(exponent, -kLargestExponent, kLargestExponent);
+    return kExponentLimits.Held(exponent);
 }
 
 float BentDeflection(float fraction, float exponent) {

@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "core/entry.h"
+
 namespace vernacle {
 
 // An entry from which no scale can be computed. What was stored before stays; the text tells the
@@ -18,7 +20,8 @@ public:
 // before.
 void MarkSpecial(int scale);
 
-// An exponent held to the range of the setups, -4 to 4.
+// What the setups hold a linearity exponent to.
+constexpr EntryLimits kExponentLimits{-4, 4};
 float HeldExponent(float exponent);
 
 // The fraction to the power of the exponent, as a float. 0 to a negative power is an

@@ -1,6 +1,5 @@
 #include "setups/special.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -11,9 +10,6 @@
 namespace vernacle {
 
 namespace {
-
-constexpr float kFewestTicmarks = 1;
-constexpr float kMostTicmarks = kSpecialRows - 1;
 
 void ClearRow(int scale, int tic) {
     Design.StandardLabel[scale][tic].clear();
@@ -36,7 +32,7 @@ void StoreRow(int scale, int tic, const SpecialRow& row) {
 
 void ApplySpecialTable(int scale, float& ticmarks,
                        const std::array<SpecialRow, kSpecialRows>& rows) {
-    ticmarks = std::floor(std::clamp(std::abs(ticmarks), kFewestTicmarks, kMostTicmarks));
+    ticmarks = std::floor(kLastRowLimits.Held(std::abs(ticmarks)));
     Design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(ticmarks);
     for (int tic = 0; tic < kSpecialRows; ++tic) {
         ClearRow(scale, tic);
@@ -50,12 +46,12 @@ DeflectionFault CheckDeflection(int scale, int tic, std::string& text) {
     float& deflection = Design.TicDeflection[scale][tic];
     ParseEntry(text, deflection);
     const float entered = deflection;
-    deflection = std::clamp(deflection, 0.F, 1.F);
+    deflection = kDeflectionLimits.Held(entered);
     text = PlainNumber(deflection);
-    if (entered < 0) {
+    if (entered < deflection) {
         return DeflectionFault::Below;
     }
-    return entered > 1 ? DeflectionFault::Above : DeflectionFault::None;
+    return entered > deflection ? DeflectionFault::Above : DeflectionFault::None;
 }
 
 } // namespace vernacle

@@ -10,6 +10,9 @@ namespace vernacle {
 
 constexpr int kSpecialRows = 31;
 
+constexpr EntryLimits kLastRowLimits{1, kSpecialRows - 1}; // whatever its sign
+constexpr EntryLimits kDeflectionLimits{0, 1};
+
 struct SpecialRow {
     std::string deflection; // fraction of full deflection, as typed
     std::string label;

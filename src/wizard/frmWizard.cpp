@@ -154,6 +154,7 @@ void frmWizard::ShowStep(int step) {
     for (const char* part : {"lblStep", "cmdEnter"}) {
         findChild<QWidget*>(StepName(part, step))->show();
     }
+    BoxOf(step).TellRange(WizardRange(StepAt(step))); // which earlier steps may decide
     BoxOf(step).show();
 }
 

@@ -73,24 +73,24 @@ constexpr Place kMajorWidth = At<&D::MajorTicWidth>;
 // Some messages tell other limits than those that hold.
 // clang-format off
 constexpr WizardStep kSteps[] = {
-    {"Plate width, mm: ",               "txtPlateWidth",           kWidth,                       From(20),      From(180),        {"Please enter 20 minimum to 180 maximum"},               2, NameScale},
-    {"Plate height, mm: ",              "txtPlateHeight",          kHeight,                      From(10),      From(160),        {"Please enter 20 minimum to 160 maximum"},               3},
-    {"Bottom to bearing, mm: ",         "txtBottomToBearing",      At<&D::BottomToBearing>,      From(-100000), From(100000),     {"Please enter -100000 minimum to 100000 maximum"},       4},
-    {"Bottom to mounting, mm: ",        "txtBottomToHoles",        At<&D::BottomToHoles>,        From(-1000),   From(150),        {"Please enter -1000 minimum to 150 maximum"},            5},
-    {"Mounting hole separation, mm: ",  "txtHoleSeparation",       At<&D::HoleSeparation>,       From(5),       UpTo(kWidth),     {"Please enter 5 minimum to ", kWidth, " maximum"},       6},
-    {"Pointer deflection, degrees: ",   "txtPointerDeflection",    At<&D::PointerDeflection>,    From(0.1F),    From(360),        {"Please enter .1 minimum to 360 maximum"},               7},
-    {"Actual/virtual offset, mm: ",     "txtActualVirtualOffset",  At<&D::ActualVirtualOffset>,  From(0),       From(100000),     {"Please enter 0 minimum to 100000 maximum"},            10},
-    {"Major tic length, mm: ",          "txtMajorTicLength",       kMajorLength,                 From(1),       From(20),         {"Please enter 1 minimum to 20 maximum"},                 9},
-    {"Minor tic length, mm: ",          "txtMinorTicLength",       At<&D::MinorTicLength>,       Beyond(0.5),   UpTo(kMajorLength), {"Please enter .5 minimum to ", kMajorLength, " maximum"}, 12},
-    {"Major tic width, tenths of mm: ", "txtMajorTicWidth",        kMajorWidth,                  From(1),       From(20),         {"Please enter 1 minimum to 20 maximum"},                11},
-    {"Minor tic width, tenths of mm: ", "txtMinorTicWidth",        At<&D::MinorTicWidth>,        From(1),       UpTo(kMajorWidth),  {"Please enter .5 minimum to ", kMajorWidth, " maximum"},  25},
-    {"Arc thickness, tenths of mm: ",   "txtArcWidth",             At<&D::ArcWidth>,             From(1),       From(20),         {"Please enter 1 minimum to 20 maximum"},                24},
-    {"Bottom to scale ceiling, mm: ",   "txtBottomToScaleCeiling", At<&D::BottomToScaleCeiling>, Beyond(0),     UpTo(kHeight),    {"Please enter greater than zero to", kHeight, " maximum"}, 13},
-    {"Font size for ticmark labels: ",  "txtFontSize",             At<&D::FontSize>,             From(2),       From(20),         {"Please enter 2 minimum to 20 maximum"},                14},
-    {"Label to arc spacing, mm: ",      "txtLabelSpacing",         At<&D::LabelSpacing>,         Beyond(-100),  From(200),        {"Please enter greater than zero to 200 maximum"},       23},
-    {"Bottom to top of title, mm: ",    "txtBottomToTitle",        At<&D::BottomToTitle>,        Beyond(0),     UpTo(kHeight),    {"Please enter greater than zero to ", kHeight, " maximum"}, 0},
-    {"Number of ticmarks: ",            "txtNrOfTicmarks",         WorkingValue,                 Beyond(0),     Beyond(101),      {"Please enter 1 minimum to 100 maximum"},                0, CountTics,   At<&D::NrOfTicmarks>},
-    {"Major tics every how many: ",     "txtMajorEveryHowMany",    WorkingValue,                 Beyond(0),     Beyond(21),       {"Please enter greater than 0 to 10 maximum"},            0, CountMajors, At<&D::MajorEveryHowMany>},
+    {"Plate width, mm: ",               "txtPlateWidth",           "mm",           kWidth,                       From(20),      From(180),        {"Please enter 20 minimum to 180 maximum"},               2, NameScale},
+    {"Plate height, mm: ",              "txtPlateHeight",          "mm",           kHeight,                      From(10),      From(160),        {"Please enter 20 minimum to 160 maximum"},               3},
+    {"Bottom to bearing, mm: ",         "txtBottomToBearing",      "mm",           At<&D::BottomToBearing>,      From(-100000), From(100000),     {"Please enter -100000 minimum to 100000 maximum"},       4},
+    {"Bottom to mounting, mm: ",        "txtBottomToHoles",        "mm",           At<&D::BottomToHoles>,        From(-1000),   From(150),        {"Please enter -1000 minimum to 150 maximum"},            5},
+    {"Mounting hole separation, mm: ",  "txtHoleSeparation",       "mm",           At<&D::HoleSeparation>,       From(5),       UpTo(kWidth),     {"Please enter 5 minimum to ", kWidth, " maximum"},       6},
+    {"Pointer deflection, degrees: ",   "txtPointerDeflection",    "degrees",      At<&D::PointerDeflection>,    From(0.1F),    From(360),        {"Please enter .1 minimum to 360 maximum"},               7},
+    {"Actual/virtual offset, mm: ",     "txtActualVirtualOffset",  "mm",           At<&D::ActualVirtualOffset>,  From(0),       From(100000),     {"Please enter 0 minimum to 100000 maximum"},            10},
+    {"Major tic length, mm: ",          "txtMajorTicLength",       "mm",           kMajorLength,                 From(1),       From(20),         {"Please enter 1 minimum to 20 maximum"},                 9},
+    {"Minor tic length, mm: ",          "txtMinorTicLength",       "mm",           At<&D::MinorTicLength>,       Beyond(0.5),   UpTo(kMajorLength), {"Please enter .5 minimum to ", kMajorLength, " maximum"}, 12},
+    {"Major tic width, tenths of mm: ", "txtMajorTicWidth",        "tenths of mm", kMajorWidth,                  From(1),       From(20),         {"Please enter 1 minimum to 20 maximum"},                11},
+    {"Minor tic width, tenths of mm: ", "txtMinorTicWidth",        "tenths of mm", At<&D::MinorTicWidth>,        From(1),       UpTo(kMajorWidth),  {"Please enter .5 minimum to ", kMajorWidth, " maximum"},  25},
+    {"Arc thickness, tenths of mm: ",   "txtArcWidth",             "tenths of mm", At<&D::ArcWidth>,             From(1),       From(20),         {"Please enter 1 minimum to 20 maximum"},                24},
+    {"Bottom to scale ceiling, mm: ",   "txtBottomToScaleCeiling", "mm",           At<&D::BottomToScaleCeiling>, Beyond(0),     UpTo(kHeight),    {"Please enter greater than zero to", kHeight, " maximum"}, 13},
+    {"Font size for ticmark labels: ",  "txtFontSize",             "points",       At<&D::FontSize>,             From(2),       From(20),         {"Please enter 2 minimum to 20 maximum"},                14},
+    {"Label to arc spacing, mm: ",      "txtLabelSpacing",         "mm",           At<&D::LabelSpacing>,         Beyond(-100),  From(200),        {"Please enter greater than zero to 200 maximum"},       23},
+    {"Bottom to top of title, mm: ",    "txtBottomToTitle",        "mm",           At<&D::BottomToTitle>,        Beyond(0),     UpTo(kHeight),    {"Please enter greater than zero to ", kHeight, " maximum"}, 0},
+    {"Number of ticmarks: ",            "txtNrOfTicmarks",         "ticmarks",     WorkingValue,                 Beyond(0),     Beyond(101),      {"Please enter 1 minimum to 100 maximum"},                0, CountTics,   At<&D::NrOfTicmarks>},
+    {"Major tics every how many: ",     "txtMajorEveryHowMany",    "ticmarks",     WorkingValue,                 Beyond(0),     Beyond(21),       {"Please enter greater than 0 to 10 maximum"},            0, CountMajors, At<&D::MajorEveryHowMany>},
 };
 // clang-format on
 
@@ -256,6 +256,14 @@ std::optional<std::string> EnterWizardStep(const WizardStep& step, const std::st
 
 std::string WizardValue(const WizardStep& step) {
     return SignedNumber(static_cast<float>(NumberAt(step.field)));
+}
+
+std::string WizardRange(const WizardStep& step) {
+    return RangeText({.lowest = step.lowest.Value(),
+                      .highest = step.highest.Value(),
+                      .lowestIsOpen = step.lowest.open,
+                      .highestIsOpen = step.highest.open},
+                     step.unit);
 }
 
 std::string WizardPrompt(int topic) {

@@ -29,6 +29,7 @@ struct WizardRefusal {
 struct WizardStep {
     const char* caption = nullptr;
     const char* box = nullptr;
+    const char* unit = nullptr;
     Place field = nullptr;
     WizardLimit lowest = {};
     WizardLimit highest = {};
@@ -46,6 +47,9 @@ std::optional<std::string> EnterWizardStep(const WizardStep& step, const std::st
 
 // The value that a step has read, with its leading blank.
 std::string WizardValue(const WizardStep& step);
+
+// What a step accepts, in words, as the design stands.
+std::string WizardRange(const WizardStep& step);
 
 // What the user is asked for a help topic; empty for a number without a prompt.
 std::string WizardPrompt(int topic);

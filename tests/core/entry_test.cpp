@@ -19,6 +19,45 @@ T Entered(std::string text, T before = 0) {
     return target;
 }
 
+struct RangeRow {
+    EntryLimits limits;
+    const char* unit;
+    const char* text;
+};
+
+TEST_F(EntryTest, LimitsInWords) {
+    const RangeRow rows[] = {
+        {{20, 180}, "mm", "20 to 180 mm"},
+        {{-200, 200}, "mm", "-200 to 200 mm"},
+        {{-4, 4}, "", "-4 to 4"},
+        {{0.5, 1.15}, "", "0.5 to 1.15"},
+        {{0.7F, 1.1F}, "", "0.7 to 1.1"},
+        {{0.1, 360}, "degrees", "0.1 to 360 degrees"},
+        {{-100000, 1000000}, "mm", "-100000 to 1000000 mm"},
+        {{.lowest = -100}, "mm", "at least -100 mm"},
+        {{.highest = 1000000}, "mm", "at most 1000000 mm"},
+        {{.lowest = 0, .lowestIsOpen = true}, "mm", "above 0 mm"},
+        {{.highest = 5, .highestIsOpen = true}, "", "below 5"},
+        {{0.5, 3, true, false}, "mm", "above 0.5, at most 3 mm"},
+        {{0, 101, true, true}, "ticmarks", "above 0, below 101 ticmarks"},
+        {{0, 8, false, true}, "", "at least 0, below 8"},
+        {{}, "mm", ""},
+    };
+    for (const RangeRow& row : rows) {
+        EXPECT_EQ(RangeText(row.limits, row.unit), row.text);
+    }
+}
+
+TEST_F(EntryTest, LimitsHoldNumbers) {
+    constexpr EntryLimits kLimits{-2.5, 10};
+    EXPECT_EQ(kLimits.Held(-3.), -2.5);
+    EXPECT_EQ(kLimits.Held(-2.5F), -2.5F);
+    EXPECT_EQ(kLimits.Held(10.F), 10.F);
+    EXPECT_EQ(kLimits.Held(10.5), 10);
+    EXPECT_EQ(EntryLimits{}.Held(-1e30), -1e30);
+    EXPECT_EQ((EntryLimits{.highest = 1}.Held(1e9F)), 1);
+}
+
 TEST_F(EntryTest, AcceptsForgivingNumbers) {
     struct Row {
         const char* text;
