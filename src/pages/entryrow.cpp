@@ -34,6 +34,7 @@ std::string RangeOf(const EntryRow& entry) {
 EntryBox* MakeBox(const EntryRow& entry) {
     auto* box = new EntryBox(entry.box, QString::fromUtf8(entry.caption));
     box->SetReading(entry.reading);
+    box->SetRewriting(entry.rewriting);
     box->TellRange(RangeOf(entry));
     return box;
 }

@@ -23,6 +23,7 @@ struct EntryRow {
     const char* partner = nullptr; // that the arrows step instead of the box
     double partnerUnit = 1;        // in the box's own
     Reading reading = Reading::Entry;
+    Rewriting rewriting = Rewriting::WhenLeft;
 };
 
 struct EntryControls {

@@ -170,6 +170,7 @@ void frmPreview::txtAspectUpDownChanged() {
     const double percent = NumericValue(txtAspectUpDown_->Text());
     Design.AspectRatio = HeldAspect(percent * 0.01);
     ShowAspect();
+    txtAspect_->Show(PlainNumber(Design.AspectRatio)); // which the ratio's box has rounded
 }
 
 // The fields show the new aspect, and the picture loses its overlays, by a new load.

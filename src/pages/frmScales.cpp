@@ -156,9 +156,7 @@ void frmScales::txtRelFontsizeChanged(const Entry& entry) {
     ParseEntry(text, size);
     const float entered = size;
     size = entry.row.limits.Held(entered);
-    if (size != entered) {
-        Box(entry.row.box).Write(PlainNumber(size));
-    }
+    Box(entry.row.box).ShowHeld(entered, size);
     Redraw();
 }
 

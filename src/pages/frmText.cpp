@@ -40,9 +40,9 @@ constexpr double kTenths = 0.1; // that the arrows of the size step
 
 // clang-format off
 constexpr EntryRow kText   = {"txtText",         "lblText",         "Text:",           nullptr,   {}};
-constexpr EntryRow kLeft   = {"txtLeftToText",   "lblLeftToText",   "Left to text:",   "UpDown1", {-100, 180}, {.lowest = -100}, "mm",                  nullptr,            1,       Reading::Plain};
+constexpr EntryRow kLeft   = {"txtLeftToText",   "lblLeftToText",   "Left to text:",   "UpDown1", {-100, 180}, {.lowest = -100}, "mm",                  nullptr,            1,       Reading::Plain, Rewriting::AtOnce};
 constexpr EntryRow kBottom = {"txtBottomToText", "lblBottomToText", "Bottom to text:", "UpDown2", {0, 180},    {},               "mm",                  nullptr,            1,       Reading::Plain};
-constexpr EntryRow kSize   = {"txtRelSize",      "lblRelSize",      "Relative size:",  "UpDown3", {1, 20},     {.highest = 2},   "times the font size", "txtRelSizeUpDown", kTenths, Reading::Entry};
+constexpr EntryRow kSize   = {"txtRelSize",      "lblRelSize",      "Relative size:",  "UpDown3", {1, 20},     {.highest = 2},   "times the font size", "txtRelSizeUpDown", kTenths, Reading::Entry, Rewriting::AtOnce};
 // clang-format on
 
 float RoundedToTenths(float value) {
@@ -136,9 +136,7 @@ void frmText::txtLeftToTextChanged() {
     const float entered = Box("txtLeftToText").Number();
     float& left = texts_.LeftToText[CurrentTextEntry_];
     left = kLeft.limits.Held(entered);
-    if (left != entered) {
-        Box("txtLeftToText").Write(PlainNumber(left));
-    }
+    Box("txtLeftToText").ShowHeld(entered, left);
     Redraw();
 }
 
@@ -153,9 +151,7 @@ void frmText::txtRelSizeChanged() {
     ParseEntry(text, size);
     const float entered = size;
     size = kSize.limits.Held(entered);
-    if (size != entered) {
-        Box("txtRelSize").Write(PlainNumber(size));
-    }
+    Box("txtRelSize").ShowHeld(entered, size);
     MeasureTextWidth(CurrentTextEntry_);
     Redraw();
 }

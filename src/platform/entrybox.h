@@ -1,8 +1,14 @@
 // A box for one typed value. Its handler runs at every change of the text, typed or written by the
 // program alike.
+//
+// A handler may write another text into its own box: a limit, the number in its plain form. While
+// the user types, that would stand between two keys and make ".8" a ".58". So what a key brings on
+// waits until the box is left: by Tab, a click elsewhere, Return, a shortcut, or its arrows. All
+// else that the handler does follows each key, and what is pasted is rewritten at once.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include <QLineEdit>
@@ -14,6 +20,12 @@ class UpDown;
 enum class Reading {
     Entry, // by the rules of an entry, "2k2" and "1,5"
     Plain, // the number that the text starts with
+};
+
+// When the box shows what its handler wrote into it while a key was under way.
+enum class Rewriting {
+    WhenLeft,
+    AtOnce, // where no number that is accepted is typed through one that is not
 };
 
 class EntryBox : public QLineEdit {
@@ -34,6 +46,7 @@ public:
     float SteppedNumber() const;
 
     void SetReading(Reading reading) { reading_ = reading; }
+    void SetRewriting(Rewriting rewriting) { rewriting_ = rewriting; }
 
     // Tells the user, by the box's tip and to a screen reader, what numbers it takes.
     void TellRange(const std::string& range);
@@ -46,22 +59,43 @@ public:
     // is running: two boxes that show the same value in two forms would else never end.
     void Write(const std::string& text);
 
+    // From a handler that has held the entered number to its limits: the box shows where it was
+    // held, and else goes on showing what was entered.
+    void ShowHeld(float entered, float held);
+
+    // The box is left: shows what waits to be shown.
+    void FinishTyping();
+
     // The Up and Down keys step these.
-    void SetArrows(UpDown* arrows) { arrows_ = arrows; }
+    void SetArrows(UpDown* arrows);
 
     // A warning colour, or white, with a text that reads on it whatever the desktop's colours are.
     void SetBackground(const QColor& colour);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+    // Of the whole program, while a text waits: a click or a shortcut leaves the box also where it
+    // takes no focus.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Changed();
+    void Put(const QString& text);
+    void Owe(const std::optional<QString>& text);
 
     std::function<void()> handler_;
     UpDown* arrows_ = nullptr;
     Reading reading_ = Reading::Entry;
-    int running_ = 0; // handlers under way
+    Rewriting rewriting_ = Rewriting::WhenLeft;
+    int running_ = 0;             // handlers under way
+    int typing_ = 0;              // keys under way
+    std::optional<QString> owed_; // waits until the box is left
+    bool enteredByClick_ = false; // which has not ended yet
 };
 
 } // namespace vernacle

@@ -59,4 +59,14 @@ void UpDown::OnStep(std::function<void()> up, std::function<void()> down) {
     down_ = std::move(down);
 }
 
+void UpDown::Up() {
+    Q_EMIT Stepping();
+    up_();
+}
+
+void UpDown::Down() {
+    Q_EMIT Stepping();
+    down_();
+}
+
 } // namespace vernacle

@@ -33,8 +33,11 @@ public:
     // What the arrows do instead.
     void OnStep(std::function<void()> up, std::function<void()> down);
 
-    void Up() { up_(); }
-    void Down() { down_(); }
+    void Up();
+    void Down();
+
+Q_SIGNALS:
+    void Stepping(); // before each step
 
 private:
     std::function<void()> up_ = [] {};

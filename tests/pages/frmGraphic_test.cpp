@@ -176,6 +176,57 @@ TEST_F(GraphicPageTest, SizesAreLimitedAtOnceAndShowIt) {
     EXPECT_EQ(Design.GraphicHeight, 180);
 }
 
+// The first digit of a size may be below its limit.
+TEST_F(GraphicPageTest, SizesAreTypedDigitByDigit) {
+    struct Row {
+        const char* typed;
+        const char* shown; // when the box is left
+        float value;
+    };
+    const Row rows[] = {{"15", "15", 15},        {"1", "2", 2},       {"0.5", "2", 2},
+                        {"12.5", "12.5", 12.5F}, {"400", "180", 180}, {"4000", "180", 180},
+                        {"007", "7", 7}};
+    OpenGraphic();
+    for (const char* name : {"GraphicWidth", "GraphicHeight"}) {
+        for (const Row& row : rows) {
+            SCOPED_TRACE(std::string(name) + " " + row.typed);
+            const std::string box = std::string("txt") + name;
+            Paste(box, "33");
+            Box(box).setFocus();
+            Box(box).selectAll();
+            for (const char* key = row.typed; *key != '\0'; ++key) {
+                Wipe();
+                QTest::keyClick(&Box(box), *key);
+                EXPECT_EQ(TextOf(box), std::string(row.typed, key + 1));
+                EXPECT_TRUE(WasRedrawn());
+            }
+            const float value =
+                name == std::string("GraphicWidth") ? Design.GraphicWidth : Design.GraphicHeight;
+            EXPECT_EQ(value, row.value);
+            EXPECT_EQ(TextOf(box + "UpDown"), PlainNumber(row.value));
+            QTest::keyClick(&Box(box), Qt::Key_Tab);
+            EXPECT_EQ(TextOf(box), row.shown);
+        }
+    }
+}
+
+// A shortcut of the toolbar reads what a press of its key reads.
+TEST_F(GraphicPageTest, ShortcutsLeaveTheTypedBox) {
+    for (const bool byKey : {false, true}) {
+        OpenGraphic();
+        Type("txtGraphicWidth", "2k2"); // plainly 2, as an entry 2200
+        if (byKey) {
+            QTest::keyClick(&Box("txtGraphicWidth"), Qt::Key_5, Qt::ControlModifier);
+        } else {
+            Click("Highlights");
+        }
+        Settle();
+        EXPECT_EQ(Page().objectName(), QLatin1String("frmHighlights"));
+        EXPECT_EQ(Design.GraphicWidth, 2);
+        Design.GraphicWidth = 33;
+    }
+}
+
 TEST_F(GraphicPageTest, DistancesTakeAnything) {
     OpenGraphic();
     Type("txtLeftToImage", "500");

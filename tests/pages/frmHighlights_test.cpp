@@ -238,7 +238,31 @@ TEST_F(HighlightsPageTest, HeightHasAPartnerInTenths) {
     EXPECT_EQ(Design.HighlightLength[1], 0);
     Type("txtLength1", "0.33");
     EXPECT_EQ(TextOf("txtLength10"), "3.3");
+    EXPECT_EQ(TextOf("txtLength1"), "0.33");
+    QTest::keyClick(&Box("txtLength1"), Qt::Key_Tab);
     EXPECT_EQ(TextOf("txtLength1"), ".33") << "written back by its partner";
+    EXPECT_EQ(Design.HighlightLength[1], 0.33F);
+}
+
+TEST_F(HighlightsPageTest, HeightFollowsEachKey) {
+    OpenHighlights();
+    Click("Option1");
+    EntryBox& box = Box("txtLength1");
+    box.setFocus();
+    box.selectAll();
+    const std::pair<char, const char*> keys[] = {{'0', "0"}, {'.', "0"}, {'0', "0"}, {'5', ".5"}};
+    std::string typed;
+    for (const auto& [key, tenths] : keys) {
+        typed += key;
+        Wipe();
+        QTest::keyClick(&box, key);
+        EXPECT_EQ(box.Text(), typed);
+        EXPECT_EQ(TextOf("txtLength10"), tenths);
+        EXPECT_EQ(Design.HighlightLength[1], box.Number());
+        EXPECT_TRUE(WasRedrawn());
+    }
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_EQ(box.Text(), ".05");
 }
 
 // Every tenth comes back as it was.

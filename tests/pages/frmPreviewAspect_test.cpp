@@ -1,10 +1,22 @@
 // The aspect entry of the preview page: its two boxes, which rewrite each other, and the arrows.
+#include "core/numbertext.h"
 #include "previewtest.h"
 
 namespace vernacle::test {
 namespace {
 
-class AspectTest : public PreviewTest {};
+class AspectTest : public PreviewTest {
+protected:
+    // The box that is not typed into shows the aspect after each key.
+    void ExpectOtherBoxAgrees(const std::string& typed) const {
+        const double aspect = double{Design.AspectRatio};
+        if (typed == "txtAspect") {
+            EXPECT_EQ(TextOf("txtAspectUpDown"), PlainNumber(static_cast<float>(aspect * 100)));
+        } else {
+            EXPECT_EQ(TextOf("txtAspect"), PlainNumber(Design.AspectRatio));
+        }
+    }
+};
 
 struct EntryRow {
     const char* entered;
@@ -80,51 +92,65 @@ struct TypedRow {
     EntryRow after;
 };
 
-// The box is rewritten at each key. The first key replaces the selected text.
+// What the boxes show once the typed one is left. The first key replaces the selected text.
 constexpr TypedRow kTyped[] = {
-    {"txtAspect", "0", {"", 0.5F, ".5", "50"}},
+    {"txtAspect", ".8", {"", 0.8F, ".8", "80"}},
+    {"txtAspect", "0.8", {"", 0.8F, ".8", "80"}},
+    {"txtAspect", "0,9", {"", 0.9F, ".9", "90"}},
+    {"txtAspect", "1.1", {"", 1.1F, "1.1", "110"}},
+    {"txtAspect", "1.15", {"", 1.15F, "1.15", "115"}},
+    {"txtAspect", "0.777", {"", 0.78F, ".78", "78"}},
+    {"txtAspect", "0.4", {"", 0.5F, ".5", "50"}},
     {"txtAspect", "0.", {"", 0.5F, ".5", "50"}},
-    {"txtAspect", "0.7", {"", 0.57F, ".57", "57"}},
-    {"txtAspect", "0.77", {"", 0.58F, ".58", "58"}},
-    {"txtAspect", "0.777", {"", 0.59F, ".59", "59"}},
-    {"txtAspect", "1", {"", 1, "1", "100"}},
     {"txtAspect", "1.", {"", 1, "1", "100"}},
-    {"txtAspect", "1.1", {"", 1.15F, "1.15", "115"}},
     {"txtAspect", "9", {"", 1.15F, "1.15", "115"}},
+    {"txtAspect", "x", {"", 0.5F, ".5", "50"}},
+    {"txtAspectUpDown", "80", {"", 0.8F, ".8", "80"}},
+    {"txtAspectUpDown", "110", {"", 1.1F, "1.1", "110"}},
+    {"txtAspectUpDown", "99.9", {"", 1, "1", "100"}},
     {"txtAspectUpDown", "8", {"", 0.5F, ".5", "50"}},
-    {"txtAspectUpDown", "80", {"", 1.15F, "1.15", "115"}},
+    {"txtAspectUpDown", "1000", {"", 1.15F, "1.15", "115"}},
     {"txtAspectUpDown", "x", {"", 0.5F, ".5", "50"}},
 };
 
+// The value, the other box and the picture follow each key; the typed box stays as it is typed.
 TEST_F(AspectTest, TypedCharacterByCharacter) {
     for (const TypedRow& row : kTyped) {
         SCOPED_TRACE(std::string(row.box) + " " + row.keys);
-        OpenPreviewAt(0.8F);
+        OpenPreviewAt(0.65F);
         EntryBox& box = Box(row.box);
         box.setFocus();
         box.selectAll();
         for (const char* key = row.keys; *key != '\0'; ++key) {
             QTest::keyClick(&box, *key);
-            EXPECT_EQ(box.cursorPosition(), box.text().size()) << "the cursor stays at the end";
+            const std::string typed(row.keys, key + 1);
+            EXPECT_EQ(box.Text(), typed);
+            ExpectPlainPicture();
+            ExpectOtherBoxAgrees(row.box);
         }
+        EXPECT_FLOAT_EQ(Design.AspectRatio, row.after.aspect);
+        QTest::keyClick(&box, Qt::Key_Tab);
         ExpectAspect(row.after.aspect, row.after.ratio, row.after.percent);
         ExpectPlainPicture();
     }
 }
 
-TEST_F(AspectTest, CursorInTheMiddleGoesToTheEndWhereTheBoxIsRewritten) {
+TEST_F(AspectTest, CursorStaysInTheMiddle) {
     OpenPreviewAt(0.8F);
     EntryBox& box = Box("txtAspect");
     box.setFocus();
     box.setCursorPosition(0);
-    QTest::keyClick(&box, Qt::Key_0); // "0.8"
-    EXPECT_EQ(TextOf("txtAspect"), ".8");
-    EXPECT_EQ(box.cursorPosition(), 2);
+    QTest::keyClick(&box, Qt::Key_0);
+    EXPECT_EQ(TextOf("txtAspect"), "0.8");
+    EXPECT_EQ(box.cursorPosition(), 1);
 }
 
-TEST_F(AspectTest, ErasedBoxShowsTheSmallest) {
+TEST_F(AspectTest, ErasedBoxShowsTheSmallestWhenItIsLeft) {
     OpenPreviewAt(0.8F);
     Type("txtAspect", "");
+    EXPECT_EQ(TextOf("txtAspect"), "");
+    EXPECT_EQ(TextOf("txtAspectUpDown"), "50");
+    Click("picPlate");
     ExpectAspect(0.5F, ".5", "50");
 }
 
@@ -178,6 +204,28 @@ TEST_F(AspectTest, ArrowsReloadThePage) {
     EXPECT_TRUE(before.isNull());
     EXPECT_EQ(Page().windowTitle().toStdString(), "Vernacle - Preview - /designs/mine.VRN");
     ExpectAspect(0.81F, ".81", "81");
+}
+
+TEST_F(AspectTest, ArrowsStepFromWhatIsTyped) {
+    for (const char* box : {"txtAspect", "txtAspectUpDown"}) {
+        SCOPED_TRACE(box);
+        OpenPreviewAt(0.65F);
+        Type(box, box == std::string("txtAspect") ? "0.4" : "40");
+        StepUp("UpDown1");
+        Settle();
+        ExpectAspect(0.51F, ".51", "51");
+        ExpectPlainPicture();
+    }
+}
+
+// A page that comes up over another design takes nothing from what was typed on the one before.
+TEST_F(AspectTest, AnUnfinishedTextGoesWithItsPage) {
+    OpenPreviewAt(0.8F);
+    Type("txtAspect", "0.");
+    Design.AspectRatio = 0.9F;
+    ReloadPage();
+    Settle();
+    ExpectAspect(0.9F, ".9", "90");
 }
 
 TEST_F(AspectTest, KeysStepInThePercentBoxAndStayThere) {

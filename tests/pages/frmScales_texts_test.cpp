@@ -48,15 +48,37 @@ TEST_F(ScalesTextsTest, RelativeSizeBeyondItsLimitsRewritesItsBox) {
     }
 }
 
-TEST_F(ScalesTextsTest, RelativeSizeIsRewrittenWhileItIsTyped) {
+// Typed, what is beyond the limits is rewritten when the box is left, and held at each key.
+TEST_F(ScalesTextsTest, TypedRelativeSizeIsRewrittenWhenItsBoxIsLeft) {
     OpenScales();
-    Overtype("txtRelFontsize", "2");
-    EXPECT_EQ(TextOf("txtRelFontsize"), "1.5");
-    Overtype("txtRelFontsize", ".");
-    EXPECT_EQ(TextOf("txtRelFontsize"), ".5");
-    Overtype("txtRelFontsize", "1.25");
-    EXPECT_EQ(TextOf("txtRelFontsize"), "1.25");
-    EXPECT_EQ(Design.RelativeFontSize[1], 1.25F);
+    for (const SizeEntry& row : kSizes) {
+        SCOPED_TRACE(row.typed);
+        Type("txtRelFontsize", "1.1");
+        Spoil();
+        Overtype("txtRelFontsize", row.typed);
+        if (*row.typed == '\0') {
+            QTest::keyClick(&Box("txtRelFontsize"), Qt::Key_Delete);
+        }
+        EXPECT_EQ(TextOf("txtRelFontsize"), row.typed);
+        EXPECT_EQ(Design.RelativeFontSize[1], row.held);
+        ExpectRedrawn();
+        QTest::keyClick(&Box("txtRelFontsize"), Qt::Key_Tab);
+        EXPECT_EQ(TextOf("txtRelFontsize"), row.shown);
+        EXPECT_EQ(Design.RelativeFontSize[1], row.held);
+        ExpectRedrawn();
+    }
+}
+
+TEST_F(ScalesTextsTest, ArrowsStepRelativeSizeFromWhereTypingLeftIt) {
+    Design.ActiveScale = 2;
+    OpenScales(2);
+    Click("Option2");
+    Type("txtRelFontsize", "2");
+    QTest::keyClick(&Box("txtRelFontsize"), Qt::Key_Down); // through its partner, at 10 tenths
+    EXPECT_EQ(TextOf("txtRelFontsize"), ".9");
+    EXPECT_EQ(Design.RelativeFontSize[2], 0.9F);
+    QTest::keyClick(&Box("txtRelFontsize"), Qt::Key_Tab);
+    EXPECT_EQ(TextOf("txtRelFontsize"), ".9") << "no text waits any more";
 }
 
 TEST_F(ScalesTextsTest, TooLongRelativeSizeLeavesTheValue) {

@@ -91,6 +91,27 @@ TEST_F(SpecialPageTest, CountIsHeldAtEachChange) {
     }
 }
 
+// Typed, the count is held at each key and rewritten when its box is left.
+TEST_F(SpecialPageTest, CountIsTypedDigitByDigit) {
+    const CountRow rows[] = {{"12", "12", 13}, {"5", "5", 6},   {"0", "1", 2}, {"300", "30", 31},
+                             {"-5", "5", 6},   {"2.7", "2", 3}, {"x", "1", 2}, {"07", "7", 8}};
+    OpenSpecial();
+    for (const CountRow& row : rows) {
+        SCOPED_TRACE(row.typed);
+        Type("txtNrOfTicmarks", row.typed);
+        EXPECT_EQ(TextOf("txtNrOfTicmarks"), row.typed);
+        EXPECT_EQ(RowsShown(), row.rows);
+        EXPECT_EQ(Design.SpecialNrOfTicmarks[1], row.rows - 1);
+        QTest::keyClick(&Box("txtNrOfTicmarks"), Qt::Key_Tab);
+        EXPECT_EQ(TextOf("txtNrOfTicmarks"), row.shown);
+        EXPECT_EQ(RowsShown(), row.rows);
+    }
+    Type("txtNrOfTicmarks", "");
+    EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 1);
+    Click("txtDeflection0");
+    EXPECT_EQ(TextOf("txtNrOfTicmarks"), "1");
+}
+
 TEST_F(SpecialPageTest, HiddenRowsKeepTheirEntries) {
     OpenSpecial();
     Paste("txtNrOfTicmarks", "5");
