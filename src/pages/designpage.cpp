@@ -70,8 +70,12 @@ KeyState StateOf(const PageTraits& traits, const ToolbarKey& key) {
 } // namespace
 
 DesignPage::DesignPage(const PageTraits& traits) : Page(traits.form), traits_(traits) {
-    setWindowTitle(TitleOf(traits));
+    ShowTitle();
     AddToolbar();
+}
+
+void DesignPage::ShowTitle() {
+    setWindowTitle(TitleOf(traits_));
 }
 
 void DesignPage::AddToolbar() {

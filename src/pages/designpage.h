@@ -44,6 +44,9 @@ protected:
 
     void CloseBoxClicked() override;
 
+    // The title with the design's name, as it is now.
+    void ShowTitle();
+
     // Runs at the head of every key of the toolbar.
     virtual void BeforeKey() {}
 

@@ -43,24 +43,36 @@ bool Toggle(std::int16_t& flag) {
     return flag == 1;
 }
 
+std::int16_t& CircleFlag() {
+    return Design.PlateOutlineCircular;
+}
+std::int16_t& GridFlag() {
+    return Drawing.GridShown;
+}
+std::int16_t& PointerFlag() {
+    return Drawing.PointerShown;
+}
+
 } // namespace
 
+// A button below the aspect; that of an overlay has a flag.
 struct frmPreview::Tool {
     const char* name;
     const char* caption;
     const char* tip;
     const char* icon;
     void (frmPreview::*clicked)();
+    std::int16_t& (*flag)();
 };
 
+// clang-format off
 const frmPreview::Tool frmPreview::kTools[] = {
-    {"cmdCircle", "Circle", "Show or hide a circular outline; a plate with it prints as a circle",
-     "circle", &frmPreview::cmdCircleClicked},
-    {"cmdGrid", "Grid", "Show or hide a grid of millimetres", "grid", &frmPreview::cmdGridClicked},
-    {"cmdPointer", "Pointer", "Show or hide the pointer and its length", "pointer",
-     &frmPreview::cmdPointerClicked},
-    {"cmdHPGL", "HP-GL", "Write the design for a plotter", "plotter", &frmPreview::cmdHPGLClicked},
+    {"cmdCircle",  "Circle",  "Show or hide a circular outline; a plate with it prints as a circle", "circle",  &frmPreview::cmdCircleClicked,  CircleFlag},
+    {"cmdGrid",    "Grid",    "Show or hide a grid of millimetres",                                  "grid",    &frmPreview::cmdGridClicked,    GridFlag},
+    {"cmdPointer", "Pointer", "Show or hide the pointer and its length",                             "pointer", &frmPreview::cmdPointerClicked, PointerFlag},
+    {"cmdHPGL",    "HP-GL",   "Write the design for a plotter",                                      "plotter", &frmPreview::cmdHPGLClicked,    nullptr},
 };
+// clang-format on
 
 frmPreview::frmPreview() : DesignPage(kTraits) {
     Build();
@@ -118,11 +130,18 @@ QLayout* frmPreview::MakeTools() {
         button->setIconSize(QSize(kToolIconSize, kToolIconSize));
         connect(button, &QPushButton::clicked, this, tool.clicked);
         column->addWidget(button);
+        if (tool.flag) {
+            button->setCheckable(true);
+            overlays_.push_back({button, tool.flag});
+        }
     }
     return column;
 }
 
+// The page comes up, or its picture is to be drawn without the overlays: the design is made ready
+// in the same way, and the controls stay.
 void frmPreview::Load() {
+    ShowTitle();
     NormalizeDesign();
     sizes_ = {Design.FontSize, Design.LabelSpacing};
     CopyTexts();
@@ -134,11 +153,20 @@ void frmPreview::Load() {
     PageFrame(PreviewTraits()); // raises the aspect too
     ShowAspect();
     ShowPercent();
+    ShowFlags();
     Draw();
+}
+
+// A flag of an overlay outlives its drawing: the next press then turns it off.
+void frmPreview::ShowFlags() {
+    for (const Overlay& overlay : overlays_) {
+        overlay.button->setChecked(overlay.flag() != 0);
+    }
 }
 
 void frmPreview::CopyTexts() {
     texts_ = Design.TextString;
+    numberOfTexts_ = 0;
     for (int text = 1; text <= kTexts; ++text) {
         numberOfTexts_ += texts_[text].empty() ? 0 : 1;
     }
@@ -173,33 +201,35 @@ void frmPreview::txtAspectUpDownChanged() {
     txtAspect_->Show(PlainNumber(Design.AspectRatio)); // which the ratio's box has rounded
 }
 
-// The fields show the new aspect, and the picture loses its overlays, by a new load.
 void frmPreview::UpDown1Clicked(double aspect) {
     Design.AspectRatio = HeldAspect(aspect);
-    ReloadPage();
+    Load();
 }
 
 void frmPreview::cmdCircleClicked() {
-    if (Toggle(Design.PlateOutlineCircular)) {
+    if (Toggle(CircleFlag())) {
         DrawOutline(plate_->Surface(), PageFrame(PreviewTraits()), OutlineStart::Moved, kBlueInk);
+        ShowFlags();
     } else {
-        ReloadPage();
+        Load();
     }
 }
 
 void frmPreview::cmdGridClicked() {
-    if (Toggle(Drawing.GridShown)) {
+    if (Toggle(GridFlag())) {
         DrawGrid(plate_->Surface(), PageFrame(PreviewTraits()));
+        ShowFlags();
     } else {
-        ReloadPage();
+        Load();
     }
 }
 
 void frmPreview::cmdPointerClicked() {
-    if (Toggle(Drawing.PointerShown)) {
+    if (Toggle(PointerFlag())) {
         DrawPointer(plate_->Surface(), PageFrame(PreviewTraits()), Drawing);
+        ShowFlags();
     } else {
-        ReloadPage();
+        Load();
     }
 }
 

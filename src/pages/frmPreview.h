@@ -4,12 +4,14 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/design.h"
 #include "pages/designpage.h"
 #include "render/drawing.h"
 
 class QLayout;
+class QPushButton;
 
 namespace vernacle {
 
@@ -43,10 +45,18 @@ private:
     void Draw();
     void ShowAspect();
     void ShowPercent();
+    void ShowFlags();
+
+    // A button that looks pressed while its flag is set.
+    struct Overlay {
+        QPushButton* button;
+        std::int16_t& (*flag)();
+    };
 
     EntryBox* txtAspect_ = nullptr;
     EntryBox* txtAspectUpDown_ = nullptr;
     PictureBox* plate_ = nullptr;
+    std::vector<Overlay> overlays_;
     PageCopies sizes_;
     Table<std::string, kTexts> texts_; // the design's free texts, as they were at the load
     int numberOfTexts_ = 0;

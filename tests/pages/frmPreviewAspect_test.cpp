@@ -1,4 +1,6 @@
 // The aspect entry of the preview page: its two boxes, which rewrite each other, and the arrows.
+#include <QToolButton>
+
 #include "core/numbertext.h"
 #include "previewtest.h"
 
@@ -15,6 +17,17 @@ protected:
         } else {
             EXPECT_EQ(TextOf("txtAspect"), PlainNumber(Design.AspectRatio));
         }
+    }
+
+    // Holds the arrow down until that is reached.
+    template <typename Reached>
+    void Hold(const std::string& arrow, const Reached& reached) const {
+        constexpr int kPatience = 20000; // ms
+        auto& button = Find<QToolButton>(arrow);
+        QTest::mousePress(&button, Qt::LeftButton);
+        EXPECT_TRUE(QTest::qWaitFor(reached, kPatience)) << arrow;
+        EXPECT_TRUE(button.isDown()) << "still held";
+        QTest::mouseRelease(&button, Qt::LeftButton);
     }
 };
 
@@ -196,14 +209,45 @@ TEST_F(AspectTest, ArrowsGetOnFromEveryHundredth) {
     }
 }
 
-TEST_F(AspectTest, ArrowsReloadThePage) {
+// What a load of the page does to the design they do too; the page itself stays.
+TEST_F(AspectTest, ArrowsLoadAnewAndKeepThePage) {
     const QPointer<QWidget> before = &OpenPreviewAt(0.8F);
+    const QPointer<QWidget> box = &Box("txtAspect");
     Design.DesignFileName = "/designs/mine.VRN";
+    Design.FontName = "Courier";
+    Design.NumberOfScales = 3;
+    Design.FontSize = 16;
+    Design.PlateWidth = 500;
+    Design.TextString[1] = "a";
+    Design.StandardDeflection[1][5] = 9;
     StepUp("UpDown1");
     Settle();
-    EXPECT_TRUE(before.isNull());
+    EXPECT_EQ(&Page(), before);
+    EXPECT_EQ(&Box("txtAspect"), box);
     EXPECT_EQ(Page().windowTitle().toStdString(), "Vernacle - Preview - /designs/mine.VRN");
     ExpectAspect(0.81F, ".81", "81");
+    EXPECT_EQ(Design.FontName, "Arial");
+    EXPECT_EQ(Design.NumberOfScales, 1);
+    EXPECT_EQ(Design.PlateWidth, 180);
+    EXPECT_NE(Design.StandardDeflection[1][5], 9);
+    EXPECT_TRUE(Find("picPlate").accessibleDescription().endsWith(QStringLiteral(": 1")));
+    ExpectPlainPicture(); // with the font size of now
+    StepUp("UpDown1");
+    EXPECT_TRUE(Find("picPlate").accessibleDescription().endsWith(QStringLiteral(": 1")));
+}
+
+TEST_F(AspectTest, HeldArrowsGoOn) {
+    OpenPreviewAt(0.8F);
+    const QWidget* page = &Page();
+    const QWidget* arrow = &Find("UpDown1Up");
+    Hold("UpDown1Up", [] { return Design.AspectRatio > 0.835F; });
+    EXPECT_EQ(&Page(), page);
+    EXPECT_EQ(&Find("UpDown1Up"), arrow);
+    ExpectPlainPicture();
+    Hold("UpDown1Down", [] { return Design.AspectRatio < 0.795F; });
+    ExpectPlainPicture();
+    ExpectAspect(Design.AspectRatio, PlainNumber(Design.AspectRatio),
+                 PlainNumber(static_cast<float>(double{Design.AspectRatio} * 100)));
 }
 
 TEST_F(AspectTest, ArrowsStepFromWhatIsTyped) {

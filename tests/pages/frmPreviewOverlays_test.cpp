@@ -1,8 +1,10 @@
 // The overlays of the preview page: their flags, and what is on the picture.
-#include "previewtest.h"
-
 #include <functional>
 
+#include <QAccessible>
+#include <QPushButton>
+
+#include "previewtest.h"
 #include "render/overlays.h"
 
 namespace vernacle::test {
@@ -29,6 +31,15 @@ protected:
     void Press(const Overlay& overlay) {
         Click(overlay.button);
         Settle();
+    }
+
+    // To the eye and to a screen reader.
+    void ExpectPressed(const Overlay& overlay, bool pressed) const {
+        auto& button = Find<QPushButton>(overlay.button);
+        EXPECT_EQ(button.isChecked(), pressed);
+        const QAccessible::State state = QAccessible::queryAccessibleInterface(&button)->state();
+        EXPECT_TRUE(state.checkable);
+        EXPECT_EQ(state.checked, pressed);
     }
 
     static Calls CallsOf(const Overlay& overlay) {
@@ -59,13 +70,13 @@ TEST_F(OverlayTest, FirstPressDrawsOverThePictureAsItStands) {
 TEST_F(OverlayTest, SecondPressLeavesNoneOfIt) {
     for (const Overlay& overlay : kOverlays) {
         SCOPED_TRACE(overlay.button);
-        const QPointer<QWidget> page = &OpenPreviewAt(0.8F);
+        const QWidget* page = &OpenPreviewAt(0.8F);
         const Calls plain = Shown();
         Press(overlay);
         Press(overlay);
         EXPECT_EQ(overlay.flag(), 0);
         EXPECT_EQ(Shown(), plain);
-        EXPECT_TRUE(page.isNull()) << "reloaded";
+        EXPECT_EQ(&Page(), page) << "only drawn anew";
         EXPECT_EQ(Page().focusWidget()->objectName().toStdString(), overlay.button);
     }
 }
@@ -143,6 +154,38 @@ TEST_F(OverlayTest, NewAspectDrawsWithoutThem) {
         }()) << "at the new aspect";
         overlay.flag() = 0;
     }
+}
+
+// The flag decides, not whether the overlay is drawn.
+TEST_F(OverlayTest, ButtonsLookPressedWhileTheirFlagIsSet) {
+    for (const Overlay& overlay : kOverlays) {
+        SCOPED_TRACE(overlay.button);
+        OpenPreviewAt(0.8F);
+        ExpectPressed(overlay, false);
+        const QImage released = Find(overlay.button).grab().toImage();
+        Press(overlay);
+        ExpectPressed(overlay, true);
+        EXPECT_NE(Find(overlay.button).grab().toImage(), released);
+        StepUp("UpDown1"); // takes the drawing away
+        ExpectPressed(overlay, true);
+        Paste("txtAspect", "0.9");
+        ExpectPressed(overlay, true);
+        OpenPage("frmPlate");
+        OpenPreview();
+        ExpectPressed(overlay, true);
+        for (const Overlay& other : kOverlays) {
+            ExpectPressed(other, other.button == overlay.button);
+        }
+        QTest::keyClick(&Find(overlay.button), Qt::Key_Space);
+        ExpectPressed(overlay, false);
+        overlay.flag() = 5;
+        OpenPreview();
+        ExpectPressed(overlay, true);
+        QTest::keyClick(&Find(overlay.button), Qt::Key_Return);
+        EXPECT_EQ(overlay.flag(), 0);
+        ExpectPressed(overlay, false);
+    }
+    EXPECT_FALSE(Find<QPushButton>("cmdHPGL").isCheckable());
 }
 
 TEST_F(OverlayTest, FlagBeyondOneGoesToZero) {
