@@ -29,12 +29,18 @@ public:
     // Leaves it unselected, and perhaps its whole group without a selection.
     void Unselect();
 
-    // The colour of its caption, and of the ground behind it.
+    // The colour of its caption. Where that would not read on what the option stands on, the option
+    // has a ground of its own while it is enabled.
     void SetInk(const QColor& colour);
+
+    // The ground behind the caption, whatever its colour is.
     void SetGround(const QColor& colour);
 
 private:
+    void SetReadableGround(const QColor& ink);
+
     std::function<void()> handler_ = [] {};
+    bool groundIsGiven_ = false;
 };
 
 } // namespace vernacle

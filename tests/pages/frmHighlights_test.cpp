@@ -265,6 +265,59 @@ TEST_F(HighlightsPageTest, HeightFollowsEachKey) {
     EXPECT_EQ(box.Text(), ".05");
 }
 
+double Luminance(const QColor& colour) {
+    double sum = 0;
+    const std::pair<double, double> parts[] = {{double{colour.redF()}, 0.2126},
+                                               {double{colour.greenF()}, 0.7152},
+                                               {double{colour.blueF()}, 0.0722}};
+    for (const auto& [part, weight] : parts) {
+        sum += weight * (part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4));
+    }
+    return sum;
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+    const double a = Luminance(one) + 0.05;
+    const double b = Luminance(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+// The numbers are written in the highlights' colours, and read on what they stand on.
+TEST_F(HighlightsPageTest, NumbersReadInAnyColour) {
+    std::vector<std::int32_t> colours = {0xFFFFFF, 0x00FFFF, 0xFFFF00, 0xF4F4F4, 0,
+                                         0x747474, 0x777777, 0x0000FF, 0xFF0000, 0x00FF00};
+    for (std::int32_t step = 0; step < 40; ++step) {
+        colours.push_back(step * 419430);
+    }
+    for (std::size_t first = 0; first < colours.size(); first += kHighlights) {
+        for (int highlight = 1; highlight <= kHighlights; ++highlight) {
+            Design.HighlightColor[highlight] =
+                colours[first + static_cast<std::size_t>(highlight) - 1];
+        }
+        OpenHighlights();
+        for (int highlight = 1; highlight <= kHighlights; ++highlight) {
+            const std::int32_t colour = Design.HighlightColor[highlight];
+            SCOPED_TRACE(colour);
+            auto& option = Option("Option" + std::to_string(highlight));
+            const QColor ink = option.palette().color(QPalette::Active, QPalette::WindowText);
+            EXPECT_EQ(ink.red() + 256 * ink.green() + 65536 * ink.blue(), colour);
+            const QColor ground = option.grab().toImage().pixelColor(1, 1); // as it is painted
+            EXPECT_GE(Contrast(ink, ground), 4.5);
+        }
+    }
+}
+
+// Greyed they are all alike, on the paper that they stand on.
+TEST_F(HighlightsPageTest, DisabledNumbersStandOnPaper) {
+    Design.HighlightColor[1] = 0xFFFFFF;
+    Design.HighlightColor[2] = 0;
+    OpenPage("frmHighlights");
+    const QColor paper = Find("fraTextNumberPaper").palette().color(QPalette::Window);
+    for (const char* option : {"Option1", "Option2"}) {
+        EXPECT_EQ(Option(option).grab().toImage().pixelColor(1, 1), paper);
+    }
+}
+
 // Every tenth comes back as it was.
 TEST_F(HighlightsPageTest, TenthsAreExact) {
     OpenHighlights();
