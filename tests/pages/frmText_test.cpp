@@ -480,6 +480,12 @@ struct DrawnRow {
 };
 
 // The made font's width is a whole number of pixels: sizes are taken that ask for one.
+std::string SizeOfPixels(int wholePixels, const DrawnRow& row) {
+    const double asked = 3000. / double{row.plateWidth} * .0198 * double{row.aspect} *
+                         double{row.fontSize} * double{Design.ScreenScaleX};
+    return PlainNumber(static_cast<float>(wholePixels / asked)).substr(0, 9);
+}
+
 TEST_F(DrawnTextTest, ShownWidthIsThatOfTheDrawing) {
     const DrawnRow rows[] = {{75, 1, 8}, {75, 0.75F, 8}, {120, 1, 14}, {40, 0.9F, 5}};
     for (const DrawnRow& row : rows) {
@@ -488,13 +494,9 @@ TEST_F(DrawnTextTest, ShownWidthIsThatOfTheDrawing) {
         Design.PlateHeight = row.plateWidth / 2;
         Design.AspectRatio = row.aspect;
         Design.FontSize = row.fontSize;
-        const double wholePixels = 10;
-        const double asked = 3000. / double{row.plateWidth} * .0198 * double{row.aspect} *
-                             double{row.fontSize} * double{Design.ScreenScaleX};
-        const std::string size = PlainNumber(static_cast<float>(wholePixels / asked));
         OpenText();
         Type("txtText", "HHHHHHHHHHH");
-        Paste("txtRelSize", size.substr(0, 9));
+        Paste("txtRelSize", SizeOfPixels(10, row));
         Type("txtLeftToText", "5");
         PressOwnKey();
         ASSERT_LT(Design.TextRelativeSize[1], 2);
@@ -504,6 +506,38 @@ TEST_F(DrawnTextTest, ShownWidthIsThatOfTheDrawing) {
         const double tenAdvances = longer.right - shorter.right;
         const double shown = NumericValue(WidthShown());
         EXPECT_NEAR(shown, tenAdvances * 1.1, 0.01 * shown + 0.05);
+    }
+}
+
+// The same on either side, to what the tenths of the left distance leave.
+TEST_F(DrawnTextTest, CentredTextIsSymmetricToATenthOfAMillimetre) {
+    struct Row {
+        DrawnRow drawn;
+        int pixels;
+        const char* text;
+    };
+    const Row rows[] = {{{75, 1, 8}, 10, "HIIIH"},
+                        {{75, 1, 8}, 13, "H"},
+                        {{75, 0.75F, 8}, 9, "HHHHHHHH"},
+                        {{120, 1, 14}, 12, "HOIOH"},
+                        {{40, 0.9F, 5}, 11, "HAH"}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.text);
+        Design.PlateWidth = row.drawn.plateWidth;
+        Design.PlateHeight = row.drawn.plateWidth / 2;
+        Design.AspectRatio = row.drawn.aspect;
+        Design.FontSize = row.drawn.fontSize;
+        OpenText();
+        Type("txtText", row.text);
+        Paste("txtRelSize", SizeOfPixels(row.pixels, row.drawn));
+        Type("txtBottomToText", "10");
+        Click("cmdCenterText");
+        PressOwnKey();
+        ASSERT_LT(Design.TextRelativeSize[1], 2);
+        const Ink ink = DrawTexts();
+        EXPECT_GT(ink.right - ink.left, 1);
+        const double rightOfIt = double{row.drawn.plateWidth} - ink.right;
+        EXPECT_NEAR((ink.left - rightOfIt) / 2, 0, 0.1);
     }
 }
 
