@@ -34,10 +34,8 @@ struct MadeFont {
 
 // Writes with a font made for it; its top left corner is at (x, y).
 void WriteText(DrawingRun& run, SurfacePoint at, const std::string& text, const MadeFont& font) {
-    const double height =
-        run.frame.upPerHalfMm * font.heightPerPoint * font.points * double{Design.ScreenScaleY};
-    const double width =
-        run.frame.AcrossPerHalfMm() * kCharacterWidth * font.points * double{Design.ScreenScaleX};
+    const double height = run.frame.upPerHalfMm * font.heightPerPoint * font.points * run.screen.y;
+    const double width = run.frame.AcrossPerHalfMm() * kCharacterWidth * font.points * run.screen.x;
     run.surface.BeginFont(RoundToInt(height), RoundToInt(width), font.escapement,
                           run.state.LabelFontFace);
     run.surface.SetCurrentX(F(at.x));
@@ -58,8 +56,8 @@ struct LabelMeasure {
 LabelMeasure MeasureLabel(const DrawingRun& run, const TicLabel& label, double points) {
     const double width = double{run.surface.TextWidth(label.text)};
     const double height = double{run.surface.TextHeight(label.text)};
-    return {run.frame.AcrossPerHalfMm() * 0.0011 * double{Design.ScreenScaleX} * points,
-            run.frame.upPerHalfMm * 0.001 * double{Design.ScreenScaleY} * points, width, height};
+    return {run.frame.AcrossPerHalfMm() * 0.0011 * run.screen.x * points,
+            run.frame.upPerHalfMm * 0.001 * run.screen.y * points, width, height};
 }
 
 SurfacePoint Upright(SurfacePoint anchor, const LabelMeasure& m) {
@@ -90,8 +88,8 @@ SurfacePoint MeasuredCorner(const DrawingRun& run, const TicLabel& label, Surfac
 // The wizard's page: fitted to a sample text of 303 by 149 units at 16 points.
 SurfacePoint SampledCorner(const DrawingRun& run, int scale, SurfacePoint anchor, double t) {
     const double points = double{run.sizes.fontSize} * double{Design.RelativeFontSize[scale]} / 16;
-    const double across = run.frame.AcrossPerHalfMm() * double{Design.ScreenScaleY} * points;
-    const double up = run.frame.upPerHalfMm * double{Design.ScreenScaleY} * points;
+    const double across = run.frame.AcrossPerHalfMm() * run.screen.y * points;
+    const double up = run.frame.upPerHalfMm * run.screen.y * points;
     if (Design.LabelRotation == "H") {
         return Upright(anchor, {across * 0.014, up * 0.011, 303, 149});
     }
@@ -123,8 +121,7 @@ void DrawLabel(DrawingRun& run, const TicLabel& label) {
 
 void DrawLabels(DrawingRun& run, int scale) {
     const double points = double{Design.RelativeFontSize[scale]} * double{run.sizes.fontSize};
-    run.surface.SetFontSize(run.frame.upPerHalfMm * kOrdinarySize * points *
-                            double{Design.ScreenScaleY});
+    run.surface.SetFontSize(run.frame.upPerHalfMm * kOrdinarySize * points * run.screen.y);
     RelativeSizeOf(scale);
     if (run.traits.labelFlags == LabelFlags::SetBack) {
         Design.ScaleColor[scale] = 0;

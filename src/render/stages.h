@@ -7,6 +7,7 @@
 
 #include "core/design.h"
 #include "render/drawing.h"
+#include "render/screen.h"
 
 namespace vernacle {
 
@@ -16,6 +17,7 @@ struct DrawingRun {
     DrawingState& state;
     PageCopies sizes;
     PlateFrame frame;
+    ScreenFactors screen = DrawnScreen();
 };
 
 // How far a drawing came, for the message of one that fails.

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/runtimeerror.h"
+#include "render/screen.h"
 #include "surfaces/colours.h"
 #include "surfaces/picturefile.h"
 
@@ -70,6 +71,7 @@ DeviceMap DeviceMap::OfScreen(int widthPixels, int heightPixels) {
     DeviceMap map;
     map.perUnitX = widthPixels / kScreenUnitsX;
     map.perUnitY = heightPixels / kScreenUnitsY;
+    map.perPixel = ScreenMagnification(widthPixels);
     return map;
 }
 

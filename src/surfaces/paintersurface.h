@@ -22,7 +22,8 @@ struct DeviceMap {
     double perPixel = 1; // painter coordinates per pixel of line widths and fonts
     double pixelsPerPoint = 96. / 72.;
 
-    // The whole logical area of 12000 x 9000 units in a picture of that size.
+    // The whole logical area of 12000 x 9000 units in a picture of that size. Line widths and fonts
+    // are those of a screen of limited width, magnified.
     static DeviceMap OfScreen(int widthPixels, int heightPixels);
 };
 

@@ -275,6 +275,37 @@ TEST_F(PictureTest, HasTheSizeOfTheScreen) {
     EXPECT_EQ(Picture(design, {"--size", "1024x768"}).size(), QSize(1024, 768));
 }
 
+// One that is larger than what is drawn for shows the same, magnified and in its own pixels.
+TEST_F(PictureTest, LargePicturesMoveNoLabelOffItsTic) {
+    const std::string design = Example("VOLTS-0-15");
+    const QImage usual = Picture(design, {"--size", "1920x1080"});
+    const QImage large = Picture(design, {"--size", "3840x2160"});
+    ASSERT_EQ(large.size(), QSize(3840, 2160));
+    const QImage reduced =
+        large.scaled(usual.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    int far = 0; // pixels that only one of them inks, all around
+    const auto isInked = [](const QImage& image, int x, int y) {
+        return image.pixelColor(x, y).lightness() < 100;
+    };
+    const auto isInkedNear = [&](const QImage& image, int x, int y) {
+        for (int up = -2; up <= 2; ++up) {
+            for (int across = -2; across <= 2; ++across) {
+                if (image.pixelColor(x + across, y + up).lightness() < 180) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    };
+    for (int y = 2; y < usual.height() - 2; ++y) {
+        for (int x = 2; x < usual.width() - 2; ++x) {
+            far += isInked(usual, x, y) && !isInkedNear(reduced, x, y) ? 1 : 0;
+            far += isInked(reduced, x, y) && !isInkedNear(usual, x, y) ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(far, 0);
+}
+
 // The plate of 60 x 45 mm, drawn 0.75 as wide as it is high would ask.
 TEST_F(PictureTest, ShowsThePlateInTheMiddle) {
     const std::string design = Example("VOLTS-0-15");

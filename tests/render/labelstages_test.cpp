@@ -41,7 +41,7 @@ constexpr LabelRow kLabels[] = {
 
 class LabelStagesTest : public RenderTest {
 protected:
-    LabelStagesTest() { Design.ScreenScaleX = 3; }
+    LabelStagesTest() { Design.ScreenScaleX = 2.25F; }
 
     // The label "12" at a quarter of its scale, drawn in the frame of a page beside the entries.
     void DrawOneLabel(const LabelRow& row) {
@@ -69,7 +69,7 @@ protected:
         DrawStages({FontStage, LabelsStage}, traits);
     }
 
-    // What that label's calls must be: k = 300, A = 0.5, screen factors 3 and 0.5.
+    // What that label's calls must be: k = 300, A = 0.5, screen factors 2.25 and 0.5.
     static Calls LabelCalls(const LabelRow& row) {
         const double k = 300;
         const double e = 3 * 1.5;
@@ -84,12 +84,12 @@ protected:
         const double th = 11 * (k * 0.0285 * e * 0.5);
         int escapement = 0;
         if (*row.rotation == 'H') {
-            ax -= sampled ? k * 0.014 * 0.5 * 0.5 * 303 * e / 16 : k * 0.0011 * 0.5 * 3 * tw * e;
+            ax -= sampled ? k * 0.014 * 0.5 * 0.5 * 303 * e / 16 : k * 0.0011 * 0.5 * 2.25 * tw * e;
             ay -= sampled ? k * 0.011 * 0.5 * 149 * e / 16 : k * 0.001 * 0.5 * th * e;
         } else if (*row.rotation == 'B') {
             const double size = row.special ? 3 : e;
             const double factor = k * 0.0285 * 0.5 * 0.5 * e / 16;
-            const double x = sampled ? factor : k * 0.0011 * 0.5 * 3 * size;
+            const double x = sampled ? factor : k * 0.0011 * 0.5 * 2.25 * size;
             const double y = sampled ? factor : k * 0.001 * 0.5 * size;
             ax -= x * (tw * std::sin(t) + th * std::cos(t));
             ay += y * (tw * std::cos(t) - th * std::sin(t));
@@ -98,8 +98,8 @@ protected:
             escapement = static_cast<int>(std::lround((kRightAngle - p) * 10 * DegreesInRadian()));
         }
         // 300 x 0.0513 x 4.5 x 0.5 = 34.6; 300 x 0.05 x 0.5 x 4.5 x 0.5 = 16.9;
-        // 300 x 0.0198 x 0.5 x 4.5 x 3 = 40.1
-        return {Call("BeginFont", sampled ? -17 : 35, 40, escapement, "[Arial]"),
+        // 300 x 0.0198 x 0.5 x 4.5 x 2.25 = 30.1
+        return {Call("BeginFont", sampled ? -17 : 35, 30, escapement, "[Arial]"),
                 Call("SetCurrentX", ax), Call("SetCurrentY", ay), "PrintText [12]", "EndFont"};
     }
 };
@@ -111,6 +111,37 @@ TEST_F(LabelStagesTest, LabelsStandByRotationKindAndPage) {
         EXPECT_TRUE(SameCalls(Tail(surface.calls, 5), LabelCalls(row)));
         EXPECT_EQ(surface.texts.size(), 1U);
         EXPECT_EQ(Drawing.WhereMarker, row.special ? 590 : 549);
+    }
+}
+
+// As on a screen of 1920 pixels in the real one's shape: what centres a label grows with the square
+// of the screen, and the label itself does not.
+TEST_F(LabelStagesTest, LargeScreensMoveNoLabelOffItsTic) {
+    struct Screens {
+        double real[2]; // ScreenScaleX and ScreenScaleY
+        double drawn[2];
+    };
+    const Screens screens[] = {
+        {{2.4, 1.8}, {2.4, 1.8}},     // 1920 x 1080
+        {{2.4, 2}, {2.4, 2}},         // 1920 x 1200
+        {{1.28, 1.28}, {1.28, 1.28}}, // 1024 x 768
+        {{3.2, 2.4}, {2.4, 1.8}},     // 2560 x 1440
+        {{3.2, 1.8}, {2.4, 1.35}},    // 2560 x 1080
+        {{4.8, 3.6}, {2.4, 1.8}},     // 3840 x 2160
+    };
+    for (const Screens& screen : screens) {
+        for (const LabelRow& row : kLabels) {
+            SCOPED_TRACE(std::string(row.name) + " at " + std::to_string(screen.real[0]));
+            const auto draw = [&](const double* factors) {
+                Design.ScreenScaleX = static_cast<float>(factors[0]);
+                Design.ScreenScaleY = static_cast<float>(factors[1]);
+                DrawOneLabel(row);
+                EXPECT_EQ(Design.ScreenScaleX, static_cast<float>(factors[0])) << "kept";
+                EXPECT_EQ(Design.ScreenScaleY, static_cast<float>(factors[1])) << "kept";
+                return surface.calls;
+            };
+            EXPECT_TRUE(SameCalls(draw(screen.real), draw(screen.drawn)));
+        }
     }
 }
 
@@ -133,7 +164,7 @@ TEST_F(LabelStagesTest, EscapementFollowsThePointerOrTheRadius) {
         surface = RecordingSurface();
         DrawStages({FontStage, LabelsStage});
         EXPECT_EQ(surface.CallsOf("BeginFont"),
-                  (Calls{Call("BeginFont", 25, 29, row.escapement, "[Arial]")}))
+                  (Calls{Call("BeginFont", 25, 21, row.escapement, "[Arial]")}))
             << row.rotation << row.deflection;
     }
 }
@@ -161,10 +192,10 @@ TEST_F(LabelStagesTest, OrdinaryFontIsSetBeforeTheRelativeSizeIsRaised) {
                           "SetFontSize 0\nSetFontSize -12.825\nSetFontSize 25.65\n"));
     EXPECT_EQ(Design.RelativeFontSize[1], 1);
     EXPECT_EQ(Design.RelativeFontSize[2], 1);
-    // 300 x 0.0513 x 3 x 0.5 = 23.1, 300 x 0.0198 x 0.5 x 3 x 3 = 26.7
+    // 300 x 0.0513 x 3 x 0.5 = 23.1, 300 x 0.0198 x 0.5 x 3 x 2.25 = 20.05
     EXPECT_EQ(surface.CallsOf("BeginFont"),
-              (Calls{"BeginFont 23 27 0 [Arial]", "BeginFont 23 27 0 [Arial]",
-                     "BeginFont 46 53 0 [Arial]"}));
+              (Calls{"BeginFont 23 20 0 [Arial]", "BeginFont 23 20 0 [Arial]",
+                     "BeginFont 46 40 0 [Arial]"}));
 }
 
 TEST_F(LabelStagesTest, ScalesAreWrittenUpwardInTheMagnitudeOfTheirColour) {
@@ -206,11 +237,11 @@ TEST_F(LabelStagesTest, TitlesAreCentredByTheFontThatTheLabelsLeft) {
     DrawStages({FontStage, LabelsStage, TitlesStage}, TextTraits());
     const double size = 300 * 0.0285 * 2 * 3 * 0.5; // of scale 2, for both titles
     const Calls titles = Tail(surface.calls, 12);
-    // 300 x 0.05 x 9 x 0.5 = 67.5 and 45; 300 x 0.0198 x 0.5 x 9 x 3 = 80.2 and 53.5 (53.46)
-    EXPECT_TRUE(SameCalls(titles, Calls{"SetForeColor ff", "BeginFont 68 80 0 [Arial]",
+    // 300 x 0.05 x 9 x 0.5 = 67.5 and 45; 300 x 0.0198 x 0.5 x 9 x 2.25 = 60.1 and 40.1
+    EXPECT_TRUE(SameCalls(titles, Calls{"SetForeColor ff", "BeginFont 68 60 0 [Arial]",
                                         Call("SetCurrentX", 3400 - 0.5 * 0.59 * 2 * 6 * size),
                                         Call("SetCurrentY", 4400 + 300 * (5 - 4)), "PrintText [mA]",
-                                        "EndFont", "SetForeColor ff", "BeginFont 45 53 0 [Arial]",
+                                        "EndFont", "SetForeColor ff", "BeginFont 45 40 0 [Arial]",
                                         Call("SetCurrentX", 3400 - 0.5 * 0.59 * 4 * 6 * size),
                                         Call("SetCurrentY", 4400 + 300 * (5 + 2)),
                                         "PrintText [Volt]", "EndFont"}));
@@ -220,7 +251,7 @@ TEST_F(LabelStagesTest, WizardsTitlesHaveTheHeightOfTheirCharacters) {
     DrawingTraits traits = WizardTraits();
     DrawStages({FontStage, LabelsStage, TitlesStage}, traits);
     // 320 x 0.05 x 0.5 x 3 x 0.5 = 12
-    EXPECT_EQ(Last(surface.CallsOf("BeginFont")), "BeginFont -12 29 0 [Arial]");
+    EXPECT_EQ(Last(surface.CallsOf("BeginFont")), "BeginFont -12 21 0 [Arial]");
 }
 
 TEST_F(LabelStagesTest, QuadrantPlatesPutTitlesByTheScalesNumber) {
