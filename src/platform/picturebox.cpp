@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/seam.h"
+#include "render/screen.h"
 
 namespace vernacle {
 
@@ -13,17 +14,16 @@ constexpr double kTwipsPerPixel = 15;
 constexpr QSize kSmallestPicture(280, 220);
 constexpr int kUsualHeight = 520; // pixels
 
-// That of the whole screen, with units of that shape.
+// That of a whole screen with units of that shape.
 DeviceMap ScreenMap(UnitShape shape) {
+    if (shape == UnitShape::Square) {
+        return DeviceMap::OfScreen(kSquareScreenWidth, kSquareScreenHeight);
+    }
     const ScreenSize screen = Host.screenSize();
     const auto pixels = [](float twips) {
         return static_cast<int>(std::lround(double{twips} / kTwipsPerPixel));
     };
-    DeviceMap map = DeviceMap::OfScreen(pixels(screen.widthTwips), pixels(screen.heightTwips));
-    if (shape == UnitShape::Square) {
-        map.perUnitX = map.perUnitY;
-    }
-    return map;
+    return DeviceMap::OfScreen(pixels(screen.widthTwips), pixels(screen.heightTwips));
 }
 
 } // namespace

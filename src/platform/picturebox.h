@@ -10,7 +10,7 @@
 namespace vernacle {
 
 // The shape of a logical unit. That of the screen makes an aspect entry mean the same in every
-// window; a square one shows an illustration undistorted.
+// window; a square one shows an illustration undistorted, and the same on every screen.
 enum class UnitShape { OfScreen, Square };
 
 class PictureBox : public QWidget {

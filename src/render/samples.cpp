@@ -159,12 +159,10 @@ private:
     DrawingState drawing_;
 };
 
-// The default design, on a screen of square units: a square unit is as high as the screen's.
+// The default design, on a screen of square units that is no real one.
 void SetDefaults() {
-    if (Design.ScreenScaleY <= 0) {
-        SetVersionAndScreenScale();
-    }
-    Design.ScreenScaleX = Design.ScreenScaleY;
+    Design.ScreenScaleX = kSquareScreenScale;
+    Design.ScreenScaleY = kSquareScreenScale;
     SetOpeningValues();
     ResetDesign();
     Design.AspectRatio = 1;

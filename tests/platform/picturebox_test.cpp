@@ -3,7 +3,11 @@
 
 #include <QPixmap>
 
+#include "core/design.h"
+#include "core/seam.h"
 #include "platform/inkicon.h"
+#include "render/drawing.h"
+#include "render/schematic.h"
 #include "support/formtest.h"
 
 namespace vernacle::test {
@@ -54,6 +58,86 @@ TEST_F(PictureBoxTest, SquareUnitsMeasureTextsByTheirOwnShape) {
     EXPECT_NEAR(double{square.Surface().TextWidth("VOLTS")},
                 double{wide.Surface().TextWidth("VOLTS")} * 4 / 3, 0.5);
     EXPECT_EQ(square.Surface().TextHeight("VOLTS"), wide.Surface().TextHeight("VOLTS"));
+}
+
+// A plate with a label over the tic at its middle, drawn as on a screen of that size.
+class LargeScreenTest : public PictureBoxTest {
+protected:
+    static constexpr LogicalArea kArea = {2300, 700, 7400, 7900};
+
+    static void UseScreen(int width, int height) {
+        Host.screenSize = [=] {
+            return ScreenSize{static_cast<float>(width * 15), static_cast<float>(height * 15)};
+        };
+        SetVersionAndScreenScale();
+    }
+
+    static QImage DrawnPlate(const QSize& size) {
+        Design.LabelsEveryHowMany[1] = 5;
+        PictureBox picture("pic", kArea, UnitShape::OfScreen);
+        picture.resize(size);
+        DrawDesign(picture.Surface(), TextTraits(), {Design.FontSize, Design.LabelSpacing});
+        return picture.grab().toImage();
+    }
+};
+
+TEST_F(LargeScreenTest, ShowTheSamePictureAsTheWidestThatIsDrawnFor) {
+    const struct {
+        QSize real;
+        QSize drawn;
+    } screens[] = {
+        {{2560, 1440}, {1920, 1080}}, {{2560, 1080}, {1920, 810}}, {{3840, 2160}, {1920, 1080}}};
+    for (const auto& [real, drawn] : screens) {
+        UseScreen(real.width(), real.height());
+        const QImage shown = DrawnPlate({900, 700});
+        UseScreen(drawn.width(), drawn.height());
+        EXPECT_TRUE(shown == DrawnPlate({900, 700})) << real.width();
+    }
+}
+
+// Its lines are as wide as they are long, and its letters are not those of a small picture, blown
+// up.
+TEST_F(LargeScreenTest, AreDrawnInTheirOwnPixels) {
+    UseScreen(3840, 2160);
+    const QImage small = DrawnPlate({1200, 900});
+    const QImage large = DrawnPlate({2400, 1800});
+    const auto inked = [](const QImage& image) { // with the share that smoothing leaves grey
+        double ink = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                ink += 1 - image.pixelColor(x, y).lightnessF();
+            }
+        }
+        return ink;
+    };
+    EXPECT_NEAR(inked(large) / inked(small), 4, 0.2) << "all of it is magnified";
+    const QImage blown =
+        small.scaled(large.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const auto greys = [](const QImage& image) {
+        int grey = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const int lightness = image.pixelColor(x, y).lightness();
+                grey += lightness > 60 && lightness < 195 ? 1 : 0;
+            }
+        }
+        return grey;
+    };
+    EXPECT_LT(greys(large), greys(blown) / 2);
+}
+
+TEST_F(LargeScreenTest, SquarePicturesAreTheSameOnEveryScreen) {
+    const auto drawn = [](int width, int height) {
+        UseScreen(width, height);
+        PictureBox picture("pic", SchematicArea(), UnitShape::Square);
+        picture.resize(700, 600);
+        DrawSchematic(picture.Surface(), 13, kPlatePageLook);
+        return picture.grab().toImage();
+    };
+    const QImage usual = drawn(1920, 1080);
+    for (const QSize& screen : {QSize(1024, 768), {2560, 1440}, {2560, 1080}, {3840, 2160}}) {
+        EXPECT_TRUE(drawn(screen.width(), screen.height()) == usual) << screen.width();
+    }
 }
 
 TEST_F(PictureBoxTest, RedrawsWhatItKeepsAtEverySize) {

@@ -337,15 +337,23 @@ TEST_F(SamplesTest, DetailShowsTheLeftEndOfTheScale) {
     }
 }
 
-// Of a square unit, whose height is the screen's: the letters keep their shape on any screen.
 TEST_F(SamplesTest, LettersKeepTheirShape) {
-    Host.screenSize = [] { return ScreenSize{36000, 9000}; };
-    SetVersionAndScreenScale();
     const std::vector<double> font = Numbers(Draw(Sample::LinearScale).CallsOf("BeginFont").at(0));
     EXPECT_NEAR(font[1] / font[0], 0.0198 / 0.0513, 0.05);
+}
+
+TEST_F(SamplesTest, AreTheSameOnEveryScreen) {
+    const std::vector<std::string> usual = Draw(Sample::RotatedBearing).calls;
+    for (const ScreenSize& screen : {ScreenSize{15360, 11520}, {36000, 9000}, {57600, 32400}}) {
+        Host.screenSize = [screen] { return screen; };
+        SetVersionAndScreenScale();
+        const float before = Design.ScreenScaleY;
+        EXPECT_EQ(Draw(Sample::RotatedBearing).calls, usual) << screen.widthTwips;
+        EXPECT_EQ(Design.ScreenScaleY, before);
+    }
     Design.ScreenScaleX = 0;
     Design.ScreenScaleY = 0; // before the program has asked for its screen
-    EXPECT_EQ(Numbers(Draw(Sample::LinearScale).CallsOf("BeginFont").at(0)), font);
+    EXPECT_EQ(Draw(Sample::RotatedBearing).calls, usual);
     EXPECT_EQ(Design.ScreenScaleY, 0);
 }
 
