@@ -93,6 +93,11 @@ void frmOpening::Build() {
     column->addLayout(MakeTexts());
     column->addStretch(1);
     column->addLayout(MakeButtons());
+    column->addWidget(
+        MakeLightLabel("lblBegin",
+                       QStringLiteral("To begin a new design, press \"Retrieve an old "
+                                      "design\" and cancel the dialog that opens."),
+                       1));
     column->addStretch(1);
 }
 

@@ -38,6 +38,16 @@ TEST_F(OpeningTest, LoadSetsTheProcessUp) {
     EXPECT_EQ(opening.size(), QSize(1920, 1080));
 }
 
+TEST_F(OpeningTest, TellsUnderItsButtonsHowToBegin) {
+    const QWidget& opening = OpenOpening();
+    const auto& text = On<QLabel>(opening, "lblBegin");
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_GT(text.y(), On<QWidget>(opening, "cmdExit").geometry().bottom());
+    for (const char* told : {"new design", "\"Retrieve an old design\"", "cancel"}) {
+        EXPECT_TRUE(text.text().contains(QLatin1String(told))) << told;
+    }
+}
+
 TEST_F(OpeningTest, MissingCalibrationIsSilent) {
     OpenOpening();
     EXPECT_EQ(Design.CalibrationX, 0);
