@@ -26,6 +26,11 @@ constexpr LogicalArea kArea{2300, 700, 7400, 7900}; // the plate and its marks
 constexpr int kNumberCharacters = 12;
 constexpr int kArrowsHeight = 26; // pixels
 
+// A name alone would be said in place of the number.
+void SpeakNumber(QLabel& number, const QString& caption) {
+    number.setAccessibleName(caption + number.text().trimmed());
+}
+
 } // namespace
 
 frmWizardPart2::frmWizardPart2() : Page("frmWizardPart2") {
@@ -66,7 +71,7 @@ void frmWizardPart2::AddNudge(const Nudge& nudge, QGridLayout& grid, int row) {
     const std::string captionName = std::string(nudge.label) + "Caption";
     QLabel* number = MakeLabel(nudge.label, QString::fromStdString(NudgeValue(nudge)));
     number->setMinimumWidth(kNumberCharacters * number->fontMetrics().averageCharWidth());
-    number->setAccessibleName(caption);
+    SpeakNumber(*number, caption);
     auto* arrows = new UpDown(nudge.upDown, caption);
     arrows->setToolTip(QString::fromUtf8(nudge.tip));
     arrows->setMinimumHeight(kArrowsHeight); // a label is lower than a box
@@ -95,14 +100,14 @@ void frmWizardPart2::Step(const Nudge& nudge, double by) {
     const double from = NumericValue(number->text().toStdString());
     const double to = std::clamp(from + by, nudge.stepsLowest, nudge.stepsHighest);
     number->setText(QString::fromStdString(PlainNumber(static_cast<float>(to))));
-    switch (ApplyNudge(nudge, number->text().toStdString())) {
-    case NudgeResult::Accepted:
+    const NudgeResult result = ApplyNudge(nudge, number->text().toStdString());
+    if (result == NudgeResult::Corrected) {
+        number->setText(QString::fromStdString(NudgeValue(nudge)));
+    }
+    SpeakNumber(*number, QString::fromUtf8(nudge.caption));
+    if (result == NudgeResult::Accepted) {
         TakeSize(nudge);
-        return Redraw();
-    case NudgeResult::Corrected:
-        return number->setText(QString::fromStdString(NudgeValue(nudge)));
-    case NudgeResult::Ignored:
-        return;
+        Redraw();
     }
 }
 

@@ -1,9 +1,11 @@
 // The wizard's second page on its own controls.
 #include "wizard/frmWizardPart2.h"
 
+#include <QAccessible>
 #include <QPushButton>
 
 #include "core/design.h"
+#include "core/text.h"
 #include "platform/picturebox.h"
 #include "platform/updown.h"
 #include "render/drawing.h"
@@ -60,6 +62,29 @@ TEST_F(WizardPart2Test, CaptionsTipsAndNumbers) {
         EXPECT_EQ(Shown(std::string(nudge.label) + "Caption"), caption);
         EXPECT_EQ(Shown(nudge.label), NudgeValue(nudge));
     }
+}
+
+// What a screen reader says of a number is its caption and its value.
+TEST_F(WizardPart2Test, NumbersAreSpokenBehindTheirCaptions) {
+    OpenPart2();
+    const auto spoken = [this](const char* label) {
+        return QAccessible::queryAccessibleInterface(&Find(label))
+            ->text(QAccessible::Name)
+            .toStdString();
+    };
+    for (const Nudge& nudge : Nudges()) {
+        EXPECT_EQ(spoken(nudge.label), nudge.caption + std::string(Trimmed(NudgeValue(nudge))));
+    }
+    const Nudge& ceiling = Nudges()[0];
+    Find<QLabel>(ceiling.label).setText(QStringLiteral("12"));
+    StepDown("UpDown1"); // accepted
+    EXPECT_EQ(spoken(ceiling.label), "Bottom to ceiling, mm: 11");
+    StepDown("UpDown1"); // corrected: the bearing is at 10
+    EXPECT_EQ(spoken(ceiling.label), ceiling.caption + std::string(Trimmed(Shown(ceiling.label))));
+    const Nudge& spacing = Nudges()[3];
+    Find<QLabel>(spacing.label).setText(QStringLiteral("60"));
+    StepUp("UpDown4"); // out of range, and kept
+    EXPECT_EQ(spoken(spacing.label), "Label-arc spacing, mm: 61");
 }
 
 TEST_F(WizardPart2Test, LoadMakesASimpleScale) {
