@@ -85,7 +85,7 @@ void DesignPage::AddToolbar() {
         face.tip = TipOf(traits_, face);
         toolbar->AddKey(face, StateOf(traits_, face), [this, &key] { KeyClicked(key); });
     }
-    Body().addWidget(toolbar);
+    Head().addWidget(toolbar);
 }
 
 void DesignPage::KeyClicked(const Key& key) {
@@ -116,6 +116,18 @@ void DesignPage::SaveClicked() {
 void DesignPage::PrintClicked() {
     if (traits_.printing != Printing::GreyedAndDead) {
         AskForPrinterAndPrint(this, [](PrinterSurface& printer) { PrintDesign(printer); });
+    }
+}
+
+void DesignPage::showEvent(QShowEvent* event) {
+    Page::showEvent(event);
+    TurnHelpTo(*this, traits_.helpTopic);
+}
+
+void DesignPage::resizeEvent(QResizeEvent* event) {
+    Page::resizeEvent(event);
+    if (isVisible()) {
+        TurnHelpTo(*this, traits_.helpTopic);
     }
 }
 

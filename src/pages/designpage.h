@@ -47,6 +47,10 @@ protected:
     // The title with the design's name, as it is now.
     void ShowTitle();
 
+    // An open help book keeps to the page.
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
     // Runs at the head of every key of the toolbar.
     virtual void BeforeKey() {}
 

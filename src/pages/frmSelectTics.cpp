@@ -17,7 +17,7 @@ namespace vernacle {
 namespace {
 
 constexpr int kColumns = 55; // characters of a usual row, and room for the scroll bar
-constexpr int kSmallestHeight = 420;
+constexpr int kSmallestHeight = 300;
 
 const char* const kDetails[] = {"lblData1", "lblData2", "lblData3", "lblData4",
                                 "lblData5", "fraTics",  "fraLabels"};
@@ -70,6 +70,7 @@ void frmSelectTics::Build() {
     SetDetailsVisible(false);
     Control("Label3").setEnabled(false);
     Control("Label4").setEnabled(false);
+    resize(sizeHint().width(), TallHeight());
 }
 
 QLayout* frmSelectTics::MakeDetails() {

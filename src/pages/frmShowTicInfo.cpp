@@ -4,13 +4,14 @@
 #include <QVBoxLayout>
 
 #include "pages/ticlist.h"
+#include "platform/form.h"
 #include "platform/formkit.h"
 
 namespace vernacle {
 
 namespace {
 
-constexpr QSize kUsualSize(440, 560);
+constexpr int kColumns = 40; // characters of a row, and room for the scroll bar
 
 } // namespace
 
@@ -30,7 +31,9 @@ frmShowTicInfo::frmShowTicInfo() {
     column->addWidget(heading);
     column->addWidget(lstTicsData_, 1);
     column->addWidget(exit, 0, Qt::AlignRight);
-    resize(kUsualSize);
+    const int character = lstTicsData_->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    lstTicsData_->setMinimumWidth(kColumns * character);
+    resize(sizeHint().width(), TallHeight());
     FillTicList();
 }
 

@@ -1,5 +1,8 @@
 #include "platform/helpviewer.h"
 
+#include <utility>
+#include <vector>
+
 #include <QFileInfo>
 #include <QPainter>
 #include <QPointer>
@@ -10,13 +13,15 @@
 #include <QVBoxLayout>
 
 #include "platform/companions.h"
+#include "platform/placing.h"
 
 namespace vernacle {
 
 namespace {
 
 constexpr const char* kBook = ":/Vernacle.CHM/";
-constexpr int kWidestBook = 560; // pixels
+constexpr int kWidths[] = {560, 480, 400}; // pixels
+constexpr int kFrame = 80;                 // of a window, pixels: more than any is wide and high
 
 // Draws its pictures anew for the screen's pixels: a stretched one is hard to read.
 class TopicBrowser : public QTextBrowser {
@@ -61,34 +66,64 @@ public:
         topic_->setFocus();
     }
 
-    // The right part of the page's screen.
+    // Of the widths that a topic can be read at, the widest that leaves the page's entries free.
     void PlaceBeside(const QWidget& page) {
         const QRect screen = page.screen()->availableGeometry();
-        const int width = std::min(kWidestBook, screen.width() / 2);
-        const int height = screen.height() * 4 / 5;
-        setGeometry(screen.right() - width, screen.top() + (screen.height() - height) / 2, width,
-                    height);
+        std::vector<QSize> sizes;
+        for (const int width : kWidths) {
+            sizes.emplace_back(std::min(width, screen.width() / 2), screen.height() * 4 / 5);
+        }
+        placed_ = LeastCovering(page, sizes);
+        setGeometry(placed_);
+    }
+
+    // Window managers shift a window by its frame.
+    bool StandsWherePlaced() const {
+        return size() == placed_.size() && (pos() - placed_.topLeft()).manhattanLength() < kFrame;
+    }
+
+    // Whether that is another topic than at the last call.
+    bool TakePageTopic(const std::string& topic) {
+        return std::exchange(pageTopic_, topic) != topic;
     }
 
 private:
     QTextBrowser* topic_;
+    QRect placed_;
+    std::string pageTopic_; // of the page that was shown last
 };
 
 QPointer<HelpWindow> shownBook;
 
+QString FileOf(const std::string& topic) {
+    return QLatin1String(kBook) + QString::fromStdString(topic);
+}
+
 } // namespace
 
 void ShowHelp(const QWidget& page, const std::string& topic) {
-    const QString file = QLatin1String(kBook) + QString::fromStdString(topic);
-    if (!QFileInfo(file).isFile()) {
+    if (!QFileInfo(FileOf(topic)).isFile()) {
         return;
     }
     if (!shownBook) {
         shownBook = new HelpWindow;
         shownBook->PlaceBeside(page);
     }
-    shownBook->Open(file);
+    shownBook->TakePageTopic(topic);
+    shownBook->Open(FileOf(topic));
     ShowBeside(*shownBook, page);
+}
+
+void TurnHelpTo(const QWidget& page, const std::string& topic) {
+    if (!shownBook || !shownBook->isVisible()) {
+        return;
+    }
+    if (shownBook->TakePageTopic(topic)) {
+        shownBook->Open(FileOf(topic));
+    }
+    if (shownBook->StandsWherePlaced()) {
+        shownBook->PlaceBeside(page);
+    }
 }
 
 } // namespace vernacle

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 constexpr QSize kSmallestPicture(280, 220);
-constexpr int kUsualHeight = 520; // pixels
+constexpr int kUsualHeight = 420; // pixels
 
 // That of a whole screen with units of that shape.
 DeviceMap ScreenMap(UnitShape shape) {

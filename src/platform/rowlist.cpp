@@ -5,6 +5,7 @@
 
 #include <QFontDatabase>
 #include <QMouseEvent>
+#include <QScrollBar>
 
 namespace vernacle {
 
@@ -26,6 +27,19 @@ RowList::RowList(const char* name, const QString& accessibleName) {
         font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     }
     setFont(font);
+    setAutoFillBackground(true); // also below the last row
+    setBackgroundRole(QPalette::Base);
+}
+
+void RowList::resizeEvent(QResizeEvent* event) {
+    QListWidget::resizeEvent(event);
+    const int row = count() > 0 ? sizeHintForRow(0) : 0;
+    const int bar = horizontalScrollBar()->isVisible() ? horizontalScrollBar()->height() : 0;
+    const int room = contentsRect().height() - bar;
+    const QMargins below(0, 0, 0, row > 0 && room > row ? room % row : 0);
+    if (below != viewportMargins()) {
+        setViewportMargins(below);
+    }
 }
 
 void RowList::mousePressEvent(QMouseEvent* event) {

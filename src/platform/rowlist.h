@@ -1,4 +1,5 @@
-// A list of rows in a font of one pitch, so that the columns of the rows stand below each other.
+// A list of rows in a font of one pitch, so that the columns of the rows stand below each other. It
+// shows whole rows alone.
 #pragma once
 
 #include <functional>
@@ -18,6 +19,7 @@ public:
     void OnChoose(std::function<void(int row)> handler) { handler_ = std::move(handler); }
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* /*event*/) override {} // dragging chooses no other row
     void keyPressEvent(QKeyEvent* event) override;

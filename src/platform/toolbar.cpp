@@ -11,6 +11,8 @@ namespace vernacle {
 namespace {
 
 constexpr QSize kIconSize(24, 24);
+constexpr double kSmallestLetters = 0.5; // of the ordinary font
+constexpr double kLetterStep = 0.02;
 
 } // namespace
 
@@ -41,6 +43,30 @@ void Toolbar::AddKey(const ToolbarKey& key, KeyState state, std::function<void()
         connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
     }
     row_->insertWidget(row_->count() - 1, button);
+}
+
+QSize Toolbar::minimumSizeHint() const {
+    const QSize least = QFrame::minimumSizeHint();
+    return {0, least.height()};
+}
+
+void Toolbar::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    double share = 1;
+    SetKeyFont(share);
+    while (row_->totalMinimumSize().width() > width() && share > kSmallestLetters) {
+        share -= kLetterStep;
+        SetKeyFont(share);
+    }
+}
+
+void Toolbar::SetKeyFont(double share) {
+    QFont letters = font();
+    letters.setPointSizeF(letters.pointSizeF() * share);
+    for (auto* key : findChildren<QToolButton*>()) {
+        key->setFont(letters);
+    }
+    row_->invalidate();
 }
 
 } // namespace vernacle

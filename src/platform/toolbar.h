@@ -19,6 +19,7 @@ struct ToolbarKey {
 
 enum class KeyState { Enabled, Greyed };
 
+// Where a window is too narrow for it, its letters are smaller.
 class Toolbar : public QFrame {
     Q_OBJECT
 
@@ -28,7 +29,14 @@ public:
     // Adds a key behind those before it; its object name is the key.
     void AddKey(const ToolbarKey& key, KeyState state, std::function<void()> clicked);
 
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void SetKeyFont(double share);
+
     QHBoxLayout* row_;
 };
 

@@ -10,6 +10,8 @@
 #include <QTimer>
 
 #include "platform/companions.h"
+#include "platform/form.h"
+#include "platform/placing.h"
 
 namespace vernacle {
 
@@ -109,6 +111,7 @@ bool IsFormKnown(std::string_view name) {
 }
 
 std::unique_ptr<QWidget> MakeForm(std::string_view name) {
+    InstallWindowSpeech();
     const FormRow* row = FindForm(name);
     return row ? row->make() : nullptr;
 }
@@ -176,6 +179,9 @@ void ShowFormBeside(std::string_view name) {
     if (former) {
         form->setGeometry(former->geometry());
         former->close();
+    } else {
+        const QSize size = form->size();
+        form->setGeometry(LeastCovering(*shownPage, {&size, 1}));
     }
     former = form.release();
     ShowBeside(*former, *shownPage);

@@ -46,8 +46,8 @@ QWidget* CurrentPage();
 // Shows the form of that name above the page and returns when it is closed.
 void ShowModal(std::string_view name);
 
-// Shows the form of that name beside the page, not modal, until it is closed. There is one window
-// of a name: what stood open is built anew at its place.
+// Shows the form of that name beside the page, not modal, until it is closed. It stands where
+// it covers least. There is one window of a name: what stood open is built anew at its place.
 void ShowFormBeside(std::string_view name);
 
 // Unloads the page that is shown.

@@ -60,8 +60,6 @@ void frmWizard::Build() {
     list->addLayout(grid);
     list->addWidget(Label2_);
     list->addStretch();
-    list->addWidget(accept);
-    list->addWidget(exit);
 
     Label1_ = MakeLabel("Label1", {});
     Label1_->setWordWrap(true);
@@ -77,6 +75,11 @@ void frmWizard::Build() {
     halves->addLayout(list);
     halves->addLayout(side, 1);
     Body().addLayout(halves, 1);
+    auto* ways = new QHBoxLayout; // on: in sight however many steps there are
+    ways->addWidget(accept);
+    ways->addWidget(exit);
+    ways->addStretch();
+    Foot().addLayout(ways);
     ShowStep(0);
 }
 

@@ -1,7 +1,10 @@
 // Every form of the register, at small and large fonts on small and large screens: nothing is cut
 // off, nothing covers anything, everything has a name, and the Tab key goes as one reads.
+#include <QAccessible>
 #include <QDialog>
 #include <QLineEdit>
+#include <QScrollBar>
+#include <QToolButton>
 
 #include "app/forms.h"
 #include "core/design.h"
@@ -175,6 +178,80 @@ TEST_F(LaterLayoutTest, TheNoticeOfTheExitPageCoversNothing) {
     });
 }
 
+// Whatever has the focus is in sight, whole, by whatever way it came there.
+class FocusTest : public ShownFormTest {
+protected:
+    static void ExpectInSight(const QWidget& form, const char* how) {
+        SettleLayout();
+        const QWidget* focused = form.focusWidget();
+        ASSERT_NE(focused, nullptr);
+        EXPECT_EQ(focused->visibleRegion().boundingRect(), focused->rect())
+            << focused->objectName().toStdString() << " " << how;
+    }
+
+    static void EnableAll(QWidget& form) {
+        for (auto* control : form.findChildren<QWidget*>()) {
+            control->setEnabled(true);
+        }
+    }
+};
+
+TEST_F(FocusTest, IsInSightWhereTheScreenIsTooSmall) {
+    for (const FormRow& row : ProgramForms()) {
+        QWidget& form = Show(row.name, kLargeFont, kSmallScreen);
+        EnableAll(form);
+        const std::vector<std::string> reached = ReadingOrder(form);
+        for (const std::string& name : reached) {
+            On<QWidget>(form, name).setFocus();
+            ExpectInSight(form, "by the program");
+        }
+        for (std::size_t press = 0; press < reached.size(); ++press) {
+            QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+            ExpectInSight(form, "by Tab");
+        }
+    }
+}
+
+TEST_F(FocusTest, StaysInSightWhenTheWindowShrinks) {
+    QWidget& page = Show("frmScales", kLargeFont, kUsualScreen);
+    On<QWidget>(page, "cmdSelectTics").setEnabled(true);
+    On<QWidget>(page, "cmdSelectTics").setFocus();
+    page.resize(kSmallScreen);
+    ExpectInSight(page, "in the smaller window");
+}
+
+TEST_F(FocusTest, IsInSightAtEachStepOfTheWizard) {
+    QWidget& page = Show("frmWizard", kLargeFont, kSmallScreen);
+    const char* const values[] = {"75", "50", "10", "15", "50", "90", "30", "3",  "2",
+                                  "4",  "2",  "2",  "35", "8",  "6",  "30", "50", "5"};
+    for (const char* value : values) {
+        ExpectInSight(page, value);
+        for (const char* button : {"cmdAccept", "cmdExit"}) {
+            const auto& way = On<QWidget>(page, button);
+            EXPECT_EQ(way.visibleRegion().boundingRect(), way.rect()) << button;
+        }
+        QTest::keyClicks(page.focusWidget(), QLatin1String(value));
+        QTest::keyClick(page.focusWidget(), Qt::Key_Return);
+    }
+    EXPECT_TRUE(said.empty());
+    EXPECT_TRUE(On<QWidget>(page, "Label2").isVisible()) << "all are entered";
+}
+
+// The keys of the toolbar, and the arrows beside the boxes, which take no focus.
+TEST_F(FocusTest, NoPageOfEntriesIsTooWideForTheSmallestScreen) {
+    for (const char* name : {"frmText", "frmGraphic", "frmHighlights", "frmScales", "frmPreview"}) {
+        const QWidget& page = Show(name, kLargeFont, kSmallScreen);
+        for (const auto* bar : page.findChildren<QScrollBar*>()) {
+            EXPECT_FALSE(bar->orientation() == Qt::Horizontal && bar->isVisible()) << name;
+        }
+        for (const auto* key : page.findChildren<QToolButton*>()) {
+            const QRect shown = key->visibleRegion().boundingRect();
+            EXPECT_EQ(shown.width(), key->width())
+                << name << " " << key->objectName().toStdString();
+        }
+    }
+}
+
 std::vector<std::string> AllForms() {
     std::vector<std::string> names;
     for (const FormRow& row : ProgramForms()) {
@@ -194,6 +271,16 @@ TEST_P(FormNamesTest, EveryControlHasItsName) {
     EXPECT_FALSE(form.windowTitle().isEmpty());
     ExpectNone(BadlyNamedControls(form), "badly named");
     ExpectNone(SilentControls(form), "nothing to say for a screen reader");
+}
+
+// What a screen reader says of the window itself.
+TEST_P(FormNamesTest, WindowIsAFrameOrADialogOfItsTitle) {
+    QWidget& form = ShowUsual();
+    const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&form);
+    ASSERT_NE(spoken, nullptr);
+    const bool stands = IsModal() || form.windowType() == Qt::Dialog;
+    EXPECT_EQ(spoken->role(), stands ? QAccessible::Dialog : QAccessible::Window);
+    EXPECT_EQ(spoken->text(QAccessible::Name), form.windowTitle());
 }
 
 TEST_P(FormNamesTest, TheTabKeyGoesAsOneReads) {

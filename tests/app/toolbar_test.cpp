@@ -264,7 +264,7 @@ TEST_F(ToolbarTest, HelpOpensThePagesTopic) {
     }
 }
 
-TEST_F(ToolbarTest, HelpStaysWhileThePageIsUsedAndChanged) {
+TEST_F(ToolbarTest, HelpStaysWhileThePageIsUsedAndFollowsItsChange) {
     OpenPage("frmPlate");
     Click("Help");
     ASSERT_TRUE(Book());
@@ -274,9 +274,9 @@ TEST_F(ToolbarTest, HelpStaysWhileThePageIsUsedAndChanged) {
     Click("Preview");
     Settle();
     EXPECT_EQ(PageName(), "frmPreview");
-    EXPECT_EQ(Topic(), "vplate.htm");
-    Click("Help");
     EXPECT_EQ(Topic(), "vpreview.htm") << "in the same window";
+    Click("Help");
+    EXPECT_EQ(Topic(), "vpreview.htm");
     CloseBook();
     EXPECT_EQ(Topic(), "no help");
 }

@@ -2,6 +2,7 @@
 #include <QPushButton>
 
 #include "core/runtimeerror.h"
+#include "core/seam.h"
 #include "pages/scalestest.h"
 #include "platform/rowlist.h"
 #include "platform/walk.h"
@@ -125,6 +126,22 @@ TEST_F(SelectTicsTest, FiftyTicsGiveFiftyOneRows) {
         EXPECT_EQ(RowText(7), "Scale 1   7         Y                   Y         ");
         EXPECT_EQ(RowText(50), "Scale 1   50        Y         50        Y         ");
     });
+}
+
+TEST_F(SelectTicsTest, ListGrowsWithTheScreen) {
+    Design.NrOfTicmarks[1] = 360;
+    int before = 0;
+    for (const int height : {768, 1080, 1440, 2160}) {
+        Host.screenSize = [=] { return ScreenSize{28800, static_cast<float>(height * 15)}; };
+        OnForm([&](QWidget& form) {
+            Settle();
+            EXPECT_EQ(form.height(), height * 4 / 5);
+            const int rows = List().viewport()->height() / List().sizeHintForRow(0);
+            EXPECT_GE(rows, height / 25);
+            EXPECT_GT(rows, before);
+            before = rows;
+        });
+    }
 }
 
 TEST_F(SelectTicsTest, ChoosingARowShowsItsTic) {

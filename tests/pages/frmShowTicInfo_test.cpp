@@ -1,6 +1,7 @@
 // The tic information beside the highlights page.
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 
 #include "core/runtimeerror.h"
 #include "pages/pagedrawing.h"
@@ -73,6 +74,28 @@ TEST_F(ShowTicInfoTest, ListsDeletedTicsAndKnowsNoCorrection) {
     OpenPage("frmHighlights");
     const QWidget& form = ShowInfo();
     EXPECT_EQ(RowText(form, 20), "Scale 1   20    20   16         ");
+}
+
+TEST_F(ShowTicInfoTest, GrowsWithTheScreen) {
+    OpenPage("frmHighlights");
+    const QWidget& form = ShowInfo();
+    EXPECT_EQ(form.height(), 864) << "of 1080";
+    const auto& list = On<RowList>(form, "lstTicsData");
+    EXPECT_GE(list.viewport()->height() / list.sizeHintForRow(0), 40);
+    EXPECT_GE(list.viewport()->width(), list.sizeHintForColumn(0)) << "whole rows across";
+}
+
+TEST_F(ShowTicInfoTest, CoversNoEntryAndNoCaption) {
+    OpenPage("frmHighlights");
+    const QWidget& form = ShowInfo();
+    EXPECT_TRUE(form.screen()->availableGeometry().contains(form.geometry()));
+    for (const auto* control : Page().findChildren<QWidget*>()) {
+        const bool matters = control->focusPolicy() != Qt::NoFocus ||
+                             qobject_cast<const QLabel*>(control) != nullptr;
+        const QRect place(control->mapToGlobal(QPoint()), control->size());
+        EXPECT_FALSE(matters && control->isVisible() && place.intersects(form.geometry()))
+            << control->objectName().toStdString();
+    }
 }
 
 TEST_F(ShowTicInfoTest, OneWindowThatIsRefilledAtEachPress) {

@@ -126,15 +126,26 @@ TEST_F(HelpViewerTest, OneWindowForAllTopics) {
     EXPECT_EQ(book->pos(), QPoint(10, 20)) << "where its user put it";
 }
 
-TEST_F(HelpViewerTest, StaysAboveEveryNextPage) {
+struct PageTopic {
+    const char* page;
+    const char* topic;
+};
+
+constexpr PageTopic kPages[] = {
+    {"frmScales", "vscales.htm"},  {"frmPreview", "vpreview.htm"},
+    {"frmText", "vsignature.htm"}, {"frmGraphic", "vgraphic.htm"},
+    {"frmPlate", "vplate.htm"},    {"frmHighlights", "vhighlights.htm"},
+};
+
+TEST_F(HelpViewerTest, StaysAboveEveryNextPageAndTurnsToItsTopic) {
     ShowHelp(OpenPage("frmPlate"), "vplate.htm");
     const QPointer<QWidget> book = Book();
-    for (const char* next : {"frmScales", "frmPreview"}) {
+    for (const auto& [next, topic] : kPages) {
         OpenPage(next);
         ASSERT_FALSE(book.isNull());
         EXPECT_TRUE(book->isVisible());
         EXPECT_EQ(book->windowHandle()->transientParent(), Page().windowHandle());
-        EXPECT_EQ(ShownTopic(), "vplate.htm");
+        EXPECT_EQ(ShownTopic(), topic);
         EXPECT_TRUE(Page().isActiveWindow()) << "the keys stay with the page";
     }
     ReloadPage();
@@ -142,6 +153,47 @@ TEST_F(HelpViewerTest, StaysAboveEveryNextPage) {
     ASSERT_FALSE(book.isNull());
     EXPECT_TRUE(book->isVisible());
     EXPECT_EQ(book->windowHandle()->transientParent(), Page().windowHandle());
+}
+
+TEST_F(HelpViewerTest, WhatItsUserReadsStaysWhileThePageDoes) {
+    ShowHelp(OpenPage("frmPlate"), "vplate.htm");
+    Topic().setSource(QUrl(QStringLiteral("qrc:/Vernacle.CHM/vpreview.htm")));
+    ReloadPage();
+    Settle();
+    Page().resize(Page().size() - QSize(10, 10));
+    Settle();
+    EXPECT_EQ(ShownTopic(), "vpreview.htm");
+    OpenPage("frmWizard"); // has no topic of its own
+    EXPECT_EQ(ShownTopic(), "vpreview.htm");
+    OpenPage("frmScales");
+    EXPECT_EQ(ShownTopic(), "vscales.htm");
+}
+
+TEST_F(HelpViewerTest, CoversNoEntryOfAnyPage) {
+    for (const auto& [name, topic] : kPages) {
+        SCOPED_TRACE(name);
+        const QWidget& page = OpenPage(name);
+        ShowHelp(page, topic); // opened here at first, and followed to here after that
+        Settle();
+        const QRect book = Book()->geometry();
+        EXPECT_TRUE(page.screen()->availableGeometry().contains(book));
+        EXPECT_GE(book.width(), 400);
+        EXPECT_GE(book.height(), 600);
+        for (const auto* control : page.findChildren<QWidget*>()) {
+            const bool matters = control->focusPolicy() != Qt::NoFocus ||
+                                 qobject_cast<const QLabel*>(control) != nullptr;
+            const QRect place(control->mapToGlobal(QPoint()), control->size());
+            EXPECT_FALSE(matters && control->isVisible() && place.intersects(book))
+                << control->objectName().toStdString();
+        }
+    }
+}
+
+TEST_F(HelpViewerTest, StaysWhereItsUserPutItOnTheNextPageToo) {
+    ShowHelp(OpenPage("frmPlate"), "vplate.htm");
+    Book()->setGeometry(10, 20, 450, 300);
+    OpenPage("frmScales");
+    EXPECT_EQ(Book()->geometry(), QRect(10, 20, 450, 300));
 }
 
 TEST_F(HelpViewerTest, ClosedBookStaysClosed) {

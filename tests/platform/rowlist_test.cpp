@@ -31,6 +31,22 @@ TEST_F(RowListTest, NamesAndFont) {
     EXPECT_TRUE(QFontInfo(list.font()).fixedPitch());
 }
 
+TEST_F(RowListTest, ShowsWholeRowsAtAnyHeight) {
+    for (int row = 0; row < 40; ++row) {
+        list.addItem(QStringLiteral("more"));
+    }
+    for (int height = 200; height < 240; ++height) {
+        list.resize(200, height);
+        Settle();
+        const int row = list.sizeHintForRow(0);
+        EXPECT_EQ(list.viewport()->height() % row, 0) << height;
+        EXPECT_GE(list.viewport()->height(), height - row - 4) << "as many as there is room for";
+        list.scrollToBottom();
+        const QRect last = list.visualItemRect(list.item(list.count() - 1));
+        EXPECT_EQ(last.bottom(), list.viewport()->rect().bottom()) << height;
+    }
+}
+
 TEST_F(RowListTest, AClickChoosesItsRowOnce) {
     ClickRow(1);
     ClickRow(0);
