@@ -10,7 +10,9 @@
 #include "core/design.h"
 #include "core/seam.h"
 #include "layoutfaults.h"
+#include "layouttext.h"
 #include "support/formtest.h"
+#include "support/kepttext.h"
 
 namespace vernacle::test {
 
@@ -304,6 +306,35 @@ TEST_P(FormNamesTest, TheTabKeyGoesAsOneReads) {
 
 INSTANTIATE_TEST_SUITE_P(Forms, FormNamesTest, ::testing::ValuesIn(AllForms()),
                          [](const auto& row) { return row.param; });
+
+// How each form is laid out stands in tests/data/layouts.
+class KeptLayoutTest : public FormNamesTest {};
+
+TEST_P(KeptLayoutTest, FormIsLaidOutAsKept) {
+    EXPECT_TRUE(IsAsKept("layouts/" + GetParam() + ".txt", LayoutText(ShowUsual())));
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, KeptLayoutTest, ::testing::ValuesIn(AllForms()),
+                         [](const auto& row) { return row.param; });
+
+class KeptBookTest : public ShownFormTest {};
+
+TEST_F(KeptBookTest, HelpBookIsLaidOutAsKept) {
+    std::string text;
+    for (const char* page :
+         {"frmPlate", "frmScales", "frmText", "frmGraphic", "frmHighlights", "frmPreview"}) {
+        QTest::keyClick(&Show(page, kSmallFont, kUsualScreen), Qt::Key_F1);
+        SettleLayout();
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("HelpViewer")) {
+                text += LayoutText(*window);
+                window->close();
+            }
+        }
+        Settle();
+    }
+    EXPECT_TRUE(IsAsKept("layouts/HelpViewer.txt", text));
+}
 
 } // namespace
 
