@@ -243,6 +243,7 @@ TEST_F(FocusTest, IsInSightAtEachStepOfTheWizard) {
 TEST_F(FocusTest, NoPageOfEntriesIsTooWideForTheSmallestScreen) {
     for (const char* name : {"frmText", "frmGraphic", "frmHighlights", "frmScales", "frmPreview"}) {
         const QWidget& page = Show(name, kLargeFont, kSmallScreen);
+        EXPECT_EQ(page.width(), kSmallScreen.width()) << name;
         for (const auto* bar : page.findChildren<QScrollBar*>()) {
             EXPECT_FALSE(bar->orientation() == Qt::Horizontal && bar->isVisible()) << name;
         }
