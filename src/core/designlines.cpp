@@ -191,11 +191,12 @@ constexpr FileLine kDeletedTics[kFiledLists] = {
     {"Scale 3 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         770},
     {"Scale 4 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         780},
 };
+// Their places are the flags alone: a file may hold more of these lines than a list has slots.
 constexpr FileLine kDeletedTic[kFiledLists] = {
-    {"Tic deleted: ",                      WritePlain,      At<&D::DeletedTics>,                ReadDeletedTic,  755},
-    {"Tic deleted: ",                      WritePlain,      At<&D::DeletedTics>,                ReadDeletedTic,  765},
-    {"Tic deleted: ",                      WritePlain,      At<&D::DeletedTics>,                ReadDeletedTic,  775},
-    {"Tic deleted: ",                      WritePlain,      At<&D::DeletedTics>,                ReadDeletedTic,  785},
+    {"Tic deleted: ",                    WriteDeletedTic, Nowhere,                           ReadDeletedTic,  755},
+    {"Tic deleted: ",                    WriteDeletedTic, Nowhere,                           ReadDeletedTic,  765},
+    {"Tic deleted: ",                    WriteDeletedTic, Nowhere,                           ReadDeletedTic,  775},
+    {"Tic deleted: ",                    WriteDeletedTic, Nowhere,                           ReadDeletedTic,  785},
 };
 
 constexpr FileLine kDeletedLabels[kFiledLists] = {
@@ -205,10 +206,10 @@ constexpr FileLine kDeletedLabels[kFiledLists] = {
     {"Scale 4 - deleted labels: ",       WritePlain,      At<&D::DeletedLabelCount>,         ReadVal,         820},
 };
 constexpr FileLine kDeletedLabel[kFiledLists] = {
-    {"Label deleted: ",                    WritePlain,      At<&D::DeletedLabels>,              ReadDeletedLabel,795},
-    {"Label deleted: ",                    WritePlain,      At<&D::DeletedLabels>,              ReadDeletedLabel,805},
-    {"Label deleted: ",                    WritePlain,      At<&D::DeletedLabels>,              ReadDeletedLabel,815},
-    {"Label deleted: ",                    WritePlain,      At<&D::DeletedLabels>,              ReadDeletedLabel,825},
+    {"Label deleted: ",                  WriteDeletedLabel,Nowhere,                          ReadDeletedLabel,795},
+    {"Label deleted: ",                  WriteDeletedLabel,Nowhere,                          ReadDeletedLabel,805},
+    {"Label deleted: ",                  WriteDeletedLabel,Nowhere,                          ReadDeletedLabel,815},
+    {"Label deleted: ",                  WriteDeletedLabel,Nowhere,                          ReadDeletedLabel,825},
 };
 
 constexpr FileLine kFontSizesHeading =

@@ -98,6 +98,14 @@ std::string WriteTicsAndArcs(const Slot& /*slot*/, LinePlace place) {
     return PlainNumber(number);
 }
 
+std::string WriteDeletedTic(const Slot& /*slot*/, LinePlace place) {
+    return PlainNumber(std::int32_t{Design.DeletedTics[place.outer][place.inner]});
+}
+
+std::string WriteDeletedLabel(const Slot& /*slot*/, LinePlace place) {
+    return PlainNumber(std::int32_t{Design.DeletedLabels[place.outer][place.inner]});
+}
+
 std::string WriteOne(const Slot& /*slot*/, LinePlace /*place*/) {
     return PlainNumber(1);
 }

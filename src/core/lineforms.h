@@ -26,6 +26,8 @@ std::string WriteTrimmed(const Slot& slot, LinePlace place);     // text without
 std::string WriteTicFields(const Slot& slot, LinePlace place);   // the five fields of a special tic
 std::string WriteCurvePoint(const Slot& slot, LinePlace place);  // X \ Y of a correction point
 std::string WriteTicsAndArcs(const Slot& slot, LinePlace place); // PrintTicsAndArcs of the scale
+std::string WriteDeletedTic(const Slot& slot, LinePlace place);  // an entry of a scale's list
+std::string WriteDeletedLabel(const Slot& slot, LinePlace place);
 std::string WriteOne(const Slot& slot, LinePlace place);
 std::string WriteSpacedTwo(const Slot& slot, LinePlace place); // the one constant with blanks
 std::string WriteThree(const Slot& slot, LinePlace place);

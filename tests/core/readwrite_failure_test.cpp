@@ -161,6 +161,41 @@ TEST_F(ReadFailureTest, DeletionsOutsideTheTable) {
     }
 }
 
+std::vector<std::string> Numbered(const std::string& label, int last) {
+    std::vector<std::string> lines;
+    for (int number = 0; number <= last; ++number) {
+        lines.push_back(label + std::to_string(number));
+    }
+    return lines;
+}
+
+// A list of the design has 360 slots, the flags have 361 tics, and a file may say one twice.
+TEST_F(ReadFailureTest, MoreDeletionsThanAListHoldsAreNoFailure) {
+    const std::string tics = "Scale 1 - deleted tics: ";
+    const std::string labels = "Scale 4 - deleted labels: ";
+    DesignFile file = File();
+    file.Set(tics, "361").AddBehind(tics, Numbered("Tic deleted: ", 360));
+    file.Set(labels, "500").AddBehind(labels, Blocks(500, {"Label deleted: 7"}));
+    EXPECT_EQ(StageOf(file.Text()), 0);
+    EXPECT_EQ(Design.PlateWidth, 61.5F);
+    for (int tic = 0; tic <= 360; ++tic) {
+        EXPECT_EQ(Design.StandardTicYN[1][tic], "N") << tic;
+        EXPECT_EQ(Design.StandardLabelYN[4][tic], tic == 7 ? "N" : "Y") << tic;
+    }
+}
+
+TEST_F(ReadFailureTest, AllTicsDeletedAreAFailureOfTheWriter) {
+    const std::string tics = "Scale 1 - deleted tics: ";
+    DesignFile file = File();
+    file.Set(tics, "361").AddBehind(tics, Numbered("Tic deleted: ", 360));
+    ASSERT_EQ(StageOf(file.Text()), 0);
+    Design.DesignFileName = Path("again.vrn");
+    WriteDesign();
+    EXPECT_EQ(said, (std::vector<std::string>{
+                        "beep", "failure: The Vernacle file was not written correctly.\n"
+                                "ReadWrite 364"}));
+}
+
 TEST_F(ReadFailureTest, ColoursOfTextsThatAreNoNumber) {
     for (const char* colour : {"Color:", "Color: ", "Color: 255x", "Color: 2,5", "Color: &HFF",
                                "Color: 2147483648", "Color: 1E400"}) {
