@@ -56,6 +56,13 @@ std::int16_t Corner(double value) {
     return corner;
 }
 
+// Inside a label a control character is a command to the plotter, and an escape one to the printer:
+// a design that is passed on must not be able to give any.
+std::string WithoutControls(std::string bytes) {
+    std::erase_if(bytes, [](char c) { return (c >= '\0' && c < ' ') || c == '\x7F'; });
+    return bytes;
+}
+
 class Plotter {
 public:
     explicit Plotter(ByteSink& sink) : sink_(sink) {}
@@ -75,7 +82,9 @@ private:
     }
     void PenUp(Point at) { Command("PU", Nearest(at)); }
     void PenDown(Point at) { Command("PD", Nearest(at)); }
-    void Label(const std::string& text) { Statement("LB" + ToPlotterBytes(text) + kEndOfLabel); }
+    void Label(const std::string& text) {
+        Statement("LB" + WithoutControls(ToPlotterBytes(text)) + kEndOfLabel);
+    }
 
     void PlotLine(Point from, Point to);
     void PlotMark(double radius, Point at);

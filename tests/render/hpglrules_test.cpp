@@ -40,6 +40,37 @@ TEST_F(HpglRulesTest, ArcsAre100Chords) {
     }
 }
 
+// Else a design from a stranger could give commands to the printer that it is sent to.
+TEST_F(HpglRulesTest, TextsGiveNoCommands) {
+    std::string hostile = "a";
+    for (char control = 0; control < ' '; ++control) {
+        hostile += control;
+    }
+    hostile += "b\x7F\x1B%0A\xC2\xB5";
+    const std::string harmless = "ab%0A\xB5"; // in the plotter's code page
+    Design.ScaleTitle[1] = hostile;
+    Design.StandardLabel[1][2] = hostile;
+    Design.TextString[1] = hostile;
+    Design.DesignFileName = hostile;
+    for (const HpglMode mode : {HpglMode::File, HpglMode::PclPrinter}) {
+        std::string stream = Stream(mode);
+        const auto escapes = std::count(stream.begin(), stream.end(), '\x1B');
+        EXPECT_EQ(escapes, mode == HpglMode::File ? 0 : 5); // the wrapping's own
+        int found = 0;
+        for (const std::string& label : {harmless, "Filename: " + harmless}) {
+            const std::string statement = "LB" + label + "\x03\r\n";
+            for (auto at = stream.find(statement); at != stream.npos; at = stream.find(statement)) {
+                stream.erase(at, statement.size());
+                ++found;
+            }
+        }
+        EXPECT_EQ(found, 4);
+        std::erase_if(stream, [](char c) { return c == '\r' || c == '\n' || c == '\x03'; });
+        const auto isControl = [](char c) { return c < ' ' && c != '\x1B'; };
+        EXPECT_EQ(std::count_if(stream.begin(), stream.end(), isControl), 0);
+    }
+}
+
 TEST_F(HpglRulesTest, ScalesWithoutArcsStillSetDirectionAndPen) {
     for (const char* answer : {"N", "", "y"}) {
         Design.DrawArcs = answer;
