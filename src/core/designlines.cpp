@@ -234,6 +234,18 @@ constexpr FileLine kEnd = Step(990, ForceTicsAndArcs);
 
 } // namespace
 
+bool IsOfHead(const FileLine& line) {
+    return line.stage <= std::end(kHead)[-1].stage;
+}
+
+bool LooksLikeHead(std::string_view item, bool isEnded) {
+    return std::any_of(std::begin(kHead), std::end(kHead), [=](const FileLine& line) {
+        const std::string_view label = line.label ? line.label : "";
+        const std::string_view word = label.substr(0, label.rfind(':') + 1); // without its blank
+        return !word.empty() && (item.starts_with(word) || (!isEnded && word.starts_with(item)));
+    });
+}
+
 template <std::size_t Count>
 void FileWalker::VisitAll(const FileLine (&lines)[Count], LinePlace place) {
     for (const FileLine& line : lines) {

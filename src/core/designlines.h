@@ -1,6 +1,8 @@
 // The lines of a design file in their order: the one table that its writer and its reader walk.
 #pragma once
 
+#include <string_view>
+
 #include "core/design.h"
 #include "core/lineforms.h"
 
@@ -17,6 +19,13 @@ struct FileLine {
     void (*beforeWriting)() = nullptr;
     void (*afterWriting)() = nullptr;
 };
+
+// Whether a row stands before the blocks of the scales.
+bool IsOfHead(const FileLine& line);
+
+// Whether a line of a file begins with the label of some line of the head; one without an end may
+// have lost a part of it.
+bool LooksLikeHead(std::string_view item, bool isEnded);
 
 // Goes through the lines of a design file in their order. The loops over its blocks run by the
 // counts that Design holds when each is reached, so that a reader may fill them on the way.

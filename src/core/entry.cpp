@@ -130,7 +130,7 @@ void StoreEntry(const Accumulator& accumulator, T& target) {
 
 template <typename T>
 void Parse(std::string& text, T& target) {
-    if (CharacterCount(text) > kLongestEntry) {
+    if (IsTooLongForEntry(text)) {
         return;
     }
     text = std::string(Trimmed(text));
@@ -176,6 +176,10 @@ float ToFloat(double value) {
 }
 
 } // namespace
+
+bool IsTooLongForEntry(std::string_view text) {
+    return CharacterCount(text) > kLongestEntry;
+}
 
 void ParseEntry(std::string& text, float& target) {
     Parse(text, target);

@@ -35,6 +35,9 @@ struct EntryLimits {
 // are none.
 std::string RangeText(const EntryLimits& limits, std::string_view unit);
 
+// Whether a text is one that ParseEntry ignores for its length.
+bool IsTooLongForEntry(std::string_view text);
+
 // The short text that labels and lists show: 1.5M, 1235, 123.46, .5, 0.
 void FormatByMagnitude(double value, std::string& result);
 

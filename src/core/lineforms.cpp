@@ -198,18 +198,24 @@ void ReadDeletedLabel(std::string& value, const Slot& /*slot*/, LinePlace place)
     FlagDeleted(value, Design.StandardLabelYN[place.outer]);
 }
 
+FoundField FindField(std::string_view rest) {
+    const std::size_t start = std::min(rest.find_first_not_of(kSeparator), rest.size());
+    const std::size_t end = std::min(rest.find(kSeparator, start), rest.size());
+    const std::size_t next = std::min(rest.find_first_not_of(kSeparator, end), rest.size());
+    return {rest.substr(start, end - start), rest.substr(next)};
+}
+
 void SplitField(std::string& rest, std::string& field) {
-    const std::size_t start = rest.find_first_not_of(kSeparator);
-    if (start == rest.npos) {
+    const FoundField found = FindField(rest);
+    if (found.text.empty()) {
         rest.clear();
         return;
     }
-    const std::size_t end = std::min(rest.find(kSeparator, start), rest.size());
-    const std::size_t next = std::min(rest.find_first_not_of(kSeparator, end), rest.size());
-    field = rest.substr(start, end - start);
-    rest.erase(0, next);
+    const auto start = static_cast<std::size_t>(found.text.data() - rest.data());
+    field = found.text;
     Design.SharedIndex = static_cast<std::int16_t>(start + 1);
-    Design.SharedIndex2 = static_cast<std::int16_t>(end + 1);
+    Design.SharedIndex2 = static_cast<std::int16_t>(start + field.size() + 1);
+    rest.erase(0, rest.size() - found.rest.size());
 }
 
 } // namespace vernacle

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/slot.h"
 
@@ -49,6 +50,15 @@ void ReadCurvePoint(std::string& value, const Slot& slot, LinePlace place);
 void ReadTicsAndArcs(std::string& value, const Slot& slot, LinePlace place);
 void ReadDeletedTic(std::string& value, const Slot& slot, LinePlace place);
 void ReadDeletedLabel(std::string& value, const Slot& slot, LinePlace place);
+
+// The next field, up to the next "\", and what follows its separators; several count as one, so
+// that a field is empty only where none is left.
+struct FoundField {
+    std::string_view text;
+    std::string_view rest;
+};
+
+FoundField FindField(std::string_view rest);
 
 // Moves the next field of rest, up to the next "\", to field; several separators count as one, so
 // that a field is never empty. With no field left, rest becomes empty and field is not changed.

@@ -7,6 +7,7 @@
 #include "core/codepage.h"
 #include "core/design.h"
 #include "core/designlines.h"
+#include "core/linedoubts.h"
 #include "core/lines.h"
 #include "core/samefile.h"
 #include "core/seam.h"
@@ -27,12 +28,6 @@ std::string OnOneLine(std::string text) {
     return text;
 }
 
-std::string Label(const FileLine& line, int number) {
-    std::string label = line.label;
-    const std::size_t mark = label.find('%');
-    return mark == label.npos ? label : label.replace(mark, 1, std::to_string(number));
-}
-
 class DesignWriter : public FileWalker {
 public:
     explicit DesignWriter(std::string& text) : text_(text) {}
@@ -46,7 +41,7 @@ private:
             line.beforeWriting();
         }
         const Slot slot = line.place(place.outer, place.inner);
-        text_ += Label(line, place.outer) + OnOneLine(line.write(slot, place));
+        text_ += LabelOf(line, place.outer) + OnOneLine(line.write(slot, place));
         text_ += kLineEnd;
         if (line.afterWriting) {
             line.afterWriting();
@@ -56,19 +51,41 @@ private:
     std::string& text_;
 };
 
+void Report(const LineReport& report, int line, const RunTimeError& error) {
+    if (report) {
+        report(line, error.what());
+    }
+}
+
 // The file ended where a line was wanted: what an older program wrote ends early, at a section's
 // boundary or anywhere else, and is read as far as it goes.
 struct EndOfDesign {};
 
 class DesignReader : public FileWalker {
 public:
-    DesignReader(std::string text, int& stage) : lines_(std::move(text)), stage_(stage) {}
+    DesignReader(std::string text, int& stage, const ReadReports& reports)
+        : lines_(std::move(text)), stage_(stage), reports_(reports) {}
+
+    void Read() {
+        try {
+            Walk();
+        } catch (const EndOfDesign&) {
+            // All that was not reached keeps its default.
+        } catch (const RunTimeError& error) {
+            doubts_.End();
+            Report(reports_.failure, lines_.LineNumber(), error);
+            throw;
+        }
+        doubts_.End();
+    }
 
 private:
     void Visit(const FileLine& line, LinePlace place) override {
         stage_ = line.stage;
         if (line.read) {
-            std::string value = NextValue();
+            const std::string_view item = NextItem();
+            doubts_.Consider(line, place, item, lines_);
+            std::string value(LineReader::ValueOf(item));
             line.read(value, line.place(place.outer, place.inner), place);
         }
         if (line.afterReading) {
@@ -76,9 +93,9 @@ private:
         }
     }
 
-    std::string NextValue() {
+    std::string_view NextItem() {
         try {
-            return std::string(lines_.NextValue());
+            return lines_.NextItem();
         } catch (const FileFailure&) {
             throw EndOfDesign{};
         }
@@ -86,7 +103,18 @@ private:
 
     LineReader lines_;
     int& stage_;
+    const ReadReports& reports_;
+    LineDoubts doubts_{reports_.doubt};
 };
+
+std::string ReadBytes(const std::string& name, const ReadReports& reports) {
+    try {
+        return Host.readFile(name);
+    } catch (const RunTimeError& error) {
+        Report(reports.failure, 0, error);
+        throw;
+    }
+}
 
 // The lines of a design would be read as the printer's factors, and every later plate come out at
 // another size. The name may lead there by accident: a calibration leaves it to the design.
@@ -169,18 +197,16 @@ bool KeepLastSession() {
     return kept;
 }
 
-void ReadDesign(const std::string& name) {
+void ReadDesign(const std::string& name, const ReadReports& reports) {
     if (name.empty()) {
         return;
     }
     int stage = kStageOpen;
     try {
-        const std::string bytes = Host.readFile(name);
+        const std::string bytes = ReadBytes(name, reports);
         stage = kStageReset;
         ResetDesign();
-        DesignReader(FromFileBytes(bytes), stage).Walk();
-    } catch (const EndOfDesign&) {
-        // All that was not reached keeps its default.
+        DesignReader(FromFileBytes(bytes), stage, reports).Read();
     } catch (const RunTimeError&) {
         ResetDesign();
         ReportFailure("We were not successful in reading that Vernacle file.\n"

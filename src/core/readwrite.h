@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "core/readreports.h"
+
 namespace vernacle {
 
 // Writes the design to DesignFileName, replacing the file; false if that failed. A failure is
@@ -32,6 +34,6 @@ std::string LastSessionName();
 
 // Reads a design file over the defaults; an empty name does nothing at all. A file that ends early
 // is no failure. A failure is reported with its stage and leaves the defaults.
-void ReadDesign(const std::string& name);
+void ReadDesign(const std::string& name, const ReadReports& reports = {});
 
 } // namespace vernacle

@@ -4,9 +4,11 @@
 #include <cmath>
 
 #include "core/design.h"
+#include "core/linedoubts.h"
 #include "core/lines.h"
 #include "core/numbertext.h"
 #include "core/seam.h"
+#include "core/text.h"
 #include "render/page.h"
 #include "render/primitives.h"
 
@@ -15,6 +17,7 @@ namespace vernacle {
 namespace {
 
 constexpr const char* kCalibrationFile = "Calibrate.txt";
+constexpr const char* kHeader = "\"Vernacle calibration file\"";
 constexpr float kSmallestFactor = 0.5F;
 constexpr float kLargestFactor = 2;
 constexpr double kSquareMm = 100;
@@ -26,7 +29,7 @@ void RaiseFactor(float& factor) {
 }
 
 std::string CalibrationText() {
-    return "\"Vernacle calibration file\"\r\n\r\n#" + Host.isoDateTime() + "#\r\n\r\n" +
+    return std::string(kHeader) + "\r\n\r\n#" + Host.isoDateTime() + "#\r\n\r\n" +
            PlainNumber(Design.CalibrationX) + "\r\n" + PlainNumber(Design.CalibrationY) +
            "\r\n\r\n";
 }
@@ -43,12 +46,24 @@ void PrintSquare(PrinterSurface& printer) {
 
 } // namespace
 
-void ReadCalibration(const std::string& name) {
+void ReadCalibration(const std::string& name, const LineReport& doubt) {
     LineReader lines(Host.readFile(name));
-    lines.NextValue(); // the header
-    lines.NextValue(); // the date
-    StoreNumber(NumericValue(lines.NextValue()), Design.CalibrationX);
-    StoreNumber(NumericValue(lines.NextValue()), Design.CalibrationY);
+    const auto doubtUnless = [&](bool isRight, const char* reason) {
+        if (!isRight && doubt) {
+            doubt(lines.LineNumber(), reason);
+        }
+    };
+    try {
+        doubtUnless(Trimmed(lines.NextValue()) == kHeader, "does not begin as a calibration");
+        lines.NextValue(); // the date
+        for (float* factor : {&Design.CalibrationX, &Design.CalibrationY}) {
+            const std::string_view value = lines.NextValue();
+            doubtUnless(HasDigit(value), "no number");
+            StoreNumber(NumericValue(value), *factor);
+        }
+    } catch (const FileFailure&) {
+        throw FileFailure(name + ": ends before its two factors");
+    }
 }
 
 void ReadCalibrate() {

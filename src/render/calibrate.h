@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/entry.h"
+#include "core/readreports.h"
 
 namespace vernacle {
 
@@ -14,8 +15,8 @@ class PrinterSurface;
 // is not reported; it leaves the factors that were not reached as they are.
 void ReadCalibrate();
 
-// The same from a file of that name; throws the failure.
-void ReadCalibration(const std::string& name);
+// The same from a file of that name; throws the failure. What looks like a mistake goes to doubt.
+void ReadCalibration(const std::string& name, const LineReport& doubt = {});
 
 // Writes the calibration's file anew and leaves its bare name, "Calibrate.txt", in DesignFileName.
 // A failure is not reported.
