@@ -25,8 +25,13 @@ Options:
   --size WxH               screen that .png shows, in pixels (default 1600x900)
   --calibration FILE       printer calibration, a Calibrate.txt (default: both factors 1)
   --at "YYYY-MM-DD hh:mm:ss"  date and time to write instead of the present ones
+  --force                  write over a .vrn that exists
+  --strict                 take a doubt about what is read for a failure, and write nothing
   --help                   print this and exit
   --version                print the version and exit
+
+What is read and looks like a mistake is said on standard error as "vernacle-export: FILE:LINE:
+REASON"; an output that cannot be written leaves what stood there.
 
 Exit status: 0 all written, 1 a file could not be read or written, 2 wrong usage.
 )";
@@ -39,6 +44,8 @@ constexpr int kLargestPicture = 8192;
 enum Option {
     kHelpOption = 1,
     kVersionOption,
+    kForceOption,
+    kStrictOption,
     kAtOption,
     kCalibrationOption,
     kPaperOption,
@@ -48,6 +55,8 @@ enum Option {
 constexpr option kOptions[] = {
     {"help", no_argument, nullptr, kHelpOption},
     {"version", no_argument, nullptr, kVersionOption},
+    {"force", no_argument, nullptr, kForceOption},
+    {"strict", no_argument, nullptr, kStrictOption},
     {"at", required_argument, nullptr, kAtOption},
     {"calibration", required_argument, nullptr, kCalibrationOption},
     {"paper", required_argument, nullptr, kPaperOption},
@@ -99,6 +108,12 @@ void TakeOption(int option, const char* value, Arguments& arguments) {
         break;
     case kVersionOption:
         arguments.version = true;
+        break;
+    case kForceOption:
+        arguments.force = true;
+        break;
+    case kStrictOption:
+        arguments.strict = true;
         break;
     case kAtOption:
         arguments.at = CheckedTime(value);

@@ -1,10 +1,17 @@
 // vernacle-export: the engine without a window, for plates made by script.
+#include <algorithm>
+#include <cerrno>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <memory>
+#include <new>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <QGuiApplication>
 
@@ -12,8 +19,10 @@
 #include "core/readwrite.h"
 #include "core/seam.h"
 #include "export/arguments.h"
+#include "export/outputfile.h"
 #include "export/outputs.h"
 #include "render/calibrate.h"
+#include "surfaces/typeface.h"
 
 namespace vernacle {
 
@@ -22,24 +31,65 @@ namespace {
 enum ExitStatus { kAllWritten = 0, kFileFailed = 1, kWrongUsage = 2 };
 
 constexpr float kTwipsPerPixel = 15;
+constexpr const char* kProgram = "vernacle-export: ";
+constexpr const char* kNoMemory = "not enough memory";
 
 void Say(const std::string& text) {
     std::fputs((text + "\n").c_str(), stderr);
 }
 
-// The toolkit's remarks on the desktop that is not there would drown our own messages.
+// The toolkit's remarks on the desktop that is not there would drown our own messages. What is
+// fatal to it, a platform's plugin that is missing say, would end in an abort.
 void SayOnlyWhatIsSerious(QtMsgType type, const QMessageLogContext& /*context*/,
                           const QString& text) {
     if (type == QtCriticalMsg || type == QtFatalMsg) {
-        Say(text.toStdString());
+        Say(kProgram + text.toStdString());
+    }
+    if (type == QtFatalMsg) {
+        std::_Exit(kFileFailed);
     }
 }
 
-// What became of the output that is being written.
+// What became of the inputs and of the output that is being written.
 struct Progress {
     bool failed = false;
-    bool opened = false;
+    bool doubted = false;
+    std::string reason; // the system's, of a file that could not be written
 };
+
+// A sink whose failure is known by its reason; the engine's own writers say only that there was
+// one.
+class NotingSink : public ByteSink {
+public:
+    NotingSink(std::unique_ptr<ByteSink> sink, Progress& progress)
+        : sink_(std::move(sink)), progress_(progress) {}
+    void Write(std::string_view bytes) override {
+        Note(progress_, [&] { sink_->Write(bytes); });
+    }
+    void Close() override {
+        Note(progress_, [&] { sink_->Close(); });
+    }
+
+    template <typename Do>
+    static void Note(Progress& progress, Do act) {
+        try {
+            act();
+        } catch (const FileFailure& failure) {
+            progress.reason = failure.what();
+            throw;
+        }
+    }
+
+private:
+    std::unique_ptr<ByteSink> sink_;
+    Progress& progress_;
+};
+
+std::unique_ptr<ByteSink> OpenNoting(const std::string& path, Progress& progress) {
+    std::unique_ptr<ByteSink> sink;
+    NotingSink::Note(progress, [&] { sink = OpenOutputFile(path); });
+    return std::make_unique<NotingSink>(std::move(sink), progress);
+}
 
 void SetHost(const Arguments& arguments, Progress& progress) {
     Host.screenSize = [&arguments] {
@@ -56,50 +106,62 @@ void SetHost(const Arguments& arguments, Progress& progress) {
     };
     Host.readFile = ReadFileOrInput;
     Host.openForOutput = [&progress](const std::string& path) {
-        auto sink = OpenFileSink(path);
-        progress.opened = true;
-        return sink;
+        return OpenNoting(path, progress);
     };
 }
 
-// Removes what was begun and not finished; a device or a link is not ours to remove.
-void RemoveUnfinished(const std::string& path) {
-    std::error_code ignored;
-    if (std::filesystem::is_regular_file(std::filesystem::symlink_status(path, ignored))) {
-        std::filesystem::remove(path, ignored);
-    }
-}
-
-bool WriteOne(const std::string& path, const Arguments& arguments, Progress& progress) {
-    const OutputForm& form = *FindForm(path);
-    progress = Progress{};
+// Has the output written; what is thrown on the way becomes the reason.
+void Attempt(const OutputForm& form, const std::string& path, const Arguments& arguments,
+             Progress& progress) {
     try {
         if (form.wantsTables) {
             MakeReady();
         }
         form.write(path, arguments);
+        return;
     } catch (const RunTimeError& error) {
         if (!progress.failed) { // else it has been reported on the way
-            Say(error.what());
+            progress.reason = error.what();
         }
-        progress.failed = true;
+    } catch (const std::bad_alloc&) {
+        progress.reason = kNoMemory;
     }
+    progress.failed = true;
+}
+
+bool WriteOne(const std::string& path, const Arguments& arguments, Progress& progress) {
+    progress = Progress{};
+    Attempt(*FindForm(path), path, arguments, progress);
     if (progress.failed) {
-        Say("vernacle-export: " + path + " was not written");
-        if (progress.opened) {
-            RemoveUnfinished(path);
-        }
+        const std::string named = path + ": "; // by a failure of the file itself
+        std::string& reason = progress.reason;
+        reason.erase(0, reason.starts_with(named) ? named.size() : 0);
+        Say(kProgram + path + " was not written" + (reason.empty() ? "" : ": " + reason));
     }
     return !progress.failed;
 }
 
-bool ReadInputs(const Arguments& arguments, const Progress& progress) {
+LineReport SayingFor(const std::string& file, bool& happened) {
+    return [&file, &happened](int line, const std::string& reason) {
+        happened = true;
+        // A file without any line names itself in the reason.
+        Say(kProgram + (line > 0 ? file + ":" + std::to_string(line) + ": " : "") + reason);
+    };
+}
+
+bool ReadInputs(const Arguments& arguments, Progress& progress) {
     Design.CalibrationX = Design.CalibrationY = 1;
     if (arguments.calibration) {
-        ReadCalibration(*arguments.calibration);
+        ReadCalibration(*arguments.calibration,
+                        SayingFor(*arguments.calibration, progress.doubted));
     }
     Design.DesignFileName = arguments.design;
-    ReadDesign(arguments.design);
+    ReadDesign(arguments.design, {.doubt = SayingFor(arguments.design, progress.doubted),
+                                  .failure = SayingFor(arguments.design, progress.failed)});
+    if (progress.doubted && arguments.strict && !progress.failed) {
+        Say(std::string(kProgram) + "nothing was written");
+        return false;
+    }
     return !progress.failed;
 }
 
@@ -128,30 +190,67 @@ void CheckEndings(const Arguments& arguments) {
     }
 }
 
+// A design that is written over is lost: a shell's *.VRN must not do that.
+void CheckDesignsStay(const Arguments& arguments) {
+    std::error_code ignored;
+    for (const std::string& path : arguments.outputs) {
+        if (FindForm(path)->isDesign && std::filesystem::is_regular_file(path, ignored) &&
+            !arguments.force) {
+            throw UsageError("\"" + path + "\" exists; --force writes over it");
+        }
+    }
+}
+
 bool WantsFonts(const Arguments& arguments) {
     return std::any_of(arguments.outputs.begin(), arguments.outputs.end(),
                        [](const std::string& path) { return FindForm(path)->wantsFonts; });
 }
 
+std::unique_ptr<QGuiApplication> MakeApplication(char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(SayOnlyWhatIsSerious);
+    int one = 1;
+    auto application = std::make_unique<QGuiApplication>(one, argv);
+    if (!HasFonts()) {
+        throw RunTimeError("no font was found; the plate would have no labels and no title");
+    }
+    return application;
+}
+
+int Print(const char* text) {
+    if (std::fputs(text, stdout) < 0 || std::fflush(stdout) != 0) {
+        throw FileFailure(std::string("standard output: ") + std::strerror(errno));
+    }
+    return kAllWritten;
+}
+
 int Run(int argc, char** argv) {
     const Arguments arguments = ParseArguments(argc, argv);
     if (arguments.help) {
-        std::fputs(kHelp, stdout);
-        return kAllWritten;
+        return Print(kHelp);
     }
     if (arguments.version) {
-        std::puts("vernacle-export " VERNACLE_VERSION);
-        return kAllWritten;
+        return Print("vernacle-export " VERNACLE_VERSION "\n");
     }
     CheckEndings(arguments);
+    CheckDesignsStay(arguments);
     std::unique_ptr<QGuiApplication> application; // fonts need one, files do not
     if (WantsFonts(arguments)) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        qInstallMessageHandler(SayOnlyWhatIsSerious);
-        int one = 1;
-        application = std::make_unique<QGuiApplication>(one, argv);
+        application = MakeApplication(argv);
     }
     return Export(arguments);
+}
+
+// What is opened must not take the place of an output that the caller has closed: messages would be
+// written into a plate.
+void HoldStandardFiles() {
+    int file = 0;
+    while (file >= 0 && file <= STDERR_FILENO) {
+        file = open("/dev/null", O_RDONLY);
+    }
+    if (file >= 0) {
+        close(file);
+    }
 }
 
 } // namespace
@@ -161,13 +260,18 @@ int Run(int argc, char** argv) {
 int main(int argc, char** argv) {
     std::setlocale(LC_ALL, "");    // dates and the system's reasons; numbers never ask it
     std::signal(SIGXFSZ, SIG_IGN); // a file-size limit is a write that fails, not the end
+    std::signal(SIGPIPE, SIG_IGN); // and so is a reader that has gone
+    vernacle::HoldStandardFiles();
     try {
         return vernacle::Run(argc, argv);
     } catch (const vernacle::UsageError& error) {
-        vernacle::Say(std::string("vernacle-export: ") + error.what());
+        vernacle::Say(std::string(vernacle::kProgram) + error.what());
         return vernacle::kWrongUsage;
+    } catch (const std::bad_alloc&) {
+        vernacle::Say(std::string(vernacle::kProgram) + vernacle::kNoMemory);
+        return vernacle::kFileFailed;
     } catch (const std::exception& error) {
-        vernacle::Say(std::string("vernacle-export: ") + error.what());
+        vernacle::Say(std::string(vernacle::kProgram) + error.what());
         return vernacle::kFileFailed;
     }
 }

@@ -30,11 +30,22 @@ void WriteHpglFile(const std::string& path, const Arguments& /*arguments*/) {
 }
 
 // The routine names the port itself; here the port is the output.
+class PortIs {
+public:
+    explicit PortIs(const std::string& path) : open_(Host.openForOutput) {
+        Host.openForOutput = [this, path](const std::string& /*port*/) { return open_(path); };
+    }
+    ~PortIs() { Host.openForOutput = open_; }
+    PortIs(const PortIs&) = delete;
+    PortIs& operator=(const PortIs&) = delete;
+
+private:
+    decltype(Host.openForOutput) open_;
+};
+
 void WritePclFile(const std::string& path, const Arguments& /*arguments*/) {
-    const auto open = Host.openForOutput;
-    Host.openForOutput = [&](const std::string& /*port*/) { return open(path); };
+    const PortIs port(path);
     WriteHpgl("", HpglMode::PclPrinter);
-    Host.openForOutput = open;
 }
 
 // Prints; throws where the print has failed and been reported.
@@ -69,14 +80,14 @@ void WriteCsv(const std::string& path, const Arguments& /*arguments*/) {
 }
 
 constexpr OutputForm kForms[] = {
-    {".hpgl", WriteHpglFile, true, false}, //
-    {".plt", WriteHpglFile, true, false},  //
-    {".pcl", WritePclFile, true, false},   //
-    {".pdf", WritePdf, true, true},        //
-    {".svg", WriteSvg, true, true},        //
-    {".png", WritePng, true, true},        //
-    {".vrn", WriteVrn, false, false},      //
-    {".csv", WriteCsv, true, false},       //
+    {".hpgl", WriteHpglFile, true, false},  //
+    {".plt", WriteHpglFile, true, false},   //
+    {".pcl", WritePclFile, true, false},    //
+    {".pdf", WritePdf, true, true},         //
+    {".svg", WriteSvg, true, true},         //
+    {".png", WritePng, true, true},         //
+    {".vrn", WriteVrn, false, false, true}, //
+    {".csv", WriteCsv, true, false},        //
 };
 
 } // namespace

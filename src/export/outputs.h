@@ -16,6 +16,7 @@ struct OutputForm {
     WriteOutput write;
     bool wantsTables; // the design is first made ready as the preview page does
     bool wantsFonts;
+    bool isDesign = false; // an input as well, which must not be lost
 };
 
 // By the ending in any case; null for one that is not known.

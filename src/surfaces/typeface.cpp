@@ -30,6 +30,11 @@ constexpr char16_t kFirstCombining = 0x0300;
 
 } // namespace
 
+// The toolkit then puts boxes in place of all letters, which have a width but no shape on paper.
+bool HasFonts() {
+    return QFontMetricsF(MakeFont("Arial")).inFont(QLatin1Char('0'));
+}
+
 Typeface::Typeface(const std::string& family)
     : font_(MakeFont(family)), metrics_(font_), averageWidth_(MeasureAverage()) {}
 

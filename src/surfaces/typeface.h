@@ -11,6 +11,9 @@
 
 namespace vernacle {
 
+// Whether there is any font that can write a number: without one texts are drawn as nothing at all.
+bool HasFonts();
+
 class Typeface {
 public:
     // Size of the reference font in pixels; all measures below are in these.

@@ -64,4 +64,10 @@ std::size_t CountLines(const std::string& text) {
     return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
 }
 
+std::size_t NumberOfLine(const std::string& text, const std::string& line) {
+    const std::size_t at = text.find("\n" + line + "\r");
+    EXPECT_NE(at, text.npos) << line;
+    return CountLines(text.substr(0, at)) + 2;
+}
+
 } // namespace vernacle::test

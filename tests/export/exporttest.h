@@ -45,4 +45,7 @@ std::string DeletedList(const char* line, const std::vector<int>& tics);
 
 std::size_t CountLines(const std::string& text);
 
+// Of the first line that is this, from 1.
+std::size_t NumberOfLine(const std::string& text, const std::string& line);
+
 } // namespace vernacle::test

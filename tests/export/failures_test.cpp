@@ -34,14 +34,16 @@ const char* MessageOf(const std::string& ending) {
     return nullptr;
 }
 
-// The message of the form's own writer, or else the system's.
+// The message of the form's own writer, if it has one, and then the file and the system's reason.
 void ExpectFailure(const ProcessResult& result, const std::string& ending, int reason) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.signal, 0);
     EXPECT_EQ(result.out, "");
     const char* own = MessageOf(ending);
-    const char* said = own ? own : std::strerror(reason); // in the language of the locale
-    EXPECT_NE(result.err.find(said), std::string::npos) << result.err;
+    EXPECT_NE(result.err.find(own ? own : ""), std::string::npos) << result.err;
+    const std::string line = // in the language of the locale
+        std::string("/plate") + ending + " was not written: " + std::strerror(reason) + "\n";
+    EXPECT_TRUE(result.err.ends_with(line)) << result.err;
 }
 
 int StageOf(const std::string& message) {
@@ -58,8 +60,8 @@ TEST_F(FailuresTest, AMissingDesignIsSaidWithItsStageAndNothingIsWritten) {
     ForEachForm([&words](const std::string& path, const std::string&) { words.push_back(path); });
     const ProcessResult result = Export(words);
     EXPECT_EQ(result.status, 1);
-    EXPECT_NE(result.err.find(std::string(kNotRead) + "ReadWrite 407\n"), std::string::npos)
-        << result.err;
+    EXPECT_EQ(result.err, "vernacle-export: " + Path("missing.VRN") + ": " + std::strerror(ENOENT) +
+                              "\n" + kNotRead + "ReadWrite 407\n");
     EXPECT_EQ(CountFiles(), 0U);
 }
 
@@ -67,6 +69,7 @@ TEST_F(FailuresTest, AFolderIsNoDesign) {
     const ProcessResult result = Export({Path(""), Path("plate.csv")});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(StageOf(result.err), 407) << result.err;
+    EXPECT_TRUE(result.err.starts_with("vernacle-export: " + Path("") + ": ")) << result.err;
     EXPECT_EQ(CountFiles(), 0U);
 }
 
@@ -74,14 +77,24 @@ TEST_F(FailuresTest, ADamagedDesignIsSaidWithTheStageItCameTo) {
     struct Row {
         const char* name;
         Edits edits;
+        const char* line; // on which it fails
+        const char* reason;
     };
     // In the order of their lines.
     const Row rows[] = {
         {"a text's colour that is no number",
          {{"Texts: ", "1\r\nText 1:made by\r\nLeft to text:  2 \r\nBottom to text:  2 \r\n"
-                      "Relative size:  1 \r\nColor: red"}}},
-        {"a tic beyond the last", {{"Scale 1 - deleted tics: ", "1\r\nTic deleted: 361"}}},
-        {"a label beyond the last", {{"Scale 1 - deleted labels: ", "1\r\nLabel deleted: 999"}}},
+                      "Relative size:  1 \r\nColor: red"}},
+         "Color: red",
+         "Type mismatch"},
+        {"a tic beyond the last",
+         {{"Scale 1 - deleted tics: ", "1\r\nTic deleted: 361"}},
+         "Tic deleted: 361",
+         "Subscript out of range"},
+        {"a label beyond the last",
+         {{"Scale 1 - deleted labels: ", "1\r\nLabel deleted: 999"}},
+         "Label deleted: 999",
+         "Subscript out of range"},
     };
     int last = 544; // the loop over the scales, which all of these lie behind
     for (const Row& row : rows) {
@@ -90,6 +103,10 @@ TEST_F(FailuresTest, ADamagedDesignIsSaidWithTheStageItCameTo) {
         const ProcessResult result = Export({design, Path("plate.pdf"), Path("plate.vrn")});
         EXPECT_EQ(result.status, 1);
         EXPECT_NE(result.err.find(kNotRead), std::string::npos) << result.err;
+        EXPECT_TRUE(result.err.starts_with(
+            "vernacle-export: " + design + ":" +
+            std::to_string(NumberOfLine(ReadText(design), row.line)) + ": " + row.reason + "\n"))
+            << result.err;
         EXPECT_GT(StageOf(result.err), last) << result.err;
         EXPECT_LT(StageOf(result.err), 990) << result.err;
         EXPECT_EQ(CountFiles(), 1U) << "more than the design";
@@ -141,7 +158,8 @@ TEST_F(FailuresTest, ACalibrationThatCannotBeReadEndsIt) {
         const ProcessResult result =
             Export({"--calibration", file, design, Path("plate.pdf"), Path("plate.csv")});
         EXPECT_EQ(result.status, 1);
-        EXPECT_GT(CountLines(result.err), 0U);
+        EXPECT_NE(result.err.find("vernacle-export: " + file + ": "), std::string::npos)
+            << result.err;
         EXPECT_EQ(CountFiles(), before);
         std::filesystem::remove(Path("plate.pdf"));
         std::filesystem::remove(Path("plate.csv"));
@@ -211,7 +229,7 @@ TEST_F(FailuresTest, AFileThatCouldNotBeOpenedStaysAsItWas) {
     const std::string design = Example("VOLTS-0-15");
     ForEachForm([&](const std::string& path, const std::string& ending) {
         std::filesystem::copy_file(VERNACLE_EXPORT, path);
-        ExpectFailure(RunProgram(path, {design, path}), ending, ETXTBSY);
+        ExpectFailure(RunProgram(path, {"--force", design, path}), ending, ETXTBSY);
         ASSERT_TRUE(std::filesystem::is_regular_file(path));
         EXPECT_EQ(std::filesystem::file_size(path), std::filesystem::file_size(VERNACLE_EXPORT));
     });
@@ -235,6 +253,58 @@ TEST_F(FailuresTest, OneFailureDoesNotKeepTheOthersFromBeingWritten) {
     EXPECT_EQ(ReadFile("first.pdf"), pdf);
     EXPECT_EQ(ReadFile("second.csv"), csv);
     EXPECT_EQ(ReadFile("third.hpgl"), hpgl);
+}
+
+// Boxes in place of letters would be cut out and glued in.
+TEST_F(FailuresTest, APlateIsNotWrittenWithoutAnyFont) {
+    const std::string fonts = WriteFile(
+        "fonts.conf", "<?xml version=\"1.0\"?><fontconfig><dir>" + Path("none") +
+                          "</dir><cachedir>" + Path("cache") + "</cachedir></fontconfig>");
+    ProcessSetting without;
+    without.environment = {"FONTCONFIG_FILE=" + fonts};
+    const std::string design = Example("VOLTS-0-15");
+    for (const char* name : {"plate.pdf", "plate.svg", "plate.png"}) {
+        const ProcessResult result = Export({design, Path(name)}, without);
+        EXPECT_EQ(result.status, 1) << name;
+        EXPECT_NE(result.err.find("vernacle-export: no font was found"), std::string::npos)
+            << result.err;
+        EXPECT_FALSE(Exists(name));
+    }
+    EXPECT_EQ(Export({design, Path("plate.csv"), Path("plate.hpgl")}, without).status, 0);
+}
+
+TEST_F(FailuresTest, AMissingPluginOfTheToolkitIsAFailureInWords) {
+    WriteFile("qt.conf", "[Paths]\nPlugins=" + Path("none") + "\n");
+    const std::string program = Path("vernacle-export");
+    std::filesystem::copy_file(VERNACLE_EXPORT, program);
+    const ProcessResult result = RunProgram(program, {Example("VOLTS-0-15"), Path("plate.pdf")});
+    EXPECT_EQ(result.signal, 0);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.err.starts_with("vernacle-export: ")) << result.err;
+    EXPECT_NE(result.err.find("plugin"), std::string::npos) << result.err;
+    EXPECT_FALSE(Exists("plate.pdf"));
+}
+
+TEST_F(FailuresTest, HelpThatCannotBeWrittenIsAFailure) {
+    for (const char* option : {"--help", "--version"}) {
+        for (const char* output : {">/dev/full", ">&-"}) {
+            const ProcessResult result = RunProgram(
+                "sh", {"-c", "exec \"$0\" \"$1\" " + std::string(output), VERNACLE_EXPORT, option});
+            EXPECT_EQ(result.status, 1) << option << output;
+            EXPECT_TRUE(result.err.starts_with("vernacle-export: standard output: ")) << result.err;
+        }
+    }
+}
+
+// A file that is opened takes the lowest free number, and messages go to the second.
+TEST_F(FailuresTest, AClosedStandardErrorDoesNotPutMessagesIntoAPlate) {
+    const std::string design = EditedExample("VOLTS-0-15", {{"Plate width: ", "wide"}});
+    ASSERT_EQ(Export({"--at", kAt, design, Path("usual.hpgl")}).status, 0);
+    const ProcessResult result =
+        RunProgram("sh", {"-c", "exec \"$@\" <&- >&- 2>&-", "sh", VERNACLE_EXPORT, "--at", kAt,
+                          design, Path("plate.hpgl")});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(ReadFile("plate.hpgl"), ReadFile("usual.hpgl"));
 }
 
 // A scale whose arc has no radius cannot be printed.

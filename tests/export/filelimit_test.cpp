@@ -35,7 +35,7 @@ class FileLimitTest : public ExportTest, public ::testing::WithParamInterface<Li
 protected:
     ProcessResult ExportWithin(unsigned long bytes, const std::string& path) const {
         Words words = GetParam().options;
-        words.insert(words.end(), {"--at", kAt, design_, path});
+        words.insert(words.end(), {"--at", kAt, "--force", design_, path});
         ProcessSetting setting;
         setting.largestFileBytes = bytes;
         return Export(words, setting);
@@ -57,21 +57,34 @@ private:
     }
 };
 
-TEST_P(FileLimitTest, AnUnfinishedFileIsAFailureAndIsRemoved) {
+TEST_P(FileLimitTest, AFailureAtAnyPlaceLeavesWhatStoodThere) {
     const std::string path = Path(std::string("plate") + GetParam().ending);
     ASSERT_EQ(ExportWithin(1UL << 30U, path).status, 0);
     const std::string whole = ReadText(path);
     ASSERT_GT(whole.size(), 2 * kStep);
+    const std::string before = "what stood there before";
+    WriteFile(std::string("plate") + GetParam().ending, before);
     for (unsigned long limit = 0; limit < whole.size(); limit += kStep) {
         const ProcessResult result = ExportWithin(limit, path);
         ASSERT_EQ(result.signal, 0) << "at " << limit;
         ASSERT_EQ(result.status, 1) << "at " << limit;
         EXPECT_GT(CountLines(result.err), 0U) << "at " << limit;
-        EXPECT_FALSE(std::filesystem::exists(path)) << "at " << limit;
+        EXPECT_EQ(ReadText(path), before) << "at " << limit;
+        EXPECT_EQ(CountFiles(), 2U) << "more than the design and the output, at " << limit;
     }
     EXPECT_EQ(ExportWithin(whole.size() - 1, path).status, 1);
+    EXPECT_EQ(ReadText(path), before);
     EXPECT_EQ(ExportWithin(whole.size(), path).status, 0);
     EXPECT_EQ(ReadText(path), whole);
+}
+
+TEST_P(FileLimitTest, AFileThatWasNotThereIsNotThereAfterAFailure) {
+    for (const unsigned long limit : {0UL, kStep}) {
+        const ProcessResult result =
+            ExportWithin(limit, Path(std::string("plate") + GetParam().ending));
+        EXPECT_EQ(result.status, 1) << "at " << limit;
+        EXPECT_EQ(CountFiles(), 1U) << "more than the design, at " << limit;
+    }
 }
 
 TEST_P(FileLimitTest, AnUnfinishedFileBehindALinkIsAFailureAndTheLinkStays) {
@@ -80,6 +93,7 @@ TEST_P(FileLimitTest, AnUnfinishedFileBehindALinkIsAFailureAndTheLinkStays) {
     const ProcessResult result = ExportWithin(kStep, link);
     EXPECT_EQ(result.status, 1);
     EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_FALSE(Exists("elsewhere"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, FileLimitTest, ::testing::ValuesIn(kLimitCases),

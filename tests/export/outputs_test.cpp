@@ -221,7 +221,7 @@ TEST_F(OutputsTest, AVrnWrittenAnewAndAnewStaysTheSame) {
 TEST_F(OutputsTest, ADesignMayBeWrittenOverItself) {
     const std::string text = ReadText(Example("VOLTS-0-15"));
     const std::string design = WriteFile("plate.VRN", text);
-    ExportQuietly(design, {design, Path("plate.csv")});
+    ExportQuietly(design, {design, Path("plate.csv")}, {"--force"});
     EXPECT_EQ(LineOf(ReadFile("plate.VRN"), 1), "Filename: " + design);
     EXPECT_EQ(CountLines(ReadFile("plate.VRN")), CountLines(text));
 }

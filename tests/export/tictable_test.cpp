@@ -289,7 +289,8 @@ TEST_F(TicTableTest, TheMovementsCurveShowsInTheCorrectedColumn) {
 // Calibration is the printer's affair: millimetres of the plate stay what they are.
 TEST_F(TicTableTest, CalibrationDoesNotEnter) {
     const std::string design = Example("VOLTS-0-15");
-    const std::string calibration = WriteFile("printer.txt", "\"h\"\r\n#d#\r\n1.1\r\n.9\r\n");
+    const std::string calibration =
+        WriteFile("printer.txt", "\"Vernacle calibration file\"\r\n#d#\r\n1.1\r\n.9\r\n");
     ExportQuietly(design, {Path("plain.csv")});
     ExportQuietly(design, {Path("calibrated.csv")}, {"--calibration", calibration});
     EXPECT_EQ(ReadFile("plain.csv"), ReadFile("calibrated.csv"));

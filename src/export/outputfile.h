@@ -1,0 +1,19 @@
+// An output file that takes its place when it is whole: what stood there stays, byte for byte, if
+// anything fails on the way.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/bytesink.h"
+
+namespace vernacle {
+
+// A regular file is written beside its place, through a link beside what the link leads to, and
+// then renamed onto it with the mode of what stood there. Where the folder does not allow that, it
+// is overwritten only when there is room for all of it. What is no regular file is written
+// directly. Nothing reaches the disk before Close; destruction without it leaves all as it was.
+// Throws FileFailure.
+std::unique_ptr<ByteSink> OpenOutputFile(const std::string& path);
+
+} // namespace vernacle
