@@ -54,7 +54,7 @@ HostSeam DefaultHost() {
         .servePendingEvents = [] {},
         .screenSize = [] { return kUsualScreen; },
         .beep = [] {},
-        .failureBox = [](const std::string&) {},
+        .failureBox = [](const FailureReport&) {},
         .informationBox = [](const std::string&) {},
         .playSound = [](const std::string&) {},
     };
@@ -62,9 +62,9 @@ HostSeam DefaultHost() {
 
 HostSeam Host = DefaultHost();
 
-void ReportFailure(const std::string& text) {
+void ReportFailure(const FailureReport& report) {
     Host.beep();
-    Host.failureBox(text);
+    Host.failureBox(report);
 }
 
 } // namespace vernacle

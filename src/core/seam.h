@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/bytesink.h"
@@ -14,6 +15,17 @@ namespace vernacle {
 struct ScreenSize {
     float widthTwips;
     float heightTwips;
+};
+
+// A failure's text, word for word as it is documented, and beside it the reason that the system
+// gave, if any.
+struct FailureReport {
+    FailureReport(const char* failureText) : text(failureText) {}
+    FailureReport(std::string failureText, std::string failureReason = {})
+        : text(std::move(failureText)), reason(std::move(failureReason)) {}
+
+    std::string text;
+    std::string reason;
 };
 
 struct HostSeam {
@@ -43,8 +55,8 @@ struct HostSeam {
     std::function<ScreenSize()> screenSize;
 
     std::function<void()> beep;
-    std::function<void(const std::string& text)> failureBox; // message box with OK: what went wrong
-    std::function<void(const std::string& text)> informationBox; // the same: what was done
+    std::function<void(const FailureReport& report)> failureBox; // message box with OK
+    std::function<void(const std::string& text)> informationBox; // with what was done
     std::function<void(const std::string& file)> playSound; // starts it, does not wait for its end
 };
 
@@ -55,6 +67,6 @@ extern HostSeam Host;
 HostSeam DefaultHost();
 
 // The beep and the message box of a trapped failure.
-void ReportFailure(const std::string& text);
+void ReportFailure(const FailureReport& report);
 
 } // namespace vernacle

@@ -100,9 +100,9 @@ void SetHost(const Arguments& arguments, Progress& progress) {
         Host.localDateTime = Host.isoDateTime = [&arguments] { return arguments.at; };
         setenv("TZ", "UTC0", 1); // so that the zone in a PDF's date is always the same
     }
-    Host.failureBox = [&progress](const std::string& text) {
+    Host.failureBox = [&progress](const FailureReport& report) {
         progress.failed = true;
-        Say(text);
+        Say(report.text);
     };
     Host.readFile = ReadFileOrInput;
     Host.openForOutput = [&progress](const std::string& path) {

@@ -38,7 +38,7 @@ struct Exhibit {
 // Whoever takes a shot is not there to answer a box.
 void AnswerFailuresByWords() {
     Host.beep = [] {};
-    Host.failureBox = Say;
+    Host.failureBox = [](const FailureReport& report) { Say(report.text); };
     Host.informationBox = Say;
 }
 

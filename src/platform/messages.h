@@ -3,9 +3,12 @@
 
 #include <string>
 
+#include "core/seam.h"
+
 namespace vernacle {
 
-void ShowFailure(const std::string& text);
+// The reason stands apart, below the text.
+void ShowFailure(const FailureReport& report);
 void ShowInformation(const std::string& text);
 
 // The box of a failure that no routine traps: the program ends behind it.

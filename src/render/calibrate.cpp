@@ -94,11 +94,11 @@ bool PrintTestSquare(PrinterSurface& printer) {
     try {
         PrintSquare(printer);
         return true;
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& failure) {
         if (Design.MessageLevel > 0) {
             Host.playSound("warningprinter.wav");
         }
-        ReportFailure("We had a problem driving the printer.");
+        ReportFailure({"We had a problem driving the printer.", failure.what()});
         return false;
     }
 }

@@ -355,8 +355,8 @@ void WriteHpgl(const std::string& path, HpglMode mode) {
         const auto sink = Host.openForOutput(target);
         WriteHpglStream(*sink, mode);
         sink->Close();
-    } catch (const RunTimeError&) {
-        ReportFailure("The HPGL file was not written correctly.");
+    } catch (const RunTimeError& failure) {
+        ReportFailure({"The HPGL file was not written correctly.", failure.what()});
         return;
     }
     Host.informationBox(mode == HpglMode::File

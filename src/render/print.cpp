@@ -241,10 +241,11 @@ bool PrintDesign(PrinterSurface& printer) {
         PrintRun run{{printer, traits, state, keeper.kept, PrintFrame()}, printer};
         PrintPage(run);
         return true;
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& failure) {
         EndDocQuietly(printer);
-        Host.failureBox("We had a problem driving the printer.\n\nPrintScaleErrorHandler 1026 " +
-                        std::to_string(state.WhereMarker));
+        Host.failureBox({"We had a problem driving the printer.\n\nPrintScaleErrorHandler 1026 " +
+                             std::to_string(state.WhereMarker),
+                         failure.what()});
         return false;
     }
 }

@@ -48,6 +48,22 @@ TEST_F(HostTest, AFailureIsABoxWithOk) {
     EXPECT_EQ(box.buttons, QMessageBox::Ok);
 }
 
+// What the system says stands apart from the text, and as it is.
+TEST_F(HostTest, AFailuresReasonStandsBesideItsText) {
+    for (const std::string& reason : {std::string("lp: <b>Queue</b> & paper"), std::string()}) {
+        Answer([&reason](QWidget& dialog) {
+            auto& box = dynamic_cast<QMessageBox&>(dialog);
+            EXPECT_EQ(box.text(), QStringLiteral("It failed."));
+            EXPECT_EQ(box.informativeText().toStdString(), reason);
+            for (const auto* label : box.findChildren<QLabel*>()) {
+                EXPECT_TRUE(label->text().isEmpty() || label->textFormat() == Qt::PlainText);
+            }
+            Click(*box.button(QMessageBox::Ok));
+        });
+        desktop.failureBox({"It failed.", reason});
+    }
+}
+
 TEST_F(HostTest, SoIsAnInformation) {
     const Said box = Say([this] { desktop.informationBox("done"); });
     EXPECT_EQ(box.name, QStringLiteral("boxInformation"));

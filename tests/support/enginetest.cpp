@@ -40,7 +40,10 @@ EngineTest::EngineTest() : folder_(MakeFolder()) {
     Host.localDateTime = [] { return kLocalTime; };
     Host.isoDateTime = [] { return kIsoTime; };
     Host.beep = [this] { said.emplace_back("beep"); };
-    Host.failureBox = [this](const std::string& text) { said.push_back("failure: " + text); };
+    Host.failureBox = [this](const FailureReport& report) {
+        said.push_back("failure: " + report.text);
+        reasons.push_back(report.reason);
+    };
     Host.informationBox = [this](const std::string& text) {
         said.push_back("information: " + text);
     };

@@ -28,6 +28,7 @@ protected:
 
     // What the engine reported, in order: "beep", "failure: ...", "information: ...", "sound: ...".
     std::vector<std::string> said;
+    std::vector<std::string> reasons; // that the failures gave; empty ones too
 
 private:
     std::filesystem::path folder_;
