@@ -18,7 +18,7 @@ using DrawOn = std::function<void(DrawingSurface& surface)>;
 // A PDF of one sheet for a painter to draw on; its bytes are whole when the painter has ended.
 struct PdfInMemory {
     PdfInMemory(const Sheet& sheet, const std::string& title);
-    std::string Bytes() const { return buffer.data().toStdString(); }
+    std::string Bytes() const; // with the wish to be printed at its own size
 
     QBuffer buffer;
     QPdfWriter writer; // kPrinterDpi, its origin at the sheet's corner

@@ -69,6 +69,7 @@ protected:
     void WriteAt(QPointF corner, const std::string& text);
 
     const DeviceMap& Map() const { return map_; }
+    void SetOriginY(double originY) { map_.originY = originY; }
     QPainter& Painter() { return painter_; }
 
 private:

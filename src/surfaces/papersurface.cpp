@@ -1,5 +1,7 @@
 #include "surfaces/papersurface.h"
 
+#include <algorithm>
+
 #include "core/runtimeerror.h"
 #include "render/page.h"
 
@@ -11,12 +13,19 @@ constexpr double kMmPerInch = 25.4;
 constexpr double kTwipsPerInch = 1440;
 constexpr double kUnitsPerMm = 2 * kPageUnitsPerHalfMm;
 
+// Where the logical area begins on a sheet: its middle stands in the sheet's, or, where the area is
+// longer than the sheet, the plate's own middle does.
+double AreaStartMm(double sheetMm, double areaUnits, double centreUnits) {
+    const double areaMm = areaUnits / kUnitsPerMm;
+    return sheetMm >= areaMm ? (sheetMm - areaMm) / 2 : sheetMm / 2 - centreUnits / kUnitsPerMm;
+}
+
 DeviceMap MapOf(double coordinatesPerInch, const Sheet& sheet) {
     const double perMm = coordinatesPerInch / kMmPerInch;
     DeviceMap map;
     map.perUnitX = map.perUnitY = perMm / kUnitsPerMm;
-    map.originX = (sheet.widthMm - kPageWidth / kUnitsPerMm) / 2 * perMm;
-    map.originY = (sheet.heightMm - kPageHeight / kUnitsPerMm) / 2 * perMm;
+    map.originX = AreaStartMm(sheet.widthMm, kPageWidth, kPageCentre.x) * perMm;
+    map.originY = AreaStartMm(sheet.heightMm, kPageHeight, kPageCentre.y) * perMm;
     map.perPixel = coordinatesPerInch / kPrinterDpi;
     map.pixelsPerPoint = kPrinterDpi / 72;
     return map;
@@ -25,13 +34,23 @@ DeviceMap MapOf(double coordinatesPerInch, const Sheet& sheet) {
 } // namespace
 
 PaperSurface::PaperSurface(QPaintDevice& device, double coordinatesPerInch, const Sheet& sheet)
-    : PainterSurface(painter, MapOf(coordinatesPerInch, sheet)), device_(device) {}
+    : PainterSurface(painter, MapOf(coordinatesPerInch, sheet)),
+      device_(device),
+      sheetBottom_((sheet.heightMm - kUnprintableMm) * coordinatesPerInch / kMmPerInch),
+      sheetTop_(kUnprintableMm * coordinatesPerInch / kMmPerInch),
+      areaTop_(Map().originY) {}
 
 PaperSurface::~PaperSurface() {
     if (painter.isActive()) {
         Flush();
         painter.end();
     }
+}
+
+void PaperSurface::KeepOnSheet(float top, float bottom) {
+    const double needed = sheetTop_ - (areaTop_ + double{top} * Map().perUnitY);
+    const double room = sheetBottom_ - (areaTop_ + double{bottom} * Map().perUnitY);
+    SetOriginY(areaTop_ + std::max(std::min(needed, room), 0.0));
 }
 
 void PaperSurface::StartPage() {

@@ -1,6 +1,6 @@
 // A printer over a paint device: a sheet of paper in a PDF, an SVG or a real printer's job. One
 // page unit is 1/56.578 mm on all of them, and the logical area of 11500 x 15200 is centred on the
-// sheet.
+// sheet; on a sheet that is shorter than the area, as a landscape one, the plate's middle is.
 #pragma once
 
 #include <QPaintDevice>
@@ -14,6 +14,9 @@ struct Sheet {
     double widthMm;
     double heightMm;
 };
+
+// What most printers leave white at the edges of a sheet: 12 points.
+constexpr double kUnprintableMm = 12 * 25.4 / 72;
 
 constexpr Sheet kSheets[] = {
     {"A4", 210, 297},
@@ -34,6 +37,7 @@ public:
     PaperSurface(QPaintDevice& device, double coordinatesPerInch, const Sheet& sheet);
     ~PaperSurface() override;
 
+    void KeepOnSheet(float top, float bottom) override;
     void StartPage() override;
     void EndDoc() override;
     float TwipsPerPixelX() const override;
@@ -42,6 +46,9 @@ public:
 
 private:
     QPaintDevice& device_;
+    double sheetBottom_; // where printing ends, the device's coordinates, as all here
+    double sheetTop_;    // where it begins
+    double areaTop_;     // of a logical area that is not moved
 };
 
 } // namespace vernacle

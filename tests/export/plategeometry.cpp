@@ -125,11 +125,20 @@ TicPlace PlaceOfTic(const Plate& plate, int number) {
             .widthPixels = PixelsOfTic(major ? plate.majorWidth : plate.minorWidth)};
 }
 
+// How far the sheet's picture is moved down, so that the upper trim marks of a high plate stay
+// within the 12 points that printers leave white.
+double SheetGeometry::MovedDownMm(double middle) const {
+    constexpr double kUnprintable = 12 * 25.4 / 72;
+    const double half = calibration_.up * plate_.height / 2 + 300 * kUnitMm;
+    const double room = paper_.heightMm - kUnprintable - (middle + half);
+    return std::max(0.0, std::min(kUnprintable - (middle - half), room));
+}
+
 MmPoint SheetGeometry::OnSheet(PlatePoint point) const {
+    const double middle = paper_.heightMm / 2 + (4000 - 15200 / 2.0) * kUnitMm;
     return {paper_.widthMm / 2 + (6000 - 11500 / 2.0) * kUnitMm +
                 calibration_.across * (point.x - plate_.width / 2),
-            paper_.heightMm / 2 + (4000 - 15200 / 2.0) * kUnitMm -
-                calibration_.up * (point.y - plate_.height / 2)};
+            middle + MovedDownMm(middle) - calibration_.up * (point.y - plate_.height / 2)};
 }
 
 void SheetGeometry::AddTrimMarks(std::vector<Shape>& lines) const {

@@ -68,7 +68,7 @@ constexpr Paper kA4 = {"A4", 210, 297};
 constexpr Paper kLetter = {"Letter", 215.9, 279.4};
 
 // A plate on its sheet: the page of 11500 x 15200 units of 1/56.578 mm is centred on the paper, and
-// the plate's middle stands at (6000, 4000) of it.
+// the plate's middle stands at (6000, 4000) of it; a high plate moves it down.
 class SheetGeometry {
 public:
     SheetGeometry(const Plate& plate, const Paper& paper, const Calibration& calibration)
@@ -83,6 +83,7 @@ public:
     Shape Background() const; // its bleed included
 
 private:
+    double MovedDownMm(double middle) const;
     void AddTrimMarks(std::vector<Shape>& lines) const;
     void AddCrosses(std::vector<Shape>& lines) const;
     void AddTics(std::vector<Shape>& lines, const std::vector<int>& deletedTics) const;

@@ -96,16 +96,38 @@ MmPoint StartOfTurnedLabel(const Plate& plate, const Paper& paper, double fracti
             (paper.heightMm - 15200 * kUnitMm) / 2 + y * kPixelMm + kAscent * em * std::cos(turn)};
 }
 
+// How far the sheet's picture stands below the usual place of the plate's middle.
+double MovedDownMm(const Plate& plate, const Paper& paper) {
+    const MmPoint middle =
+        SheetGeometry(plate, paper, {}).OnSheet({plate.width / 2, plate.height / 2});
+    return middle.y - (paper.heightMm / 2 + (4000 - 15200 / 2.0) / 56.578);
+}
+
 TEST_F(SheetTextTest, TurnedLabelsStandWhereTheDeviceIsToldTo) {
-    const std::string design = Example("PERCENT");
-    const Plate plate = ReadPlate(ReadText(design));
-    for (const Paper& paper : {kA4, kLetter}) {
-        SCOPED_TRACE(paper.name);
+    struct Row {
+        const char* name;
+        Paper paper;
+        Edits edits;
+        bool isMoved;
+    };
+    const Row rows[] = {
+        {"A4", kA4, {}, false},
+        {"Letter", kLetter, {}, false},
+        {"high on A4", kA4, {{"Plate height: ", "180"}}, true},
+        {"high on Letter", kLetter, {{"Plate height: ", "180"}}, true},
+    };
+    for (const auto& [name, paper, edits, isMoved] : rows) {
+        SCOPED_TRACE(name);
+        const std::string design = EditedExample("PERCENT", edits);
+        const Plate plate = ReadPlate(ReadText(design));
+        const double moved = MovedDownMm(plate, paper);
+        EXPECT_EQ(moved > 10, isMoved) << moved;
         ExportQuietly(design, {Path("plate.pdf")}, {"--paper", paper.name});
         const std::vector<MmPoint> glyphs = ReadPdf(Path("plate.pdf")).glyphs;
         for (int value = 0; value <= 100; value += 10) {
             const std::string text = std::to_string(value);
-            const MmPoint start = StartOfTurnedLabel(plate, paper, value / 100.0, text.size());
+            MmPoint start = StartOfTurnedLabel(plate, paper, value / 100.0, text.size());
+            start.y += moved;
             const auto distance = [start](MmPoint glyph) {
                 return std::hypot(glyph.x - start.x, glyph.y - start.y);
             };

@@ -114,6 +114,11 @@ void RecordingSurface::PaintPicture(const std::string& file, float x, float y, f
     }
     Record("PaintPicture", Words(Quoted(file), x, y, width, height));
 }
+void RecordingSurface::KeepOnSheet(float top, float bottom) {
+    keptTop = top;
+    keptBottom = bottom;
+}
+
 void RecordingSurface::StartPage() {
     Record("StartPage", "");
 }

@@ -77,6 +77,125 @@ TEST_F(DocumentsTest, APdfIsOneSheetWithATitle) {
     }
 }
 
+// A viewer that fits pages to its paper makes a wrong plate of a true one.
+TEST_F(DocumentsTest, APdfAsksToBePrintedAtItsOwnSize) {
+    ReadExample("PERCENT.VRN");
+    for (const Sheet& sheet : kSheets) {
+        WriteFile("plate.pdf", MakePdf(sheet, "/Type /Catalog\n startxref\n", kAt, PrintPlate));
+        const ProcessResult check = RunProgram("qpdf", {"--check", Path("plate.pdf")});
+        EXPECT_EQ(check.status, 0) << check.err;
+        EXPECT_EQ(check.err, "") << "a reference table that is not true is mended with a warning";
+        const std::string json =
+            RunProgram("qpdf", {"--json", "--json-key=qpdf", Path("plate.pdf")}).out;
+        const std::size_t catalog = json.find("\"/Type\": \"/Catalog\"");
+        const std::size_t wish = json.find("\"/ViewerPreferences\"");
+        ASSERT_NE(catalog, std::string::npos);
+        ASSERT_NE(wish, std::string::npos);
+        EXPECT_NE(json.find("\"/PrintScaling\": \"/None\"", wish), std::string::npos);
+        EXPECT_LT(catalog < wish ? wish - catalog : catalog - wish, 200U) << "in the catalog";
+    }
+}
+
+constexpr double kWhiteMm = 12 * 25.4 / 72; // what printers leave at each edge
+
+// The strokes of the trim marks and of the ruler, and nothing else, are blue.
+std::vector<Shape> BlueStrokes(const SvgPicture& page) {
+    std::vector<Shape> strokes;
+    for (const Shape& shape : page.shapes) {
+        if (shape.stroked && shape.rgb == 0x0000FF) {
+            strokes.push_back(shape);
+        }
+    }
+    return strokes;
+}
+
+struct HighRow {
+    double heightMm;
+    bool movesOnA4;
+    bool movesOnLetter;
+};
+
+constexpr HighRow kHighRows[] = {
+    {20, false, false}, {133, false, false}, {135, false, true}, {140, false, true},
+    {150, false, true}, {152, true, true},   {165, true, true},  {180, true, true},
+};
+
+TEST_F(DocumentsTest, APlateOfAnyHeightKeepsItsMarksRulerAndFooterOnTheSheet) {
+    ReadExample("VOLTS-0-15.VRN");
+    Design.PlateWidth = 180;
+    for (const HighRow& row : kHighRows) {
+        for (const Sheet& sheet : kSheets) {
+            SCOPED_TRACE(std::to_string(row.heightMm) + " on " + sheet.name);
+            Design.PlateHeight = static_cast<float>(row.heightMm);
+            WriteFile("plate.pdf", MakePdf(sheet, "", kAt, PrintPlate));
+            const SvgPicture page = ReadPdf(Path("plate.pdf"));
+            const std::vector<Shape> strokes = BlueStrokes(page);
+            EXPECT_EQ(strokes.size(), 8U + 181 + 19 + 1);
+            double top = sheet.heightMm;
+            for (const Shape& stroke : strokes) {
+                for (const MmPoint& point : stroke.points) {
+                    top = std::min(top, point.y);
+                    EXPECT_GE(point.y, kWhiteMm - 0.001);
+                    EXPECT_LE(point.y, sheet.heightMm - kWhiteMm);
+                    EXPECT_GE(point.x, kWhiteMm);
+                    EXPECT_LE(point.x, sheet.widthMm - kWhiteMm);
+                }
+            }
+            const double usual =
+                sheet.heightMm / 2 - 3900 / 56.578 - row.heightMm / 2; // to the marks' ends
+            const bool moves = sheet.widthMm == 210 ? row.movesOnA4 : row.movesOnLetter;
+            EXPECT_NEAR(top, moves ? kWhiteMm : usual, 0.001);
+            for (const Word& word : ReadPdfWords(Path("plate.pdf"))) {
+                EXPECT_LE(word.bottomRight.y, sheet.heightMm - kWhiteMm) << word.text;
+            }
+        }
+    }
+}
+
+// On one that lies across, where the plate's own middle stands in the sheet's, it need not move.
+TEST_F(DocumentsTest, AHighPlateStaysInTheMiddleOfALandscapeSheet) {
+    ReadExample("VOLTS-0-15.VRN");
+    Design.PlateHeight = 180;
+    for (const Sheet& sheet : {Sheet{"", 297, 210}, Sheet{"", 279.4, 215.9}}) {
+        WriteFile("plate.pdf", MakePdf(sheet, "", kAt, PrintPlate));
+        double top = sheet.heightMm;
+        for (const Shape& stroke : BlueStrokes(ReadPdf(Path("plate.pdf")))) {
+            for (const MmPoint& point : stroke.points) {
+                top = std::min(top, point.y);
+            }
+        }
+        EXPECT_NEAR(top, sheet.heightMm / 2 - 90 - 300 / 56.578, 0.001);
+    }
+}
+
+// Its outline is as high as the plate is wide.
+TEST_F(DocumentsTest, AWideCircularPlateKeepsItsOutlineOnTheSheet) {
+    ReadExample("DEGREES-0-360.VRN");
+    Design.PlateOutlineCircular = 1;
+    Design.PlateWidth = 180;
+    Design.PlateHeight = 60;
+    Design.DrawArcs = "N";
+    WriteFile("plate.pdf", MakePdf(kSheets[1], "", kAt, PrintPlate));
+    double top = kSheets[1].heightMm;
+    for (const Shape& shape : ReadPdf(Path("plate.pdf")).shapes) {
+        for (const MmPoint& point : shape.points) {
+            top = shape.points.size() > 50 ? std::min(top, point.y) : top;
+        }
+    }
+    EXPECT_NEAR(top, kWhiteMm, 0.06); // the corners of its chords miss the uppermost point
+}
+
+TEST_F(DocumentsTest, ATestSquareOfLargeFactorsStaysOnTheSheet) {
+    Design.CalibrationX = Design.CalibrationY = 1.9F;
+    WriteFile("square.pdf", MakePdf(kSheets[1], "", "", [](PrinterSurface& printer) {
+                  EXPECT_TRUE(PrintTestSquare(printer));
+              }));
+    const SvgPicture page = ReadPdf(Path("square.pdf"));
+    ASSERT_EQ(page.shapes.size(), 1U);
+    EXPECT_NEAR(page.shapes[0].HeightOfBox(), 190, 0.02);
+    EXPECT_NEAR(page.shapes[0].Centre().y, kWhiteMm + 95, 0.02);
+}
+
 TEST_F(DocumentsTest, EqualInputGivesEqualBytes) {
     ReadExample("VOLTS-0-15.VRN");
     const std::string pdf = MakePdf(kSheets[0], "title", kAt, PrintPlate);

@@ -173,6 +173,39 @@ TEST_F(PaperSurfaceTest, TextOutDoesNotMoveThePosition) {
     });
 }
 
+// The area moves as a whole, for one document, and never off the lower end of the sheet.
+TEST_F(PaperSurfaceTest, TheAreaMovesDownByWhatIsWantedAndByTheRoomThereIs) {
+    struct Row {
+        float top;
+        float bottom;
+        double movedMm;
+    };
+    constexpr double kAreaTopMm = (297 - 15200 * kUnitMm) / 2;
+    constexpr double kWhiteMm = 12 * 25.4 / 72;
+    const Row rows[] = {
+        {0, 15200, 0},
+        {-500, 9000, 0},
+        {-1000, 9000, kWhiteMm - kAreaTopMm + 1000 * kUnitMm},
+        {-1000, 15200, kWhiteMm - kAreaTopMm + 1000 * kUnitMm},
+        {-1000, 15700, 297 - kWhiteMm - kAreaTopMm - 15700 * kUnitMm},
+        {-1000, 16700, 0},
+        {0, 0, 0}, // and the next stands as usual
+    };
+    for (const Row& row : rows) {
+        const auto print = [&row](PrinterSurface& printer) {
+            printer.KeepOnSheet(-3000, 9000);
+            printer.KeepOnSheet(row.top, row.bottom); // the last word counts
+            printer.StartPage();
+            printer.Line(1000, 2000, 3000, 2000, kBlackInk);
+            printer.EndDoc();
+        };
+        WriteFile("moved.pdf", MakePdf(kSheets[0], "", "", print));
+        const SvgPicture page = ReadPdf(Path("moved.pdf"));
+        ASSERT_EQ(page.shapes.size(), 1U);
+        EXPECT_NEAR(page.shapes[0].Centre().y, kAreaTopMm + 2000 * kUnitMm + row.movedMm, 0.001);
+    }
+}
+
 TEST_F(PaperSurfaceTest, ADeviceThatDoesNotBeginIsARunTimeError) {
     QImage none; // which nothing can be painted on
     PaperSurface paper(none, kPrinterDpi, kSheets[0]);
