@@ -9,12 +9,20 @@
 
 #include "core/bytesink.h"
 #include "core/design.h"
+#include "platform/joboptions.h"
 #include "platform/programfiles.h"
-#include "render/page.h"
+#include "platform/spooler.h"
 
 namespace vernacle {
 
 namespace {
+
+// Whether what the toolkit's dialog shows as printers are queues of a spooler with programs.
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+constexpr bool kHasSpooler = true;
+#else
+constexpr bool kHasSpooler = false;
+#endif
 
 // What of a choice holds for the next print of this run.
 struct Choice {
@@ -28,45 +36,29 @@ std::optional<Choice>& LastChoice() {
     return choice;
 }
 
+// The dialog's own proposal is, on most desktops, a folder alone, which it then turns away.
+QString ProposedPdf(const QString& document) {
+    const QString name = QFileInfo(document).completeBaseName();
+    return QDir(QString::fromStdString(SystemFolders().documents))
+        .filePath(name + QStringLiteral(".pdf"));
+}
+
+// The file's name is there for whoever changes over to a file; to have one is not to choose it.
+void ProposeFile(QPrinter& printer, const QString& document) {
+    const QPrinter::OutputFormat format = printer.outputFormat();
+    if (kHasSpooler || format == QPrinter::PdfFormat) {
+        printer.setOutputFileName(ProposedPdf(document));
+        printer.setOutputFormat(format);
+    }
+}
+
+// Behind the file's name: each change of the format brings the default printer back.
 void Propose(QPrinter& printer, const Choice& choice) {
-    printer.setPrinterName(choice.printerName);
     printer.setOutputFormat(choice.format);
+    if (choice.format == QPrinter::NativeFormat) {
+        printer.setPrinterName(choice.printerName);
+    }
     printer.setPageLayout(choice.layout);
-}
-
-QFileInfo DesignFile() {
-    return QFileInfo(QString::fromStdString(Design.DesignFileName));
-}
-
-// The name alone: what the toolkit does with it is no path.
-QString DocumentName() {
-    const QString name = DesignFile().fileName();
-    return name.isEmpty() ? QStringLiteral("Vernacle") : name;
-}
-
-// Beside the design, or among the documents for a design without a file. The dialog's own proposal
-// is, on most desktops, a folder alone, which it then turns away.
-QString ProposedPdf() {
-    const QFileInfo design = DesignFile();
-    const QString folder = design.isAbsolute() && design.dir().exists()
-                               ? design.path()
-                               : QString::fromStdString(SystemFolders().documents);
-    const QString name = QFileInfo(DocumentName()).completeBaseName();
-    return QDir(folder).filePath(name + QStringLiteral(".pdf"));
-}
-
-// The length for which centring the logical area stands the plate where it belongs: where the area
-// is longer than the sheet, as on a landscape one, the plate's own middle stands in the sheet's.
-double PlacingLength(double sheetMm, double areaUnits, double centreUnits) {
-    constexpr double kUnitsPerMm = 2 * kPageUnitsPerHalfMm;
-    return sheetMm * kUnitsPerMm >= areaUnits
-               ? sheetMm
-               : sheetMm + (areaUnits - 2 * centreUnits) / kUnitsPerMm;
-}
-
-Sheet PlacingSheet(const Sheet& sheet) {
-    return {sheet.name, PlacingLength(sheet.widthMm, kPageWidth, kPageCentre.x),
-            PlacingLength(sheet.heightMm, kPageHeight, kPageCentre.y)};
 }
 
 Sheet SheetOf(const QPrinter& printer) {
@@ -74,37 +66,58 @@ Sheet SheetOf(const QPrinter& printer) {
     return {"", size.width(), size.height()};
 }
 
-// A file that the toolkit wrote itself would be cut short on a full disk without a word.
-class PdfFileSurface : private PdfInMemory, public PaperSurface {
+// A document of our own, made whole in memory, and what becomes of it then. The toolkit would not
+// tell of a disk that is full or of a job that is refused.
+class DocumentSurface : private PdfInMemory, public PaperSurface {
 public:
-    PdfFileSurface(std::string path, const Sheet& sheet, const std::string& title)
-        : PdfInMemory(sheet, title),
-          PaperSurface(writer, kPrinterDpi, PlacingSheet(sheet)),
-          path_(std::move(path)) {}
+    using Deliver = std::function<void(const std::string& bytes)>;
+
+    DocumentSurface(const QPrinter& printer, Deliver deliver)
+        : PdfInMemory(SheetOf(printer), printer.docName().toStdString()),
+          PaperSurface(writer, kPrinterDpi, SheetOf(printer)),
+          deliver_(std::move(deliver)) {}
 
     void EndDoc() override {
         PaperSurface::EndDoc();
-        const auto sink = OpenFileSink(path_);
-        sink->Write(Bytes());
-        sink->Close();
+        deliver_(Bytes());
     }
 
 private:
-    std::string path_;
+    Deliver deliver_;
 };
+
+void WriteTo(const std::string& path, const std::string& bytes) {
+    const auto sink = OpenFileSink(path);
+    sink->Write(bytes);
+    sink->Close();
+}
+
+bool IsFile(const QPrinter& printer) {
+    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
+}
+
+bool IsQueue(const QPrinter& printer) {
+    return kHasSpooler && printer.outputFormat() == QPrinter::NativeFormat &&
+           printer.outputFileName().isEmpty() && !printer.printerName().isEmpty() &&
+           !FindProgram(SpoolJob().program).empty();
+}
 
 } // namespace
 
-void AskForPrinterAndPrint(QWidget* parent, const PrintOn& print) {
+QString DocumentName() {
+    const QString name = QFileInfo(QString::fromStdString(Design.DesignFileName)).fileName();
+    return name.isEmpty() ? QStringLiteral("Vernacle") : name;
+}
+
+// Nothing that moves the page's margins is set before the dialog: on a queue that would keep the
+// paper chosen in it from being taken.
+void AskForPrinterAndPrint(QWidget* parent, const PrintOn& print, const QString& document) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setResolution(static_cast<int>(kPrinterDpi));
-    printer.setFullPage(true);
-    printer.setDocName(DocumentName());
+    printer.setDocName(document);
+    ProposeFile(printer, document);
     if (LastChoice()) {
         Propose(printer, *LastChoice());
-    }
-    if (printer.outputFormat() == QPrinter::PdfFormat) {
-        printer.setOutputFileName(ProposedPdf());
     }
     QPrintDialog dialog(&printer, parent);
     dialog.setObjectName(QStringLiteral("PrintDialog"));
@@ -117,18 +130,27 @@ void AskForPrinterAndPrint(QWidget* parent, const PrintOn& print) {
 }
 
 void PrintOnPrinter(QPrinter& printer, const PrintOn& print) {
-    if (printer.outputFormat() != QPrinter::PdfFormat || printer.outputFileName().isEmpty()) {
-        PrintAsJob(printer, print);
+    if (IsFile(printer)) {
+        DocumentSurface file(printer, [&printer](const std::string& bytes) {
+            WriteTo(printer.outputFileName().toStdString(), bytes);
+        });
+        print(file);
         return;
     }
-    PdfFileSurface file(printer.outputFileName().toStdString(), SheetOf(printer),
-                        printer.docName().toStdString());
-    print(file);
+    if (IsQueue(printer)) {
+        DocumentSurface job(printer, [&printer](const std::string& bytes) {
+            SendJob({.arguments = JobArguments(printer)}, bytes);
+        });
+        print(job);
+        return;
+    }
+    PrintAsJob(printer, print);
 }
 
 void PrintAsJob(QPrinter& printer, const PrintOn& print) {
+    PrintUnscaled(printer);
     printer.setFullPage(true); // the sheet's corner is the origin; a new choice may have moved it
-    PaperSurface paper(printer, printer.resolution(), PlacingSheet(SheetOf(printer)));
+    PaperSurface paper(printer, printer.resolution(), SheetOf(printer));
     print(paper);
 }
 

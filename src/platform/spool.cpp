@@ -4,11 +4,11 @@
 #include <cstring>
 #include <utility>
 
-#include <QProcess>
-#include <QStandardPaths>
+#include <QtGlobal>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
+#include <optional>
 #include <thread>
 
 #include <fcntl.h>
@@ -17,6 +17,8 @@
 #endif
 
 #include "core/runtimeerror.h"
+#include "platform/patience.h"
+#include "platform/spooler.h"
 
 namespace vernacle {
 
@@ -88,7 +90,13 @@ private:
         return 0;
     }
 
-    void WaitForRoom() const {
+    void WaitForRoom() {
+        if (!patience_) {
+            patience_.emplace(QStringLiteral("Waiting for the printer ..."));
+        }
+        if (!patience_->Turn()) {
+            throw FileFailure(path_ + ": cancelled");
+        }
         pollfd device{.fd = device_, .events = POLLOUT, .revents = 0};
         if (::poll(&device, 1, kPollMs) > 0) {
             std::this_thread::sleep_for(kPause); // the port's driver always calls itself ready
@@ -98,7 +106,12 @@ private:
     std::string path_;
     milliseconds limit_;
     int device_;
+    std::optional<Patience> patience_; // once it was found busy
 };
+
+bool CanOpen(const std::string& device) {
+    return ::access(device.c_str(), W_OK) == 0;
+}
 
 std::unique_ptr<ByteSink> OpenDevice(const PrinterPort& port) {
     return std::make_unique<DeviceSink>(port.device, port.limit);
@@ -106,66 +119,72 @@ std::unique_ptr<ByteSink> OpenDevice(const PrinterPort& port) {
 
 #else
 
+bool CanOpen(const std::string& /*device*/) {
+    return true;
+}
+
 std::unique_ptr<ByteSink> OpenDevice(const PrinterPort& port) {
     return OpenFileSink(port.device);
 }
 
 #endif
 
+std::vector<std::string> RawJob(const PrintTarget& target) {
+    std::vector<std::string> arguments = {"-o", "raw", "-s"};
+    if (!target.title.empty()) {
+        arguments.insert(arguments.end(), {"-t", target.title});
+    }
+    if (!target.queue.empty()) {
+        arguments.insert(arguments.end(), {"-d", target.queue});
+    }
+    return arguments;
+}
+
 // A job is sent whole, or, without Close, not at all.
 class JobSink : public ByteSink {
 public:
     explicit JobSink(const PrinterPort& port)
-        : name_(port.program),
-          program_(QStandardPaths::findExecutable(QString::fromStdString(port.program))),
-          limitMs_(static_cast<int>(port.limit.count())) {
-        if (program_.isEmpty()) {
-            throw FileFailure(name_ + ": not found");
+        : job_{port.program, RawJob(port.target), port.jobLimit} {
+        if (!port.target.failure.empty()) {
+            throw FileFailure(port.target.failure);
         }
-        for (const std::string& argument : port.arguments) {
-            arguments_ << QString::fromStdString(argument);
+        if (FindProgram(port.program).empty()) {
+            throw FileFailure(port.program + ": not found");
         }
     }
 
     void Write(std::string_view bytes) override { bytes_.append(bytes); }
-
-    void Close() override {
-        QProcess job;
-        job.setStandardOutputFile(QProcess::nullDevice());
-        job.start(program_, arguments_);
-        job.write(bytes_.data(), static_cast<qint64>(bytes_.size()));
-        job.closeWriteChannel();
-        const bool ended = job.waitForFinished(limitMs_);
-        const std::string failure = ended ? FailureOf(job) : job.errorString().toStdString();
-        if (!ended) {
-            job.kill();
-            job.waitForFinished(limitMs_);
-        }
-        if (!failure.empty()) {
-            throw FileFailure(name_ + ": " + failure);
-        }
-    }
+    void Close() override { SendJob(job_, bytes_); }
 
 private:
-    // Why a job that ended was not queued; empty if it was.
-    static std::string FailureOf(QProcess& job) {
-        const QByteArray said = job.readAllStandardError().trimmed();
-        if (job.exitStatus() == QProcess::NormalExit && job.exitCode() != 0) {
-            return said.isEmpty() ? "exit status " + std::to_string(job.exitCode())
-                                  : QString::fromLocal8Bit(said).toStdString();
-        }
-        // It may also have ended well without reading the whole job.
-        return job.error() == QProcess::UnknownError ? "" : job.errorString().toStdString();
-    }
-
-    std::string name_;
-    QString program_;
-    QStringList arguments_;
-    int limitMs_;
+    SpoolJob job_;
     std::string bytes_;
 };
 
+PrintTarget& CurrentTarget() {
+    static PrintTarget target;
+    return target;
+}
+
 } // namespace
+
+PrintTargetUse::PrintTargetUse(PrintTarget target) {
+    CurrentTarget() = std::move(target);
+}
+
+PrintTargetUse::~PrintTargetUse() {
+    CurrentTarget() = {};
+}
+
+PrinterPort UsualPort() {
+    PrinterPort port;
+    port.target = CurrentTarget();
+    return port;
+}
+
+bool HasDevice(const PrinterPort& port) {
+    return CanOpen(port.device);
+}
 
 std::unique_ptr<ByteSink> OpenPrinterPort(const PrinterPort& port) {
     std::string failure;

@@ -85,11 +85,14 @@ QWidget* frmCalibrate::MakeMeasures() {
 }
 
 void frmCalibrate::cmdPrintClicked() {
-    AskForPrinterAndPrint(this, [this](PrinterSurface& printer) {
-        if (PrintTestSquare(printer)) {
-            ShowNextSteps();
-        }
-    });
+    AskForPrinterAndPrint(
+        this,
+        [this](PrinterSurface& printer) {
+            if (PrintTestSquare(printer)) {
+                ShowNextSteps();
+            }
+        },
+        QStringLiteral("Calibration square"));
 }
 
 void frmCalibrate::ShowNextSteps() {

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 
 #include "platform/formkit.h"
+#include "platform/printqueues.h"
 #include "platform/programfiles.h"
 #include "render/hpgl.h"
 
@@ -50,6 +51,11 @@ void frmHPGL::cmdHPGLClicked() {
 }
 
 void frmHPGL::cmdPCLClicked() {
+    const std::optional<PrintTarget> target = AskForPrintTarget(this);
+    if (!target) {
+        return;
+    }
+    const PrintTargetUse use(*target);
     WriteHpgl({}, HpglMode::PclPrinter);
 }
 

@@ -51,7 +51,7 @@ protected:
         environment.insert(environment.end(),
                            {"HOME=" + Path("home"), "XDG_CONFIG_HOME=" + Path("home/.config"),
                             "XDG_DATA_HOME=" + Path("home/.local"),
-                            "XDG_RUNTIME_DIR=" + Path("home")});
+                            "XDG_RUNTIME_DIR=" + Path("home"), "CUPS_SERVER=/nonexistent"});
         process = std::make_unique<BackgroundProgram>(words, environment);
     }
 
@@ -91,14 +91,14 @@ protected:
         EXPECT_TRUE(Exists("home/HPGLfile.HPGL"));
     }
 
-    // Into the file that the dialog offers, beside the design.
+    // Into the file that the dialog offers, among the user's documents.
     void Print() const {
         display->Press("ctrl+p");
         ASSERT_NO_FATAL_FAILURE(ExpectWindow("Print"));
         display->Press("Return");
         ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
-        EXPECT_TRUE(Has(ReadFile("program/LASTSESSION.pdf"), "%PDF"));
-        std::filesystem::remove(Path("program/LASTSESSION.pdf"));
+        EXPECT_TRUE(Has(ReadFile("home/LASTSESSION.pdf"), "%PDF"));
+        std::filesystem::remove(Path("home/LASTSESSION.pdf"));
     }
 
     // From the plate page's first box: the last button stands before the keys of the toolbar.

@@ -287,7 +287,7 @@ TEST_F(PrintersTest, ADocumentHasTheNameOfItsDesign) {
     const std::array<std::string, 3> rows[] = {
         {"", "Vernacle", documents + "/Vernacle.pdf"},
         {"Calibrate.txt", "Calibrate.txt", documents + "/Calibrate.pdf"},
-        {Path("VOLTS 0.5 µ.VRN"), "VOLTS 0.5 µ.VRN", Path("VOLTS 0.5 µ.pdf")},
+        {Path("VOLTS 0.5 µ.VRN"), "VOLTS 0.5 µ.VRN", documents + "/VOLTS 0.5 µ.pdf"},
         {Path("gone/A.VRN"), "A.VRN", documents + "/A.pdf"},
     };
     for (const auto& [file, title, proposal] : rows) {

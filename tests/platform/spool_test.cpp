@@ -157,7 +157,7 @@ TEST_F(SpoolTest, AProgramThatHangsIsEndedInTime) {
     for (const char* script : {"exec sleep 60", "cat > \"$KEPT\"; exec sleep 60"}) {
         for (const std::size_t size : {std::size_t{256}, kMoreThanAPipeHolds}) {
             PrinterPort port = PortOf(script);
-            port.limit = milliseconds(500);
+            port.jobLimit = milliseconds(500);
             const auto start = steady_clock::now();
             EXPECT_TRUE(Has(FailureOf(port, AllBytes(size)), "timed out")) << script;
             EXPECT_LT(steady_clock::now() - start, milliseconds(5000));
@@ -286,7 +286,7 @@ TEST_F(PlotterPortTest, TheStreamArrivesWhole) {
 
 TEST_F(PlotterPortTest, EveryFailureIsReported) {
     PrinterPort hanging = PortOf("exec sleep 60");
-    hanging.limit = milliseconds(200);
+    hanging.jobLimit = milliseconds(200);
     const PrinterPort ports[] = {
         hanging,
         {.device = Path("no-device"), .program = "no-such-lp"},

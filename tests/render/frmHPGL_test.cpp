@@ -1,8 +1,12 @@
 #include "render/frmHPGL.h"
 
+#include <QComboBox>
+#include <QInputDialog>
 #include <QLabel>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
+#include <QTimer>
 
 #include "core/design.h"
 #include "core/seam.h"
@@ -22,12 +26,15 @@ constexpr const char* kFailure = "failure: The HPGL file was not written correct
 class HpglPageTest : public FormTest {
 protected:
     HpglPageTest() {
+        qputenv("PATH", QByteArray::fromStdString(Path("bin"))); // the machine's queues stay out
         OpenPage("frmPreview");
         Host.openForOutput = [this](const std::string& name) {
             opened.push_back(name);
             return OpenScriptedSink(script);
         };
     }
+
+    ~HpglPageTest() override { qputenv("PATH", usualPath_); }
 
     // With the page open above the preview.
     void OnPage(const DialogAnswer& use) {
@@ -55,6 +62,9 @@ protected:
 
     SinkScript script;
     std::vector<std::string> opened;
+
+private:
+    const QByteArray usualPath_ = qgetenv("PATH");
 };
 
 TEST_F(HpglPageTest, FileGetsTheStream) {
@@ -126,12 +136,12 @@ TEST_F(HpglPageTest, MachineWithoutAPrinterFailsAtOnce) {
     if (std::filesystem::exists("/dev/lp0")) {
         GTEST_SKIP() << "this machine has a parallel port";
     }
-    const QByteArray path = qgetenv("PATH");
-    qputenv("PATH", QByteArray::fromStdString(Path("empty")));
     Host.openForOutput = DesktopHost().openForOutput;
     PressOnPage("cmdPCL");
-    qputenv("PATH", path);
     EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
+    ASSERT_EQ(reasons.size(), 1U);
+    EXPECT_NE(reasons[0].find("/dev/lp0: "), std::string::npos) << reasons[0];
+    EXPECT_NE(reasons[0].find("lp: not found"), std::string::npos) << reasons[0];
 }
 
 TEST_F(HpglPageTest, BothButtonsWorkInOneVisit) {
@@ -174,6 +184,124 @@ TEST_F(HpglPageTest, CloseBoxJustCloses) {
     EXPECT_TRUE(opened.empty());
     EXPECT_FALSE(TakeProcessEnd());
     EXPECT_FALSE(Exists("LASTSESSION.VRN"));
+}
+
+// On a machine whose spooler has these programs instead of its own.
+class QueuePageTest : public HpglPageTest {
+protected:
+    void SetUp() override {
+        if (std::filesystem::exists("/dev/lp0")) {
+            GTEST_SKIP() << "this machine has a parallel port";
+        }
+        std::filesystem::create_directories(Path("bin"));
+        Host.openForOutput = DesktopHost().openForOutput;
+        Program("lpstat", "echo one; echo two; echo 'system default destination: two'");
+        Program("lp",
+                "/bin/cat > '" + Path("job") + "'; echo \"$@\" > '" + Path("arguments") + "'");
+    }
+
+    void Program(const std::string& name, const std::string& text) const {
+        const std::string path = WriteFile("bin/" + name, "#!/bin/sh\n" + text + "\n");
+        std::filesystem::permissions(path, std::filesystem::perms(0755));
+    }
+
+    static DialogAnswer Choose(const QString& queue) {
+        return [queue](QWidget& dialog) {
+            auto& question = dynamic_cast<QInputDialog&>(dialog);
+            EXPECT_EQ(question.objectName(), QLatin1String("dlgQueue"));
+            EXPECT_EQ(question.comboBoxItems(),
+                      (QStringList{QLatin1String("one"), QLatin1String("two")}));
+            EXPECT_EQ(question.textValue(), QLatin1String("two")) << "the default one";
+            question.setTextValue(queue);
+            question.accept();
+        };
+    }
+
+    void Send(const std::vector<DialogAnswer>& answers) {
+        OnPage([&](QWidget& form) {
+            for (const DialogAnswer& answer : answers) {
+                Answer(answer);
+            }
+            Click(On<QPushButton>(form, "cmdPCL"));
+        });
+    }
+};
+
+TEST_F(QueuePageTest, TheChosenQueueGetsTheStreamUnderTheDesignsName) {
+    struct Row {
+        const char* file;
+        const char* queue;
+        const char* arguments;
+    };
+    const Row rows[] = {
+        {"/plates/VOLTS 0.5.VRN", "one", "-o raw -s -t VOLTS 0.5.VRN -d one\n"},
+        {"", "two", "-o raw -s -t Vernacle -d two\n"},
+    };
+    for (const Row& row : rows) {
+        said.clear();
+        Design.DesignFileName = row.file;
+        Send({Choose(QLatin1String(row.queue))});
+        EXPECT_EQ(ReadFile("arguments"), row.arguments);
+        EXPECT_EQ(ReadFile("job"), Stream(HpglMode::PclPrinter));
+        ASSERT_EQ(said.size(), 1U);
+        EXPECT_EQ(said[0].rfind("information: ", 0), 0U);
+    }
+}
+
+TEST_F(QueuePageTest, ACancelledChoiceSendsNothing) {
+    Send({Cancel});
+    EXPECT_TRUE(said.empty());
+    EXPECT_FALSE(Exists("arguments"));
+}
+
+TEST_F(QueuePageTest, AFailureHasItsReasonBesideTheText) {
+    Program("lp", "echo 'lp: Destination \"one\" is not accepting jobs.' >&2; exit 1");
+    Send({Choose(QStringLiteral("one"))});
+    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
+    EXPECT_EQ(reasons, std::vector<std::string>{"lp: Destination \"one\" is not accepting jobs."});
+}
+
+// The program lives on while it waits: its clocks run, and no page takes what is pressed.
+TEST_F(QueuePageTest, ASpoolerThatHangsIsLeftByCancel) {
+    Program("lp", "exec /bin/sleep 120");
+    int turns = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&turns] { ++turns; });
+    timer.start(10);
+    const auto cancel = [this](QWidget& window) {
+        EXPECT_EQ(window.objectName(), QLatin1String("boxWaiting"));
+        EXPECT_EQ(window.windowModality(), Qt::ApplicationModal);
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        EXPECT_TRUE(said.empty());
+        auto* button = window.findChild<QPushButton*>();
+        ASSERT_NE(button, nullptr);
+        EXPECT_EQ(button->text(), QLatin1String("Cancel"));
+        button->click();
+    };
+    Send({Choose(QStringLiteral("one")), cancel});
+    EXPECT_GT(turns, 10);
+    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
+    EXPECT_EQ(reasons, std::vector<std::string>{"lp: cancelled"});
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+
+    // One that does not even tell its queues.
+    Program("lpstat", "exec /bin/sleep 120");
+    said.clear();
+    reasons.clear();
+    Send({cancel});
+    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
+    ASSERT_EQ(reasons.size(), 1U);
+    EXPECT_NE(reasons[0].find("lpstat: cancelled"), std::string::npos) << reasons[0];
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+// As the answer to a close box or the Escape key.
+TEST_F(QueuePageTest, TheWaitingWindowIsLeftByEscapeToo) {
+    Program("lp", "exec /bin/sleep 120");
+    Send({Choose(QStringLiteral("one")),
+          [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }});
+    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
 }
 
 } // namespace

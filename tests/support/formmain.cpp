@@ -12,6 +12,7 @@ int main(int argc, char** argv) {
     screen.write(R"({"screens":[{"name":"test","x":0,"y":0,"width":1920,"height":1080,)"
                  R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}],"windowFrameMargins":false})");
     screen.flush();
+    qputenv("CUPS_SERVER", "/nonexistent"); // no test prints on the machine's own queues
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screen.fileName()));
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
