@@ -21,6 +21,30 @@ namespace vernacle {
 
 namespace {
 
+// Nothing else of the program runs any more: a dialog that stands open would come back as cancelled
+// to a routine that goes on, as one that saves the design does.
+void EndAtOnce() {
+    bool kept = false;
+    try {
+        kept = KeepSession();
+    } catch (const std::exception&) { // no memory: the end comes all the same
+    }
+    std::_Exit(kept ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
+// What a session manager, or the desktop, sends to end the program.
+class QuitWatch : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == qApp && event->type() == QEvent::Quit) {
+            EndAtOnce();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 #ifdef Q_OS_UNIX
 
 constexpr int kEndSignals[] = {SIGTERM, SIGINT, SIGHUP};
@@ -33,17 +57,6 @@ extern "C" void PassOn(int /*signal*/) {
     const char byte = 0;
     static_cast<void>(!::write(pipeEnds[1], &byte, 1)); // a full pipe has said it already
     errno = error;
-}
-
-// Nothing else of the program runs any more: a dialog that stands open would come back as cancelled
-// to a routine that goes on, as one that saves the design does.
-void EndAtOnce() {
-    bool kept = false;
-    try {
-        kept = KeepSession();
-    } catch (const std::exception&) { // no memory: the end comes all the same
-    }
-    std::_Exit(kept ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
 bool OpenPipe() {
@@ -89,9 +102,11 @@ void HandleSignals() {}
 
 } // namespace
 
-// A session manager asks at times when nothing ends; where it does end it closes the pages next.
+// A session manager asks for the work to be kept at times when nothing ends; the end has its own
+// word.
 void KeepSessionAtTheSystemsEnd() {
     HandleSignals();
+    qApp->installEventFilter(new QuitWatch(qApp));
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp,
                      [](QSessionManager& /*manager*/) { KeepSession(); });
 }

@@ -7,6 +7,7 @@
 #include <thread>
 
 #include <QAbstractButton>
+#include <QSessionManager>
 #include <QTimer>
 
 #include <fcntl.h>
@@ -32,6 +33,7 @@ using Action = std::function<void()>;
 constexpr float kWidth = 61.5F;
 constexpr const char* kWidthLine = "Plate width: 61.5\r\n";
 constexpr auto kPatience = std::chrono::seconds(60);
+constexpr int kQuitMs = 200; // behind the word that all is ready
 constexpr auto kTurn = std::chrono::milliseconds(10);
 
 // A child process that runs the program's forms without a display, up to the signal.
@@ -169,6 +171,35 @@ TEST_F(EndSignalsTest, ASaveDialogDoesNotSave) {
     EXPECT_EQ(SendAndWait(SIGTERM), EXIT_SUCCESS);
     EXPECT_TRUE(SessionIsKept());
     EXPECT_EQ(ReadFile("mine.VRN"), "as it was saved");
+}
+
+// Nor is the desktop's wish, which closes all windows.
+TEST_F(EndSignalsTest, ASaveDialogDoesNotSaveWhereTheDesktopQuits) {
+    WriteFile("mine.VRN", "as it was saved");
+    const std::string mine = Path("mine.VRN");
+    Start("frmPreview", [mine] {
+        Design.DesignFileName = mine;
+        QTimer::singleShot(kQuitMs, qApp, [] { QCoreApplication::quit(); });
+        CurrentPage()->findChild<QAbstractButton*>(QStringLiteral("Save"))->click();
+    });
+    EXPECT_EQ(Wait(), EXIT_SUCCESS);
+    EXPECT_TRUE(SessionIsKept());
+    EXPECT_EQ(ReadFile("mine.VRN"), "as it was saved");
+}
+
+// A session manager asks so at the program's start too, and where a logout is called off.
+TEST_F(EndSignalsTest, WorkIsKeptForASessionManagerAndGoesOn) {
+    for (const PageRow& row : kPages) {
+        std::filesystem::remove(Path("LASTSESSION.VRN"));
+        Start(row.page, [] {
+            alignas(QSessionManager) std::byte nobody[sizeof(QSessionManager)];
+            Q_EMIT qGuiApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nobody));
+            EXPECT_EQ(Design.DesignFileName, "") << "as before";
+        });
+        EXPECT_EQ(SessionIsKept(), row.keepsSession) << row.page;
+        EXPECT_EQ(kill(Child(), 0), 0) << "it goes on";
+        EXPECT_EQ(SendAndWait(SIGTERM), EXIT_SUCCESS) << row.page;
+    }
 }
 
 TEST_F(EndSignalsTest, AMessageBoxDoesNotHoldTheEnd) {
