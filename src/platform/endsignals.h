@@ -7,7 +7,7 @@ namespace vernacle {
 // box of the page would, and end the process at once: with success, or with failure where the
 // session could not be kept. A signal that whoever started the program has told it to ignore stays
 // ignored. A session manager that asks for the work to be kept gets it kept, and the program goes
-// on: it is asked so when it starts, too. Needs the application object.
+// on: its checkpoints ask so too. Needs the application object.
 void KeepSessionAtTheSystemsEnd();
 
 } // namespace vernacle

@@ -187,7 +187,7 @@ TEST_F(EndSignalsTest, ASaveDialogDoesNotSaveWhereTheDesktopQuits) {
     EXPECT_EQ(ReadFile("mine.VRN"), "as it was saved");
 }
 
-// A session manager asks so at the program's start too, and where a logout is called off.
+// A session manager asks so at its checkpoints too, and where a logout is called off.
 TEST_F(EndSignalsTest, WorkIsKeptForASessionManagerAndGoesOn) {
     for (const PageRow& row : kPages) {
         std::filesystem::remove(Path("LASTSESSION.VRN"));
