@@ -28,7 +28,7 @@ protected:
              std::initializer_list<QWidget*>{before, box, arrows, other, label, button, toolless}) {
             column->addWidget(part);
         }
-        arrows->AttachTo(*box, {0, 10});
+        arrows->AttachTo(*box, {0, 30});
         arrows->setMinimumHeight(40);
         toolless->setFocusPolicy(Qt::NoFocus);
         shortcut->setShortcut(QKeySequence(QStringLiteral("Ctrl+S")));
@@ -96,9 +96,9 @@ TEST_F(TypingTest, TextIsRewrittenWhenTheBoxIsLeft) {
         {"Backtab", [&] { key(Qt::Key_Backtab); }, "15"},
         {"Return", [&] { key(Qt::Key_Return); }, "15"},
         {"Enter", [&] { key(Qt::Key_Enter); }, "15"},
-        {"the Down key", [&] { key(Qt::Key_Down); }, "10"},
-        {"the Up key", [&] { key(Qt::Key_Up); }, "10"},
-        {"an arrow", [&] { Click(On<QWidget>(*arrows, "UpDownBoxDown")); }, "10"},
+        {"the Down key", [&] { key(Qt::Key_Down); }, "14"},
+        {"the Up key", [&] { key(Qt::Key_Up); }, "15"},
+        {"an arrow", [&] { Click(On<QWidget>(*arrows, "UpDownBoxDown")); }, "14"},
         {"another box", [&] { click(other); }, "15"},
         {"a button", [&] { click(button); }, "15"},
         {"a button without focus", [&] { click(toolless); }, "15"},
