@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScrollArea>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "core/seam.h"
@@ -14,6 +15,7 @@ namespace {
 
 constexpr double kShareOfScreen = 0.8;
 constexpr double kTwipsPerPixel = 15;
+constexpr int kMouseCheckMs = 50;
 constexpr QSize kLargestForm(1280, 860);
 
 // The toolkit tells a screen reader that a plain window is a filler; that of a page is a frame, and
@@ -78,7 +80,12 @@ QVBoxLayout& Page::Foot() {
     return *foot_;
 }
 
+// A button that is pressed stays under the mouse until it is let go.
 void Page::ShowFocused() {
+    if (QApplication::mouseButtons() != Qt::NoButton) {
+        QTimer::singleShot(kMouseCheckMs, this, &Page::ShowFocused);
+        return;
+    }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     QWidget* focused = focusWidget();
     for (QWidget* around = focused; around && around != this; around = around->parentWidget()) {

@@ -3,8 +3,10 @@
 #include <QAccessible>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QToolButton>
+#include <QWindow>
 
 #include "app/forms.h"
 #include "core/design.h"
@@ -212,6 +214,26 @@ TEST_F(FocusTest, IsInSightWhereTheScreenIsTooSmall) {
             ExpectInSight(form, "by Tab");
         }
     }
+}
+
+// A page that scrolled under a pressed mouse would lose the click.
+TEST_F(FocusTest, WaitsUntilTheMouseIsLetGo) {
+    QWidget& page = Show("frmScales", kLargeFont, kSmallScreen);
+    auto& button = On<QPushButton>(page, "cmdSelectTics");
+    button.setEnabled(true);
+    button.disconnect();
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, &button, [&clicks] { ++clicks; });
+    const QRect shown = button.visibleRegion().boundingRect();
+    ASSERT_LT(shown.height(), button.height()) << "cut at the window's edge";
+    const QPoint at = button.mapTo(&page, shown.center());
+    QTest::mousePress(page.windowHandle(), Qt::LeftButton, {}, at);
+    SettleLayout();
+    EXPECT_EQ(page.focusWidget(), &button);
+    QTest::mouseRelease(page.windowHandle(), Qt::LeftButton, {}, at);
+    EXPECT_EQ(clicks, 1);
+    QTest::qWait(200);
+    ExpectInSight(page, "after the click");
 }
 
 TEST_F(FocusTest, StaysInSightWhenTheWindowShrinks) {
