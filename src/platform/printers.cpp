@@ -105,7 +105,8 @@ bool IsQueue(const QPrinter& printer) {
 } // namespace
 
 QString DocumentName() {
-    const QString name = QFileInfo(QString::fromStdString(Design.DesignFileName)).fileName();
+    const QFileInfo file(QString::fromStdString(Design.DesignFileName));
+    const QString name = ShownText(file.fileName().toStdString());
     return name.isEmpty() ? QStringLiteral("Vernacle") : name;
 }
 

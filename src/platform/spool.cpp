@@ -32,14 +32,13 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kPollMs = 50;
 constexpr milliseconds kPause{5};
+constexpr int kOpening = O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 // Never blocks: a printer that is switched off or out of paper would hold the program for ever.
 class DeviceSink : public ByteSink {
 public:
     DeviceSink(std::string path, milliseconds limit)
-        : path_(std::move(path)),
-          limit_(limit),
-          device_(::open(path_.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)) {
+        : path_(std::move(path)), limit_(limit), device_(::open(path_.c_str(), kOpening)) {
         if (device_ < 0) {
             Fail();
         }
@@ -110,7 +109,11 @@ private:
 };
 
 bool CanOpen(const std::string& device) {
-    return ::access(device.c_str(), W_OK) == 0;
+    const int opened = ::open(device.c_str(), kOpening);
+    if (opened >= 0) {
+        ::close(opened);
+    }
+    return opened >= 0;
 }
 
 std::unique_ptr<ByteSink> OpenDevice(const PrinterPort& port) {

@@ -148,10 +148,9 @@ TEST_F(PrintJobsTest, TheChosenQueueIsProposedAgain) {
 
 TEST_F(PrintJobsTest, AQueueThatFitsPagesPrintsAtTrueSize) {
     const std::vector<std::string> rows[] = {
-        {"print-scaling-default=fit"},
-        {"print-scaling-default=fill"},
-        {"fit-to-page-default=true"},
-        {"number-up-default=2"},
+        {"print-scaling-default=fit"}, {"print-scaling-default=fill"},
+        {"fit-to-page-default=true"},  {"number-up-default=2"},
+        {"scaling-default=50"},        {"natural-scaling-default=50"},
     };
     for (const std::vector<std::string>& row : rows) {
         SCOPED_TRACE(row.front());

@@ -289,6 +289,7 @@ TEST_F(PrintersTest, ADocumentHasTheNameOfItsDesign) {
         {"Calibrate.txt", "Calibrate.txt", documents + "/Calibrate.pdf"},
         {Path("VOLTS 0.5 µ.VRN"), "VOLTS 0.5 µ.VRN", documents + "/VOLTS 0.5 µ.pdf"},
         {Path("gone/A.VRN"), "A.VRN", documents + "/A.pdf"},
+        {Path("A\x1B\nB.VRN"), "AB.VRN", documents + "/AB.pdf"},
     };
     for (const auto& [file, title, proposal] : rows) {
         Design.DesignFileName = file;

@@ -114,9 +114,10 @@ void RecordingSurface::PaintPicture(const std::string& file, float x, float y, f
     }
     Record("PaintPicture", Words(Quoted(file), x, y, width, height));
 }
-void RecordingSurface::KeepOnSheet(float top, float bottom) {
+void RecordingSurface::KeepOnSheet(float top, float bottom, float around) {
     keptTop = top;
     keptBottom = bottom;
+    keptAround = around;
 }
 
 void RecordingSurface::StartPage() {
