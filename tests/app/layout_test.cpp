@@ -224,12 +224,17 @@ TEST_F(FocusTest, WaitsUntilTheMouseIsLetGo) {
     button.disconnect();
     int clicks = 0;
     QObject::connect(&button, &QPushButton::clicked, &button, [&clicks] { ++clicks; });
+    const QPoint middle = button.mapTo(&page, button.rect().center());
+    page.resize(page.width(), middle.y()); // cut at the window's edge
+    SettleLayout();
     const QRect shown = button.visibleRegion().boundingRect();
-    ASSERT_LT(shown.height(), button.height()) << "cut at the window's edge";
+    ASSERT_LT(shown.height(), button.height());
     const QPoint at = button.mapTo(&page, shown.center());
     QTest::mousePress(page.windowHandle(), Qt::LeftButton, {}, at);
     SettleLayout();
     EXPECT_EQ(page.focusWidget(), &button);
+    printf("%d %d -> %d buttons %d\n", shown.height(), at.y(), button.mapTo(&page, QPoint()).y(),
+           (int)QApplication::mouseButtons());
     QTest::mouseRelease(page.windowHandle(), Qt::LeftButton, {}, at);
     EXPECT_EQ(clicks, 1);
     QTest::qWait(200);
@@ -250,12 +255,13 @@ TEST_F(FocusTest, IsInSightAtEachStepOfTheWizard) {
                                   "4",  "2",  "2",  "35", "8",  "6",  "30", "50", "5"};
     for (const char* value : values) {
         ExpectInSight(page, value);
-        for (const char* button : {"cmdAccept", "cmdExit"}) {
-            const auto& way = On<QWidget>(page, button);
-            EXPECT_EQ(way.visibleRegion().boundingRect(), way.rect()) << button;
-        }
         QTest::keyClicks(page.focusWidget(), QLatin1String(value));
         QTest::keyClick(page.focusWidget(), Qt::Key_Return);
+    }
+    ExpectInSight(page, "at the end");
+    for (const char* button : {"cmdAccept", "cmdExit"}) {
+        const auto& way = On<QWidget>(page, button);
+        EXPECT_EQ(way.visibleRegion().boundingRect(), way.rect()) << button;
     }
     EXPECT_TRUE(said.empty());
     EXPECT_TRUE(On<QWidget>(page, "Label2").isVisible()) << "all are entered";

@@ -27,20 +27,21 @@ TEST_F(PainterSurfaceTest, TheWholeAreaFillsThePictureAtAnySize) {
     }
 }
 
-// Also where a unit is not as wide as it is high.
+// Also where a unit is not as wide as it is high. Those of a large screen are magnified.
 TEST_F(PainterSurfaceTest, ALineIsSoManyPixelsWide) {
     for (const QSize size : kScreens) {
+        const int pixel = size.width() > 1920 ? size.width() / 1920 : 1;
         for (const int width : {1, 2, 3, 5, 14}) {
             const QImage upright = Draw(size, [width](DrawingSurface& surface) {
                 surface.SetLineWidth(width);
                 surface.Line(6000, 1000, 6000, 8000, kBlackInk);
             });
-            EXPECT_EQ(InkAcross(upright, size.height() / 2), width);
+            EXPECT_EQ(InkAcross(upright, size.height() / 2), width * pixel);
             const QImage level = Draw(size, [width](DrawingSurface& surface) {
                 surface.SetLineWidth(width);
                 surface.Line(1000, 4500, 11000, 4500, kBlackInk);
             });
-            EXPECT_EQ(InkDown(level, size.width() / 2), width);
+            EXPECT_EQ(InkDown(level, size.width() / 2), width * pixel);
         }
     }
 }
