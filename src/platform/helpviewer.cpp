@@ -20,8 +20,8 @@ namespace vernacle {
 namespace {
 
 constexpr const char* kBook = ":/Vernacle.CHM/";
-constexpr int kWidths[] = {560, 480, 400}; // pixels
-constexpr int kFrame = 80;                 // of a window, pixels: more than any is wide and high
+constexpr int kWidths[] = {560, 480, 400, 320}; // pixels
+constexpr int kFrame = 80; // of a window, pixels: more than any is wide and high
 
 // Draws its pictures anew for the screen's pixels: a stretched one is hard to read.
 class TopicBrowser : public QTextBrowser {
