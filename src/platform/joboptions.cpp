@@ -1,5 +1,7 @@
 #include "platform/joboptions.h"
 
+#include <algorithm>
+
 #include <QPrintEngine>
 #include <QPrinter>
 

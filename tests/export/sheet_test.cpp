@@ -247,6 +247,7 @@ TEST_P(SheetTest, PdfAndSvgShowThePlateTrueToSize) {
     {
         SCOPED_TRACE("PDF");
         const SvgPicture picture = ReadPdf(Path("plate.pdf"));
+        EXPECT_NE(ReadFile("plate.pdf").find("/PrintScaling /None"), std::string::npos);
         EXPECT_NEAR(picture.widthMm, sheet.paper.widthMm, 0.36); // whole points
         EXPECT_NEAR(picture.heightMm, sheet.paper.heightMm, 0.36);
         ExpectSheet(picture, geometry, plate, sheet.deletedTics);

@@ -377,6 +377,7 @@ TEST_F(PrintersTest, APlateIsPrintedWhole) {
                           [](PrinterSurface& printer) { EXPECT_TRUE(PrintDesign(printer)); });
     EXPECT_TRUE(said.empty());
     EXPECT_NE(About("plate.pdf").find("Pages:           1"), std::string::npos);
+    EXPECT_NE(ReadFile("plate.pdf").find("/PrintScaling /None"), std::string::npos);
     std::vector<std::string> words;
     for (const Word& word : ReadPdfWords(Path("plate.pdf"))) {
         words.push_back(word.text);
