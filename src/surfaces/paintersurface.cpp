@@ -6,7 +6,9 @@
 #include "core/runtimeerror.h"
 #include "render/screen.h"
 #include "surfaces/colours.h"
+#include "surfaces/paintclip.h"
 #include "surfaces/picturefile.h"
+#include "surfaces/textclip.h"
 
 namespace vernacle {
 
@@ -17,42 +19,19 @@ constexpr double kScreenUnitsY = 9000;
 constexpr int kUsualPoints = 8;
 constexpr double kTenthsPerDegree = 10;
 
-// Painter coordinates beyond which nothing shows on any surface. The toolkit's writers and blitters
-// are not made for the distances that a damaged design can ask for.
-constexpr double kFarthest = 1e6;
+// How far beyond what is seen painting goes on, painter coordinates. What reaches out no further is
+// painted whole, and so as if nothing were cut; together with the largest screen it stays well
+// below what the toolkit's rasters count up to.
+constexpr double kBeyond = 8192;
 
-bool IsNear(QPointF point) {
-    return std::fabs(point.x()) <= kFarthest && std::fabs(point.y()) <= kFarthest;
-}
+// Letters smaller than this, in pixels of the device, leave no trace.
+constexpr double kSmallestLetters = 1. / 256;
 
-// The part of the line from a to b that is near, by the share of it that each of its four borders
-// leaves; false if none is.
-bool ClipToNear(QPointF& a, QPointF& b) {
-    const QPointF along = b - a;
-    double from = 0;
-    double to = 1;
-    for (const auto& [start, step] : {std::pair(a.x(), along.x()), std::pair(a.y(), along.y())}) {
-        if (step == 0) {
-            if (std::fabs(start) > kFarthest) {
-                return false;
-            }
-            continue;
-        }
-        const double enters = (-std::copysign(kFarthest, step) - start) / step;
-        const double leaves = (std::copysign(kFarthest, step) - start) / step;
-        from = std::max(from, enters);
-        to = std::min(to, leaves);
-    }
-    b = a + along * to;
-    a += along * from;
-    return from <= to;
-}
+// A wider pen's outline costs the toolkit seconds: it is cut before it is filled.
+constexpr double kWidestStroke = 32768;
 
-QRectF ClampToNear(const QRectF& box) {
-    if (IsNear(box.topLeft()) && IsNear(box.bottomRight())) {
-        return box; // also one without width or height, which has no intersection
-    }
-    return box.intersected(QRectF(-kFarthest, -kFarthest, 2 * kFarthest, 2 * kFarthest));
+QRectF Grown(const QRectF& box, double by) {
+    return box.adjusted(-by, -by, by, by);
 }
 
 bool IsStraightAlongAxis(const QPolygonF& line) {
@@ -104,18 +83,52 @@ void PainterSurface::PaintCrisply(Paint paint) {
     painter_.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
+QRectF PainterSurface::Seen() const {
+    return painter_.transform().inverted().mapRect(QRectF(painter_.viewport()));
+}
+
+QRectF PainterSurface::Painted(double penWidth) const {
+    return Grown(Seen(), kBeyond + penWidth / 2);
+}
+
+void PainterSurface::PaintPolyline(const QPolygonF& line) {
+    if (IsStraightAlongAxis(line)) {
+        PaintCrisply([&] { painter_.drawPolyline(line); });
+    } else {
+        painter_.drawPolyline(line);
+    }
+}
+
+void PainterSurface::FillStroke(const QPainterPath& path) {
+    painter_.fillPath(BandWithin(path, painter_.pen(), Painted(0)), painter_.pen().brush());
+}
+
+void PainterSurface::FillStrokes(const std::vector<QPolygonF>& lines) {
+    QPainterPath path;
+    for (const QPolygonF& line : lines) {
+        path.addPolygon(line);
+    }
+    FillStroke(path);
+}
+
+void PainterSurface::PaintChain() {
+    painter_.setPen(chainPen_);
+    const std::vector<QPolygonF> parts = PartsWithin(chain_, Painted(chainPen_.widthF()));
+    const bool isOneLine = parts.size() == 1 && parts.front().size() == chain_.size();
+    if (isOneLine && chainPen_.widthF() <= kWidestStroke) {
+        PaintPolyline(parts.front());
+    } else if (!parts.empty()) { // at one go, so that nothing shows where parts cross
+        FillStrokes(parts);
+    }
+}
+
 void PainterSurface::Flush() {
+    const double width = chainPen_.widthF();
     if (chain_.size() == 1) { // a dot as wide as the line
-        const double width = chainPen_.widthF();
         const QRectF dot(chain_[0] - QPointF(width, width) / 2, QSizeF(width, width));
-        painter_.fillRect(dot, chainPen_.color());
+        painter_.fillRect(Clamped(dot, Painted(0)), chainPen_.color());
     } else if (!chain_.isEmpty()) {
-        painter_.setPen(chainPen_);
-        if (IsStraightAlongAxis(chain_)) {
-            PaintCrisply([this] { painter_.drawPolyline(chain_); });
-        } else {
-            painter_.drawPolyline(chain_);
-        }
+        PaintChain();
     }
     chain_.clear();
 }
@@ -138,13 +151,12 @@ void PainterSurface::Line(float x1, float y1, float x2, float y2, Colour colour)
     const QPointF to(double{x2}, double{y2});
     const QPen pen = MakePen(colour, Qt::RoundJoin);
     current_ = to;
-    QPointF start = ToDevice(from.x(), from.y());
-    QPointF end = ToDevice(to.x(), to.y());
-    const bool isWhole = IsNear(start) && IsNear(end);
-    if (!isWhole && !ClipToNear(start, end)) {
+    const QPointF start = ToDevice(from.x(), from.y());
+    const QPointF end = ToDevice(to.x(), to.y());
+    if (!IsFinite(start) || !IsFinite(end)) {
         return;
     }
-    if (chain_.isEmpty() || from != chainEnd_ || pen != chainPen_ || !isWhole) {
+    if (chain_.isEmpty() || from != chainEnd_ || pen != chainPen_) {
         Flush();
         chain_ << start;
         chainPen_ = pen;
@@ -157,26 +169,45 @@ void PainterSurface::Line(float x1, float y1, float x2, float y2, Colour colour)
 
 void PainterSurface::Box(float x1, float y1, float x2, float y2, Colour colour) {
     Flush();
-    painter_.setPen(MakePen(colour, Qt::MiterJoin));
+    const QPen pen = MakePen(colour, Qt::MiterJoin);
+    painter_.setPen(pen);
     painter_.setBrush(Qt::NoBrush);
-    PaintCrisply([&] { painter_.drawRect(ClampToNear(ToDevice(x1, y1, x2, y2))); });
+    const QRectF box = Clamped(ToDevice(x1, y1, x2, y2), Painted(pen.widthF()));
+    if (pen.widthF() > kWidestStroke) {
+        QPainterPath path;
+        path.addRect(box);
+        PaintCrisply([&] { FillStroke(path); });
+    } else {
+        PaintCrisply([&] { painter_.drawRect(box); });
+    }
 }
 
 void PainterSurface::FilledBox(float x1, float y1, float x2, float y2, Colour colour) {
     Flush();
-    painter_.fillRect(ClampToNear(ToDevice(x1, y1, x2, y2)), ToQColor(colour));
+    painter_.fillRect(Clamped(ToDevice(x1, y1, x2, y2), Painted(0)), ToQColor(colour));
 }
 
 void PainterSurface::Circle(float x, float y, float r, Colour colour) {
     Flush();
     const double radius = double{r} * map_.perUnitX;
     const QPointF centre = ToDevice(double{x}, double{y});
-    if (!IsNear(centre) || radius > kFarthest) {
+    const QPen pen = MakePen(colour, Qt::MiterJoin);
+    painter_.setPen(pen);
+    painter_.setBrush(Qt::NoBrush);
+    const QRectF painted = Painted(pen.widthF());
+    const QPointF corner(radius, radius);
+    if (!IsFinite(centre - corner) || !IsFinite(centre + corner)) {
         return;
     }
-    painter_.setPen(MakePen(colour, Qt::MiterJoin));
-    painter_.setBrush(Qt::NoBrush);
-    painter_.drawEllipse(centre, radius, radius);
+    if (pen.widthF() > kWidestStroke) {
+        QPainterPath path;
+        path.addEllipse(centre, radius, radius);
+        FillStroke(path);
+    } else if (IsWithin(painted, centre - corner) && IsWithin(painted, centre + corner)) {
+        painter_.drawEllipse(centre, radius, radius);
+    } else {
+        FillStrokes(ArcsWithin(centre, std::fabs(radius), painted));
+    }
 }
 
 void PainterSurface::Dot(float x, float y, Colour colour) {
@@ -191,20 +222,25 @@ void PainterSurface::WriteAt(QPointF corner, const std::string& text) {
     Flush();
     const Typeface& face = Face(made_ ? madeName_ : ordinaryName_);
     const MadeFont font = made_.value_or(MadeFont{OrdinaryScale(), OrdinaryScale(), 0});
-    if (font.scaleX == 0 || font.scaleY == 0 || !IsNear(corner)) {
+    const double smallest = kSmallestLetters / Typeface::kReferenceSize;
+    if (font.scaleX < smallest || font.scaleY < smallest || !IsFinite(corner)) {
         return;
     }
-    const QTransform usual = painter_.transform();
-    QTransform turned = usual;
+    QTransform turned;
     turned.translate(corner.x(), corner.y());
     if (font.degrees != 0) {
         turned.rotate(-font.degrees);
     }
     turned.scale(font.scaleX, font.scaleY);
-    painter_.setTransform(turned);
+    const TextView view = {turned.inverted().mapRect(Painted(0)),
+                           turned.inverted().mapRect(Seen())};
+    const QTransform usual = painter_.transform();
+    painter_.setTransform(turned * usual);
     painter_.setFont(face.ReferenceFont());
     painter_.setPen(ToQColor(foreColour_));
-    painter_.drawText(QPointF(0, face.Ascent()), ShownText(text));
+    for (const TextPart& part : PartsInView(ShownText(text), face, view)) {
+        painter_.drawText(QPointF(part.offset, face.Ascent()), part.text);
+    }
     painter_.setTransform(usual);
 }
 
@@ -257,8 +293,8 @@ void PainterSurface::PaintPicture(const std::string& file, float x, float y, flo
     const QImage image = LoadPicture(file);
     Flush();
     const QRectF target = ToDevice(x, y, x + width, y + height);
-    const QRectF shown = target.intersected(painter_.viewport());
-    if (shown.isEmpty() || !IsNear(target.topLeft()) || !IsNear(target.bottomRight())) {
+    const QRectF shown = target.intersected(Seen());
+    if (shown.isEmpty() || !IsFinite(target.topLeft()) || !IsFinite(target.bottomRight())) {
         return;
     }
     const double across = image.width() / target.width(); // picture's pixels per coordinate

@@ -3,8 +3,10 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QPolygonF>
 
 #include "render/surface.h"
@@ -83,6 +85,17 @@ private:
     // Without smoothing: upright and level lines stay crisp, and one over another covers it.
     template <typename Paint>
     void PaintCrisply(Paint paint);
+
+    // What is seen, and what is painted with a pen of that width: a little more. Painter
+    // coordinates.
+    QRectF Seen() const;
+    QRectF Painted(double penWidth) const;
+    void PaintChain();
+    void PaintPolyline(const QPolygonF& line);
+
+    // As the painter's pen would stroke them, its outline cut before it is filled.
+    void FillStroke(const QPainterPath& path);
+    void FillStrokes(const std::vector<QPolygonF>& lines);
 
     QPointF ToDevice(double x, double y) const;
     QRectF ToDevice(float x1, float y1, float x2, float y2) const;

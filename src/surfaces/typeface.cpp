@@ -1,5 +1,7 @@
 #include "surfaces/typeface.h"
 
+#include <algorithm>
+
 namespace vernacle {
 
 namespace {
@@ -47,12 +49,17 @@ double Typeface::AdvanceOf(QChar letter) const {
     return entry->second;
 }
 
+bool Typeface::IsPlain(const QString& text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter.unicode() < kFirstCombining; });
+}
+
 double Typeface::Advance(const QString& text) const {
+    if (!IsPlain(text)) {
+        return metrics_.horizontalAdvance(text);
+    }
     double advance = 0;
     for (const QChar letter : text) {
-        if (letter.unicode() >= kFirstCombining) {
-            return metrics_.horizontalAdvance(text);
-        }
         advance += AdvanceOf(letter);
     }
     return advance;

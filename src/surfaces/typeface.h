@@ -26,12 +26,15 @@ public:
     double CellHeight() const { return metrics_.ascent() + metrics_.descent(); }
     double Advance(const QString& text) const;
 
+    // Whether the letters of a text stand side by side as they are, none shaping its neighbours.
+    static bool IsPlain(const QString& text);
+    double AdvanceOf(QChar letter) const;
+
     // The mean width of a character in running text: the measure by which a font's width is asked
     // for.
     double AverageWidth() const { return averageWidth_; }
 
 private:
-    double AdvanceOf(QChar letter) const;
     double MeasureAverage() const;
 
     QFont font_;
