@@ -12,9 +12,9 @@ namespace vernacle {
 QString DocumentName();
 
 // Shows the printer dialog, named "PrintDialog"; after a cancel nothing else happens, else print
-// runs once with a surface on what was chosen. The printer is proposed again at the next
-// call, and a file's sheet with it; a queue proposes its own. A file is proposed among the user's
-// documents, under the document's name.
+// runs once with a surface on what was chosen. The printer is proposed again at the next call, and
+// a file's sheet with it; a queue proposes its own. A file is proposed among the user's documents,
+// under the document's name.
 void AskForPrinterAndPrint(QWidget* parent, const PrintOn& print,
                            const QString& document = DocumentName());
 

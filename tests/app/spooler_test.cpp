@@ -239,6 +239,7 @@ TEST_F(PrintJobsTest, ARefusedJobIsToldAndNothingIsShownAsPrinted) {
                 ASSERT_FALSE(said.empty());
                 EXPECT_EQ(said.back(), kSquareFailure);
             }
+            ASSERT_FALSE(reasons.empty());
             EXPECT_EQ(reasons.back().rfind("lp: ", 0), 0U) << reasons.back();
             EXPECT_FALSE(TheSpooler().HasJobs());
         }
@@ -374,6 +375,7 @@ TEST_F(RawJobsTest, AnOnlyQueueIsTakenWithoutAQuestion) {
     Send();
     ASSERT_FALSE(said.empty());
     EXPECT_EQ(said.back(), kPclFailure);
+    ASSERT_FALSE(reasons.empty());
     EXPECT_EQ(reasons.back().rfind("lp: ", 0), 0U) << reasons.back();
 }
 
@@ -381,6 +383,7 @@ TEST_F(RawJobsTest, ARefusedStreamSaysWhy) {
     TheSpooler().Do("cupsreject", {"plotter"});
     Send(ChooseQueue(QStringLiteral("plotter")));
     EXPECT_EQ(said, (std::vector<std::string>{"beep", kPclFailure}));
+    ASSERT_FALSE(reasons.empty());
     EXPECT_NE(reasons.back().find("not accepting jobs"), std::string::npos) << reasons.back();
     EXPECT_FALSE(TheSpooler().HasJobs());
 }

@@ -7,6 +7,7 @@
 #include <thread>
 
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -62,6 +63,7 @@ BackgroundProgram::BackgroundProgram(const std::vector<std::string>& words,
         throw std::runtime_error("no process");
     }
     if (process_ == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGTERM); // nor does it outlive a test that ends by a signal
         const int nowhere = open("/dev/null", O_RDWR);
         dup2(nowhere, STDOUT_FILENO);
         dup2(nowhere, STDERR_FILENO);
