@@ -37,7 +37,7 @@ std::string CalibrationText() {
 void PrintSquare(PrinterSurface& printer) {
     const double halfX = kSquareMm * double{Design.CalibrationX} * kPageUnitsPerHalfMm;
     const double halfY = kSquareMm * double{Design.CalibrationY} * kPageUnitsPerHalfMm;
-    printer.KeepOnSheet(F(kPageCentre.y - halfY), F(kPageCentre.y + halfY), 0);
+    printer.KeepOnSheet(F(kPageCentre.y - halfY), F(kPageCentre.y + halfY));
     printer.StartPage();
     printer.SetLineWidth(1);
     printer.Box(F(kPageCentre.x - halfX), F(kPageCentre.y - halfY), F(kPageCentre.x + halfX),

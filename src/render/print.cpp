@@ -19,7 +19,7 @@ namespace vernacle {
 namespace {
 
 constexpr double kBleed = 50;       // the background goes this far past the cut
-constexpr float kMarksReach = 300;  // the trim marks end so far from the plate
+constexpr double kMarksReach = 300; // the trim marks end so far from the plate
 constexpr double kRulerPoints = 8;  // at which 45 units are half a digit
 constexpr double kFooterPoints = 6; // at which lines 150 units apart do not touch
 constexpr const char* kWebAddress = "https://harrowgate.example/vernacle";
@@ -182,13 +182,14 @@ void PrintFooter(PrintRun& run) {
     PrintAt(run.printer, x, bottom + 1450, Host.localDateTime());
 }
 
-// The plate, without whose trim marks it cannot be cut out; a circular outline may be higher than
-// it.
+// The plate and its trim marks, without which it cannot be cut out; a circular outline may be
+// higher than the plate.
 void KeepPlateOnSheet(PrintRun& run) {
     const PlateFrame& frame = run.drawing.frame;
     const double outline = Design.PlateOutlineCircular == 1 ? frame.plateScale * frame.widthMm : 0;
-    run.printer.KeepOnSheet(F(std::min(frame.Top(), kPageCentre.y - outline)),
-                            F(std::max(frame.Bottom(), kPageCentre.y + outline)), kMarksReach);
+    const double top = std::min(frame.Top() - kMarksReach, kPageCentre.y - outline);
+    const double bottom = std::max(frame.Bottom() + kMarksReach, kPageCentre.y + outline);
+    run.printer.KeepOnSheet(F(top), F(bottom));
 }
 
 void PrintPage(PrintRun& run) {

@@ -61,10 +61,10 @@ public:
 // the paper; line widths count its own pixels.
 class PrinterSurface : public virtual DrawingSurface {
 public:
-    // What stands from top to bottom, with so much around it, must not be lost. Where it is higher
-    // than half the sheet, the logical area of the next document as a whole, turned labels too, is
-    // moved down by what that needs at the upper edge, as far as the sheet has room below.
-    virtual void KeepOnSheet(float top, float bottom, float around) = 0;
+    // The logical area's part from top to bottom holds what must not be lost. Of the next document
+    // the area as a whole, turned labels too, is moved down the sheet by what that part needs at
+    // the sheet's upper edge, as far as the sheet has room below it.
+    virtual void KeepOnSheet(float top, float bottom) = 0;
 
     virtual void StartPage() = 0; // a new document with the logical area set
     virtual void EndDoc() = 0;    // sends the document; a RunTimeError if that fails

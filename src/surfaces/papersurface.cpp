@@ -1,7 +1,6 @@
 #include "surfaces/papersurface.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "core/runtimeerror.h"
 #include "render/page.h"
@@ -37,8 +36,8 @@ DeviceMap MapOf(double coordinatesPerInch, const Sheet& sheet) {
 PaperSurface::PaperSurface(QPaintDevice& device, double coordinatesPerInch, const Sheet& sheet)
     : PainterSurface(painter, MapOf(coordinatesPerInch, sheet)),
       device_(device),
-      sheetHeightMm_(sheet.heightMm),
-      perMm_(coordinatesPerInch / kMmPerInch),
+      sheetBottom_((sheet.heightMm - kUnprintableMm) * coordinatesPerInch / kMmPerInch),
+      sheetTop_(kUnprintableMm * coordinatesPerInch / kMmPerInch),
       areaTop_(Map().originY) {}
 
 PaperSurface::~PaperSurface() {
@@ -48,16 +47,10 @@ PaperSurface::~PaperSurface() {
     }
 }
 
-// What takes no more than half the sheet, to the next whole millimetre, stays in its place.
-void PaperSurface::KeepOnSheet(float top, float bottom, float around) {
-    const double unit = Map().perUnitY;
-    const double height = double{bottom} - double{top};
-    const bool isHigh = height > std::ceil(sheetHeightMm_ / 2) * kUnitsPerMm;
-    const double needed =
-        kUnprintableMm * perMm_ - areaTop_ - (double{top} - double{around}) * unit;
-    const double room = (sheetHeightMm_ - kUnprintableMm) * perMm_ - areaTop_ -
-                        (double{bottom} + double{around}) * unit;
-    SetOriginY(areaTop_ + (isHigh ? std::max(std::min(needed, room), 0.0) : 0));
+void PaperSurface::KeepOnSheet(float top, float bottom) {
+    const double needed = sheetTop_ - (areaTop_ + double{top} * Map().perUnitY);
+    const double room = sheetBottom_ - (areaTop_ + double{bottom} * Map().perUnitY);
+    SetOriginY(areaTop_ + std::max(std::min(needed, room), 0.0));
 }
 
 void PaperSurface::StartPage() {

@@ -37,7 +37,7 @@ public:
     PaperSurface(QPaintDevice& device, double coordinatesPerInch, const Sheet& sheet);
     ~PaperSurface() override;
 
-    void KeepOnSheet(float top, float bottom, float around) override;
+    void KeepOnSheet(float top, float bottom) override;
     void StartPage() override;
     void EndDoc() override;
     float TwipsPerPixelX() const override;
@@ -46,9 +46,9 @@ public:
 
 private:
     QPaintDevice& device_;
-    double sheetHeightMm_;
-    double perMm_;   // the device's coordinates
-    double areaTop_; // of a logical area that is not moved, in them
+    double sheetBottom_; // where printing ends, the device's coordinates, as all here
+    double sheetTop_;    // where it begins
+    double areaTop_;     // of a logical area that is not moved
 };
 
 } // namespace vernacle

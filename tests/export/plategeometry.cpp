@@ -130,9 +130,6 @@ TicPlace PlaceOfTic(const Plate& plate, int number) {
 double SheetGeometry::MovedDownMm(double middle) const {
     constexpr double kUnprintable = 12 * 25.4 / 72;
     const double half = calibration_.up * plate_.height / 2 + 300 * kUnitMm;
-    if (calibration_.up * plate_.height <= std::ceil(paper_.heightMm / 2)) {
-        return 0;
-    }
     const double room = paper_.heightMm - kUnprintable - (middle + half);
     return std::max(0.0, std::min(kUnprintable - (middle - half), room));
 }

@@ -114,10 +114,9 @@ void RecordingSurface::PaintPicture(const std::string& file, float x, float y, f
     }
     Record("PaintPicture", Words(Quoted(file), x, y, width, height));
 }
-void RecordingSurface::KeepOnSheet(float top, float bottom, float around) {
+void RecordingSurface::KeepOnSheet(float top, float bottom) {
     keptTop = top;
     keptBottom = bottom;
-    keptAround = around;
 }
 
 void RecordingSurface::StartPage() {

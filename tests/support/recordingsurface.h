@@ -23,7 +23,6 @@ public:
     // What the print asked to have kept on the sheet.
     float keptTop = 0;
     float keptBottom = 0;
-    float keptAround = 0;
 
     // A run-time error at the call of that line's number (counted from 1), once.
     int failAt = 0;
@@ -57,7 +56,7 @@ public:
     void EndFont() override;
     void PaintPicture(const std::string& file, float x, float y, float width,
                       float height) override;
-    void KeepOnSheet(float top, float bottom, float around) override;
+    void KeepOnSheet(float top, float bottom) override;
     void StartPage() override;
     void EndDoc() override;
     float TwipsPerPixelX() const override { return 2.4F; } // 600 dpi

@@ -185,7 +185,6 @@ TEST_F(PaperSurfaceTest, TheAreaMovesDownByWhatIsWantedAndByTheRoomThereIs) {
     const Row rows[] = {
         {0, 15200, 0},
         {-500, 9000, 0},
-        {-1000, 7000, 0}, // lost, but not higher than half the sheet
         {-1000, 9000, kWhiteMm - kAreaTopMm + 1000 * kUnitMm},
         {-1000, 15200, kWhiteMm - kAreaTopMm + 1000 * kUnitMm},
         {-1000, 15700, 297 - kWhiteMm - kAreaTopMm - 15700 * kUnitMm},
@@ -194,8 +193,8 @@ TEST_F(PaperSurfaceTest, TheAreaMovesDownByWhatIsWantedAndByTheRoomThereIs) {
     };
     for (const Row& row : rows) {
         const auto print = [&row](PrinterSurface& printer) {
-            printer.KeepOnSheet(-3000, 9000, 0);
-            printer.KeepOnSheet(row.top + 200, row.bottom - 200, 200); // the last word counts
+            printer.KeepOnSheet(-3000, 9000);
+            printer.KeepOnSheet(row.top, row.bottom); // the last word counts
             printer.StartPage();
             printer.Line(1000, 2000, 3000, 2000, kBlackInk);
             printer.EndDoc();
