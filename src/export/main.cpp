@@ -102,6 +102,7 @@ void SetHost(const Arguments& arguments, Progress& progress) {
     }
     Host.failureBox = [&progress](const FailureReport& report) {
         progress.failed = true;
+        progress.reason = progress.reason.empty() ? report.reason : progress.reason;
         Say(report.text);
     };
     Host.readFile = ReadFileOrInput;

@@ -1,6 +1,7 @@
 // What reaches out of sight is cut, and nothing that is seen tells of it: each drawing is compared
 // with the toolkit's own of the whole of it.
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <ostream>
@@ -278,8 +279,8 @@ TEST_F(CutTest, NothingIsPaintedFarAway) {
             at += std::string(name).size();
             const char* end = svg.data() + svg.find('"', at);
             for (const char* next = svg.data() + at; next < end;) {
-                char* behind = nullptr;
-                const double number = std::strtod(next, &behind);
+                double number = 0;
+                const char* behind = std::from_chars(next, end, number).ptr;
                 ASSERT_LE(std::fabs(number), 60000) << std::string(next, end).substr(0, 100);
                 count += behind == next ? 0 : 1;
                 next = behind == next ? next + 1 : behind;
