@@ -58,6 +58,12 @@ std::vector<AbsurdDesign> MakeDesigns() {
         {"labels of a megabyte", LongLabels()},
         {"turned labels of a megabyte", With("Label rotation H/V/B:", "B", LongLabels())},
     };
+    for (const char* length : {"100", "300", "1000", "1e5"}) { // all tics, and of wide pens
+        designs.push_back(
+            {std::string("wide tics of ") + length,
+             With("Minor ticmark length: ", length,
+                  With("Major ticmark length: ", length, With("Minor ticmark width: ", "20")))});
+    }
     const std::pair<const char*, const char*> letters[] = {
         {"greek", "\xCE\xA9"}, {"arabic", "\xD8\xB9"}, {"face", "\xF0\x9F\x98\x80"}};
     for (const auto& [script, letter] : letters) {
