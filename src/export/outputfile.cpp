@@ -7,13 +7,13 @@
 #include <cstring>
 #include <filesystem>
 #include <string_view>
-#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "core/runtimeerror.h"
+#include "core/samefile.h"
 
 namespace vernacle {
 
@@ -21,7 +21,6 @@ namespace {
 
 constexpr mode_t kModeOfNewFiles = 0666; // less the user's mask
 constexpr mode_t kAllOfTheMode = 07777;
-constexpr int kMostLinks = 40; // one after the other, as many as the system follows
 
 class Descriptor {
 public:
@@ -91,15 +90,6 @@ bool WriteAt(const Descriptor& file, std::size_t offset, std::string_view bytes)
         return pwrite(file.Number(), rest.data(), rest.size(),
                       static_cast<off_t>(end - rest.size()));
     });
-}
-
-// Where a file would be made that is opened by that name: at the end of the links.
-std::filesystem::path EndOfLinks(std::filesystem::path path) {
-    std::error_code error;
-    for (int link = 0; link < kMostLinks && std::filesystem::is_symlink(path, error); ++link) {
-        path = path.parent_path() / std::filesystem::read_symlink(path, error);
-    }
-    return path;
 }
 
 mode_t Mask() {

@@ -112,6 +112,7 @@ TEST_F(HelpViewerTest, WindowIsNotModalAndStandsBesideThePage) {
     const QRect screen = page.screen()->availableGeometry();
     EXPECT_TRUE(screen.contains(book.geometry()));
     EXPECT_GE(book.x(), screen.width() / 2) << "the page's left half stays free";
+    EXPECT_NEAR(book.height(), screen.height() * 0.8, 1) << "the page's title and foot stay free";
     EXPECT_FALSE(Topic().accessibleName().isEmpty());
     EXPECT_EQ(book.windowTitle().toStdString(), "Vernacle - Help");
 }

@@ -320,5 +320,16 @@ TEST_F(WizardStepsTest, RepairsLeaveWhatIsThere) {
     EXPECT_EQ(Design.AspectRatio, 0.9F);
 }
 
+// What is above 0 is a size, however small.
+TEST_F(WizardStepsTest, RepairsLeaveSmallSizes) {
+    Design.PlateWidth = 0.5F;
+    Design.ArcWidth = 0.25F;
+    Design.FontSize = 0.125F;
+    RepairWizardDesign();
+    EXPECT_EQ(Design.PlateWidth, 0.5F);
+    EXPECT_EQ(Design.ArcWidth, 0.25F);
+    EXPECT_EQ(Design.FontSize, 0.125F);
+}
+
 } // namespace
 } // namespace vernacle::test
