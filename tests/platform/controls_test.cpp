@@ -147,6 +147,15 @@ TEST_F(ControlsTest, ArrowsRunTheBoxesHandler) {
     EXPECT_EQ(seen, std::vector<std::string>{"4"});
 }
 
+TEST_F(ControlsTest, AHeldArrowGoesOnStepping) {
+    arrows.AttachTo(box, {0, 1000});
+    box.Write("3");
+    QWidget& up = On<QWidget>(window, "UpDownBoxUp");
+    QTest::mousePress(&up, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return box.Number() >= 6; }));
+    QTest::mouseRelease(&up, Qt::LeftButton);
+}
+
 TEST_F(ControlsTest, DisabledArrowsDoNotStepByKeysEither) {
     arrows.AttachTo(box, {0, 10});
     arrows.setEnabled(false);
