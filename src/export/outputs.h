@@ -12,10 +12,10 @@ namespace vernacle {
 using WriteOutput = void (*)(const std::string& path, const Arguments& arguments);
 
 struct OutputForm {
-    const char* ending;
-    WriteOutput write;
-    bool wantsTables; // the design is first made ready as the preview page does
-    bool wantsFonts;
+    const char* ending = nullptr;
+    WriteOutput write = nullptr;
+    bool wantsTables = false; // the design is first made ready as the preview page does
+    bool wantsFonts = false;
     bool isDesign = false; // an input as well, which must not be lost
 };
 

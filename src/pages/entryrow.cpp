@@ -22,8 +22,8 @@ EntryBox* MakePartner(const EntryRow& entry, QWidget& page) {
 }
 
 std::string RangeOf(const EntryRow& entry) {
-    const std::string limits = RangeText(entry.limits, entry.unit);
-    if (!limits.empty() || !entry.arrows) {
+    if (std::string limits = RangeText(entry.limits, entry.unit);
+        !limits.empty() || !entry.arrows) {
         return limits;
     }
     const EntryLimits arrows{entry.range.lowest * entry.partnerUnit,

@@ -28,12 +28,12 @@ constexpr SetupPageTraits kTraits = {.form = "frmSetupdB",
                                      .readsBack = true};
 
 struct Entry {
-    const char* label;
-    const char* caption;
-    const char* box;
-    const char* start;
+    const char* label = nullptr;
+    const char* caption = nullptr;
+    const char* box = nullptr;
+    const char* start = nullptr;
     EntryLimits limits = {};
-    const char* unit;
+    const char* unit = nullptr;
 };
 
 // clang-format off
