@@ -2,11 +2,32 @@
 
 #include <exception>
 
+#include <QDialog>
 #include <QIcon>
+#include <QTimer>
 
 #include "platform/messages.h"
+#include "platform/walk.h"
 
 namespace vernacle {
+
+namespace {
+
+constexpr int kFocusCheckMs = 300;
+
+// A window manager that still deals with a dialog that went may give the keys to no window: then
+// they are asked for, for what stands uppermost now.
+void AskForKeys() {
+    QWidget* uppermost = QApplication::activeModalWidget();
+    uppermost = uppermost ? uppermost : CurrentPage();
+    const QWidget* active = QApplication::activeWindow();
+    const bool free = !active || active == uppermost; // the toolkit's belief may be old
+    if (free && uppermost && uppermost->isVisible()) {
+        uppermost->activateWindow();
+    }
+}
+
+} // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Vernacle"));
@@ -18,6 +39,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
+        if (event->type() == QEvent::Hide && qobject_cast<QDialog*>(receiver)) {
+            QTimer::singleShot(kFocusCheckMs, this, AskForKeys);
+        }
         return QApplication::notify(receiver, event);
     } catch (const std::exception& failure) {
         EndWith(failure.what());

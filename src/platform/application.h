@@ -1,5 +1,5 @@
 // The application object: its one handler shows a failure that no routine traps and ends the
-// process.
+// process. Behind a dialog it sees to it that a window has the keys again.
 #pragma once
 
 #include <string>
