@@ -101,6 +101,17 @@ protected:
         std::filesystem::remove(Path("home/LASTSESSION.pdf"));
     }
 
+    // By a last session that does not exist: the default design.
+    void StartOnThePlatePage() {
+        Start("vernacle");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
+        ChooseLastSession();
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // there is none yet, says its box
+        display->Press("Return");
+        ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
+        ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
+    }
+
     // From the plate page's first box: the last button stands before the keys of the toolbar.
     void Calibrate() const {
         constexpr int kToolbarKeys = 11; // that are enabled
@@ -138,13 +149,7 @@ protected:
 };
 
 TEST_F(ProgramTest, ASessionIsTakenUpAgain) {
-    Start("vernacle");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
-    ChooseLastSession();
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // there is none yet, says its box
-    display->Press("Return");
-    ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
-    ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
+    ASSERT_NO_FATAL_FAILURE(StartOnThePlatePage());
     ReplaceText("97.5"); // the first box of the page
     ASSERT_NO_FATAL_FAILURE(GoTo("2", "Scale design"));
     ReplaceText("-20");
@@ -205,13 +210,7 @@ TEST_F(ProgramTest, ADesignIsOpenedSavedAndLeft) {
 
 // The save is primed with the name that the calibration left, in the folder of the factors.
 TEST_F(ProgramTest, ACancelledSaveAfterACalibrationLeavesTheFactors) {
-    Start("vernacle");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
-    ChooseLastSession();
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // there is none yet, says its box
-    display->Press("Return");
-    ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
-    ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
+    ASSERT_NO_FATAL_FAILURE(StartOnThePlatePage());
     ASSERT_NO_FATAL_FAILURE(Calibrate());
     const std::string factors = ReadFile("program/Calibrate.txt");
     EXPECT_TRUE(Has(factors, "\r\n1.25\r\n.8\r\n"));
