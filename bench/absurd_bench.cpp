@@ -12,12 +12,12 @@
 #include <QGuiApplication>
 #include <QImage>
 
-#include "core/design.h"
-#include "core/readwrite.h"
-#include "core/seam.h"
-#include "render/drawing.h"
-#include "render/print.h"
-#include "scale/scale.h"
+#include "engine/base/hostservices.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
+#include "engine/output/print.h"
+#include "engine/render/drawing.h"
+#include "engine/scale/scale.h"
 #include "surfaces/documents.h"
 
 namespace vernacle::bench {

@@ -10,8 +10,8 @@
 #include <QPdfWriter>
 
 #include "designs.h"
+#include "engine/output/print.h"
 #include "primitives.h"
-#include "render/print.h"
 #include "surfaces/papersurface.h"
 
 namespace {

@@ -1,9 +1,9 @@
 #include "designs.h"
 
-#include "core/design.h"
-#include "core/readwrite.h"
-#include "render/drawing.h"
-#include "scale/scale.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
+#include "engine/render/drawing.h"
+#include "engine/scale/scale.h"
 
 namespace vernacle::bench {
 

@@ -2,12 +2,12 @@
 // and the design file.
 #include <benchmark/benchmark.h>
 
-#include "core/design.h"
-#include "core/readwrite.h"
-#include "core/seam.h"
 #include "designs.h"
-#include "render/hpgl.h"
-#include "scale/scale.h"
+#include "engine/base/hostservices.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
+#include "engine/output/hpgl.h"
+#include "engine/scale/scale.h"
 
 namespace vernacle::bench {
 namespace {

@@ -1,11 +1,11 @@
 // One page of the program up to its first paint: "form_window FORM [DESIGN]". For frmOpening this
 // is the program's own start.
-#include "app/forms.h"
-#include "core/design.h"
-#include "core/readwrite.h"
+#include "desktop/app/application.h"
+#include "desktop/app/forms.h"
+#include "desktop/system/desktophost.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
 #include "firstpaint.h"
-#include "platform/application.h"
-#include "platform/host.h"
 #include "screen.h"
 
 namespace {

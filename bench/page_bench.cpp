@@ -8,12 +8,12 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
-#include "app/forms.h"
-#include "core/design.h"
-#include "core/readwrite.h"
-#include "platform/application.h"
-#include "platform/entrybox.h"
-#include "platform/host.h"
+#include "desktop/app/application.h"
+#include "desktop/app/forms.h"
+#include "desktop/kit/entrybox.h"
+#include "desktop/system/desktophost.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
 #include "screen.h"
 
 namespace vernacle::bench {

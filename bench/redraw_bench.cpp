@@ -5,12 +5,12 @@
 #include <QGuiApplication>
 #include <QImage>
 
-#include "core/design.h"
-#include "core/seam.h"
 #include "designs.h"
+#include "engine/base/hostservices.h"
+#include "engine/core/design.h"
+#include "engine/render/drawing.h"
+#include "engine/scale/scale.h"
 #include "primitives.h"
-#include "render/drawing.h"
-#include "scale/scale.h"
 #include "surfaces/paintersurface.h"
 
 namespace vernacle::bench {

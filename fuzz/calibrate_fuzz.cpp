@@ -1,6 +1,6 @@
 // Reads the bytes as a printer calibration.
-#include "core/design.h"
-#include "render/calibrate.h"
+#include "engine/core/design.h"
+#include "engine/output/calibrate.h"
 #include "target.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

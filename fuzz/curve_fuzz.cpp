@@ -1,6 +1,6 @@
 // Reads the bytes as a correction file and evaluates the curve that came of it.
-#include "core/design.h"
-#include "correction/curve.h"
+#include "engine/core/design.h"
+#include "engine/correction/curve.h"
 #include "target.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

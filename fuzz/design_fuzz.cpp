@@ -1,8 +1,8 @@
 // Reads the bytes as a design and writes what came of it; then makes the design ready as a page
 // does.
-#include "core/design.h"
-#include "core/readwrite.h"
-#include "scale/scale.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
+#include "engine/scale/scale.h"
 #include "target.h"
 
 namespace {

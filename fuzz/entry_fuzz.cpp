@@ -2,8 +2,8 @@
 // the limits that hold for all entries, and must come back as text.
 #include <cstdlib>
 
-#include "core/entry.h"
-#include "core/numbertext.h"
+#include "engine/base/numbertext.h"
+#include "engine/core/entry.h"
 #include "target.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

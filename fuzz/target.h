@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/seam.h"
+#include "engine/base/hostservices.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 

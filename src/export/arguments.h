@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/usage.h"
+#include "commandline/options.h"
 #include "surfaces/papersurface.h"
 
 namespace vernacle {

@@ -15,13 +15,13 @@
 
 #include <QGuiApplication>
 
-#include "core/design.h"
-#include "core/readwrite.h"
-#include "core/seam.h"
+#include "engine/base/hostservices.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
+#include "engine/output/calibrate.h"
 #include "export/arguments.h"
 #include "export/outputfile.h"
 #include "export/outputs.h"
-#include "render/calibrate.h"
 #include "surfaces/typeface.h"
 
 namespace vernacle {

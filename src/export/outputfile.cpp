@@ -12,8 +12,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "core/runtimeerror.h"
-#include "core/samefile.h"
+#include "engine/base/runtimeerror.h"
+#include "engine/base/samefile.h"
 
 namespace vernacle {
 

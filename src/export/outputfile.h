@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "core/bytesink.h"
+#include "engine/base/bytesink.h"
 
 namespace vernacle {
 

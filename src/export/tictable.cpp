@@ -5,11 +5,11 @@
 #include <map>
 #include <vector>
 
-#include "core/design.h"
-#include "core/text.h"
-#include "correction/curve.h"
-#include "render/print.h"
-#include "render/stages.h"
+#include "engine/base/text.h"
+#include "engine/core/design.h"
+#include "engine/correction/curve.h"
+#include "engine/output/print.h"
+#include "engine/render/stages.h"
 
 namespace vernacle {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "core/numbertext.h"
+#include "engine/base/numbertext.h"
 
 namespace vernacle {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/usage.h"
+#include "commandline/options.h"
 
 namespace vernacle {
 

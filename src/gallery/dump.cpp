@@ -3,7 +3,7 @@
 #include <cmath>
 #include <variant>
 
-#include "core/numbertext.h"
+#include "engine/base/numbertext.h"
 
 namespace vernacle {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/design.h"
+#include "engine/core/design.h"
 
 namespace vernacle {
 

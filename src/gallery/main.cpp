@@ -5,19 +5,19 @@
 #include <QBuffer>
 #include <QPixmap>
 
-#include "app/forms.h"
-#include "core/bytesink.h"
-#include "core/design.h"
-#include "core/readwrite.h"
-#include "core/runtimeerror.h"
-#include "core/usage.h"
+#include "commandline/options.h"
+#include "desktop/app/application.h"
+#include "desktop/app/forms.h"
+#include "desktop/system/desktophost.h"
+#include "engine/base/bytesink.h"
+#include "engine/base/runtimeerror.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
+#include "engine/output/calibrate.h"
+#include "engine/scale/scale.h"
 #include "gallery/arguments.h"
 #include "gallery/dump.h"
 #include "gallery/screen.h"
-#include "platform/application.h"
-#include "platform/host.h"
-#include "render/calibrate.h"
-#include "scale/scale.h"
 
 namespace vernacle {
 

@@ -3,7 +3,7 @@
 
 #include <QColor>
 
-#include "render/surface.h"
+#include "engine/geometry/drawingsurface.h"
 
 namespace vernacle {
 

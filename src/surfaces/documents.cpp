@@ -8,7 +8,7 @@
 #include <QPageLayout>
 #include <QSvgGenerator>
 
-#include "core/runtimeerror.h"
+#include "engine/base/runtimeerror.h"
 
 namespace vernacle {
 

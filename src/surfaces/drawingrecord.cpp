@@ -1,6 +1,6 @@
 #include "surfaces/drawingrecord.h"
 
-#include "core/runtimeerror.h"
+#include "engine/base/runtimeerror.h"
 #include "surfaces/picturefile.h"
 
 #include <utility>

@@ -5,8 +5,8 @@
 
 #include <QLineF>
 
-#include "core/runtimeerror.h"
-#include "render/screen.h"
+#include "engine/base/runtimeerror.h"
+#include "engine/geometry/screen.h"
 #include "surfaces/colours.h"
 #include "surfaces/paintclip.h"
 #include "surfaces/picturefile.h"

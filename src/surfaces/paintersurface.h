@@ -9,7 +9,7 @@
 #include <QPainterPath>
 #include <QPolygonF>
 
-#include "render/surface.h"
+#include "engine/geometry/drawingsurface.h"
 #include "surfaces/typeface.h"
 
 namespace vernacle {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/runtimeerror.h"
-#include "render/page.h"
+#include "engine/base/runtimeerror.h"
+#include "engine/geometry/sheet.h"
 
 namespace vernacle {
 

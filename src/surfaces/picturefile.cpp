@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 
-#include "core/runtimeerror.h"
+#include "engine/base/runtimeerror.h"
 
 namespace vernacle {
 

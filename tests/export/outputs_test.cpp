@@ -9,7 +9,7 @@
 #include <QXmlStreamReader>
 
 #include "export/exporttest.h"
-#include "export/plategeometry.h"
+#include "support/plategeometry.h"
 
 namespace vernacle::test {
 

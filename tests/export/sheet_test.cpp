@@ -4,10 +4,10 @@
 #include <cmath>
 #include <ostream>
 
-#include "core/numbertext.h"
+#include "engine/base/numbertext.h"
 #include "export/exporttest.h"
-#include "export/plategeometry.h"
 #include "support/pdfreader.h"
+#include "support/plategeometry.h"
 
 namespace vernacle::test {
 

@@ -4,8 +4,8 @@
 #include <numbers>
 
 #include "export/exporttest.h"
-#include "export/plategeometry.h"
 #include "support/pdfreader.h"
+#include "support/plategeometry.h"
 
 namespace vernacle::test {
 

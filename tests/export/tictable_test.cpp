@@ -6,10 +6,10 @@
 #include <numbers>
 #include <ostream>
 
-#include "core/design.h"
+#include "engine/core/design.h"
 #include "export/csv.h"
 #include "export/exporttest.h"
-#include "export/plategeometry.h"
+#include "support/plategeometry.h"
 
 namespace vernacle::test {
 

@@ -64,7 +64,7 @@ Lines Matches(const std::string& text, const std::regex& pattern, std::size_t gr
 
 // The names that the record declares: the last word of each declaration before its first value.
 Lines DeclaredFields() {
-    const std::string header = Source("core/design.h");
+    const std::string header = Source("engine/core/design.h");
     const std::size_t begin = header.find("struct DesignRecord {");
     const std::size_t end = header.find("\n};", begin);
     if (end == std::string::npos) {

@@ -6,9 +6,9 @@
 
 #include <QImage>
 
-#include "app/forms.h"
-#include "core/design.h"
-#include "core/readwrite.h"
+#include "desktop/app/forms.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
 #include "support/enginetest.h"
 #include "support/process.h"
 

@@ -5,9 +5,9 @@
 #include <fstream>
 #include <iterator>
 
-#include "core/design.h"
-#include "core/seam.h"
-#include "render/drawing.h"
+#include "engine/base/hostservices.h"
+#include "engine/core/design.h"
+#include "engine/render/drawing.h"
 
 namespace vernacle::test {
 

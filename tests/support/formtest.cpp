@@ -5,14 +5,14 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "app/forms.h"
-#include "core/design.h"
-#include "core/seam.h"
-#include "platform/entrybox.h"
-#include "platform/host.h"
-#include "platform/optionbutton.h"
-#include "platform/picturebox.h"
-#include "platform/walk.h"
+#include "desktop/app/forms.h"
+#include "desktop/kit/entrybox.h"
+#include "desktop/kit/optionbutton.h"
+#include "desktop/kit/picturebox.h"
+#include "desktop/navigation/navigator.h"
+#include "desktop/system/desktophost.h"
+#include "engine/base/hostservices.h"
+#include "engine/core/design.h"
 #include "support/recordingsurface.h"
 
 namespace vernacle::test {

@@ -4,8 +4,8 @@
 #include <iterator>
 #include <sstream>
 
-#include "core/runtimeerror.h"
-#include "core/text.h"
+#include "engine/base/runtimeerror.h"
+#include "engine/base/text.h"
 
 namespace vernacle::test {
 

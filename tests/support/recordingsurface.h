@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "render/surface.h"
+#include "engine/geometry/drawingsurface.h"
 
 namespace vernacle::test {
 

@@ -10,9 +10,9 @@
 
 #include <QPainterPath>
 
-#include "core/design.h"
-#include "render/drawing.h"
-#include "scale/scale.h"
+#include "engine/core/design.h"
+#include "engine/render/drawing.h"
+#include "engine/scale/scale.h"
 #include "surfaces/documents.h"
 #include "surfaces/surfacetest.h"
 

@@ -3,12 +3,12 @@
 
 #include <QXmlStreamReader>
 
-#include "core/design.h"
-#include "core/readwrite.h"
-#include "core/runtimeerror.h"
-#include "render/calibrate.h"
-#include "render/print.h"
-#include "scale/scale.h"
+#include "engine/base/runtimeerror.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
+#include "engine/output/calibrate.h"
+#include "engine/output/print.h"
+#include "engine/scale/scale.h"
 #include "support/pdfreader.h"
 #include "support/process.h"
 #include "support/sourcetree.h"

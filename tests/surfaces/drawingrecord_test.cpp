@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "core/design.h"
-#include "core/runtimeerror.h"
-#include "render/drawing.h"
-#include "scale/scale.h"
+#include "engine/base/runtimeerror.h"
+#include "engine/core/design.h"
+#include "engine/render/drawing.h"
+#include "engine/scale/scale.h"
 #include "support/enginetest.h"
 #include "support/recordingsurface.h"
 #include "surfaces/surfacetest.h"

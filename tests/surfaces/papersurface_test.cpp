@@ -3,7 +3,7 @@
 
 #include <QPicture>
 
-#include "core/runtimeerror.h"
+#include "engine/base/runtimeerror.h"
 #include "support/pdfreader.h"
 #include "surfaces/documents.h"
 #include "surfaces/surfacetest.h"

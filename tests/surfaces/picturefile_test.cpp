@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "core/runtimeerror.h"
+#include "engine/base/runtimeerror.h"
 #include "surfaces/surfacetest.h"
 
 namespace vernacle::test {

@@ -2,7 +2,7 @@
 #include <cmath>
 #include <limits>
 
-#include "core/runtimeerror.h"
+#include "engine/base/runtimeerror.h"
 #include "surfaces/documents.h"
 #include "surfaces/surfacetest.h"
 

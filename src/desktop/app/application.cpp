@@ -1,0 +1,67 @@
+#include "desktop/app/application.h"
+
+#include <exception>
+
+#include <QDialog>
+#include <QIcon>
+#include <QTimer>
+
+#include "desktop/navigation/navigator.h"
+#include "desktop/system/messages.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr int kFocusCheckMs = 300;
+
+// A window manager that still deals with a dialog that went may give the keys to no window: then
+// they are asked for, for what stands uppermost now.
+void AskForKeys() {
+    QWidget* uppermost = QApplication::activeModalWidget();
+    uppermost = uppermost ? uppermost : CurrentPage();
+    const QWidget* active = QApplication::activeWindow();
+    const bool free = !active || active == uppermost; // the toolkit's belief may be old
+    if (free && uppermost && uppermost->isVisible()) {
+        uppermost->activateWindow();
+    }
+}
+
+} // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    setApplicationName(QStringLiteral("Vernacle"));
+    setApplicationDisplayName(QString());
+    setDesktopFileName(QStringLiteral("vernacle"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/vernacle.svg")));
+    setQuitOnLastWindowClosed(false); // pages come and go; the process ends where it is told to
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        if (event->type() == QEvent::Hide && qobject_cast<QDialog*>(receiver)) {
+            QTimer::singleShot(kFocusCheckMs, this, AskForKeys);
+        }
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& failure) {
+        EndWith(failure.what());
+    }
+    return true;
+}
+
+// The box is queued: one that opened inside a paint event would paint again, and fail again.
+void Application::EndWith(const std::string& failure) {
+    if (ending_) {
+        return;
+    }
+    ending_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [failure] {
+            ShowRunTimeError(failure);
+            exit(kRunTimeErrorStatus);
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace vernacle

@@ -1,0 +1,53 @@
+// The correction entry: the movement's transfer curve as a plot with handles and as boxes. Works on
+// the design itself: there is no undo.
+#pragma once
+
+#include <string>
+
+#include "desktop/correction/curvehandle.h"
+#include "desktop/kit/form.h"
+
+class QLabel;
+class QPoint;
+
+namespace vernacle {
+
+class CurvePicture;
+class EntryBox;
+
+class frmCorrectionEntry : public ModalForm {
+    Q_OBJECT
+
+public:
+    frmCorrectionEntry();
+
+private:
+    void Build();
+    QLayout* MakeBoxes();
+    QLayout* MakeButtons();
+    void MakeHandles();
+
+    void SetPointFromDrop(int index, double x, double y);
+    void RedrawCorrectionCurve();
+    void FillBoxes();
+    void FillBoxesPlainly();
+    void ResetToLinear();
+
+    void HandlePressed(int index);
+    DropResult HandleDropped(int index, const QPoint& at);
+    void HandleStepped(int index, int across, int up);
+    void cmdAcceptXYClicked();
+    void cmdReadClicked();
+    void cmdWriteClicked();
+    void cmdRestoreClicked();
+    void cmdShowTableClicked();
+
+    EntryBox& Text(int number) const; // "Text1" to "Text14"
+
+    CurvePicture* picture_ = nullptr;
+    QLabel* Label10_ = nullptr;
+    std::int16_t DraggedPoint_ = 0; // the handle last pressed
+    std::string CorrectionFileName_;
+};
+
+} // namespace vernacle

@@ -1,0 +1,154 @@
+#include "desktop/pages/designpage.h"
+
+#include <string_view>
+
+#include <QVBoxLayout>
+
+#include "desktop/kit/toolbar.h"
+#include "desktop/navigation/helpviewer.h"
+#include "desktop/navigation/navigator.h"
+#include "desktop/navigation/session.h"
+#include "desktop/pages/vernaclefile.h"
+#include "desktop/system/printers.h"
+#include "engine/core/design.h"
+#include "engine/designfile/readwrite.h"
+#include "engine/output/print.h"
+
+namespace vernacle {
+
+// A key goes to a page or does something here.
+struct DesignPage::Key {
+    ToolbarKey face;
+    const char* page;
+    void (DesignPage::*clicked)();
+};
+
+const DesignPage::Key DesignPage::kKeys[] = {
+    {{"Open", "Open", "Open a file", "open", "Ctrl+O"}, nullptr, &DesignPage::OpenClicked},
+    {{"Save", "Save", "Save a file", "save", "Ctrl+S"}, nullptr, &DesignPage::SaveClicked},
+    {{"Plate", "Plate", "Go to the Plate Design page", "plate", "Ctrl+1"}, "frmPlate", nullptr},
+    {{"Scales", "Scales", "Go to the Scale Design page", "scales", "Ctrl+2"}, "frmScales", nullptr},
+    {{"Text", "Text", "Go to the Text Entry page", "text", "Ctrl+3"}, "frmText", nullptr},
+    {{"Graphic", "Graphic", "Go to the Graphic Entry page", "graphic", "Ctrl+4"},
+     "frmGraphic",
+     nullptr},
+    {{"Highlights", "Highlights", "Go to the Highlight Entry page", "highlights", "Ctrl+5"},
+     "frmHighlights",
+     nullptr},
+    {{"Preview", "Preview", "Preview the design", "preview", "Ctrl+6"}, "frmPreview", nullptr},
+    {{"Print", "Print", "Print the design", "print", "Ctrl+P"}, nullptr, &DesignPage::PrintClicked},
+    {{"Help", "Help", "Help", "help", "F1"}, nullptr, &DesignPage::HelpClicked},
+    {{"Exit", "Exit", "Exit the program", "exit", "Ctrl+Q"}, nullptr, &DesignPage::ExitClicked},
+    {{"About", "About Vernacle", "", "about", ""}, nullptr, &DesignPage::AboutClicked},
+};
+
+namespace {
+
+QString TitleOf(const PageTraits& traits) {
+    std::string title = std::string("Vernacle - ") + traits.title;
+    if (!Design.DesignFileName.empty()) {
+        title += " - " + Design.DesignFileName;
+    }
+    return QString::fromStdString(title);
+}
+
+const char* TipOf(const PageTraits& traits, const ToolbarKey& key) {
+    for (const OwnTip& own : traits.ownTips) {
+        if (own.key == std::string_view(key.key)) {
+            return own.tip;
+        }
+    }
+    return key.tip;
+}
+
+KeyState StateOf(const PageTraits& traits, const ToolbarKey& key) {
+    const bool greyed =
+        key.key == std::string_view("Print") && traits.printing != Printing::Offered;
+    return greyed ? KeyState::Greyed : KeyState::Enabled;
+}
+
+} // namespace
+
+DesignPage::DesignPage(const PageTraits& traits) : Page(traits.form), traits_(traits) {
+    ShowTitle();
+    AddToolbar();
+}
+
+void DesignPage::ShowTitle() {
+    setWindowTitle(TitleOf(traits_));
+}
+
+void DesignPage::AddToolbar() {
+    auto* toolbar = new Toolbar("Toolbar1");
+    for (const Key& key : kKeys) {
+        ToolbarKey face = key.face;
+        face.tip = TipOf(traits_, face);
+        toolbar->AddKey(face, StateOf(traits_, face), [this, &key] { KeyClicked(key); });
+    }
+    Head().addWidget(toolbar);
+}
+
+void DesignPage::KeyClicked(const Key& key) {
+    BeforeKey();
+    if (key.clicked) {
+        (this->*key.clicked)();
+    } else if (key.page != std::string_view(traits_.form)) {
+        GoToPage(key.page);
+    }
+}
+
+void DesignPage::OpenClicked() {
+    Design.DesignFileName = AskForVernacleFile(this, "Read Vernacle file");
+    if (Design.DesignFileName.empty()) {
+        return;
+    }
+    ReadDesign(Design.DesignFileName);
+    Design.ActiveScale = 1;
+    ReloadPage();
+}
+
+void DesignPage::SaveClicked() {
+    Design.DesignFileName =
+        AskForNewVernacleFile(this, "Save Vernacle file", Design.DesignFileName);
+    SaveDesign(Design.DesignFileName);
+}
+
+void DesignPage::PrintClicked() {
+    if (traits_.printing != Printing::GreyedAndDead) {
+        AskForPrinterAndPrint(this, [](PrinterSurface& printer) { PrintDesign(printer); });
+    }
+}
+
+void DesignPage::showEvent(QShowEvent* event) {
+    Page::showEvent(event);
+    TurnHelpTo(*this, traits_.helpTopic);
+}
+
+void DesignPage::resizeEvent(QResizeEvent* event) {
+    Page::resizeEvent(event);
+    if (isVisible()) {
+        TurnHelpTo(*this, traits_.helpTopic);
+    }
+}
+
+void DesignPage::HelpClicked() {
+    ShowHelp(*this, traits_.helpTopic);
+}
+
+void DesignPage::ExitClicked() {
+    ShowModal("frmExit");
+}
+
+void DesignPage::AboutClicked() {
+    ShowModal("frmAbout");
+}
+
+void DesignPage::CloseBoxClicked() {
+    if (KeepsSession()) {
+        SaveSessionAndEnd();
+    } else {
+        JustEnd();
+    }
+}
+
+} // namespace vernacle

@@ -1,0 +1,71 @@
+#include "desktop/pages/drawingpage.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "desktop/kit/entrybox.h"
+#include "desktop/kit/formkit.h"
+#include "desktop/kit/optionbutton.h"
+#include "desktop/kit/picturebox.h"
+#include "desktop/navigation/navigator.h"
+#include "desktop/pages/numberframe.h"
+
+namespace vernacle {
+
+DrawingPage::DrawingPage(const PageTraits& traits, const DrawingTraits& drawing,
+                         const LogicalArea& area)
+    : DesignPage(traits), drawing_(drawing) {
+    plate_ = new PictureBox("picPlate", area, UnitShape::OfScreen);
+    plate_->setAccessibleName(QStringLiteral("Drawing of the plate"));
+    auto* side = new QVBoxLayout;
+    column_ = new QVBoxLayout;
+    column_->setSpacing(10);
+    column_->addWidget(MakeHeading("lblHeading", QString::fromUtf8(traits.title)));
+    side->addLayout(column_);
+    side->addStretch();
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(16);
+    halves->addWidget(plate_, 1);
+    halves->addLayout(side);
+    Body().addLayout(halves, 1);
+}
+
+void DrawingPage::TakeSizes() {
+    copies_.fontSize = Design.FontSize;
+    copies_.labelSpacing = Design.LabelSpacing;
+}
+
+void DrawingPage::Redraw() {
+    DrawDesign(plate_->Surface(), drawing_, copies_);
+}
+
+void DrawingPage::Illustrate(std::int16_t topic) {
+    Design.HelpTopic = topic;
+    ShowModal("frmHelp");
+}
+
+EntryBox& DrawingPage::Box(const char* name) const {
+    return *findChild<EntryBox*>(QLatin1String(name));
+}
+
+OptionButton& DrawingPage::OptionNumber(int number) const {
+    return *findChild<OptionButton*>(QString::fromStdString(OptionName(number)));
+}
+
+void DrawingPage::SetEnabled(std::initializer_list<const char*> controls, bool enabled) {
+    for (const char* control : controls) {
+        findChild<QWidget*>(QLatin1String(control))->setEnabled(enabled);
+    }
+}
+
+void TextKeepingPage::TakeCopies() {
+    TakeSizes();
+    texts_ = CopyOfTexts();
+    copies_.texts = &texts_;
+}
+
+void TextKeepingPage::BeforeKey() {
+    StoreTexts(texts_);
+}
+
+} // namespace vernacle

@@ -1,0 +1,62 @@
+#include "desktop/pages/frmHPGL.h"
+
+#include <QGridLayout>
+
+#include "desktop/kit/formkit.h"
+#include "desktop/system/printqueues.h"
+#include "desktop/system/programfiles.h"
+#include "engine/output/hpgl.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr int kTextCharacters = 56; // width of the explanations
+
+QLabel* MakeText(const char* name, const char* text) {
+    QLabel* label = MakeLabel(name, QString::fromUtf8(text));
+    label->setWordWrap(true);
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * kTextCharacters);
+    return label;
+}
+
+} // namespace
+
+frmHPGL::frmHPGL() : ModalForm("frmHPGL", QStringLiteral("Vernacle - HP-GL output")) {
+    QPushButton* file = MakeButton("cmdHPGL", QStringLiteral("Write HP-GL file"));
+    QPushButton* printer = MakeButton("cmdPCL", QStringLiteral("Send to PCL printer"));
+    QPushButton* exit = MakeButton("cmdExit", QStringLiteral("Return"));
+    connect(file, &QPushButton::clicked, this, &frmHPGL::cmdHPGLClicked);
+    connect(printer, &QPushButton::clicked, this, &frmHPGL::cmdPCLClicked);
+    connect(exit, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* grid = new QGridLayout(this);
+    grid->setSpacing(12);
+    grid->addWidget(MakeHeading("lblHeading", QStringLiteral("HP-GL output")), 0, 0, 1, 2);
+    grid->addWidget(file, 1, 0);
+    grid->addWidget(MakeText("lblHPGL", "The plotter's commands as a file, true to size, to send "
+                                        "to a plotter or to read into another program."),
+                    1, 1);
+    grid->addWidget(printer, 2, 0);
+    grid->addWidget(MakeText("lblPCL", "The same commands, wrapped for a printer that knows PCL 5 "
+                                       "and HP-GL/2, straight to the printer's port (LPT1) or its "
+                                       "queue."),
+                    2, 1);
+    grid->addWidget(exit, 3, 0, 1, 2, Qt::AlignRight);
+    grid->setColumnStretch(1, 1);
+}
+
+void frmHPGL::cmdHPGLClicked() {
+    WriteHpgl(PlotterFileName(), HpglMode::File);
+}
+
+void frmHPGL::cmdPCLClicked() {
+    const std::optional<PrintTarget> target = AskForPrintTarget(this);
+    if (!target) {
+        return;
+    }
+    const PrintTargetUse use(*target);
+    WriteHpgl({}, HpglMode::PclPrinter);
+}
+
+} // namespace vernacle

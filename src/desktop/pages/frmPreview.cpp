@@ -1,0 +1,240 @@
+#include "desktop/pages/frmPreview.h"
+
+#include <algorithm>
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+#include "desktop/kit/entrybox.h"
+#include "desktop/kit/formkit.h"
+#include "desktop/kit/inkicon.h"
+#include "desktop/kit/picturebox.h"
+#include "desktop/kit/updown.h"
+#include "desktop/navigation/navigator.h"
+#include "engine/base/numbertext.h"
+#include "engine/core/design.h"
+#include "engine/core/entry.h"
+#include "engine/render/overlays.h"
+#include "engine/scale/scale.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr double kAspectStep = 1.01;
+constexpr LogicalArea kPlateArea{2350, 750, 7300,
+                                 8250}; // to the pointer's length under a high plate
+constexpr int kToolIconSize = 20;
+
+constexpr OwnTip kOwnTips[] = {{"Exit", "Exit"}};
+
+constexpr PageTraits kTraits = {.form = "frmPreview",
+                                .title = "Preview",
+                                .helpTopic = "vpreview.htm",
+                                .printing = Printing::Offered,
+                                .ownTips = kOwnTips};
+
+// Switches a flag of an overlay; whether it is on now.
+bool Toggle(std::int16_t& flag) {
+    ++flag;
+    if (flag > 1) {
+        flag = 0;
+    }
+    return flag == 1;
+}
+
+std::int16_t& CircleFlag() {
+    return Design.PlateOutlineCircular;
+}
+std::int16_t& GridFlag() {
+    return Drawing.GridShown;
+}
+std::int16_t& PointerFlag() {
+    return Drawing.PointerShown;
+}
+
+} // namespace
+
+// A button below the aspect; that of an overlay has a flag.
+struct frmPreview::Tool {
+    const char* name;
+    const char* caption;
+    const char* tip;
+    const char* icon;
+    void (frmPreview::*clicked)();
+    std::int16_t& (*flag)();
+};
+
+// clang-format off
+const frmPreview::Tool frmPreview::kTools[] = {
+    {"cmdCircle",  "Circle",  "Show or hide a circular outline; a plate with it prints as a circle", "circle",  &frmPreview::cmdCircleClicked,  CircleFlag},
+    {"cmdGrid",    "Grid",    "Show or hide a grid of millimetres",                                  "grid",    &frmPreview::cmdGridClicked,    GridFlag},
+    {"cmdPointer", "Pointer", "Show or hide the pointer and its length",                             "pointer", &frmPreview::cmdPointerClicked, PointerFlag},
+    {"cmdHPGL",    "HP-GL",   "Write the design for a plotter",                                      "plotter", &frmPreview::cmdHPGLClicked,    nullptr},
+};
+// clang-format on
+
+frmPreview::frmPreview() : DesignPage(kTraits) {
+    Build();
+    Load();
+}
+
+void frmPreview::Build() {
+    plate_ = new PictureBox("picPlate", kPlateArea, UnitShape::OfScreen);
+    plate_->setAccessibleName(QStringLiteral("Drawing of the plate"));
+    auto* tools = new QVBoxLayout;
+    tools->setSpacing(10);
+    tools->addWidget(MakeHeading("lblHeading", QStringLiteral("Preview")));
+    tools->addLayout(MakeAspect());
+    tools->addLayout(MakeTools());
+    tools->addStretch();
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(16);
+    halves->addWidget(plate_, 1);
+    halves->addLayout(tools);
+    Body().addLayout(halves, 1);
+}
+
+QLayout* frmPreview::MakeAspect() {
+    const QString ratio = QStringLiteral("Aspect ratio:");
+    const QString percent = QStringLiteral("Aspect, percent:");
+    txtAspect_ = new EntryBox("txtAspect", ratio);
+    txtAspectUpDown_ = new EntryBox("txtAspectUpDown", percent);
+    auto* arrows = new UpDown("UpDown1", percent);
+    arrows->OnStep([this] { UpDown1Clicked(double{Design.AspectRatio} * kAspectStep); },
+                   [this] { UpDown1Clicked(double{Design.AspectRatio} / kAspectStep); });
+    txtAspectUpDown_->SetArrows(arrows);
+    const EntryLimits percents{kAspectLimits.lowest * 100, kAspectLimits.highest * 100};
+    txtAspect_->TellRange(RangeText(kAspectLimits, ""));
+    txtAspectUpDown_->TellRange(RangeText(percents, "%"));
+    txtAspect_->OnChange([this] { txtAspectChanged(); });
+    txtAspectUpDown_->OnChange([this] { txtAspectUpDownChanged(); });
+    QLabel* lblAspect = MakeLabel("lblAspect", ratio);
+    QLabel* lblPercent = MakeLabel("lblAspectUpDown", percent);
+    lblAspect->setBuddy(txtAspect_);
+    lblPercent->setBuddy(txtAspectUpDown_);
+    auto* grid = new QGridLayout;
+    grid->addWidget(lblAspect, 0, 0);
+    grid->addLayout(MakeStepped(*txtAspect_, nullptr), 0, 1);
+    grid->addWidget(lblPercent, 1, 0);
+    grid->addLayout(MakeStepped(*txtAspectUpDown_, arrows), 1, 1);
+    return grid;
+}
+
+QLayout* frmPreview::MakeTools() {
+    auto* column = new QVBoxLayout;
+    for (const Tool& tool : kTools) {
+        QPushButton* button =
+            MakeButton(tool.name, QString::fromUtf8(tool.caption), QString::fromUtf8(tool.tip));
+        button->setIcon(InkIcon(tool.icon));
+        button->setIconSize(QSize(kToolIconSize, kToolIconSize));
+        connect(button, &QPushButton::clicked, this, tool.clicked);
+        column->addWidget(button);
+        if (tool.flag) {
+            button->setCheckable(true);
+            overlays_.push_back({button, tool.flag});
+        }
+    }
+    return column;
+}
+
+// The page comes up, or its picture is to be drawn without the overlays: the design is made ready
+// in the same way, and the controls stay.
+void frmPreview::Load() {
+    ShowTitle();
+    NormalizeDesign();
+    sizes_ = {Design.FontSize, Design.LabelSpacing};
+    CopyTexts();
+    ComputeTicDeflections();
+    ComputeTicLabels();
+    Design.FontName = "Arial";
+    Design.NumberOfScales = 1;
+    Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
+    PageFrame(PreviewTraits()); // raises the aspect too
+    ShowAspect();
+    ShowPercent();
+    ShowFlags();
+    Draw();
+}
+
+// A flag of an overlay outlives its drawing: the next press then turns it off.
+void frmPreview::ShowFlags() {
+    for (const Overlay& overlay : overlays_) {
+        overlay.button->setChecked(overlay.flag() != 0);
+    }
+}
+
+void frmPreview::CopyTexts() {
+    texts_ = Design.TextString;
+    numberOfTexts_ = 0;
+    for (int text = 1; text <= kTexts; ++text) {
+        numberOfTexts_ += texts_[text].empty() ? 0 : 1;
+    }
+    plate_->setAccessibleDescription(
+        QStringLiteral("Free texts of the design: %1").arg(numberOfTexts_));
+}
+
+void frmPreview::Draw() {
+    DrawDesign(plate_->Surface(), PreviewTraits(), sizes_);
+}
+
+void frmPreview::ShowAspect() {
+    txtAspect_->Write(PlainNumber(Design.AspectRatio));
+}
+
+void frmPreview::ShowPercent() {
+    txtAspectUpDown_->Write(PlainNumber(static_cast<float>(double{Design.AspectRatio} * 100)));
+}
+
+void frmPreview::txtAspectChanged() {
+    std::string text = txtAspect_->Text();
+    ParseEntry(text, Design.AspectRatio);
+    HoldAspectRatio();
+    ShowPercent();
+    Draw();
+}
+
+void frmPreview::txtAspectUpDownChanged() {
+    const double percent = NumericValue(txtAspectUpDown_->Text());
+    Design.AspectRatio = HeldAspect(percent * 0.01);
+    ShowAspect();
+    txtAspect_->Show(PlainNumber(Design.AspectRatio)); // which the ratio's box has rounded
+}
+
+void frmPreview::UpDown1Clicked(double aspect) {
+    Design.AspectRatio = HeldAspect(aspect);
+    Load();
+}
+
+void frmPreview::cmdCircleClicked() {
+    if (Toggle(CircleFlag())) {
+        DrawOutline(plate_->Surface(), PageFrame(PreviewTraits()), OutlineStart::Moved, kBlueInk);
+        ShowFlags();
+    } else {
+        Load();
+    }
+}
+
+void frmPreview::cmdGridClicked() {
+    if (Toggle(GridFlag())) {
+        DrawGrid(plate_->Surface(), PageFrame(PreviewTraits()));
+        ShowFlags();
+    } else {
+        Load();
+    }
+}
+
+void frmPreview::cmdPointerClicked() {
+    if (Toggle(PointerFlag())) {
+        DrawPointer(plate_->Surface(), PageFrame(PreviewTraits()), Drawing);
+        ShowFlags();
+    } else {
+        Load();
+    }
+}
+
+void frmPreview::cmdHPGLClicked() {
+    ShowModal("frmHPGL");
+}
+
+} // namespace vernacle

@@ -1,0 +1,65 @@
+// The preview page: the plate on the screen with a millimetre ruler, the aspect of the picture, and
+// three overlays to check a plate against.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "desktop/pages/designpage.h"
+#include "engine/core/design.h"
+#include "engine/render/drawing.h"
+
+class QLayout;
+class QPushButton;
+
+namespace vernacle {
+
+class EntryBox;
+class PictureBox;
+
+class frmPreview : public DesignPage {
+    Q_OBJECT
+
+public:
+    frmPreview();
+
+private:
+    struct Tool;
+    static const Tool kTools[];
+
+    void Build();
+    QLayout* MakeAspect();
+    QLayout* MakeTools();
+    void Load();
+    void CopyTexts();
+
+    void txtAspectChanged();
+    void txtAspectUpDownChanged();
+    void UpDown1Clicked(double aspect);
+    void cmdCircleClicked();
+    void cmdGridClicked();
+    void cmdPointerClicked();
+    void cmdHPGLClicked();
+
+    void Draw();
+    void ShowAspect();
+    void ShowPercent();
+    void ShowFlags();
+
+    // A button that looks pressed while its flag is set.
+    struct Overlay {
+        QPushButton* button;
+        std::int16_t& (*flag)();
+    };
+
+    EntryBox* txtAspect_ = nullptr;
+    EntryBox* txtAspectUpDown_ = nullptr;
+    PictureBox* plate_ = nullptr;
+    std::vector<Overlay> overlays_;
+    PageCopies sizes_;
+    Table<std::string, kTexts> texts_; // the design's free texts, as they were at the load
+    int numberOfTexts_ = 0;
+};
+
+} // namespace vernacle

@@ -1,0 +1,40 @@
+// The text page: ten free texts with their places, sizes and colours.
+#pragma once
+
+#include "desktop/pages/drawingpage.h"
+
+class QLabel;
+
+namespace vernacle {
+
+class frmText : public TextKeepingPage {
+    Q_OBJECT
+
+public:
+    frmText();
+
+private:
+    void Build();
+    void Load();
+
+    void FillTextEntry();
+    void MeasureTextWidth(int entry);
+
+    void OptionClicked(int entry);
+    void txtTextChanged();
+    void txtLeftToTextChanged();
+    void txtBottomToTextChanged();
+    void txtRelSizeChanged();
+    void txtRelSizeUpDownChanged();
+    void cmdCenterTextClicked();
+    void cmdGetColorClicked();
+
+    float DrawnWidthMm(int entry) const;
+
+    QLabel* lblTextWidthmm_ = nullptr;
+    std::int16_t CurrentTextEntry_ = 1;
+    int textsAtLoad_ = 0;              // that are not empty
+    Table<float, kTexts> TextWidthMm_; // as last computed
+};
+
+} // namespace vernacle

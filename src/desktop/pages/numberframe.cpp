@@ -1,0 +1,57 @@
+#include "desktop/pages/numberframe.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+
+#include "desktop/kit/formkit.h"
+#include "desktop/kit/optionbutton.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr int kMostPerLine = 6; // options; more would widen the column at the plate's cost
+constexpr QColor kPaper(0xF4, 0xF4, 0xF4);
+constexpr QColor kFadedInk(0x90, 0x90, 0x90);
+
+// Paper and ink, whatever the desktop's colours are.
+QPalette PaperPalette() {
+    QPalette colours;
+    colours.setColor(QPalette::Window, kPaper);
+    colours.setColor(QPalette::WindowText, Qt::black);
+    colours.setColor(QPalette::Base, Qt::white); // the options' marks
+    colours.setColor(QPalette::Text, Qt::black);
+    colours.setColor(QPalette::Disabled, QPalette::WindowText, kFadedInk);
+    return colours;
+}
+
+} // namespace
+
+QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected) {
+    QGroupBox* frame = MakeFrame(traits.frame, QStringLiteral("Edit"));
+    frame->setToolTip(QStringLiteral("Select the scale to edit"));
+    auto* line = new QHBoxLayout(frame);
+    line->addWidget(MakeLabel(traits.label, QString::fromUtf8(traits.labelText)));
+    auto* paper = new QFrame;
+    paper->setObjectName(frame->objectName() + QStringLiteral("Paper"));
+    paper->setAutoFillBackground(true);
+    paper->setPalette(PaperPalette());
+    auto* options = new QGridLayout(paper);
+    options->setContentsMargins(6, 3, 6, 3);
+    const int perLine = traits.options > kMostPerLine ? (traits.options + 1) / 2 : traits.options;
+    for (int number = 1; number <= traits.options; ++number) {
+        const QString shown = QString::number(number);
+        auto* option = new OptionButton(OptionName(number).c_str(), shown);
+        if (number <= traits.tips) {
+            option->setToolTip(QStringLiteral("Edit scale #") + shown);
+        }
+        option->setAccessibleName(QString::fromUtf8(traits.spoken) + shown);
+        option->OnSelect([selected, number] { selected(number); });
+        options->addWidget(option, (number - 1) / perLine, (number - 1) % perLine);
+    }
+    line->addWidget(paper, 1);
+    return frame;
+}
+
+} // namespace vernacle

@@ -1,0 +1,31 @@
+#include "desktop/setups/frmSetupSmeter.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr const char* kOptions[] = {"S 0-9", "S 0-9, +40", "S 0-9, +50", "S 0-9, +60"};
+
+// Accepting unloads another page: this one stays behind, and comes back as it was left.
+constexpr CurveSetupTraits kTraits = {
+    .setup = {.form = "frmSetupSmeter",
+              .title = "Vernacle - S-meter setup",
+              .heading = "S-meter setup",
+              .acceptCaption = "Accept and return to Scale Design page",
+              .ignoreCaption = "Ignore; just return to Scale Design page",
+              .acceptUnloads = "frmSetupVSWR"},
+    .frame = "Scale type",
+    .options = kOptions};
+
+} // namespace
+
+frmSetupSmeter::frmSetupSmeter() : CurveSetupPage(kTraits) {
+    EnterSetup();
+}
+
+void frmSetupSmeter::ComputeTics(int option, float exponent) {
+    setup_.ScaleType = static_cast<std::int16_t>(option);
+    ComputeSmeterTics(Scale(), exponent, setup_);
+}
+
+} // namespace vernacle

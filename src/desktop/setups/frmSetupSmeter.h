@@ -1,0 +1,22 @@
+// The setup of a signal-strength meter's scale.
+#pragma once
+
+#include "desktop/setups/picturedsetup.h"
+#include "engine/setups/smeter.h"
+
+namespace vernacle {
+
+class frmSetupSmeter : public CurveSetupPage {
+    Q_OBJECT
+
+public:
+    frmSetupSmeter();
+
+protected:
+    void ComputeTics(int option, float exponent) override;
+
+private:
+    SmeterSetup setup_;
+};
+
+} // namespace vernacle

@@ -1,0 +1,43 @@
+#include "desktop/setups/frmSetupVSWR.h"
+
+#include <array>
+
+namespace vernacle {
+
+namespace {
+
+struct StepOption {
+    const char* caption;
+    float step;
+};
+
+constexpr std::array<StepOption, 3> kSteps = {{{"0.2", 0.2F}, {"0.5", 0.5F}, {"1.0", 1.0F}}};
+constexpr const char* kOptions[] = {kSteps[0].caption, kSteps[1].caption, kSteps[2].caption};
+
+constexpr CurveSetupTraits kTraits = {
+    .setup = {.form = "frmSetupVSWR",
+              .title = "Vernacle - VSWR setup",
+              .heading = "VSWR setup",
+              .acceptCaption = "Accept and return to Scale Design page",
+              .ignoreCaption = "Ignore; just return to Scale Design page"},
+    .frame = "Scale stepsize",
+    .options = kOptions};
+
+} // namespace
+
+frmSetupVSWR::frmSetupVSWR() : CurveSetupPage(kTraits) {
+    EnterSetup();
+}
+
+// What is accepted cannot be ignored any more, also while the next page is built.
+void frmSetupVSWR::AcceptSetup() {
+    Control("cmdIgnore").setEnabled(false);
+    CurveSetupPage::AcceptSetup();
+}
+
+void frmSetupVSWR::ComputeTics(int option, float exponent) {
+    setup_.StepSize = kSteps.at(static_cast<std::size_t>(option) - 1).step;
+    ComputeVSWRTics(Scale(), exponent, setup_);
+}
+
+} // namespace vernacle

@@ -1,0 +1,40 @@
+// The setups whose page shows its own picture: one option is chosen, the tics are computed at once
+// and drawn.
+#pragma once
+
+#include <span>
+
+#include "desktop/setups/setuppage.h"
+
+namespace vernacle {
+
+class SetupPicture;
+
+struct CurveSetupTraits {
+    SetupPageTraits setup;
+    const char* frame; // the title of the options' frame
+    std::span<const char* const> options;
+};
+
+class CurveSetupPage : public SetupPage {
+    Q_OBJECT
+
+protected:
+    // The traits must outlive the page.
+    explicit CurveSetupPage(const CurveSetupTraits& traits);
+
+    // Computes for the option of that number, from 1, with the exponent as it is typed.
+    virtual void ComputeTics(int option, float exponent) = 0;
+
+private:
+    void Build();
+    QWidget* MakeOptions();
+
+    void OptionClicked(int option);
+    void txtLinearityExponentChanged();
+
+    const CurveSetupTraits& traits_;
+    SetupPicture* picture_ = nullptr;
+};
+
+} // namespace vernacle

@@ -1,0 +1,12 @@
+// The engine's seam to this desktop.
+#pragma once
+
+#include "engine/base/hostservices.h"
+
+namespace vernacle {
+
+// Real files, the printer's port, message boxes, the beep, the sounds, and the primary screen.
+// Where the program's own files stand is decided once for each host.
+HostSeam DesktopHost();
+
+} // namespace vernacle

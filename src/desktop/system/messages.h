@@ -1,0 +1,19 @@
+// Message boxes with one button, and the beep.
+#pragma once
+
+#include <string>
+
+#include "engine/base/hostservices.h"
+
+namespace vernacle {
+
+// The reason stands apart, below the text.
+void ShowFailure(const FailureReport& report);
+void ShowInformation(const std::string& text);
+
+// The box of a failure that no routine traps: the program ends behind it.
+void ShowRunTimeError(const std::string& text);
+
+void Beep();
+
+} // namespace vernacle

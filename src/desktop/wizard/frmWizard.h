@@ -1,0 +1,43 @@
+// The wizard's first page: eighteen values, one after the other, each with a prompt and a picture
+// of what it means.
+#pragma once
+
+#include "desktop/kit/form.h"
+
+class QGridLayout;
+class QLabel;
+class QPushButton;
+
+namespace vernacle {
+
+class EntryBox;
+class PictureBox;
+
+class frmWizard : public Page {
+    Q_OBJECT
+
+public:
+    frmWizard();
+
+protected:
+    void CloseBoxClicked() override;
+
+private:
+    void Build();
+    void AddStep(QGridLayout& grid, int step);
+
+    void ShowPrompt(); // for Design.HelpTopic
+    void EnterClicked(int step);
+    void cmdAcceptClicked();
+    void cmdExitClicked();
+
+    void ShowStep(int step);
+    EntryBox& BoxOf(int step) const;
+    QPushButton& EnterOf(int step) const;
+
+    PictureBox* schematic_ = nullptr;
+    QLabel* Label1_ = nullptr; // the prompt
+    QLabel* Label2_ = nullptr; // what the last step tells
+};
+
+} // namespace vernacle

@@ -1,0 +1,307 @@
+#include "engine/core/design.h"
+
+#include <algorithm>
+#include <array>
+
+#include "engine/base/hostservices.h"
+#include "engine/base/numbertext.h"
+#include "engine/core/fieldplace.h"
+
+namespace vernacle {
+
+DesignRecord Design;
+
+namespace {
+
+using D = DesignRecord;
+using Value = std::variant<std::monostate, double, const char*>;
+
+constexpr std::monostate kNotSet{};
+
+// What a field starts as: at the process's start, and at each reset. The two disagree on purpose:
+// the start shows a plate that fits a common small meter, a reset one that reads easily.
+struct Default {
+    Place place;
+    Value opening;
+    Value reset;
+};
+
+constexpr Default kDefaults[] = {
+    {At<&D::ActualVirtualOffset>, 30.0, 30.0},
+    {At<&D::ArcWidth>, 1.0, 1.0},
+    {At<&D::AspectRatio>, 0.8, 0.75},
+    {At<&D::BottomToBearing>, 15.0, 10.0},
+    {At<&D::BottomToHoles>, 15.0, 15.0},
+    {At<&D::DrawArcs>, "Y", "Y"},
+    {At<&D::FontName>, "Arial", kNotSet},
+    {At<&D::LabelSpacing>, 5.0, 6.0},
+    {At<&D::MajorTicLength>, 3.0, 3.0},
+    {At<&D::MajorTicWidth>, 3.0, 4.0},
+    {At<&D::MessageLevel>, 0.0, 0.0},
+    {At<&D::MinorTicLength>, 2.0, 2.0},
+    {At<&D::MinorTicWidth>, 1.0, 2.0},
+    {At<&D::HoleSeparation>, 40.0, 50.0},
+    {At<&D::NumberOfScales>, 1.0, 1.0},
+    {At<&D::NumberOfTexts>, 0.0, 0.0},
+    {At<&D::PlateWidth>, 75.0, 75.0},
+    {At<&D::PlateHeight>, 50.0, 50.0},
+    {At<&D::PlateBackground>, double{kWhite}, double{kWhite}},
+    {At<&D::PointerDeflection>, 90.0, 99.0},
+    {At<&D::PrintText>, "Y", "Y"},
+    {At<&D::LabelRotation>, "H", "H"},
+    {At<&D::FontSize>, 6.0, 8.0},
+    {At<&D::PlateStyle>, kNotSet, 0.0},
+    {At<&D::DrawGraphic>, kNotSet, "N"},
+    {At<&D::NumberOfHighlights>, kNotSet, 0.0},
+    {At<&D::GraphicWidth>, kNotSet, 1.0},
+    {At<&D::GraphicHeight>, kNotSet, 1.0},
+    {At<&D::BottomToGraphic>, kNotSet, 1.0},
+    {At<&D::LeftToGraphic>, kNotSet, 10.0},
+    {At<&D::NumberOfCorrectionPoints>, kNotSet, double{kCurvePoints}},
+};
+
+// Per scale or per text.
+constexpr Default kScaleDefaults[] = {
+    {At<&D::ScaleColor>, 1.0, 0.0},
+    {At<&D::RelativeFontSize>, 1.0, 1.0},
+    {At<&D::LinearityExponent>, kNotSet, 1.0},
+    {At<&D::FullscaleMultiplier>, kNotSet, 1.0},
+    {At<&D::LabelsEveryHowMany>, kNotSet, 10.0},
+    {At<&D::MajorEveryHowMany>, kNotSet, 5.0},
+    {At<&D::NrOfTicmarks>, kNotSet, 50.0},
+    {At<&D::ScaleLeftEnd>, kNotSet, 0.0},
+    {At<&D::ScaleLengthUnits>, kNotSet, 50.0},
+    {At<&D::SpecialNrOfTicmarks>, kNotSet, 0.0},
+    {At<&D::UnlabelledBottomTic>, kNotSet, "Y"},
+    {At<&D::BottomToTitle>, 30.0, kNotSet},
+    {At<&D::BottomToScaleCeiling>, 35.0, kNotSet},
+};
+
+constexpr Default kTextDefaults[] = {
+    {At<&D::LeftToText>, 10.0, 0.0},      //
+    {At<&D::BottomToText>, 10.0, 0.0},    //
+    {At<&D::TextRelativeSize>, 1.0, 1.0}, //
+    {At<&D::TextColor>, 0.0, 0.0},        //
+    {At<&D::TextString>, "", ""},         //
+};
+
+constexpr Default kHighlightDefaults[] = {
+    {At<&D::HighlightColor>, kNotSet, 1.0},    //
+    {At<&D::HighlightCeiling>, kNotSet, 10.0}, //
+    {At<&D::HighlightLength>, kNotSet, 0.0},   //
+    {At<&D::HighlightStart>, kNotSet, 0.0},    //
+    {At<&D::HighlightStop>, kNotSet, 0.0},     //
+};
+
+void Put(const Value& value, const Slot& slot) {
+    if (const auto* text = std::get_if<const char*>(&value)) {
+        *std::get<std::string*>(slot) = *text;
+    } else if (const auto* number = std::get_if<double>(&value)) {
+        StoreInSlot(*number, slot);
+    }
+}
+
+template <std::size_t Count>
+void PutAll(const Default (&rows)[Count], Value Default::*column, int index = 0) {
+    for (const Default& row : rows) {
+        Put(row.*column, row.place(index, 0));
+    }
+}
+
+void ResetTic(int scale, int tic) {
+    Design.StandardDeflection[scale][tic] = 0;
+    Design.TicDeflection[scale][tic] = 0;
+    Design.StandardLabel[scale][tic].clear();
+    Design.TicLabelText[scale][tic].clear();
+    Design.StandardLabelYN[scale][tic] = "Y";
+    Design.TicLabelYN[scale][tic] = "Y";
+    Design.StandardTicYN[scale][tic] = "Y";
+    Design.TicPrintYN[scale][tic] = "Y";
+    Design.TicMajorYN[scale][tic] = "N";
+}
+
+void ResetScale(int scale) {
+    const auto number = static_cast<float>(scale);
+    PutAll(kScaleDefaults, &Default::reset, scale);
+    Design.BottomToScaleCeiling[scale] = 5 * number + 30;
+    Design.BottomToTitle[scale] = 5 * number + 25;
+    Design.PrintTicsAndArcs[scale] = std::int16_t{0};
+    Design.ScaleTitle[scale] = "Default Scale " + std::to_string(scale);
+    for (int tic = 0; tic <= kLastTic; ++tic) {
+        ResetTic(scale, tic);
+    }
+}
+
+void ResetDeletedLists() {
+    for (int scale = 1; scale <= kFiledLists; ++scale) {
+        for (int entry = 1; entry <= kLastTic; ++entry) {
+            Design.DeletedTics[scale][entry] = 0;
+            Design.DeletedLabels[scale][entry] = 0;
+        }
+    }
+}
+
+// The limits of NormalizeDesign that are a plain "below this it becomes that". Comparisons written
+// as NotAbove include equality.
+enum class Repair { Below, NotAbove, Above, From };
+
+struct Limit {
+    Place place;
+    Repair when;
+    double bound;
+    double becomes;
+};
+
+bool Offends(const Limit& limit, double value) {
+    switch (limit.when) {
+    case Repair::Below:
+        return value < limit.bound;
+    case Repair::NotAbove:
+        return value <= limit.bound;
+    case Repair::Above:
+        return value > limit.bound;
+    case Repair::From:
+        return value >= limit.bound;
+    }
+    return false;
+}
+
+template <std::size_t Count>
+void HoldTo(const Limit (&limits)[Count], int index = 0) {
+    for (const Limit& limit : limits) {
+        const Slot slot = limit.place(index, 0);
+        if (Offends(limit, NumberInSlot(slot))) {
+            StoreInSlot(limit.becomes, slot);
+        }
+    }
+}
+
+constexpr Limit kPlateLimits[] = {
+    {At<&D::ActualVirtualOffset>, Repair::From, 100000, 100000},
+    {At<&D::ArcWidth>, Repair::Below, 0.5, 0.5},
+    {At<&D::BottomToBearing>, Repair::Below, -100000, -100000},
+    {At<&D::BottomToBearing>, Repair::Above, 100000, 100000},
+    {At<&D::PlateHeight>, Repair::NotAbove, 0, 50},
+    {At<&D::LabelSpacing>, Repair::Below, -200, -200},
+    {At<&D::MajorTicLength>, Repair::Below, 0.5, 0.5},
+    {At<&D::MajorTicWidth>, Repair::NotAbove, 0, 1},
+    {At<&D::MinorTicLength>, Repair::Below, 0.5, 0.5},
+    {At<&D::MinorTicWidth>, Repair::NotAbove, 0, 1},
+    {At<&D::HoleSeparation>, Repair::NotAbove, 0, 40},
+    {At<&D::HoleSeparation>, Repair::Above, 180, 180},
+    {At<&D::PlateWidth>, Repair::NotAbove, 0, 50},
+    {At<&D::PlateWidth>, Repair::Above, 180, 180},
+    {At<&D::PointerDeflection>, Repair::NotAbove, 0, 90},
+    {At<&D::FontSize>, Repair::NotAbove, 0, 8},
+    {At<&D::GraphicWidth>, Repair::Below, 2, 2},
+    {At<&D::GraphicWidth>, Repair::Above, 180, 180},
+    {At<&D::GraphicHeight>, Repair::Below, 2, 2},
+    {At<&D::GraphicHeight>, Repair::Above, 180, 180},
+    {At<&D::LeftToGraphic>, Repair::Below, 0, 0},
+};
+
+constexpr Limit kScaleLimits[] = {
+    {At<&D::BottomToScaleCeiling>, Repair::NotAbove, -200, -200},
+    {At<&D::BottomToTitle>, Repair::NotAbove, -200, -200},
+    {At<&D::MajorEveryHowMany>, Repair::Below, 1, 5},
+    {At<&D::LabelsEveryHowMany>, Repair::Below, 1, 10},
+    {At<&D::NrOfTicmarks>, Repair::Below, 1, 50},
+    {At<&D::NrOfTicmarks>, Repair::Above, kLastTic, kLastTic},
+};
+
+void FillIfEmpty(std::string& text, const char* filling) {
+    if (text.empty()) {
+        text = filling;
+    }
+}
+
+void NormalizeScale(int scale) {
+    HoldTo(kScaleLimits, scale);
+    Design.LinearityExponent[scale] = 1;
+    Design.ScaleColor[scale] = 0;
+    if (Design.ScaleLengthUnits[scale] == 0) {
+        Design.ScaleLengthUnits[scale] = 100;
+    }
+    FillIfEmpty(Design.ScaleTitle[scale], ("Default " + std::to_string(scale)).c_str());
+}
+
+} // namespace
+
+double NumberOf(const DynamicValue& value) {
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        return NumericValue(*text);
+    }
+    return std::get<std::int16_t>(value);
+}
+
+int CurrentTic() {
+    return static_cast<int>(Design.TicLoop);
+}
+
+void SetOpeningValues() {
+    PutAll(kDefaults, &Default::opening);
+    for (int scale = 1; scale <= kScales; ++scale) {
+        PutAll(kScaleDefaults, &Default::opening, scale);
+    }
+    for (int text = 1; text <= kOpeningTexts; ++text) {
+        PutAll(kTextDefaults, &Default::opening, text);
+    }
+}
+
+void SetLinearPairs() {
+    constexpr std::array<float, kCurvePoints> kPoints = {0, 0.15F, 0.3F, 0.5F, 0.7F, 0.85F, 1};
+    for (int point = 1; point <= kCurvePoints; ++point) {
+        const float coordinate = kPoints[static_cast<std::size_t>(point - 1)];
+        Design.CorrectionPair[2 * point - 1] = coordinate;
+        Design.CorrectionPair[2 * point] = coordinate;
+    }
+}
+
+void SetLinearCurve() {
+    SetLinearPairs();
+    for (int segment = 1; segment < kCurvePoints; ++segment) {
+        Design.CorrectionSlope[segment] = 1;
+    }
+}
+
+void ResetDesign() {
+    PutAll(kDefaults, &Default::reset);
+    for (int scale = 1; scale <= kFiledLists; ++scale) {
+        Design.DeletedTicCount[scale] = 0;
+        Design.DeletedLabelCount[scale] = 0;
+    }
+    for (int scale = 1; scale <= kScales; ++scale) {
+        ResetScale(scale);
+    }
+    for (int text = 1; text <= kTexts; ++text) {
+        PutAll(kTextDefaults, &Default::reset, text);
+    }
+    for (int highlight = 1; highlight <= kHighlights; ++highlight) {
+        PutAll(kHighlightDefaults, &Default::reset, highlight);
+    }
+    ResetDeletedLists();
+    SetLinearCurve();
+}
+
+int NormalizeDesign() {
+    HoldTo(kPlateLimits);
+    FillIfEmpty(Design.DrawArcs, "Y");
+    FillIfEmpty(Design.PrintText, "Y");
+    FillIfEmpty(Design.LabelRotation, "H");
+    Design.FontName = "Arial";
+    Design.NumberOfScales = 1;
+    Design.CurrentScale = 1;
+    Design.BottomToGraphic = std::max(Design.BottomToGraphic, Design.GraphicHeight);
+    NormalizeScale(1);
+    return 0;
+}
+
+void SetVersionAndScreenScale() {
+    Design.VersionText = "Version 3.04";
+    Design.ProgramName = "Vernacle";
+    const ScreenSize screen = Host.screenSize();
+    Design.ScreenScaleX = screen.widthTwips / 12000;
+    Design.ScreenScaleY = screen.heightTwips / 9000;
+}
+
+} // namespace vernacle

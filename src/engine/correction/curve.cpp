@@ -1,0 +1,145 @@
+#include "engine/correction/curve.h"
+
+#include <string_view>
+
+#include "engine/base/hostservices.h"
+#include "engine/base/linereader.h"
+#include "engine/base/numbertext.h"
+#include "engine/base/text.h"
+#include "engine/core/design.h"
+#include "engine/core/entry.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr std::string_view kSignature = "Meter"; // all that a reader compares of the first line
+constexpr std::size_t kHeadingColumn = 16;
+constexpr std::size_t kPointColumn = 15;
+
+float& X(int point) {
+    return Design.CorrectionPair[2 * point - 1];
+}
+
+float& Y(int point) {
+    return Design.CorrectionPair[2 * point];
+}
+
+// first, blanks, and second beginning in that column (counted from 1).
+std::string TwoColumns(std::string first, std::size_t column, std::string_view second) {
+    first.resize(column - 1, ' ');
+    return first.append(second);
+}
+
+std::string CurveText() {
+    std::string text = "Meter movement-correction datafile";
+    text.append(kLineEnd).append(Host.localDateTime()).append(kLineEnd).append(kLineEnd);
+    text += PlainNumber(std::int32_t{Design.NumberOfCorrectionPoints});
+    text.append(kLineEnd).append(TwoColumns(" X:", kHeadingColumn, "Y:")).append(kLineEnd);
+    for (int point = 1; point <= kCurvePoints; ++point) {
+        text += TwoColumns(PlainNumber(X(point)), kPointColumn, PlainNumber(Y(point)));
+        text += kLineEnd;
+    }
+    return text;
+}
+
+// The next line that is neither empty nor a comment, without its leading blanks. The end of the
+// file is a failure.
+std::string ReadCorrectionLine(LineReader& lines) {
+    while (true) {
+        const std::string_view line = LeftTrimmed(lines.Next());
+        if (!line.empty() && std::string_view("!*'/\\").find(line[0]) == std::string_view::npos) {
+            return std::string(line);
+        }
+    }
+}
+
+// Moves the first run of characters without a blank from the line to token.
+void NextCurveToken(std::string& line, std::string& token) {
+    const std::string_view rest = LeftTrimmed(line);
+    token = rest.substr(0, rest.find(' '));
+    line = LeftTrimmed(rest.substr(token.size()));
+}
+
+template <typename T>
+void ReadToken(std::string& line, T& target) {
+    std::string token;
+    NextCurveToken(line, token);
+    ParseEntry(token, target);
+}
+
+void ReadCurve(const std::string& name) {
+    LineReader lines(Host.readFile(name));
+    if (!ReadCorrectionLine(lines).starts_with(kSignature)) {
+        throw FileFailure(name + ": not a correction file");
+    }
+    ReadCorrectionLine(lines); // the date
+    std::string line = ReadCorrectionLine(lines);
+    ReadToken(line, Design.NumberOfCorrectionPoints);
+    ReadCorrectionLine(lines); // the column headings
+    const int count = Design.NumberOfCorrectionPoints;
+    for (int point = 1; point <= count; ++point) {
+        line = ReadCorrectionLine(lines);
+        ReadToken(line, X(point));
+        ReadToken(line, Y(point));
+    }
+}
+
+// A row of the curve: up to point n the curve is the line through point n - 1.
+float OnSegment(double f, int segment) {
+    const double slope = double{Design.CorrectionSlope[segment]};
+    if (segment == 1) { // starts at the origin, whatever the first pair says
+        return static_cast<float>(f * slope);
+    }
+    return static_cast<float>((f - double{X(segment)}) * slope + double{Y(segment)});
+}
+
+} // namespace
+
+void ComputeCorrectionSlopes() {
+    for (int segment = 1; segment < kCurvePoints; ++segment) {
+        const double rise = double{Y(segment + 1)} - double{Y(segment)};
+        const double run = double{X(segment + 1)} - double{X(segment)};
+        StoreNumber(CheckedDivide(rise, run), Design.CorrectionSlope[segment]);
+    }
+}
+
+float CorrectDeflection(float& f) {
+    if (f < 0) {
+        f = 0;
+        return 0;
+    }
+    for (int segment = 1; segment < kCurvePoints; ++segment) {
+        if (f < X(segment + 1)) {
+            return OnSegment(double{f}, segment);
+        }
+    }
+    if (f >= 1) {
+        f = 1;
+    }
+    return 1;
+}
+
+void WriteCorrectionFile(const std::string& name) {
+    if (name.empty()) {
+        return;
+    }
+    try {
+        const auto sink = Host.openForOutput(name);
+        Design.NumberOfCorrectionPoints = kCurvePoints;
+        sink->Write(CurveText());
+        sink->Close();
+    } catch (const RunTimeError&) {
+        ReportFailure("We had a problem writing the curve data");
+    }
+}
+
+void ReadCorrectionFile(const std::string& name) {
+    try {
+        ReadCurve(name);
+    } catch (const RunTimeError&) {
+        ReportFailure("We did not read the linearity-correction file");
+    }
+}
+
+} // namespace vernacle

@@ -1,0 +1,47 @@
+// The lines of a design file in their order: the one table that its writer and its reader walk.
+#pragma once
+
+#include <string_view>
+
+#include "engine/core/design.h"
+#include "engine/designfile/linevalues.h"
+
+namespace vernacle {
+
+// One line of the file, or, without a label and a way to read, one step between lines.
+struct FileLine {
+    const char* label = nullptr; // "%" stands for the number of the scale, the text or the point
+    WriteValue write = nullptr;
+    Place place = Nowhere;
+    ReadValue read = nullptr;         // none: the reader takes no line
+    int stage = 0;                    // what the reader's failure message quotes
+    void (*afterReading)() = nullptr; // what is forced, whatever the line said
+    void (*beforeWriting)() = nullptr;
+    void (*afterWriting)() = nullptr;
+};
+
+// Whether a row stands before the blocks of the scales.
+bool IsOfHead(const FileLine& line);
+
+// Whether a line of a file begins with the label of some line of the head; one without an end may
+// have lost a part of it.
+bool LooksLikeHead(std::string_view item, bool isEnded);
+
+// Goes through the lines of a design file in their order. The loops over its blocks run by the
+// counts that Design holds when each is reached, so that a reader may fill them on the way.
+class FileWalker {
+public:
+    virtual ~FileWalker() = default;
+    void Walk();
+
+private:
+    virtual void Visit(const FileLine& line, LinePlace place) = 0;
+
+    template <std::size_t Count>
+    void VisitAll(const FileLine (&lines)[Count], LinePlace place = {});
+    void WalkScale(int scale);
+    void WalkDeletions();
+    void WalkPerScale(const FileLine& heading, const FileLine& line);
+};
+
+} // namespace vernacle

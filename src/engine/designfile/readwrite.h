@@ -1,0 +1,39 @@
+// The design file (.VRN): a text of lines known by their places, written and read by one table.
+#pragma once
+
+#include <string>
+
+#include "engine/base/readreports.h"
+
+namespace vernacle {
+
+// Writes the design to DesignFileName, replacing the file; false if that failed. A failure is
+// reported; the file stays as far as it got, and that of the printer's calibration is not touched.
+// Writing changes the design a little: empty labels of special tics become "/", a graphic that is
+// not drawn loses its file name, the highlights and deletions are counted anew.
+bool WriteDesign();
+
+// WriteDesign, unless the name is empty.
+void SaveDesign(const std::string& name);
+
+// Writes the design to "Backup.DAT" and leaves it without a name.
+void BackupDesign();
+
+// Reads it back, with what the reader forces on every design.
+void RestoreBackup();
+
+// Writes the design to "LASTSESSION.VRN" beside the program and leaves that name; false if that
+// failed, which is reported.
+bool SaveLastSession();
+
+// The same without a word, and with the design left as it is.
+bool KeepLastSession();
+
+// The name of the file of the last session that was kept, wherever that was.
+std::string LastSessionName();
+
+// Reads a design file over the defaults; an empty name does nothing at all. A file that ends early
+// is no failure. A failure is reported with its stage and leaves the defaults.
+void ReadDesign(const std::string& name, const ReadReports& reports = {});
+
+} // namespace vernacle

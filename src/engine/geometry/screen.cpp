@@ -1,0 +1,28 @@
+#include "engine/geometry/screen.h"
+
+#include <algorithm>
+
+#include "engine/core/design.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+constexpr double kUnitsAcross = 12000;
+constexpr auto kWidestScale = static_cast<float>(kWidestScreen * kTwipsPerPixel / kUnitsAcross);
+
+} // namespace
+
+double ScreenMagnification(double widthPixels) {
+    return std::max(widthPixels / kWidestScreen, 1.);
+}
+
+ScreenFactors DrawnScreen() {
+    const double x = double{Design.ScreenScaleX};
+    const double y = double{Design.ScreenScaleY};
+    const double magnification = std::max(x / double{kWidestScale}, 1.);
+    return {x / magnification, y / magnification};
+}
+
+} // namespace vernacle

@@ -1,0 +1,15 @@
+// The printer's page: a logical area whose unit is nearly a twip, the same on every paper.
+#pragma once
+
+#include "engine/geometry/geometry.h"
+
+namespace vernacle {
+
+constexpr double kPageWidth = 11500; // units
+constexpr double kPageHeight = 15200;
+constexpr SurfacePoint kPageCentre = {6000, 4000}; // where the middle of a plate stands
+
+// On a printer whose calibration factors are 1.
+constexpr double kPageUnitsPerHalfMm = 28.289;
+
+} // namespace vernacle

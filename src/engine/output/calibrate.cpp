@@ -1,0 +1,129 @@
+#include "engine/output/calibrate.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/base/hostservices.h"
+#include "engine/base/linereader.h"
+#include "engine/base/numbertext.h"
+#include "engine/base/text.h"
+#include "engine/core/design.h"
+#include "engine/designfile/linedoubts.h"
+#include "engine/geometry/primitives.h"
+#include "engine/geometry/sheet.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr const char* kCalibrationFile = "Calibrate.txt";
+constexpr const char* kHeader = "\"Vernacle calibration file\"";
+constexpr float kSmallestFactor = 0.5F;
+constexpr float kLargestFactor = 2;
+constexpr double kSquareMm = 100;
+
+void RaiseFactor(float& factor) {
+    if (factor == 0) {
+        factor = 1;
+    }
+}
+
+std::string CalibrationText() {
+    return std::string(kHeader) + "\r\n\r\n#" + Host.isoDateTime() + "#\r\n\r\n" +
+           PlainNumber(Design.CalibrationX) + "\r\n" + PlainNumber(Design.CalibrationY) +
+           "\r\n\r\n";
+}
+
+void PrintSquare(PrinterSurface& printer) {
+    const double halfX = kSquareMm * double{Design.CalibrationX} * kPageUnitsPerHalfMm;
+    const double halfY = kSquareMm * double{Design.CalibrationY} * kPageUnitsPerHalfMm;
+    printer.KeepOnSheet(F(kPageCentre.y - halfY), F(kPageCentre.y + halfY));
+    printer.StartPage();
+    printer.SetLineWidth(1);
+    printer.Box(F(kPageCentre.x - halfX), F(kPageCentre.y - halfY), F(kPageCentre.x + halfX),
+                F(kPageCentre.y + halfY), kBlackInk);
+    printer.EndDoc();
+}
+
+} // namespace
+
+void ReadCalibration(const std::string& name, const LineReport& doubt) {
+    LineReader lines(Host.readFile(name));
+    const auto doubtUnless = [&](bool isRight, const char* reason) {
+        if (!isRight && doubt) {
+            doubt(lines.LineNumber(), reason);
+        }
+    };
+    try {
+        doubtUnless(Trimmed(lines.NextValue()) == kHeader, "does not begin as a calibration");
+        lines.NextValue(); // the date
+        for (float* factor : {&Design.CalibrationX, &Design.CalibrationY}) {
+            const std::string_view value = lines.NextValue();
+            doubtUnless(HasDigit(value), "no number");
+            StoreNumber(NumericValue(value), *factor);
+        }
+    } catch (const FileFailure&) {
+        throw FileFailure(name + ": ends before its two factors");
+    }
+}
+
+void ReadCalibrate() {
+    for (const std::string& file : Host.calibrationsToRead()) {
+        try {
+            ReadCalibration(file);
+            return;
+        } catch (const RunTimeError&) {
+            // The next one. Printing raises a factor that was never read, which shows on paper.
+        }
+    }
+}
+
+void WriteCalibrate() {
+    Design.DesignFileName = kCalibrationFile;
+    try {
+        const auto sink = Host.openForOutput(Host.calibrationToWrite());
+        sink->Write(CalibrationText());
+        sink->Close();
+    } catch (const RunTimeError&) {
+        // The factors still hold for this session.
+    }
+}
+
+bool PrintTestSquare(PrinterSurface& printer) {
+    RaiseFactor(Design.CalibrationX);
+    RaiseFactor(Design.CalibrationY);
+    try {
+        PrintSquare(printer);
+        return true;
+    } catch (const RunTimeError& failure) {
+        if (Design.MessageLevel > 0) {
+            Host.playSound("warningprinter.wav");
+        }
+        ReportFailure({"We had a problem driving the printer.", failure.what()});
+        return false;
+    }
+}
+
+void Recalibrate(float& factor, double measuredMm) {
+    RaiseFactor(factor);
+    if (measuredMm > 0) {
+        const double corrected = double{factor} * kSquareMm / measuredMm;
+        factor = std::clamp(F(corrected), kSmallestFactor, kLargestFactor);
+    }
+}
+
+EntryLimits MeasureLimits(float factor) {
+    RaiseFactor(factor);
+    const auto tenths = [factor](float corrected) {
+        return std::round(double{factor} * kSquareMm / double{corrected} * 10) / 10;
+    };
+    return {tenths(kLargestFactor), tenths(kSmallestFactor)};
+}
+
+void HoldCalibration() {
+    for (float* factor : {&Design.CalibrationX, &Design.CalibrationY}) {
+        *factor = std::clamp(*factor, kSmallestFactor, kLargestFactor);
+    }
+}
+
+} // namespace vernacle

@@ -1,0 +1,25 @@
+// The plate on paper, true to size: the same geometry and tics as on the screen in the printer's
+// own frame, with labels and titles placed for print, a ruler in millimetres and a footer.
+#pragma once
+
+#include "engine/render/drawing.h"
+
+namespace vernacle {
+
+class PrinterSurface;
+
+// Prints the design by the calibration factors, which are first held to 0.5 .. 2. Returns whether
+// the document was sent; a failure ends the document and is reported without a sound.
+// Design.FontSize and Design.LabelSpacing are put back either way.
+bool PrintDesign(PrinterSurface& printer);
+
+// The printed plate's frame: one factor for each axis, no aspect.
+PlateFrame PrintFrame();
+
+// The traits by which a plate is printed, for whoever must know which tics and labels that shows.
+DrawingTraits PrintTraits();
+
+// The text that the print writes for a label: a lone "/" stands for none and becomes a blank.
+std::string PrintedLabel(const TicLabel& label);
+
+} // namespace vernacle

@@ -1,0 +1,232 @@
+#include <array>
+#include <cmath>
+
+#include "engine/base/text.h"
+#include "engine/core/design.h"
+#include "engine/geometry/primitives.h"
+#include "engine/render/stages.h"
+#include "engine/scale/scale.h"
+
+namespace vernacle {
+
+namespace {
+
+// Sizes per point of font size, in half millimetres of the plate: of the made fonts, and of the
+// ordinary font that measures for them.
+constexpr double kLabelHeight = 0.0513;
+constexpr double kTitleHeight = 0.05;
+constexpr double kCharacterWidth = 0.0198;
+constexpr double kOrdinarySize = 0.0285;
+
+constexpr double kTwipsPerPixel = 15;
+
+// The height of a made font per point; the sampled fitting asks for that of the characters.
+double HeightPerPoint(const DrawingRun& run, double usual) {
+    const bool sampled = run.traits.labelFitting == LabelFitting::Sampled;
+    return sampled ? -kTitleHeight * run.frame.aspect : usual;
+}
+
+struct MadeFont {
+    double heightPerPoint;
+    double points;
+    int escapement;
+};
+
+// Writes with a font made for it; its top left corner is at (x, y).
+void WriteText(DrawingRun& run, SurfacePoint at, const std::string& text, const MadeFont& font) {
+    const double height = run.frame.upPerHalfMm * font.heightPerPoint * font.points * run.screen.y;
+    const double width = run.frame.AcrossPerHalfMm() * kCharacterWidth * font.points * run.screen.x;
+    run.surface.BeginFont(RoundToInt(height), RoundToInt(width), font.escapement,
+                          run.state.LabelFontFace);
+    run.surface.SetCurrentX(F(at.x));
+    run.surface.SetCurrentY(F(at.y));
+    run.surface.PrintText(text);
+    run.surface.EndFont();
+}
+
+// Half the size of a label, in units per unit of its measure: how far its corner stands from its
+// middle.
+struct LabelMeasure {
+    double across;
+    double down;
+    double textWidth;
+    double textHeight;
+};
+
+LabelMeasure MeasureLabel(const DrawingRun& run, const TicLabel& label, double points) {
+    const double width = double{run.surface.TextWidth(label.text)};
+    const double height = double{run.surface.TextHeight(label.text)};
+    return {run.frame.AcrossPerHalfMm() * 0.0011 * run.screen.x * points,
+            run.frame.upPerHalfMm * 0.001 * run.screen.y * points, width, height};
+}
+
+SurfacePoint Upright(SurfacePoint anchor, const LabelMeasure& m) {
+    return {anchor.x - m.across * m.textWidth, anchor.y - m.down * m.textHeight};
+}
+
+SurfacePoint AlongRadius(SurfacePoint anchor, const LabelMeasure& m, double t) {
+    return {anchor.x - m.across * (m.textWidth * std::sin(t) + m.textHeight * std::cos(t)),
+            anchor.y + m.down * (m.textWidth * std::cos(t) - m.textHeight * std::sin(t))};
+}
+
+// The label's corner, so that the middle of its text comes to stand at the anchor.
+SurfacePoint MeasuredCorner(const DrawingRun& run, const TicLabel& label, SurfacePoint anchor,
+                            double t) {
+    const double fontSize = double{run.sizes.fontSize};
+    const double points = fontSize * double{Design.RelativeFontSize[label.scale]};
+    if (Design.LabelRotation == "H") {
+        return Upright(anchor, MeasureLabel(run, label, points));
+    }
+    if (Design.LabelRotation == "B") {
+        // A special scale's turned labels take the plate's size alone.
+        const double turned = label.special ? fontSize : points;
+        return AlongRadius(anchor, MeasureLabel(run, label, turned), t);
+    }
+    return anchor;
+}
+
+// The wizard's page: fitted to a sample text of 303 by 149 units at 16 points.
+SurfacePoint SampledCorner(const DrawingRun& run, int scale, SurfacePoint anchor, double t) {
+    const double points = double{run.sizes.fontSize} * double{Design.RelativeFontSize[scale]} / 16;
+    const double across = run.frame.AcrossPerHalfMm() * run.screen.y * points;
+    const double up = run.frame.upPerHalfMm * run.screen.y * points;
+    if (Design.LabelRotation == "H") {
+        return Upright(anchor, {across * 0.014, up * 0.011, 303, 149});
+    }
+    if (Design.LabelRotation == "B") {
+        const double width = double{run.surface.TextWidth("jjj")};
+        const double height = double{run.surface.TextHeight("jjjj")};
+        return AlongRadius(anchor, {across * kOrdinarySize, across * kOrdinarySize, width, height},
+                           t);
+    }
+    return anchor;
+}
+
+void DrawLabel(DrawingRun& run, const TicLabel& label) {
+    const ArcPlace place =
+        PlaceTic(run.frame, run.traits.correction, label.scale, label.deflection);
+    const double relative = double{Design.RelativeFontSize[label.scale]};
+    const double t = place.pointerAngleRad;
+    const SurfacePoint anchor =
+        AlongPointer(run.frame, place.point, t, double{run.sizes.labelSpacing} * relative,
+                     DirectionOf(label.scale));
+    const bool sampled = run.traits.labelFitting == LabelFitting::Sampled;
+    const SurfacePoint corner = sampled ? SampledCorner(run, label.scale, anchor, t)
+                                        : MeasuredCorner(run, label, anchor, t);
+    WriteText(run, corner, label.text,
+              {.heightPerPoint = HeightPerPoint(run, kLabelHeight),
+               .points = double{run.sizes.fontSize} * relative,
+               .escapement = LabelEscapement(run.frame, place)});
+}
+
+void DrawLabels(DrawingRun& run, int scale) {
+    const double points = double{Design.RelativeFontSize[scale]} * double{run.sizes.fontSize};
+    run.surface.SetFontSize(run.frame.upPerHalfMm * kOrdinarySize * points * run.screen.y);
+    RelativeSizeOf(scale);
+    if (run.traits.labelFlags == LabelFlags::SetBack) {
+        Design.ScaleColor[scale] = 0;
+    }
+    run.surface.SetForeColor(InkOf(scale));
+    const auto draw = [&run](const TicLabel& label) { DrawLabel(run, label); };
+    if (ShowsSpecial(run, scale)) {
+        run.state.WhereMarker = kMarkSpecialLabels;
+        WalkSpecialLabels(scale, run.traits.labelFlags, draw);
+    } else {
+        run.state.WhereMarker = kMarkStandardLabels;
+        WalkStandardLabels(scale, run.traits.labelFlags, draw);
+    }
+}
+
+// Half plate widths from the centre line to the titles of a quadrant plate's scales.
+constexpr std::array<double, 5> kQuadrantTitles = {0, 0.8, 0.4, 0.4, 0.2};
+
+double TitleX(const DrawingRun& run, int scale) {
+    const double width = double{run.surface.TextWidth(Design.ScaleTitle[scale])};
+    return QuadrantTitleX(run.frame, scale)
+        .value_or(run.frame.centreX - run.frame.aspect * 0.59 * width);
+}
+
+void DrawTitle(DrawingRun& run, int scale) {
+    run.surface.SetForeColor(InkOf(scale));
+    const double y =
+        (run.frame.heightMm - 2 * double{Design.BottomToTitle[scale]}) * run.frame.upPerHalfMm +
+        run.frame.centreY;
+    WriteText(run, {TitleX(run, scale), y}, Design.ScaleTitle[scale],
+              {.heightPerPoint = HeightPerPoint(run, kTitleHeight),
+               .points = double{run.sizes.fontSize} * double{Design.RelativeFontSize[scale]},
+               .escapement = 0});
+}
+
+} // namespace
+
+std::string FontFace(const std::string& name) {
+    return std::string(Trimmed(name)) + '\0';
+}
+
+int LabelEscapement(const PlateFrame& frame, const ArcPlace& place) {
+    const double tenthsPerRadian = 10 * frame.degreesPerRadian;
+    if (Design.LabelRotation == "B") {
+        return RoundToInt((kRightAngle - place.pointerAngleRad) * tenthsPerRadian);
+    }
+    if (Design.LabelRotation == "V") {
+        return RoundToInt((kRightAngle - place.arcAngleRad) * tenthsPerRadian);
+    }
+    return 0;
+}
+
+std::optional<double> QuadrantTitleX(const PlateFrame& frame, int scale) {
+    const auto index = static_cast<std::size_t>(scale);
+    if (Design.PlateStyle != 1 || index >= kQuadrantTitles.size()) {
+        return std::nullopt;
+    }
+    return frame.centreX - kQuadrantTitles[index] * frame.AcrossPerHalfMm() * frame.widthMm;
+}
+
+void FontStage(DrawingRun& run) {
+    run.state.WhereMarker = kMarkFont;
+    const std::string name = run.traits.fontName ? run.traits.fontName : Design.FontName;
+    run.state.LabelFontFace = FontFace(name);
+    run.surface.SetFontName(name);
+}
+
+void LabelsStage(DrawingRun& run) {
+    if (Design.PrintText != "Y") {
+        return;
+    }
+    if (run.traits.tables == Tables::ByColour) {
+        ForEachScaleUpward([&run](int scale) { DrawLabels(run, scale); });
+    } else {
+        DrawLabels(run, Design.CurrentScale);
+    }
+}
+
+void TitlesStage(DrawingRun& run) {
+    if (Design.PrintText == "Y") {
+        run.state.WhereMarker = kMarkTitles;
+        ForEachScaleUpward([&run](int scale) { DrawTitle(run, scale); });
+    }
+}
+
+void FreeTextsStage(DrawingRun& run) {
+    const FreeTexts texts = run.sizes.texts ? *run.sizes.texts : CopyOfTexts();
+    for (int text = 1; text <= kTexts; ++text) {
+        if (texts.TextString[text].empty()) {
+            continue;
+        }
+        const double fromLeft = double{texts.LeftToText[text]};
+        const double fromBottom = double{texts.BottomToText[text]};
+        run.surface.SetForeColor(texts.TextColor[text]);
+        WriteText(run, PlatePoint(run.frame, fromLeft, fromBottom), texts.TextString[text],
+                  {.heightPerPoint = kLabelHeight,
+                   .points = double{run.sizes.fontSize} * double{texts.TextRelativeSize[text]},
+                   .escapement = 0});
+    }
+}
+
+// A pixel counts as so many units as it has twips on a screen of usual size.
+double FreeTextWidthMm(double averageCharacters, double points) {
+    const double halfMm = averageCharacters * kCharacterWidth * kTwipsPerPixel * points;
+    return halfMm / 2;
+}
+
+} // namespace vernacle

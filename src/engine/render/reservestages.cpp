@@ -1,0 +1,79 @@
+#include "engine/core/design.h"
+#include "engine/correction/curve.h"
+#include "engine/geometry/primitives.h"
+#include "engine/render/overlays.h"
+#include "engine/render/stages.h"
+
+namespace vernacle {
+
+namespace {
+
+constexpr double kHighlightStep = 0.0002; // of full deflection: closer than the lines are wide
+
+double CorrectedPercent(float percent) {
+    auto fraction = static_cast<float>(double{percent} * 0.01);
+    return double{CorrectDeflection(fraction)};
+}
+
+void DrawHighlight(DrawingRun& run, int highlight) {
+    const PlateFrame& frame = run.frame;
+    const double radius = ScaleRadius(frame, double{Design.HighlightCeiling[highlight]});
+    if (radius == 0) {
+        return;
+    }
+    const double length = double{Design.HighlightLength[highlight]};
+    const double stop = CorrectedPercent(Design.HighlightStop[highlight]);
+    const double start = CorrectedPercent(Design.HighlightStart[highlight]);
+    for (int step = 0; start + step * kHighlightStep <= stop; ++step) {
+        const double f = start + step * kHighlightStep;
+        const ArcPlace place = PlaceOnArc(frame, PointerAngle(frame, f), radius);
+        // Unlike a tic's, the end's y counts in units across too.
+        PlateFrame square = frame;
+        square.upPerHalfMm = frame.AcrossPerHalfMm();
+        const SurfacePoint end =
+            AlongPointer(square, place.point, place.pointerAngleRad, length, Direction::Outward);
+        DrawLine(run.surface, place.point, end, Design.HighlightColor[highlight]);
+    }
+}
+
+} // namespace
+
+void HighlightsStage(DrawingRun& run) {
+    run.surface.SetLineWidth(1);
+    for (int highlight = 1; highlight <= kHighlights; ++highlight) {
+        if (Design.HighlightStop[highlight] > 0) {
+            DrawHighlight(run, highlight);
+        }
+    }
+}
+
+void GraphicStage(DrawingRun& run) {
+    if (Design.DrawGraphic != "Y") {
+        return;
+    }
+    const PlateFrame& frame = run.frame;
+    const SurfacePoint corner =
+        PlatePoint(frame, double{Design.LeftToGraphic}, double{Design.BottomToGraphic});
+    const double width = 2 * frame.AcrossPerHalfMm() * double{Design.GraphicWidth};
+    const double height = 2 * frame.upPerHalfMm * double{Design.GraphicHeight};
+    try {
+        run.surface.PaintPicture(Design.GraphicFileName, F(corner.x), F(corner.y), F(width),
+                                 F(height));
+    } catch (const RunTimeError&) {
+        // A picture that does not load is left out.
+    }
+}
+
+void OverlaysStage(DrawingRun& run) {
+    if (run.state.GridShown == 1) {
+        DrawGrid(run.surface, run.frame);
+    }
+    if (run.state.PointerShown == 1) {
+        DrawPointer(run.surface, run.frame, run.state);
+    }
+    if (Design.PlateOutlineCircular == 1) {
+        DrawOutline(run.surface, run.frame, OutlineStart::Moved, kBlueInk);
+    }
+}
+
+} // namespace vernacle

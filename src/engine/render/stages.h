@@ -1,0 +1,106 @@
+// The stages of a drawing. Each draws on the run's surface in the run's frame; what differs between
+// users stands in the run's traits.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "engine/core/design.h"
+#include "engine/geometry/screen.h"
+#include "engine/render/drawing.h"
+
+namespace vernacle {
+
+struct DrawingRun {
+    DrawingSurface& surface;
+    const DrawingTraits& traits;
+    DrawingState& state;
+    PageCopies sizes;
+    PlateFrame frame;
+    ScreenFactors screen = DrawnScreen();
+};
+
+// How far a drawing came, for the message of one that fails.
+constexpr int kMarkStart = 265;
+constexpr int kMarkRuler = 316;
+constexpr int kMarkStandardTics = 425;
+constexpr int kMarkSpecialTics = 435;
+constexpr int kMarkArcs = 483;
+constexpr int kMarkFont = 541;
+constexpr int kMarkStandardLabels = 549;
+constexpr int kMarkSpecialLabels = 590;
+constexpr int kMarkTitles = 602;
+constexpr int kMarkEnd = 675;
+
+// platestages: the plate and its marks
+void ClearStage(DrawingRun& run);
+void PlateStage(DrawingRun& run);
+void TrimMarksStage(DrawingRun& run);
+void HolesStage(DrawingRun& run);
+void BearingsStage(DrawingRun& run);
+void OutlineStage(DrawingRun& run);    // of a setup: the plate's edge alone
+void SetupMarksStage(DrawingRun& run); // holes and bearing with crosses in the plate's colour
+void RulerStage(DrawingRun& run);
+
+// ticstages: tics from the highest scale down, then the arcs
+void TicsStage(DrawingRun& run);
+void PointerLengthStage(DrawingRun& run);
+void ArcsStage(DrawingRun& run);
+
+// labelstages: all that is written
+void FontStage(DrawingRun& run);
+void LabelsStage(DrawingRun& run);
+void TitlesStage(DrawingRun& run);
+
+// reservestages: complete, but asked for by no page of the program
+void HighlightsStage(DrawingRun& run);
+void FreeTextsStage(DrawingRun& run);
+void GraphicStage(DrawingRun& run);
+void OverlaysStage(DrawingRun& run);
+
+void EndStage(DrawingRun& run);
+
+struct Ruler {
+    double lengthMm;
+    double belowPlate; // units from the plate's bottom edge to the tics' upper ends
+    int fineWidth;     // of the tics at each millimetre
+    int coarseWidth;   // of those at each ten
+    int baseWidth;     // of the line along the lower ends
+    double fontPoints;
+    const char* unit;
+};
+
+void DrawRuler(DrawingRun& run, const Ruler& ruler);
+
+// Whether the scale's special tables are drawn.
+bool ShowsSpecial(const DrawingRun& run, int scale);
+
+// RelativeFontSize of the scale, made 1 in the design if it is 0 or less.
+double RelativeSizeOf(int scale);
+
+// The place on its scale's arc of a tic or label with that deflection.
+ArcPlace PlaceTic(const PlateFrame& frame, Correction correction, int scale, float deflection);
+
+// The length of a tic in mm, by its class and its scale's relative size.
+double TicLength(const Tic& tic);
+
+// Where a quadrant plate puts the title of a scale across; none for other plates and for scales
+// above 4, whose titles are centred.
+std::optional<double> QuadrantTitleX(const PlateFrame& frame, int scale);
+
+// The turn of a scale's labels by LabelRotation, in tenths of a degree; 0 unless it is "B" or "V".
+int LabelEscapement(const PlateFrame& frame, const ArcPlace& place);
+
+// Runs over the scales from 1 up, with Design.CurrentScale as the loop variable.
+template <typename Draw>
+void ForEachScaleUpward(Draw draw) {
+    for (Design.CurrentScale = 1; Design.CurrentScale <= Design.NumberOfScales;
+         ++Design.CurrentScale) {
+        draw(int{Design.CurrentScale});
+    }
+}
+
+// A font's name without outer blanks and with one NUL behind it, as a font's record holds it.
+std::string FontFace(const std::string& name);
+
+} // namespace vernacle

@@ -1,0 +1,132 @@
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "engine/core/design.h"
+#include "engine/correction/curve.h"
+#include "engine/geometry/primitives.h"
+#include "engine/render/stages.h"
+#include "engine/scale/scale.h"
+
+namespace vernacle {
+
+namespace {
+
+Colour TicInkOf(const DrawingRun& run, int scale) {
+    return run.traits.ticInk == TicInk::Black ? kBlackInk : InkOf(scale);
+}
+
+// Held to 1 .. 20 tenths of a millimetre; one of them is 0.7 pixel.
+int TicLineWidth(const Tic& tic) {
+    const double tenths = double{tic.major ? Design.MajorTicWidth : Design.MinorTicWidth};
+    return static_cast<int>(std::floor(std::clamp(tenths, 1.0, 20.0) * 0.7 + 0.5));
+}
+
+void DrawTic(DrawingRun& run, const Tic& tic) {
+    const ArcPlace place = PlaceTic(run.frame, run.traits.correction, tic.scale, tic.deflection);
+    const SurfacePoint end = AlongPointer(run.frame, place.point, place.pointerAngleRad,
+                                          TicLength(tic), DirectionOf(tic.scale));
+    run.surface.SetLineWidth(TicLineWidth(tic));
+    DrawLine(run.surface, end, place.point, TicInkOf(run, tic.scale));
+    run.state.LastArcPoint = place.point;
+    run.state.LastTicEnd = end;
+}
+
+void DrawArc(DrawingRun& run, int scale) {
+    const double radius = ScaleRadius(run.frame, double{Design.BottomToScaleCeiling[scale]});
+    SurfacePoint previous;
+    for (int chord = 0; chord <= kArcChords; ++chord) {
+        const double angle = PointerAngle(run.frame, chord / double{kArcChords});
+        const SurfacePoint point = PlaceOnArc(run.frame, angle, radius).point;
+        DrawLine(run.surface, chord == 0 ? point : previous, point, TicInkOf(run, scale));
+        previous = point;
+    }
+}
+
+bool IsDrawn(int scale) {
+    return NumberOf(Design.PrintTicsAndArcs[scale]) == 0;
+}
+
+void DrawTics(DrawingRun& run, int scale) {
+    RelativeSizeOf(scale);
+    const auto draw = [&run](const Tic& tic) { DrawTic(run, tic); };
+    if (ShowsSpecial(run, scale)) {
+        run.state.WhereMarker = kMarkSpecialTics;
+        WalkSpecialTics(scale, draw);
+    } else {
+        run.state.WhereMarker = kMarkStandardTics;
+        WalkStandardTics(scale, run.traits.ticFlags, draw);
+    }
+}
+
+// Runs over the scales from the highest number down, so that scale 1 is drawn last and on top.
+template <typename Draw>
+void ForEachDrawnScale(Draw draw) {
+    for (Design.CurrentScale = Design.NumberOfScales; Design.CurrentScale >= 1;
+         --Design.CurrentScale) {
+        const int scale = Design.CurrentScale;
+        if (IsDrawn(scale)) {
+            draw(scale);
+        }
+    }
+}
+
+} // namespace
+
+Colour InkOf(int scale) {
+    return static_cast<Colour>(std::abs(std::int64_t{Design.ScaleColor[scale]}));
+}
+
+bool ShowsSpecial(const DrawingRun& run, int scale) {
+    return run.traits.tables == Tables::SpecialOfCurrentScale || IsSpecial(scale);
+}
+
+double RelativeSizeOf(int scale) {
+    float& relative = Design.RelativeFontSize[scale];
+    if (relative <= 0) {
+        relative = 1;
+    }
+    return double{relative};
+}
+
+ArcPlace PlaceTic(const PlateFrame& frame, Correction correction, int scale, float deflection) {
+    if (correction == Correction::Applied) {
+        deflection = CorrectDeflection(deflection);
+    }
+    return PlaceOnArc(frame, PointerAngle(frame, double{deflection}),
+                      ScaleRadius(frame, double{Design.BottomToScaleCeiling[scale]}));
+}
+
+double TicLength(const Tic& tic) {
+    const float length = tic.major ? Design.MajorTicLength : Design.MinorTicLength;
+    return double{length} * double{Design.RelativeFontSize[tic.scale]};
+}
+
+void TicsStage(DrawingRun& run) {
+    if (run.traits.tables == Tables::ByColour) {
+        ForEachDrawnScale([&run](int scale) { DrawTics(run, scale); });
+    } else if (IsDrawn(Design.CurrentScale)) {
+        DrawTics(run, Design.CurrentScale);
+    }
+}
+
+// From the real bearing to the outer end of the last tic drawn, one of scale 1.
+void PointerLengthStage(DrawingRun& run) {
+    const SurfacePoint bearing = RealBearing(run.frame);
+    const SurfacePoint end = run.state.LastTicEnd;
+    const double units = std::hypot(end.x - bearing.x, end.y - bearing.y);
+    run.state.PointerLength = F(units / (2 * run.frame.upPerHalfMm) / std::sqrt(run.frame.aspect));
+}
+
+void ArcsStage(DrawingRun& run) {
+    if (Design.DrawArcs != "Y") {
+        return;
+    }
+    run.state.WhereMarker = kMarkArcs;
+    const double width = (double{Design.ArcWidth} + 0.5) * run.traits.lineWidths.arcFactor;
+    run.surface.SetLineWidth(RoundToInt(std::floor(width)));
+    ForEachDrawnScale([&run](int scale) { DrawArc(run, scale); });
+    run.surface.SetLineWidth(1);
+}
+
+} // namespace vernacle

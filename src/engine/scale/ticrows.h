@@ -1,0 +1,55 @@
+// The rows in which the list pages show every tic of every scale, and the way back from a row to
+// its tic.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "engine/base/table.h"
+
+namespace vernacle {
+
+// The tables of a scale: those of a special one, whose colour is negative, are its own.
+int LastTicOf(int scale);
+std::string& TicFlagOf(int scale, int tic);
+std::string& LabelFlagOf(int scale, int tic);
+const std::string& LabelTextOf(int scale, int tic);
+float DeflectionOf(int scale, int tic); // fraction, before any movement correction
+
+// Rows 1 to the count; row 0 is empty. The bound is four scales of 361 rows.
+class TicRows {
+public:
+    static constexpr int kMost = 1444;
+    using RowText = std::function<std::string(int scale, int tic)>;
+
+    // Takes the row of every tic of every scale. Its loop variables are Design.CurrentScale and
+    // Design.TicLoop, which stand behind the last scale and tic then. One row too many is a
+    // run-time error.
+    void Fill(const RowText& row);
+
+    int Count() const { return count_; }
+    const std::string& operator[](int row) const { return rows_[row]; }
+
+private:
+    Table<std::string, kMost> rows_;
+    int count_ = 0;
+};
+
+// Scale, tic, tic flag, label and label flag, each ten characters wide and more if its text is.
+std::string SelectionRow(int scale, int tic);
+
+// Scale, tic, label and deflection in percent.
+std::string InformationRow(int scale, int tic);
+
+// What stands at a selection row's fixed places, whatever the lengths of its texts.
+struct SelectedTic {
+    std::int16_t scale = 0;
+    std::int16_t tic = 0;
+    std::string ticFlag;
+    std::string label; // its first six characters
+    std::string labelFlag;
+};
+
+SelectedTic ReadSelectionRow(const std::string& row);
+
+} // namespace vernacle

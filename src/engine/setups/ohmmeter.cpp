@@ -1,0 +1,47 @@
+#include "engine/setups/ohmmeter.h"
+
+#include "engine/core/design.h"
+#include "engine/core/entry.h"
+#include "engine/setups/setup.h"
+
+namespace vernacle {
+
+namespace {
+
+void StoreRow(int scale, int tic, const ResistanceRow& row) {
+    Design.TicPrintYN[scale][tic] = "Y";
+    Design.TicLabelYN[scale][tic] = "Y";
+    std::string deflection = row.deflection;
+    ParseEntry(deflection, Design.TicDeflection[scale][tic]);
+    if (row.ticClass != TicClass::Undecided) {
+        Design.TicMajorYN[scale][tic] = FlagOf(AnswerIf(row.ticClass == TicClass::Major));
+    }
+    Design.TicLabelText[scale][tic] = row.label;
+}
+
+} // namespace
+
+float ComputeResistanceDeflection(float midscale, float resistance) {
+    if (midscale == 0) {
+        throw ImpossibleEntry("The midscale resistance is 0, and no resistance has a deflection "
+                              "then.\nPlease enter the resistance that the meter shows at half of "
+                              "its deflection.");
+    }
+    const double sum = double{resistance} / double{midscale} + 1;
+    if (sum == 0) {
+        throw ImpossibleEntry("A resistance of minus the midscale resistance has no deflection.\n"
+                              "Please enter a resistance of 0 or more.");
+    }
+    return static_cast<float>(1 / sum);
+}
+
+void StoreResistanceList(int scale, const std::vector<ResistanceRow>& rows) {
+    MarkSpecial(scale);
+    const int count = static_cast<int>(rows.size());
+    Design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(count - 1);
+    for (int tic = 0; tic < count; ++tic) {
+        StoreRow(scale, tic, rows[static_cast<std::size_t>(tic)]);
+    }
+}
+
+} // namespace vernacle

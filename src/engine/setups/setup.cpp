@@ -1,0 +1,61 @@
+#include "engine/setups/setup.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "engine/base/runtimeerror.h"
+#include "engine/base/text.h"
+#include "engine/core/design.h"
+
+namespace vernacle {
+
+void MarkSpecial(int scale) {
+    std::int32_t& colour = Design.ScaleColor[scale];
+    if (colour == 0) {
+        colour = 1;
+    }
+    colour = -std::abs(colour);
+}
+
+float HeldExponent(float exponent) {
+    return kExponentLimits.Held(exponent);
+}
+
+float BentDeflection(float fraction, float exponent) {
+    if (fraction == 0 && exponent < 0) {
+        throw ImpossibleEntry("The first tic stands at no deflection, which a negative linearity "
+                              "exponent cannot bend.\nPlease enter an exponent of 0 or more.");
+    }
+    return static_cast<float>(CheckedPower(double{fraction}, double{exponent}));
+}
+
+Answer AnswerIf(bool yes) {
+    return yes ? Answer::Yes : Answer::No;
+}
+
+std::string FlagOf(Answer answer) {
+    return answer == Answer::Yes ? "Y" : "N";
+}
+
+void StoreTic(int scale, int tic, const TicEntry& entry) {
+    Design.TicDeflection[scale][tic] = entry.deflection;
+    Design.TicLabelText[scale][tic] = entry.label;
+    Design.TicPrintYN[scale][tic] = FlagOf(entry.printed);
+    Design.TicLabelYN[scale][tic] = FlagOf(entry.labelled);
+    Design.TicMajorYN[scale][tic] = FlagOf(entry.major);
+}
+
+void MendEmptyLabel(int scale, int tic) {
+    std::string& label = Design.TicLabelText[scale][tic];
+    if (Trimmed(label) == "/") {
+        label = " ";
+    }
+}
+
+std::string ShortLabel(float value) {
+    const auto tenths = static_cast<int>(std::lround(double{value} * 10));
+    const std::string whole = std::to_string(tenths / 10);
+    return tenths % 10 == 0 ? whole : whole + "." + std::to_string(tenths % 10);
+}
+
+} // namespace vernacle

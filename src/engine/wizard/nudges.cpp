@@ -1,0 +1,107 @@
+#include "engine/wizard/nudges.h"
+
+#include "engine/base/numbertext.h"
+#include "engine/core/design.h"
+#include "engine/core/entry.h"
+
+namespace vernacle {
+
+namespace {
+
+using D = DesignRecord;
+
+constexpr int kScale = 1;
+constexpr double kNoLimit = 1e30;
+
+template <int Number>
+double Is() {
+    return Number;
+}
+
+double NoLimit() {
+    return kNoLimit;
+}
+
+double AboveBearing() {
+    return double{Design.BottomToBearing} + 1;
+}
+double HighestCeiling() {
+    return 1.5 * double{Design.PlateHeight};
+}
+double HighestTitle() {
+    return double{Design.PlateHeight} + 10;
+}
+double MinorLength() {
+    return double{Design.MinorTicLength};
+}
+double MajorLength() {
+    return double{Design.MajorTicLength};
+}
+double MinorWidth() {
+    return double{Design.MinorTicWidth};
+}
+double MajorWidth() {
+    return double{Design.MajorTicWidth};
+}
+double Tics() {
+    return Design.NrOfTicmarks[kScale];
+}
+
+// clang-format off
+constexpr Nudge kNudges[] = {
+    {"UpDown1",  "Bottom to ceiling, mm: ",         "lblBottomToCeiling",       "Move the top of the scale - the ceiling - up or down",  At<&D::BottomToScaleCeiling>,   0, 200, AboveBearing, HighestCeiling, true, true},
+    {"UpDown2",  "Bottom to title, mm: ",           "lblBottomToTitle",         "Move the title up or down",                             At<&D::BottomToTitle>,        -10, 200, Is<-10>,      HighestTitle,   true, true},
+    {"UpDown3",  "Actual/virtual offset: ",         "lblActualVirtualOffset",   "Move the virtual bearing up or down",                   At<&D::ActualVirtualOffset>,    0, 100, Is<0>,        NoLimit},
+    {"UpDown4",  "Label-arc spacing, mm: ",         "lblLabelSpacing",          "Spacing in mm from top of ticmark labels to the arc",   At<&D::LabelSpacing>,        -200, 200, Is<-50>,      Is<50>},
+    {"UpDown5",  "Fontsize: ",                      "lblFontSize",              "Fontsize for ticmark labels",                           At<&D::FontSize>,               2,  20, Is<2>,        Is<20>},
+    {"UpDown6",  "Major tic length, mm: ",          "lblMajorTicLength",        "Major ticmark length, mm",                              At<&D::MajorTicLength>,         1,  20, MinorLength,  Is<20>,         false, true},
+    {"UpDown7",  "Minor tic length, mm: ",          "lblMinorTicLength",        "Minor ticmark length, mm",                              At<&D::MinorTicLength>,         1,  20, Is<1>,        MajorLength,    false, true},
+    {"UpDown8",  "Major tic width, tenths of mm: ", "lblMajorTicWidth",         "Major ticmark width, tenths of a mm",                   At<&D::MajorTicWidth>,          1,  20, MinorWidth,   Is<20>,         false, true},
+    {"UpDown9",  "Minor tic width, tenths of mm: ", "lblMinorTicWidth",         "Minor ticmark width, tenths of a mm",                   At<&D::MinorTicWidth>,          1,  20, Is<1>,        MajorWidth,     false, true},
+    {"UpDown10", "How often major tics: ",          "lblMajorEveryHowMany",     "Major tics every how many tics",                        At<&D::MajorEveryHowMany>,      1, 100, Is<2>,        Tics,           false, true},
+    {"UpDown11", "How often tic labels: ",          "lblLabelsEveryHowMany",    "Tic labels every how many tics",                        At<&D::LabelsEveryHowMany>,     2, 100, Is<2>,        Tics,           false, true},
+};
+// clang-format on
+
+double NumberOfNudge(const Nudge& nudge) {
+    return NumberInSlot(nudge.field(kScale, 0));
+}
+
+NudgeResult Correct(const Nudge& nudge, double value) {
+    if (!nudge.corrected) {
+        return NudgeResult::Ignored;
+    }
+    StoreInSlot(value, nudge.field(kScale, 0));
+    return NudgeResult::Corrected;
+}
+
+} // namespace
+
+std::span<const Nudge> Nudges() {
+    return kNudges;
+}
+
+std::string NudgeValue(const Nudge& nudge) {
+    return SignedNumber(static_cast<float>(NumberOfNudge(nudge)));
+}
+
+NudgeResult ApplyNudge(const Nudge& nudge, const std::string& text) {
+    std::string entered = text;
+    const Slot slot = nudge.field(kScale, 0);
+    if (auto* const* number = std::get_if<float*>(&slot)) {
+        ParseEntry(entered, **number);
+    } else if (auto* const* count = std::get_if<std::int16_t*>(&slot)) {
+        ParseEntry(entered, **count);
+    }
+    const double value = NumberOfNudge(nudge);
+    const double lowest = nudge.lowest();
+    if (nudge.lowestIsOpen ? value <= lowest : value < lowest) {
+        return Correct(nudge, lowest);
+    }
+    if (value > nudge.highest()) {
+        return Correct(nudge, nudge.highest());
+    }
+    return NudgeResult::Accepted;
+}
+
+} // namespace vernacle

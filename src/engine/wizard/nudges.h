@@ -1,0 +1,41 @@
+// The wizard's second page without its controls: eleven values that can be nudged, with what each
+// accepts.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "engine/core/fieldplace.h"
+
+namespace vernacle {
+
+struct Nudge {
+    const char* upDown = nullptr;
+    const char* caption = nullptr;
+    const char* label = nullptr; // that shows the number
+    const char* tip = nullptr;
+    Place field = nullptr;
+    double stepsLowest = 0; // of the control
+    double stepsHighest = 0;
+    // What is accepted, both ends included but for an open lower one.
+    double (*lowest)() = nullptr;
+    double (*highest)() = nullptr;
+    bool lowestIsOpen = false;
+    bool corrected = false; // else a value that is not accepted just stays
+};
+
+std::span<const Nudge> Nudges();
+
+// The number as its label shows it, with its leading blank.
+std::string NudgeValue(const Nudge& nudge);
+
+enum class NudgeResult {
+    Accepted,  // the design is to be drawn
+    Corrected, // the label is to show the value that was put there
+    Ignored,
+};
+
+// Reads the label's text into the field.
+NudgeResult ApplyNudge(const Nudge& nudge, const std::string& text);
+
+} // namespace vernacle

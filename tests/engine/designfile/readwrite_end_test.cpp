@@ -1,0 +1,282 @@
+// A design file that ends early is no failure: what it has is read, what it lacks stays at the
+// default. The sample has every kind of line, and hardly a value that is a default.
+#include "engine/designfile/readwrite.h"
+
+#include "designfile.h"
+#include "engine/core/design.h"
+#include "engine/core/show.h"
+#include "support/enginetest.h"
+
+namespace vernacle::test {
+namespace {
+
+using D = DesignRecord;
+using Getter = std::string (*)();
+
+struct SampleLine {
+    const char* line;
+    Getter field = nullptr;
+    const char* read = nullptr;      // the field once the line was read
+    const char* otherwise = nullptr; // the field of a file that ends before it
+};
+
+template <auto Field>
+std::string Plain() {
+    return Show(Design.*Field);
+}
+
+template <auto Field, int Index>
+std::string Entry() {
+    return Show((Design.*Field)[Index]);
+}
+
+template <int Tic>
+std::string SpecialTic() {
+    return Show(Design.TicDeflection[2][Tic]) + "|" + Design.TicLabelYN[2][Tic] + "|" +
+           Design.TicPrintYN[2][Tic] + "|" + Design.TicMajorYN[2][Tic] + "|" +
+           Design.TicLabelText[2][Tic];
+}
+
+template <int Scale, int Tic>
+std::string TicFlag() {
+    return Design.StandardTicYN[Scale][Tic];
+}
+
+template <int Scale, int Tic>
+std::string LabelFlag() {
+    return Design.StandardLabelYN[Scale][Tic];
+}
+
+const SampleLine kSample[] = {
+    {"Filename: elsewhere.vrn", Plain<&D::DesignFileName>, "mine", "mine"},
+    {"1/2/2003 4:05:06 PM"},
+    {"Plate width: 61.5", Plain<&D::PlateWidth>, "61.5", "75"},
+    {"Plate height: 41.5", Plain<&D::PlateHeight>, "41.5", "50"},
+    {"Bottom to bearing: -7.5", Plain<&D::BottomToBearing>, "-7.5", "10"},
+    {"Bottom to mounting holes: 12.5", Plain<&D::BottomToHoles>, "12.5", "15"},
+    {"Hole separation: 33.5", Plain<&D::HoleSeparation>, "33.5", "50"},
+    {"Pointer deflection: 85.5", Plain<&D::PointerDeflection>, "85.5", "99"},
+    {"Dummy1: 1"},
+    {"Dummy2: 2 "},
+    {"Minor ticmark length: 1.5", Plain<&D::MinorTicLength>, "1.5", "2"},
+    {"Minor ticmark width: 2.5", Plain<&D::MinorTicWidth>, "2.5", "2"},
+    {"Major ticmark length: 3.5", Plain<&D::MajorTicLength>, "3.5", "3"},
+    {"Major ticmark width: 4.5", Plain<&D::MajorTicWidth>, "4.5", "4"},
+    {"Font size: 7.5", Plain<&D::FontSize>, "7.5", "8"},
+    {"Actual/virtual offset: 22.5", Plain<&D::ActualVirtualOffset>, "22.5", "30"},
+    {"Dummy3: 3"},
+    {"Dummy4: 4"},
+    {"Plate style: 1", Plain<&D::PlateStyle>, "0", "0"},
+    {"Draw arcs Y/N:N", Plain<&D::DrawArcs>, "N", "Y"},
+    {"Label rotation H/V/B:B", Plain<&D::LabelRotation>, "B", "H"},
+    {"Print text Y/N: N", Plain<&D::PrintText>, " N", "Y"},
+    {"Label spacing: 4.5", Plain<&D::LabelSpacing>, "4.5", "6"},
+    {"Font style: Courier", Plain<&D::FontName>, "Arial", "Times"}, // no reset of its own
+    {"Number of scales: 2", Plain<&D::NumberOfScales>, "2", "1"},
+    {"Scale color: 255", Entry<&D::ScaleColor, 1>, "255", "0"},
+    {"Scale left end (units): -5.5", Entry<&D::ScaleLeftEnd, 1>, "-5.5", "0"},
+    {"Scale length (units): 20.5", Entry<&D::ScaleLengthUnits, 1>, "20.5", "50"},
+    {"Bottom to title: 21.5", Entry<&D::BottomToTitle, 1>, "21.5", "30"},
+    {"Bottom to scale ceiling: 31.5", Entry<&D::BottomToScaleCeiling, 1>, "31.5", "35"},
+    {"Scale title: Volts: DC ", Entry<&D::ScaleTitle, 1>, " Volts: DC ", "Default Scale 1"},
+    {"Number of ticmarks: 40", Entry<&D::NrOfTicmarks, 1>, "40", "50"},
+    {"Major ticmarks every how often: 4", Entry<&D::MajorEveryHowMany, 1>, "4", "5"},
+    {"Labels every how many ticmarks: 8", Entry<&D::LabelsEveryHowMany, 1>, "8", "10"},
+    {"Linearity exponent: 1.5", Entry<&D::LinearityExponent, 1>, "1.5", "1"},
+    {"Scale color: -65280", Entry<&D::ScaleColor, 2>, "-65280", "0"},
+    {"Bottom to scale title: 26.5", Entry<&D::BottomToTitle, 2>, "26.5", "35"},
+    {"Bottom to scale ceiling: 36.5", Entry<&D::BottomToScaleCeiling, 2>, "36.5", "40"},
+    {"Scale title:Ohms", Entry<&D::ScaleTitle, 2>, "Ohms", "Default Scale 2"},
+    {"Number of ticmarks: 2", Entry<&D::SpecialNrOfTicmarks, 2>, "2", "0"},
+    {"* Deflection, Label Y/N, Tic Y/N, Major Y/N, Label:"},
+    {" 0\\N\\Y\\Y\\/", SpecialTic<0>, "0|N|Y|Y| ", "0|Y|Y|N|"},
+    {" .25\\Y\\N\\N\\1k", SpecialTic<1>, "0.25|Y|N|N|1k", "0|Y|Y|N|"},
+    {"-1\\ N \\ N \\ Y \\ a b ", SpecialTic<2>, "-1|N|N|Y|a b", "0|Y|Y|N|"},
+    {"Unlabelled ticmark at scale bottom Y/N: N", Entry<&D::UnlabelledBottomTic, 2>, " N", "Y"},
+    {"Scale exponent: 2.5", Entry<&D::LinearityExponent, 2>, "2.5", "1"},
+    {"Fullscale multiplier: 10.5", Entry<&D::FullscaleMultiplier, 2>, "10.5", "1"},
+    {"Draw graphic Y/N:Y", Plain<&D::DrawGraphic>, "N", "N"},
+    {"Graphic filename:new.bmp", Plain<&D::GraphicFileName>, "", "old.bmp"},
+    {"Left to graphic: 11.5", Plain<&D::LeftToGraphic>, "11.5", "10"},
+    {"Bottom to graphic: 12.5", Plain<&D::BottomToGraphic>, "12.5", "1"},
+    {"Graphic width: 13.5", Plain<&D::GraphicWidth>, "13.5", "1"},
+    {"Graphic height: 14.5", Plain<&D::GraphicHeight>, "14.5", "1"},
+    {"Arc width: 2.5", Plain<&D::ArcWidth>, "2.5", "1"},
+    {"Messages: 2", Plain<&D::MessageLevel>, "2", "0"},
+    {"Texts: 1", Plain<&D::NumberOfTexts>, "1", "0"},
+    {"Text 1:R: 10 k", Entry<&D::TextString, 1>, "R: 10 k", ""},
+    {"Left to text:  15.25 ", Entry<&D::LeftToText, 1>, "15.25", "0"},
+    {"Bottom to text: -16.25 ", Entry<&D::BottomToText, 1>, "-16.25", "0"},
+    {"Relative size:  1.25 ", Entry<&D::TextRelativeSize, 1>, "1.25", "1"},
+    {"Color: 8421504", Entry<&D::TextColor, 1>, "8421504", "0"},
+    {"Highlights: 1"},
+    {"Starting percentage: 10.5", Entry<&D::HighlightStart, 1>, "10.5", "0"},
+    {"Stopping percentage: 90.5", Entry<&D::HighlightStop, 1>, "90.5", "0"},
+    {"Ceiling: 12.5", Entry<&D::HighlightCeiling, 1>, "12.5", "10"},
+    {"Length: 1.5", Entry<&D::HighlightLength, 1>, "1.5", "0"},
+    {"Color: 65535", Entry<&D::HighlightColor, 1>, "65535", "1"},
+    {"Plate background: 1", Plain<&D::PlateBackground>, "16777215", "16777215"},
+    {"Scale 1 - deleted tics: 2", Entry<&D::DeletedTicCount, 1>, "2", "0"},
+    {"Tic deleted: 3", TicFlag<1, 3>, "N", "Y"},
+    {"Tic deleted: 360", TicFlag<1, 360>, "N", "Y"},
+    {"Scale 2 - deleted tics: 1", Entry<&D::DeletedTicCount, 2>, "1", "0"},
+    {"Tic deleted: 4", TicFlag<2, 4>, "N", "Y"},
+    {"Scale 3 - deleted tics: 1", Entry<&D::DeletedTicCount, 3>, "1", "0"},
+    {"Tic deleted: 5", TicFlag<3, 5>, "N", "Y"},
+    {"Scale 4 - deleted tics: 1", Entry<&D::DeletedTicCount, 4>, "1", "0"},
+    {"Tic deleted: 0", TicFlag<4, 0>, "N", "Y"},
+    {"Scale 1 - deleted labels: 1", Entry<&D::DeletedLabelCount, 1>, "1", "0"},
+    {"Label deleted: 6", LabelFlag<1, 6>, "N", "Y"},
+    {"Scale 2 - deleted labels: 1", Entry<&D::DeletedLabelCount, 2>, "1", "0"},
+    {"Label deleted: 7", LabelFlag<2, 7>, "N", "Y"},
+    {"Scale 3 - deleted labels: 1", Entry<&D::DeletedLabelCount, 3>, "1", "0"},
+    {"Label deleted: 8", LabelFlag<3, 8>, "N", "Y"},
+    {"Scale 4 - deleted labels: 1", Entry<&D::DeletedLabelCount, 4>, "1", "0"},
+    {"Label deleted: 9", LabelFlag<4, 9>, "N", "Y"},
+    {"Relative font sizes:"},
+    {"Scale 1: .8", Entry<&D::RelativeFontSize, 1>, "0.8", "1"},
+    {"Scale 2: 1.2", Entry<&D::RelativeFontSize, 2>, "1.2", "1"},
+    {"Aspect ratio: .9", Plain<&D::AspectRatio>, "0.9", "0.75"},
+    {"Number of correction points: 5", Plain<&D::NumberOfCorrectionPoints>, "7", "7"},
+    {"Pair #1: 0 \\ 0"},
+    {"Pair #2: .1 \\ .2"},
+    {"Pair #3: .3 \\ .4"},
+    {"Pair #4: .5 \\ .5"},
+    {"Pair #5: .6 \\ .7"},
+    {"Pair #6: .8 \\ .9"},
+    {"Pair #7: 1 \\ 1"},
+    {"Print ticmarks and arcs:"},
+    {"Scale 1: 1"},
+    {"Scale 2: 2"},
+    {""},
+};
+
+class EarlyEndTest : public EngineTest {
+protected:
+    void ReadLines(std::size_t count, const std::string& lineEnd) {
+        std::string text;
+        for (std::size_t line = 0; line < count; ++line) {
+            text += kSample[line].line + lineEnd;
+        }
+        ReadText(text);
+    }
+
+    void ReadText(const std::string& text) {
+        Design = DesignRecord{};
+        Design.DesignFileName = "mine";
+        Design.FontName = "Times";
+        Design.GraphicFileName = "old.bmp";
+        Design.DrawHighlights = "?";
+        ReadDesign(WriteFile("plate.vrn", text));
+        EXPECT_TRUE(said.empty());
+    }
+
+    static void ExpectFields(std::size_t read) {
+        for (std::size_t line = 0; line < std::size(kSample); ++line) {
+            const SampleLine& sample = kSample[line];
+            if (sample.field) {
+                EXPECT_EQ(sample.field(), line < read ? sample.read : sample.otherwise)
+                    << sample.line;
+            }
+        }
+    }
+
+    // The number of lines up to and with that one.
+    static std::size_t Through(const std::string& start) {
+        std::size_t line = 0;
+        while (!std::string(kSample[line].line).starts_with(start)) {
+            ++line;
+        }
+        return line + 1;
+    }
+};
+
+TEST_F(EarlyEndTest, BehindEveryLine) {
+    for (std::size_t count = 0; count <= std::size(kSample); ++count) {
+        SCOPED_TRACE(count == 0 ? "empty file" : kSample[count - 1].line);
+        ReadLines(count, "\r\n");
+        ExpectFields(count);
+    }
+}
+
+TEST_F(EarlyEndTest, WithinALine) {
+    std::string text;
+    for (const SampleLine& sample : kSample) {
+        SCOPED_TRACE(sample.line);
+        const std::string line = sample.line;
+        const bool mustBeANumber = line == "Color: 8421504"; // the colour of a text, alone of all
+        if (!mustBeANumber) {
+            ReadText(text + line.substr(0, line.size() / 2));
+        }
+        text += line + "\r\n";
+    }
+}
+
+TEST_F(EarlyEndTest, LinesMayEndWithLineFeedsAlone) {
+    ReadLines(std::size(kSample), "\n");
+    ExpectFields(std::size(kSample));
+}
+
+TEST_F(EarlyEndTest, EmptyLinesAndCommentsMayStandAnywhere) {
+    std::string text;
+    for (const SampleLine& sample : kSample) {
+        text += "\r\n* a remark: 5\r\n\r\n*\r\n";
+        text += std::string(sample.line) + "\r\n";
+    }
+    ReadText(text);
+    ExpectFields(std::size(kSample));
+}
+
+TEST_F(EarlyEndTest, LabelsAreNotLookedAt) {
+    std::string text;
+    for (const SampleLine& sample : kSample) {
+        const std::string line = sample.line;
+        const std::size_t colon = line.find(':');
+        text += colon == line.npos || line[0] == '*' ? line : "other" + line.substr(colon);
+        text += "\r\n";
+    }
+    ReadText(text);
+    ExpectFields(std::size(kSample));
+}
+
+TEST_F(EarlyEndTest, AmongTheHighlightsTheyAreStillOn) {
+    const std::size_t count = Through("Highlights: ");
+    for (std::size_t lines = 0; lines <= count + 5; ++lines) {
+        SCOPED_TRACE(lines);
+        ReadLines(lines, "\r\n");
+        const bool among = lines >= count && lines < count + 5;
+        EXPECT_EQ(Design.NumberOfHighlights, among ? 1 : 0);
+        EXPECT_EQ(Design.DrawHighlights, among ? "Y" : lines < count ? "?" : "N");
+    }
+}
+
+TEST_F(EarlyEndTest, AmongThePointsOfTheCurveThoseReadStay) {
+    const float xs[] = {0, 0.1F, 0.3F, 0.5F, 0.6F, 0.8F};
+    const float ys[] = {0, 0.2F, 0.4F, 0.5F, 0.7F, 0.9F};
+    const float line[] = {0, 0.15F, 0.3F, 0.5F, 0.7F, 0.85F, 1};
+    for (int points = 0; points <= 6; ++points) {
+        SCOPED_TRACE(points);
+        ReadLines(Through("Number of correction") + static_cast<std::size_t>(points), "\r\n");
+        for (int point = 1; point <= 7; ++point) {
+            const int i = point - 1;
+            EXPECT_EQ(Design.CorrectionPair[2 * point - 1], point <= points ? xs[i] : line[i]);
+            EXPECT_EQ(Design.CorrectionPair[2 * point], point <= points ? ys[i] : line[i]);
+        }
+        EXPECT_EQ(Design.CorrectionSlope[1], 1);
+    }
+}
+
+TEST_F(EarlyEndTest, AmongTheLastLinesTheirTextsStay) {
+    const std::size_t heading = Through("Print ticmarks");
+    ReadLines(heading, "\r\n");
+    EXPECT_EQ(Design.PrintTicsAndArcs[1], DynamicValue(std::int16_t{0}));
+    ReadLines(heading + 1, "\r\n");
+    EXPECT_EQ(Design.PrintTicsAndArcs[1], DynamicValue(std::string(" 1")));
+    ReadLines(heading + 2, "\r\n");
+    for (int scale = 1; scale <= 10; ++scale) {
+        EXPECT_EQ(Design.PrintTicsAndArcs[scale], DynamicValue(std::int16_t{0}));
+    }
+}
+
+} // namespace
+} // namespace vernacle::test

@@ -1,0 +1,202 @@
+#include "engine/scale/ticrows.h"
+
+#include "engine/base/runtimeerror.h"
+#include "engine/core/design.h"
+#include "engine/scale/scale.h"
+#include "support/enginetest.h"
+
+namespace vernacle::test {
+namespace {
+
+class TicRowsTest : public EngineTest {
+protected:
+    TicRowsTest() {
+        ResetDesign();
+        ComputeTicDeflections();
+        ComputeTicLabels();
+    }
+
+    static void UseScales(int scales, int tics) {
+        Design.NumberOfScales = static_cast<std::int16_t>(scales);
+        for (int scale = 1; scale <= scales; ++scale) {
+            Design.NrOfTicmarks[scale] = static_cast<std::int16_t>(tics);
+        }
+    }
+
+    // Tables of a special scale that differ from those of a standard one.
+    static void MakeSpecial(int scale) {
+        Design.ScaleColor[scale] = -1;
+        Design.SpecialNrOfTicmarks[scale] = 7;
+        Design.TicPrintYN[scale][3] = "P";
+        Design.TicLabelYN[scale][3] = "L";
+        Design.TicLabelText[scale][3] = "dB";
+        Design.TicDeflection[scale][3] = 0.125F;
+    }
+};
+
+TEST_F(TicRowsTest, ColumnsOfASelectionRowAreTenWide) {
+    EXPECT_EQ(SelectionRow(1, 0), "Scale 1   0         Y         0         Y         ");
+    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y                   Y         ");
+    EXPECT_EQ(SelectionRow(1, 50), "Scale 1   50        Y         50        Y         ");
+    Design.StandardTicYN[1][50] = "N";
+    Design.StandardLabelYN[1][50] = "N";
+    Design.StandardLabel[1][50] = "  fifty ";
+    EXPECT_EQ(SelectionRow(1, 50), "Scale 1   50        N         fifty     N         ");
+}
+
+TEST_F(TicRowsTest, LabelsOfTenAndMoreCharactersGetNoBlanks) {
+    Design.StandardLabel[1][7] = "ninechars";
+    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y         ninechars Y         ");
+    Design.StandardLabel[1][7] = "tencharact";
+    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y         tencharactY         ");
+    Design.StandardLabel[1][7] = "elevencharac";
+    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y         elevencharacY         ");
+    Design.StandardLabel[1][7] = "µA"; // characters, not bytes
+    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y         µA        Y         ");
+}
+
+TEST_F(TicRowsTest, InformationRowsHaveNarrowerColumns) {
+    EXPECT_EQ(InformationRow(1, 0), "Scale 1   0     0    0         ");
+    EXPECT_EQ(InformationRow(1, 25), "Scale 1   25         50         ") << "no label, 50 percent";
+    EXPECT_EQ(InformationRow(1, 50), "Scale 1   50    50   100         ");
+    UseScales(1, 360);
+    ComputeTicDeflections();
+    ComputeTicLabels();
+    Design.StandardLabel[1][359] = "longer";
+    EXPECT_EQ(InformationRow(1, 359), "Scale 1   359   longer99.722         ");
+}
+
+TEST_F(TicRowsTest, InformationKnowsNoFlags) {
+    const std::string before = InformationRow(1, 20);
+    Design.StandardTicYN[1][20] = "N";
+    Design.StandardLabelYN[1][20] = "N";
+    EXPECT_EQ(InformationRow(1, 20), before);
+}
+
+TEST_F(TicRowsTest, PercentIsThatOfTheTableBeforeAnyCorrection) {
+    Design.LinearityExponent[1] = 2;
+    ComputeTicDeflections();
+    EXPECT_EQ(InformationRow(1, 25), "Scale 1   25         25         ");
+    for (int segment = 1; segment < kCurvePoints; ++segment) {
+        Design.CorrectionSlope[segment] = 0.5F;
+    }
+    EXPECT_EQ(InformationRow(1, 25), "Scale 1   25         25         ");
+}
+
+TEST_F(TicRowsTest, NegativeColourReadsTheSpecialTables) {
+    Design.NrOfTicmarks[1] = 20;
+    Design.NrOfTicmarks[2] = 30;
+    MakeSpecial(2);
+    EXPECT_EQ(LastTicOf(1), 20);
+    EXPECT_EQ(LastTicOf(2), 7);
+    EXPECT_EQ(SelectionRow(2, 3), "Scale 2   3         P         dB        L         ");
+    EXPECT_EQ(InformationRow(2, 3), "Scale 2   3     dB   12.5         ");
+    Design.ScaleColor[2] = 0;
+    EXPECT_EQ(LastTicOf(2), 30);
+    EXPECT_EQ(SelectionRow(2, 3), "Scale 2   3         Y                   Y         ");
+}
+
+TEST_F(TicRowsTest, FlagsAreWrittenToTheScalesOwnTables) {
+    TicFlagOf(2, 3) = "s";
+    LabelFlagOf(2, 3) = "t";
+    EXPECT_EQ(Design.StandardTicYN[2][3], "s");
+    EXPECT_EQ(Design.StandardLabelYN[2][3], "t");
+    MakeSpecial(2);
+    TicFlagOf(2, 3) = "u";
+    LabelFlagOf(2, 3) = "v";
+    EXPECT_EQ(Design.TicPrintYN[2][3], "u");
+    EXPECT_EQ(Design.TicLabelYN[2][3], "v");
+    EXPECT_EQ(Design.StandardTicYN[2][3], "s");
+}
+
+TEST_F(TicRowsTest, ReadingBackFindsTheRow) {
+    const SelectedTic tic = ReadSelectionRow(SelectionRow(1, 50));
+    EXPECT_EQ(tic.scale, 1);
+    EXPECT_EQ(tic.tic, 50);
+    EXPECT_EQ(tic.ticFlag, "Y");
+    EXPECT_EQ(tic.label, "50");
+    EXPECT_EQ(tic.labelFlag, "Y");
+    const SelectedTic bare = ReadSelectionRow(SelectionRow(6, 7));
+    EXPECT_EQ(bare.scale, 6);
+    EXPECT_EQ(bare.tic, 7);
+    EXPECT_EQ(bare.label, "");
+}
+
+struct LabelRow {
+    const char* label;
+    const char* read;
+    const char* flag; // that is read for a "Y"
+};
+
+TEST_F(TicRowsTest, PlacesAreFixedWhateverTheLabelsLength) {
+    const LabelRow rows[] = {
+        {"sixcha", "sixcha", "Y"},         {"seven77", "seven7", "Y"},
+        {"ninechars", "ninech", "rs Y"},   {"tencharact", "tencha", "actY"},
+        {"elevencharx", "eleven", "harx"}, {"twelvecharxy", "twelve", "harx"},
+        {"µµµµµµµµ", "µµµµµµ", "µ  Y"},
+    };
+    for (const LabelRow& row : rows) {
+        Design.StandardLabel[1][50] = row.label;
+        const SelectedTic tic = ReadSelectionRow(SelectionRow(1, 50));
+        EXPECT_EQ(tic.label, row.read);
+        EXPECT_EQ(tic.labelFlag, row.flag) << row.label;
+        EXPECT_EQ(tic.ticFlag, "Y");
+        EXPECT_EQ(tic.tic, 50);
+    }
+}
+
+TEST_F(TicRowsTest, AnEmptyRowIsTicZeroOfScaleZero) {
+    const SelectedTic tic = ReadSelectionRow("");
+    EXPECT_EQ(tic.scale, 0);
+    EXPECT_EQ(tic.tic, 0);
+    EXPECT_EQ(tic.ticFlag + tic.label + tic.labelFlag, "");
+}
+
+TEST_F(TicRowsTest, OneScaleOfFiftyTicsGivesFiftyOneRows) {
+    TicRows rows;
+    rows.Fill(SelectionRow);
+    EXPECT_EQ(rows.Count(), 51);
+    EXPECT_EQ(rows[0], "");
+    EXPECT_EQ(rows[1], SelectionRow(1, 0));
+    EXPECT_EQ(rows[51], SelectionRow(1, 50));
+    EXPECT_EQ(Design.CurrentScale, 2) << "the loops end behind";
+    EXPECT_EQ(Design.TicLoop, 51);
+}
+
+TEST_F(TicRowsTest, ScalesFollowEachOther) {
+    UseScales(3, 10);
+    MakeSpecial(2);
+    TicRows rows;
+    rows.Fill(InformationRow);
+    EXPECT_EQ(rows.Count(), 11 + 8 + 11);
+    EXPECT_EQ(rows[11], InformationRow(1, 10));
+    EXPECT_EQ(rows[12], InformationRow(2, 0));
+    EXPECT_EQ(rows[20], InformationRow(3, 0));
+}
+
+TEST_F(TicRowsTest, RefillingForgetsTheFormerRows) {
+    TicRows rows;
+    rows.Fill(SelectionRow);
+    Design.NrOfTicmarks[1] = 5;
+    rows.Fill(SelectionRow);
+    EXPECT_EQ(rows.Count(), 6);
+    EXPECT_EQ(rows[7], "");
+}
+
+TEST_F(TicRowsTest, FourFullScalesFitAndOneTicMoreIsARunTimeError) {
+    TicRows rows;
+    UseScales(2, 360);
+    rows.Fill(SelectionRow);
+    EXPECT_EQ(rows.Count(), 722);
+    UseScales(4, 360);
+    rows.Fill(SelectionRow);
+    EXPECT_EQ(rows.Count(), 1444);
+    EXPECT_EQ(rows[1444], SelectionRow(4, 360));
+    UseScales(5, 360);
+    EXPECT_THROW(rows.Fill(SelectionRow), RunTimeError);
+    EXPECT_EQ(Design.CurrentScale, 5);
+    EXPECT_EQ(Design.TicLoop, 0);
+}
+
+} // namespace
+} // namespace vernacle::test
