@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kMmPerInch = 25.4;
 constexpr double kTwipsPerInch = 1440;
-constexpr double kUnitsPerMm = 2 * kPageUnitsPerHalfMm;
+constexpr double kUnitsPerMm = 2 * kSheetUnitsPerHalfMm;
 
 // Where the logical area begins on a sheet: its middle stands in the sheet's, or, where the area is
 // longer than the sheet, the plate's own middle does.
@@ -24,8 +24,8 @@ DeviceMap MapOf(double coordinatesPerInch, const Sheet& sheet) {
     const double perMm = coordinatesPerInch / kMmPerInch;
     DeviceMap map;
     map.perUnitX = map.perUnitY = perMm / kUnitsPerMm;
-    map.originX = AreaStartMm(sheet.widthMm, kPageWidth, kPageCentre.x) * perMm;
-    map.originY = AreaStartMm(sheet.heightMm, kPageHeight, kPageCentre.y) * perMm;
+    map.originX = AreaStartMm(sheet.widthMm, kSheetWidth, kSheetCentre.x) * perMm;
+    map.originY = AreaStartMm(sheet.heightMm, kSheetHeight, kSheetCentre.y) * perMm;
     map.perPixel = coordinatesPerInch / kPrinterDpi;
     map.pixelsPerPoint = kPrinterDpi / 72;
     return map;
@@ -53,7 +53,7 @@ void PaperSurface::KeepOnSheet(float top, float bottom) {
     SetOriginY(areaTop_ + std::max(std::min(needed, room), 0.0));
 }
 
-void PaperSurface::StartPage() {
+void PaperSurface::StartSheet() {
     if (!painter.begin(&device_)) {
         throw RunTimeError("The printer could not be started");
     }

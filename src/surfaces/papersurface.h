@@ -38,7 +38,7 @@ public:
     ~PaperSurface() override;
 
     void KeepOnSheet(float top, float bottom) override;
-    void StartPage() override;
+    void StartSheet() override;
     void EndDoc() override;
     float TwipsPerPixelX() const override;
     float TwipsPerPixelY() const override;

@@ -27,7 +27,7 @@ constexpr double kClockStep = 10;         // seconds: longer than any wait
 } // namespace
 
 FormTest::FormTest() {
-    const HostSeam desktop = DesktopHost();
+    const HostServices desktop = DesktopHost();
     Host.screenSize = desktop.screenSize;
     Host.servePendingEvents = desktop.servePendingEvents;
     Host.pause = [] {};

@@ -119,8 +119,8 @@ void RecordingSurface::KeepOnSheet(float top, float bottom) {
     keptBottom = bottom;
 }
 
-void RecordingSurface::StartPage() {
-    Record("StartPage", "");
+void RecordingSurface::StartSheet() {
+    Record("StartSheet", "");
 }
 void RecordingSurface::EndDoc() {
     Record("EndDoc", "");

@@ -57,7 +57,7 @@ public:
     void PaintPicture(const std::string& file, float x, float y, float width,
                       float height) override;
     void KeepOnSheet(float top, float bottom) override;
-    void StartPage() override;
+    void StartSheet() override;
     void EndDoc() override;
     float TwipsPerPixelX() const override { return 2.4F; } // 600 dpi
     float TwipsPerPixelY() const override { return 2.4F; }

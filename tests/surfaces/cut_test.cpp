@@ -262,7 +262,7 @@ TEST_F(CutTest, ADesignThatReachesOutOfSightLooksAsIfItWereAllSeen) {
 // Numbers of a document stay near its sheet, and so do those that a screen's raster works on.
 TEST_F(CutTest, NothingIsPaintedFarAway) {
     const std::string svg = MakeSvg(kSheets[0], "", [](PrinterSurface& printer) {
-        printer.StartPage();
+        printer.StartSheet();
         for (const float far : {1e5F, 1e7F, 1e10F, 1e30F}) {
             for (const int width : {1, 30, 1000000}) {
                 printer.SetLineWidth(width);
@@ -295,7 +295,7 @@ TEST_F(CutTest, NothingIsPaintedFarAway) {
 
 TEST_F(CutTest, LettersOutOfSightAreNotPainted) {
     const std::string svg = MakeSvg(kSheets[0], "", [](PrinterSurface& printer) {
-        printer.StartPage();
+        printer.StartSheet();
         printer.SetCurrentX(-50000);
         printer.SetCurrentY(5000);
         printer.PrintText(std::string(1U << 20U, 'M'));

@@ -38,7 +38,7 @@ void PrintPlate(PrinterSurface& printer) {
 }
 
 void PrintNothing(PrinterSurface& printer) {
-    printer.StartPage();
+    printer.StartSheet();
     printer.EndDoc();
 }
 
@@ -51,7 +51,7 @@ bool IsWellFormed(const std::string& xml) {
 }
 
 void FailToPrint(PrinterSurface& printer) {
-    printer.StartPage();
+    printer.StartSheet();
     throw RunTimeError("out of paper");
 }
 
@@ -229,7 +229,7 @@ TEST_F(DocumentsTest, AnSvgIsASheetInMillimetres) {
 
 TEST_F(DocumentsTest, ControlCharactersDoNotSpoilAnSvg) {
     const auto print = [](PrinterSurface& printer) {
-        printer.StartPage();
+        printer.StartSheet();
         printer.PrintText("1\x01\x1B 2");
         printer.EndDoc();
     };

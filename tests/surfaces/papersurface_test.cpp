@@ -36,7 +36,7 @@ protected:
 private:
     static PrintOn OnPage(const PrintOn& print) {
         return [print](PrinterSurface& printer) {
-            printer.StartPage();
+            printer.StartSheet();
             print(printer);
             printer.EndDoc();
         };
@@ -195,7 +195,7 @@ TEST_F(PaperSurfaceTest, TheAreaMovesDownByWhatIsWantedAndByTheRoomThereIs) {
         const auto print = [&row](PrinterSurface& printer) {
             printer.KeepOnSheet(-3000, 9000);
             printer.KeepOnSheet(row.top, row.bottom); // the last word counts
-            printer.StartPage();
+            printer.StartSheet();
             printer.Line(1000, 2000, 3000, 2000, kBlackInk);
             printer.EndDoc();
         };
@@ -209,7 +209,7 @@ TEST_F(PaperSurfaceTest, TheAreaMovesDownByWhatIsWantedAndByTheRoomThereIs) {
 TEST_F(PaperSurfaceTest, ADeviceThatDoesNotBeginIsARunTimeError) {
     QImage none; // which nothing can be painted on
     PaperSurface paper(none, kPrinterDpi, kSheets[0]);
-    EXPECT_THROW(paper.StartPage(), RunTimeError);
+    EXPECT_THROW(paper.StartSheet(), RunTimeError);
     EXPECT_THROW(paper.EndDoc(), RunTimeError);
 }
 
@@ -217,10 +217,10 @@ TEST_F(PaperSurfaceTest, ADocumentEndsOnce) {
     QPicture page;
     PaperSurface paper(page, kPrinterDpi, kSheets[0]);
     EXPECT_THROW(paper.EndDoc(), RunTimeError); // before it has begun
-    paper.StartPage();
+    paper.StartSheet();
     EXPECT_NO_THROW(paper.EndDoc());
     EXPECT_THROW(paper.EndDoc(), RunTimeError);
-    EXPECT_NO_THROW(paper.StartPage()); // and the next may begin
+    EXPECT_NO_THROW(paper.StartSheet()); // and the next may begin
     EXPECT_NO_THROW(paper.EndDoc());
 }
 
@@ -228,7 +228,7 @@ TEST_F(PaperSurfaceTest, ASurfaceMayGoBeforeItsDocumentIsEnded) {
     QPicture page;
     {
         PaperSurface paper(page, kPrinterDpi, kSheets[0]);
-        paper.StartPage();
+        paper.StartSheet();
         paper.Line(100, 100, 2000, 2000, kBlackInk);
     }
     EXPECT_FALSE(page.paintingActive());

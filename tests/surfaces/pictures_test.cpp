@@ -112,7 +112,7 @@ TEST_F(PicturesTest, AbsurdCoordinatesDoNoHarm) {
 TEST_F(PicturesTest, AbsurdCoordinatesDoNoHarmOnPaper) {
     for (const float far : kAbsurd) {
         const auto print = [far](PrinterSurface& printer) {
-            printer.StartPage();
+            printer.StartSheet();
             DrawEverythingAt(printer, far, 3);
             printer.BeginFont(-50, 0, 450, "Arial");
             printer.TextOutA(std::numeric_limits<int>::max(), std::numeric_limits<int>::min(), "x");

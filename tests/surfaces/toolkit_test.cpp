@@ -114,7 +114,7 @@ TEST_F(ToolkitTest, AFullDiskIsNotNoticedByThePdfWriter) {
 // So one date makes equal input equal bytes.
 TEST_F(ToolkitTest, APdfDiffersFromRunToRunOnlyInItsDate) {
     const auto draw = [](PrinterSurface& printer) {
-        printer.StartPage();
+        printer.StartSheet();
         printer.Line(0, 0, 1000, 500, kBlackInk);
         printer.PrintText("text");
         printer.EndDoc();
@@ -132,7 +132,7 @@ TEST_F(ToolkitTest, APdfDiffersFromRunToRunOnlyInItsDate) {
 
 TEST_F(ToolkitTest, FontsAreEmbedded) {
     WriteFile("page.pdf", MakePdf(kSheets[0], "title", "", [](PrinterSurface& printer) {
-                  printer.StartPage();
+                  printer.StartSheet();
                   printer.PrintText("text");
                   printer.EndDoc();
               }));

@@ -46,7 +46,7 @@ constexpr LogicalArea kArea{-400, 900, 9300, 7000};
 
 struct frmHighlights::Entry {
     EntryRow row;
-    Place field = nullptr;
+    FieldPlace field = {};
     void (frmHighlights::*changed)(const Entry& entry) = nullptr;
 };
 
@@ -105,7 +105,7 @@ void frmHighlights::FillHighlightEntry() {
     }
     SetEnabled({"cmdGetColor"}, true);
     for (const Entry& entry : kEntries) {
-        const double value = NumberInSlot(entry.field(CurrentHighlight_, 0));
+        const double value = NumberIn(entry.field.In(Design, CurrentHighlight_));
         Box(entry.row.box).Show(PlainNumber(static_cast<float>(value)));
     }
     ShowTenfoldLength();
@@ -125,7 +125,7 @@ void frmHighlights::OptionClicked(int highlight) {
 }
 
 void frmHighlights::Store(const Entry& entry) {
-    StoreInSlot(double{Box(entry.row.box).Number()}, entry.field(CurrentHighlight_, 0));
+    StoreIn(entry.field.In(Design, CurrentHighlight_), double{Box(entry.row.box).Number()});
 }
 
 void frmHighlights::EntryChanged(const Entry& entry) {

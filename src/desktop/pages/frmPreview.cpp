@@ -150,7 +150,7 @@ void frmPreview::Load() {
     Design.FontName = "Arial";
     Design.NumberOfScales = 1;
     Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
-    PageFrame(PreviewTraits()); // raises the aspect too
+    FrameOf(PreviewTraits()); // raises the aspect too
     ShowAspect();
     ShowPercent();
     ShowFlags();
@@ -208,7 +208,7 @@ void frmPreview::UpDown1Clicked(double aspect) {
 
 void frmPreview::cmdCircleClicked() {
     if (Toggle(CircleFlag())) {
-        DrawOutline(plate_->Surface(), PageFrame(PreviewTraits()), OutlineStart::Moved, kBlueInk);
+        DrawOutline(plate_->Surface(), FrameOf(PreviewTraits()), OutlineStart::Moved, kBlueInk);
         ShowFlags();
     } else {
         Load();
@@ -217,7 +217,7 @@ void frmPreview::cmdCircleClicked() {
 
 void frmPreview::cmdGridClicked() {
     if (Toggle(GridFlag())) {
-        DrawGrid(plate_->Surface(), PageFrame(PreviewTraits()));
+        DrawGrid(plate_->Surface(), FrameOf(PreviewTraits()));
         ShowFlags();
     } else {
         Load();
@@ -226,7 +226,7 @@ void frmPreview::cmdGridClicked() {
 
 void frmPreview::cmdPointerClicked() {
     if (Toggle(PointerFlag())) {
-        DrawPointer(plate_->Surface(), PageFrame(PreviewTraits()), Drawing);
+        DrawPointer(plate_->Surface(), FrameOf(PreviewTraits()), Drawing);
         ShowFlags();
     } else {
         Load();

@@ -30,17 +30,17 @@ constexpr PageTraits kTraits = {
     .form = "frmScales", .title = "Scale design", .helpTopic = "vscales.htm"};
 
 // The text of a field as a box shows it.
-std::string TextOf(const Slot& slot) {
-    if (const auto* text = std::get_if<std::string*>(&slot)) {
+std::string TextOf(const FieldPointer& field) {
+    if (const auto* text = std::get_if<std::string*>(&field)) {
         return **text;
     }
-    if (const auto* number = std::get_if<std::int16_t*>(&slot)) {
+    if (const auto* number = std::get_if<std::int16_t*>(&field)) {
         return PlainNumber(std::int32_t{**number});
     }
-    return PlainNumber(static_cast<float>(NumberInSlot(slot)));
+    return PlainNumber(static_cast<float>(NumberIn(field)));
 }
 
-void StoreEntry(std::string& text, const Slot& slot, const EntryLimits& limits) {
+void StoreEntry(std::string& text, const FieldPointer& field, const EntryLimits& limits) {
     std::visit(
         [&](auto place) {
             using Number = std::remove_pointer_t<decltype(place)>;
@@ -49,7 +49,7 @@ void StoreEntry(std::string& text, const Slot& slot, const EntryLimits& limits) 
                 *place = static_cast<Number>(limits.Held(static_cast<double>(*place)));
             }
         },
-        slot);
+        field);
 }
 
 } // namespace
@@ -95,7 +95,7 @@ void frmScales::ShowScaleOptions() {
 }
 
 void frmScales::Fill(const Entry& entry) {
-    Box(entry.row.box).Write(TextOf(entry.field(Design.ActiveScale, 0)));
+    Box(entry.row.box).Write(TextOf(entry.field.In(Design, Design.ActiveScale)));
 }
 
 void frmScales::Fill(const char* box) {
@@ -139,7 +139,7 @@ void frmScales::Redraw() {
 
 void frmScales::NumberChanged(const Entry& entry) {
     std::string text = Box(entry.row.box).Text();
-    StoreEntry(text, entry.field(Design.ActiveScale, 0), entry.row.limits);
+    StoreEntry(text, entry.field.In(Design, Design.ActiveScale), entry.row.limits);
     Redraw();
 }
 

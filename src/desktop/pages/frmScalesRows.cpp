@@ -79,7 +79,7 @@ QLayout* frmScales::MakeEntries() {
 }
 
 void frmScales::AddEntry(const Entry& entry, QGridLayout& grid, int row) {
-    const bool isText = std::holds_alternative<std::string*>(entry.field(1, 0));
+    const bool isText = std::holds_alternative<std::string*>(entry.field.In(Design, 1));
     const EntryControls controls =
         isText ? AddTextRow(entry.row, grid, row) : AddEntryRow(entry.row, grid, row, *this);
     controls.box.setText(QString::fromUtf8(entry.text));

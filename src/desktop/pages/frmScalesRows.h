@@ -29,7 +29,7 @@ struct frmScales::Button {
 struct frmScales::Entry {
     EntryRow row;
     const char* text = nullptr; // before it is filled
-    Place field = nullptr;
+    FieldPlace field = {};
     void (frmScales::*changed)(const Entry& entry) = nullptr;
     const Button* help = nullptr;
 };

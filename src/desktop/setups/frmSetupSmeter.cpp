@@ -7,7 +7,7 @@ namespace {
 constexpr const char* kOptions[] = {"S 0-9", "S 0-9, +40", "S 0-9, +50", "S 0-9, +60"};
 
 // Accepting unloads another page: this one stays behind, and comes back as it was left.
-constexpr CurveSetupTraits kTraits = {
+constexpr PicturedSetupTraits kTraits = {
     .setup = {.form = "frmSetupSmeter",
               .title = "Vernacle - S-meter setup",
               .heading = "S-meter setup",
@@ -19,7 +19,7 @@ constexpr CurveSetupTraits kTraits = {
 
 } // namespace
 
-frmSetupSmeter::frmSetupSmeter() : CurveSetupPage(kTraits) {
+frmSetupSmeter::frmSetupSmeter() : PicturedSetupPage(kTraits) {
     EnterSetup();
 }
 

@@ -6,7 +6,7 @@
 
 namespace vernacle {
 
-class frmSetupSmeter : public CurveSetupPage {
+class frmSetupSmeter : public PicturedSetupPage {
     Q_OBJECT
 
 public:

@@ -14,7 +14,7 @@ struct StepOption {
 constexpr std::array<StepOption, 3> kSteps = {{{"0.2", 0.2F}, {"0.5", 0.5F}, {"1.0", 1.0F}}};
 constexpr const char* kOptions[] = {kSteps[0].caption, kSteps[1].caption, kSteps[2].caption};
 
-constexpr CurveSetupTraits kTraits = {
+constexpr PicturedSetupTraits kTraits = {
     .setup = {.form = "frmSetupVSWR",
               .title = "Vernacle - VSWR setup",
               .heading = "VSWR setup",
@@ -25,14 +25,14 @@ constexpr CurveSetupTraits kTraits = {
 
 } // namespace
 
-frmSetupVSWR::frmSetupVSWR() : CurveSetupPage(kTraits) {
+frmSetupVSWR::frmSetupVSWR() : PicturedSetupPage(kTraits) {
     EnterSetup();
 }
 
 // What is accepted cannot be ignored any more, also while the next page is built.
 void frmSetupVSWR::AcceptSetup() {
     Control("cmdIgnore").setEnabled(false);
-    CurveSetupPage::AcceptSetup();
+    PicturedSetupPage::AcceptSetup();
 }
 
 void frmSetupVSWR::ComputeTics(int option, float exponent) {

@@ -6,7 +6,7 @@
 
 namespace vernacle {
 
-class frmSetupVSWR : public CurveSetupPage {
+class frmSetupVSWR : public PicturedSetupPage {
     Q_OBJECT
 
 public:

@@ -14,12 +14,12 @@
 
 namespace vernacle {
 
-CurveSetupPage::CurveSetupPage(const CurveSetupTraits& traits)
+PicturedSetupPage::PicturedSetupPage(const PicturedSetupTraits& traits)
     : SetupPage(traits.setup), traits_(traits) {
     Build();
 }
 
-void CurveSetupPage::Build() {
+void PicturedSetupPage::Build() {
     picture_ = new SetupPicture;
     auto* exponent = new QGridLayout;
     EntryBox* box =
@@ -41,7 +41,7 @@ void CurveSetupPage::Build() {
     Body().addLayout(halves, 1);
 }
 
-QWidget* CurveSetupPage::MakeOptions() {
+QWidget* PicturedSetupPage::MakeOptions() {
     QGroupBox* frame = MakeFrame("fraScaletype", QString::fromUtf8(traits_.frame));
     auto* column = new QVBoxLayout(frame);
     int number = 0;
@@ -54,7 +54,7 @@ QWidget* CurveSetupPage::MakeOptions() {
     return frame;
 }
 
-void CurveSetupPage::OptionClicked(int option) {
+void PicturedSetupPage::OptionClicked(int option) {
     std::string text = Box("txtLinearityExponent").Text();
     float exponent = Design.LinearityExponent[Scale()]; // stays where the text is no entry
     ParseEntry(text, exponent);
@@ -65,7 +65,7 @@ void CurveSetupPage::OptionClicked(int option) {
 }
 
 // The tics stay as they are until an option is chosen again.
-void CurveSetupPage::txtLinearityExponentChanged() {
+void PicturedSetupPage::txtLinearityExponentChanged() {
     for (int option = 1; option <= static_cast<int>(traits_.options.size()); ++option) {
         Option(OptionName(option).c_str()).Unselect();
     }

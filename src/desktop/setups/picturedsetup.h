@@ -10,18 +10,18 @@ namespace vernacle {
 
 class SetupPicture;
 
-struct CurveSetupTraits {
+struct PicturedSetupTraits {
     SetupPageTraits setup;
     const char* frame; // the title of the options' frame
     std::span<const char* const> options;
 };
 
-class CurveSetupPage : public SetupPage {
+class PicturedSetupPage : public SetupPage {
     Q_OBJECT
 
 protected:
     // The traits must outlive the page.
-    explicit CurveSetupPage(const CurveSetupTraits& traits);
+    explicit PicturedSetupPage(const PicturedSetupTraits& traits);
 
     // Computes for the option of that number, from 1, with the exponent as it is typed.
     virtual void ComputeTics(int option, float exponent) = 0;
@@ -33,7 +33,7 @@ private:
     void OptionClicked(int option);
     void txtLinearityExponentChanged();
 
-    const CurveSetupTraits& traits_;
+    const PicturedSetupTraits& traits_;
     SetupPicture* picture_ = nullptr;
 };
 

@@ -73,8 +73,8 @@ void ServePendingEvents() {
 
 } // namespace
 
-HostSeam DesktopHost() {
-    HostSeam host = DefaultHost();
+HostServices DesktopHost() {
+    HostServices host = DefaultHost();
     const auto files = std::make_shared<ProgramFiles>(SystemFolders());
     host.openForOutput = Open;
     host.besideProgram = [files](const std::string& name) { return files->PathOf(name); };

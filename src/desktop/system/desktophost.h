@@ -7,6 +7,6 @@ namespace vernacle {
 
 // Real files, the printer's port, message boxes, the beep, the sounds, and the primary screen.
 // Where the program's own files stand is decided once for each host.
-HostSeam DesktopHost();
+HostServices DesktopHost();
 
 } // namespace vernacle

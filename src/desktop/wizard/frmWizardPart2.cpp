@@ -113,10 +113,10 @@ void frmWizardPart2::Step(const Nudge& nudge, double by) {
 
 // What the drawing works with: a spacing that is not accepted does not reach it.
 void frmWizardPart2::TakeSize(const Nudge& nudge) {
-    const Slot stepped = nudge.field(1, 0);
-    if (stepped == Slot(&Design.LabelSpacing)) {
+    const FieldPointer stepped = nudge.field.In(Design, 1);
+    if (stepped == FieldPointer(&Design.LabelSpacing)) {
         copies_.labelSpacing = Design.LabelSpacing;
-    } else if (stepped == Slot(&Design.FontSize)) {
+    } else if (stepped == FieldPointer(&Design.FontSize)) {
         copies_.fontSize = Design.FontSize;
     }
 }

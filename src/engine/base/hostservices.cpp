@@ -39,8 +39,8 @@ constexpr ScreenSize kUsualScreen{1600 * 15, 900 * 15};
 
 } // namespace
 
-HostSeam DefaultHost() {
-    return HostSeam{
+HostServices DefaultHost() {
+    return HostServices{
         .readFile = ReadWholeFile,
         .openForOutput = OpenFileSink,
         .besideProgram = [](const std::string& name) { return name; },
@@ -60,7 +60,7 @@ HostSeam DefaultHost() {
     };
 }
 
-HostSeam Host = DefaultHost();
+HostServices Host = DefaultHost();
 
 void ReportFailure(const FailureReport& report) {
     Host.beep();

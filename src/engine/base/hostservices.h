@@ -28,7 +28,7 @@ struct FailureReport {
     std::string reason;
 };
 
-struct HostSeam {
+struct HostServices {
     // The bytes of the file of that name; throws FileFailure. A bare name ("Backup.DAT") stands in
     // the working folder.
     std::function<std::string(const std::string& name)> readFile;
@@ -61,10 +61,10 @@ struct HostSeam {
 };
 
 // Set by the program before it uses the engine; starts as DefaultHost().
-extern HostSeam Host;
+extern HostServices Host;
 
 // The plain file system and clock, names taken as paths, and nothing that shows or sounds.
-HostSeam DefaultHost();
+HostServices DefaultHost();
 
 // The beep and the message box of a trapped failure.
 void ReportFailure(const FailureReport& report);

@@ -21,7 +21,7 @@ constexpr std::monostate kNotSet{};
 // What a field starts as: at the process's start, and at each reset. The two disagree on purpose:
 // the start shows a plate that fits a common small meter, a reset one that reads easily.
 struct Default {
-    Place place;
+    FieldPlace place;
     Value opening;
     Value reset;
 };
@@ -93,18 +93,18 @@ constexpr Default kHighlightDefaults[] = {
     {At<&D::HighlightStop>, kNotSet, 0.0},     //
 };
 
-void Put(const Value& value, const Slot& slot) {
+void Put(const Value& value, const FieldPointer& slot) {
     if (const auto* text = std::get_if<const char*>(&value)) {
         *std::get<std::string*>(slot) = *text;
     } else if (const auto* number = std::get_if<double>(&value)) {
-        StoreInSlot(*number, slot);
+        StoreIn(slot, *number);
     }
 }
 
 template <std::size_t Count>
 void PutAll(const Default (&rows)[Count], Value Default::*column, int index = 0) {
     for (const Default& row : rows) {
-        Put(row.*column, row.place(index, 0));
+        Put(row.*column, row.place.In(Design, index));
     }
 }
 
@@ -146,7 +146,7 @@ void ResetDeletedLists() {
 enum class Repair { Below, NotAbove, Above, From };
 
 struct Limit {
-    Place place;
+    FieldPlace place;
     Repair when;
     double bound;
     double becomes;
@@ -169,9 +169,9 @@ bool Offends(const Limit& limit, double value) {
 template <std::size_t Count>
 void HoldTo(const Limit (&limits)[Count], int index = 0) {
     for (const Limit& limit : limits) {
-        const Slot slot = limit.place(index, 0);
-        if (Offends(limit, NumberInSlot(slot))) {
-            StoreInSlot(limit.becomes, slot);
+        const FieldPointer slot = limit.place.In(Design, index);
+        if (Offends(limit, NumberIn(slot))) {
+            StoreIn(slot, limit.becomes);
         }
     }
 }

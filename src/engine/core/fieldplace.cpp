@@ -16,26 +16,26 @@ Overloaded(Ts...) -> Overloaded<Ts...>;
 
 } // namespace
 
-Slot Nowhere(int /*outer*/, int /*inner*/) {
-    return std::monostate{};
+ConstFieldPointer AsConst(const FieldPointer& field) {
+    return std::visit([](auto pointer) { return ConstFieldPointer(pointer); }, field);
 }
 
-void StoreInSlot(double value, const Slot& slot) {
+void StoreIn(const FieldPointer& field, double value) {
     std::visit(Overloaded{
                    [](std::monostate) {},
                    [](std::string*) { ThrowTypeMismatch(); },
                    [value](auto* number) { StoreNumber(value, *number); },
                },
-               slot);
+               field);
 }
 
-double NumberInSlot(const Slot& slot) {
+double NumberIn(const ConstFieldPointer& field) {
     return std::visit(Overloaded{
                           [](std::monostate) { return 0.0; },
                           [](const std::string* text) { return NumericValue(*text); },
                           [](const auto* number) { return static_cast<double>(*number); },
                       },
-                      slot);
+                      field);
 }
 
 } // namespace vernacle

@@ -1,4 +1,4 @@
-// Where a field of the design stands, so that tables of fields can be written: one row, one place.
+// Where a field stands in any design, so that tables of fields can be written: one row, one place.
 #pragma once
 
 #include <cstdint>
@@ -10,32 +10,53 @@
 
 namespace vernacle {
 
-using Slot = std::variant<std::monostate, float*, std::int16_t*, std::int32_t*, std::string*>;
+using FieldPointer =
+    std::variant<std::monostate, float*, std::int16_t*, std::int32_t*, std::string*>;
+using ConstFieldPointer = std::variant<std::monostate, const float*, const std::int16_t*,
+                                       const std::int32_t*, const std::string*>;
 
-// The slot of a row for an outer index (a scale, a text) and an inner one (a tic, a list entry).
-using Place = Slot (*)(int outer, int inner);
+ConstFieldPointer AsConst(const FieldPointer& field);
 
-// The place of a member of Design: a plain field whatever the indices, an entry of a table by the
-// outer index, an entry of a table of tables by both.
+// The place of a row, in any design: of an outer index (a scale, a text) and an inner one (a tic, a
+// list entry). One without a function is no place at all.
+struct FieldPlace {
+    FieldPointer (*find)(DesignRecord& design, int outer, int inner) = nullptr;
+
+    explicit operator bool() const { return find != nullptr; }
+
+    FieldPointer In(DesignRecord& design, int outer = 0, int inner = 0) const {
+        return find(design, outer, inner);
+    }
+    ConstFieldPointer In(const DesignRecord& design, int outer = 0, int inner = 0) const {
+        return AsConst(find(const_cast<DesignRecord&>(design), outer, inner)); // to be read only
+    }
+};
+
+// The place of a member of the design: a plain field whatever the indices, an entry of a table by
+// the outer index, an entry of a table of tables by both.
 template <auto Member>
-Slot At(int outer, int inner) {
-    auto& field = Design.*Member;
+constexpr FieldPlace At = {[](DesignRecord& design, int outer, int inner) -> FieldPointer {
+    auto& field = design.*Member;
     using Field = std::remove_reference_t<decltype(field)>;
-    if constexpr (std::is_constructible_v<Slot, Field*>) {
+    if constexpr (std::is_constructible_v<FieldPointer, Field*>) {
         return &field;
-    } else if constexpr (requires { Slot(&field[outer]); }) {
+    } else if constexpr (requires { FieldPointer(&field[outer]); }) {
         return &field[outer];
     } else {
         return &field[outer][inner];
     }
-}
+}};
 
 // A place for rows that keep nothing.
-Slot Nowhere(int outer, int inner);
+constexpr FieldPlace Nowhere = {
+    [](DesignRecord& /*design*/, int /*outer*/, int /*inner*/) { return FieldPointer(); }};
 
-// Stores the number as the slot's type; a failed conversion is a run-time error.
-void StoreInSlot(double value, const Slot& slot);
+// Stores the number as the field's type; a failed conversion is a run-time error.
+void StoreIn(const FieldPointer& field, double value);
 
-double NumberInSlot(const Slot& slot);
+double NumberIn(const ConstFieldPointer& field);
+inline double NumberIn(const FieldPointer& field) {
+    return NumberIn(AsConst(field));
+}
 
 } // namespace vernacle

@@ -12,7 +12,7 @@ namespace vernacle {
 struct FileLine {
     const char* label = nullptr; // "%" stands for the number of the scale, the text or the point
     WriteValue write = nullptr;
-    Place place = Nowhere;
+    FieldPlace place = Nowhere;
     ReadValue read = nullptr;         // none: the reader takes no line
     int stage = 0;                    // what the reader's failure message quotes
     void (*afterReading)() = nullptr; // what is forced, whatever the line said

@@ -15,8 +15,8 @@ namespace {
 constexpr char kSeparator = '\\';
 constexpr std::string_view kEmptyLabel = "/"; // stands for no label, since no field can be empty
 
-std::string& TextIn(const Slot& slot) {
-    return *std::get<std::string*>(slot);
+std::string& TextIn(const FieldPointer& field) {
+    return *std::get<std::string*>(field);
 }
 
 bool HasField(std::string_view rest) {
@@ -45,34 +45,34 @@ void FlagDeleted(std::string& value, DeletionFlags::Row flags) {
 
 } // namespace
 
-std::string WriteNothing(const Slot& /*slot*/, LinePlace /*place*/) {
+std::string WriteNothing(const FieldPointer& /*field*/, LinePlace /*place*/) {
     return "";
 }
 
-std::string WriteDateTime(const Slot& /*slot*/, LinePlace /*place*/) {
+std::string WriteDateTime(const FieldPointer& /*field*/, LinePlace /*place*/) {
     return Host.localDateTime();
 }
 
-std::string WritePlain(const Slot& slot, LinePlace /*place*/) {
-    if (const auto* number = std::get_if<float*>(&slot)) {
+std::string WritePlain(const FieldPointer& field, LinePlace /*place*/) {
+    if (const auto* number = std::get_if<float*>(&field)) {
         return PlainNumber(**number);
     }
-    return PlainNumber(static_cast<std::int32_t>(NumberInSlot(slot)));
+    return PlainNumber(static_cast<std::int32_t>(NumberIn(field)));
 }
 
-std::string WritePadded(const Slot& slot, LinePlace /*place*/) {
-    return PaddedNumber(*std::get<float*>(slot));
+std::string WritePadded(const FieldPointer& field, LinePlace /*place*/) {
+    return PaddedNumber(*std::get<float*>(field));
 }
 
-std::string WriteGlued(const Slot& slot, LinePlace /*place*/) {
-    return TextIn(slot);
+std::string WriteGlued(const FieldPointer& field, LinePlace /*place*/) {
+    return TextIn(field);
 }
 
-std::string WriteTrimmed(const Slot& slot, LinePlace /*place*/) {
-    return std::string(Trimmed(TextIn(slot)));
+std::string WriteTrimmed(const FieldPointer& field, LinePlace /*place*/) {
+    return std::string(Trimmed(TextIn(field)));
 }
 
-std::string WriteTicFields(const Slot& /*slot*/, LinePlace place) {
+std::string WriteTicFields(const FieldPointer& /*field*/, LinePlace place) {
     const auto [scale, tic] = place;
     std::string& label = Design.TicLabelText[scale][tic];
     if (Trimmed(label).empty()) {
@@ -87,80 +87,80 @@ std::string WriteTicFields(const Slot& /*slot*/, LinePlace place) {
     return text;
 }
 
-std::string WriteCurvePoint(const Slot& /*slot*/, LinePlace place) {
+std::string WriteCurvePoint(const FieldPointer& /*field*/, LinePlace place) {
     return PlainNumber(Design.CorrectionPair[2 * place.outer - 1]) + " \\ " +
            PlainNumber(Design.CorrectionPair[2 * place.outer]);
 }
 
-std::string WriteTicsAndArcs(const Slot& /*slot*/, LinePlace place) {
+std::string WriteTicsAndArcs(const FieldPointer& /*field*/, LinePlace place) {
     float number = 0;
     StoreNumber(NumberOf(Design.PrintTicsAndArcs[place.outer]), number);
     return PlainNumber(number);
 }
 
-std::string WriteDeletedTic(const Slot& /*slot*/, LinePlace place) {
+std::string WriteDeletedTic(const FieldPointer& /*field*/, LinePlace place) {
     return PlainNumber(std::int32_t{Design.DeletedTics[place.outer][place.inner]});
 }
 
-std::string WriteDeletedLabel(const Slot& /*slot*/, LinePlace place) {
+std::string WriteDeletedLabel(const FieldPointer& /*field*/, LinePlace place) {
     return PlainNumber(std::int32_t{Design.DeletedLabels[place.outer][place.inner]});
 }
 
-std::string WriteOne(const Slot& /*slot*/, LinePlace /*place*/) {
+std::string WriteOne(const FieldPointer& /*field*/, LinePlace /*place*/) {
     return PlainNumber(1);
 }
 
-std::string WriteSpacedTwo(const Slot& /*slot*/, LinePlace /*place*/) {
+std::string WriteSpacedTwo(const FieldPointer& /*field*/, LinePlace /*place*/) {
     return PaddedNumber(2);
 }
 
-std::string WriteThree(const Slot& /*slot*/, LinePlace /*place*/) {
+std::string WriteThree(const FieldPointer& /*field*/, LinePlace /*place*/) {
     return PlainNumber(3);
 }
 
-std::string WriteFour(const Slot& /*slot*/, LinePlace /*place*/) {
+std::string WriteFour(const FieldPointer& /*field*/, LinePlace /*place*/) {
     return PlainNumber(4);
 }
 
-void Drop(std::string& /*value*/, const Slot& /*slot*/, LinePlace /*place*/) {}
+void Drop(std::string& /*value*/, const FieldPointer& /*field*/, LinePlace /*place*/) {}
 
-void ReadEntry(std::string& value, const Slot& slot, LinePlace /*place*/) {
-    if (const auto* number = std::get_if<float*>(&slot)) {
+void ReadEntry(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
+    if (const auto* number = std::get_if<float*>(&field)) {
         ParseEntry(value, **number);
-    } else if (const auto* whole = std::get_if<std::int16_t*>(&slot)) {
+    } else if (const auto* whole = std::get_if<std::int16_t*>(&field)) {
         ParseEntry(value, **whole);
     } else {
-        ParseEntry(value, *std::get<std::int32_t*>(slot));
+        ParseEntry(value, *std::get<std::int32_t*>(field));
     }
 }
 
-void ReadVal(std::string& value, const Slot& slot, LinePlace /*place*/) {
-    StoreInSlot(NumericValue(value), slot);
+void ReadVal(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
+    StoreIn(field, NumericValue(value));
 }
 
-void ReadFirstVal(std::string& value, const Slot& slot, LinePlace place) {
-    std::string field;
-    SplitField(value, field);
-    ReadVal(field, slot, place);
+void ReadFirstVal(std::string& value, const FieldPointer& field, LinePlace place) {
+    std::string first;
+    SplitField(value, first);
+    ReadVal(first, field, place);
 }
 
-void ReadInteger(std::string& value, const Slot& slot, LinePlace /*place*/) {
+void ReadInteger(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
     const auto number = StrictNumber(value);
     if (!number) {
         ThrowTypeMismatch();
     }
-    StoreInSlot(*number, slot);
+    StoreIn(field, *number);
 }
 
-void ReadText(std::string& value, const Slot& slot, LinePlace /*place*/) {
-    TextIn(slot) = std::move(value);
+void ReadText(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
+    TextIn(field) = std::move(value);
 }
 
-void ReadTrimmed(std::string& value, const Slot& slot, LinePlace /*place*/) {
-    TextIn(slot) = Trimmed(value);
+void ReadTrimmed(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
+    TextIn(field) = Trimmed(value);
 }
 
-void ReadTicFields(std::string& value, const Slot& /*slot*/, LinePlace place) {
+void ReadTicFields(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
     const auto [scale, tic] = place;
     float& deflection = Design.TicDeflection[scale][tic];
     if (HasField(value)) {
@@ -177,7 +177,7 @@ void ReadTicFields(std::string& value, const Slot& /*slot*/, LinePlace place) {
     }
 }
 
-void ReadCurvePoint(std::string& value, const Slot& /*slot*/, LinePlace place) {
+void ReadCurvePoint(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
     float x = 0;
     float y = 0;
     TakeCoordinate(value, x);
@@ -186,15 +186,15 @@ void ReadCurvePoint(std::string& value, const Slot& /*slot*/, LinePlace place) {
     Design.CorrectionPair[2 * place.outer] = y;
 }
 
-void ReadTicsAndArcs(std::string& value, const Slot& /*slot*/, LinePlace place) {
+void ReadTicsAndArcs(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
     Design.PrintTicsAndArcs[place.outer] = std::move(value);
 }
 
-void ReadDeletedTic(std::string& value, const Slot& /*slot*/, LinePlace place) {
+void ReadDeletedTic(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
     FlagDeleted(value, Design.StandardTicYN[place.outer]);
 }
 
-void ReadDeletedLabel(std::string& value, const Slot& /*slot*/, LinePlace place) {
+void ReadDeletedLabel(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
     FlagDeleted(value, Design.StandardLabelYN[place.outer]);
 }
 

@@ -16,40 +16,51 @@ struct LinePlace {
     int inner = 0;
 };
 
-using WriteValue = std::string (*)(const Slot& slot, LinePlace place);
+using WriteValue = std::string (*)(const FieldPointer& field, LinePlace place);
 
-std::string WriteNothing(const Slot& slot, LinePlace place);
-std::string WriteDateTime(const Slot& slot, LinePlace place);
-std::string WritePlain(const Slot& slot, LinePlace place);       // number in its shortest form
-std::string WritePadded(const Slot& slot, LinePlace place);      // blank or minus, number, blank
-std::string WriteGlued(const Slot& slot, LinePlace place);       // text as it stands
-std::string WriteTrimmed(const Slot& slot, LinePlace place);     // text without its outer blanks
-std::string WriteTicFields(const Slot& slot, LinePlace place);   // the five fields of a special tic
-std::string WriteCurvePoint(const Slot& slot, LinePlace place);  // X \ Y of a correction point
-std::string WriteTicsAndArcs(const Slot& slot, LinePlace place); // PrintTicsAndArcs of the scale
-std::string WriteDeletedTic(const Slot& slot, LinePlace place);  // an entry of a scale's list
-std::string WriteDeletedLabel(const Slot& slot, LinePlace place);
-std::string WriteOne(const Slot& slot, LinePlace place);
-std::string WriteSpacedTwo(const Slot& slot, LinePlace place); // the one constant with blanks
-std::string WriteThree(const Slot& slot, LinePlace place);
-std::string WriteFour(const Slot& slot, LinePlace place);
+std::string WriteNothing(const FieldPointer& field, LinePlace place);
+std::string WriteDateTime(const FieldPointer& field, LinePlace place);
+std::string WritePlain(const FieldPointer& field, LinePlace place); // number in its shortest form
+std::string WritePadded(const FieldPointer& field,
+                        LinePlace place);                           // blank or minus, number, blank
+std::string WriteGlued(const FieldPointer& field, LinePlace place); // text as it stands
+std::string WriteTrimmed(const FieldPointer& field,
+                         LinePlace place); // text without its outer blanks
+std::string WriteTicFields(const FieldPointer& field,
+                           LinePlace place); // the five fields of a special tic
+std::string WriteCurvePoint(const FieldPointer& field,
+                            LinePlace place); // X \ Y of a correction point
+std::string WriteTicsAndArcs(const FieldPointer& field,
+                             LinePlace place); // PrintTicsAndArcs of the scale
+std::string WriteDeletedTic(const FieldPointer& field,
+                            LinePlace place); // an entry of a scale's list
+std::string WriteDeletedLabel(const FieldPointer& field, LinePlace place);
+std::string WriteOne(const FieldPointer& field, LinePlace place);
+std::string WriteSpacedTwo(const FieldPointer& field,
+                           LinePlace place); // the one constant with blanks
+std::string WriteThree(const FieldPointer& field, LinePlace place);
+std::string WriteFour(const FieldPointer& field, LinePlace place);
 
 // Takes the value of a line, which it may change; a failed conversion or an index out of bounds is
 // a run-time error.
-using ReadValue = void (*)(std::string& value, const Slot& slot, LinePlace place);
+using ReadValue = void (*)(std::string& value, const FieldPointer& field, LinePlace place);
 
-void Drop(std::string& value, const Slot& slot, LinePlace place);
-void ReadEntry(std::string& value, const Slot& slot, LinePlace place); // ParseEntry and its limits
-void ReadVal(std::string& value, const Slot& slot, LinePlace place); // leading number of any length
-void ReadFirstVal(std::string& value, const Slot& slot, LinePlace place); // of the first field
-void ReadInteger(std::string& value, const Slot& slot, LinePlace place);  // the text is a number
-void ReadText(std::string& value, const Slot& slot, LinePlace place);
-void ReadTrimmed(std::string& value, const Slot& slot, LinePlace place);
-void ReadTicFields(std::string& value, const Slot& slot, LinePlace place);
-void ReadCurvePoint(std::string& value, const Slot& slot, LinePlace place);
-void ReadTicsAndArcs(std::string& value, const Slot& slot, LinePlace place);
-void ReadDeletedTic(std::string& value, const Slot& slot, LinePlace place);
-void ReadDeletedLabel(std::string& value, const Slot& slot, LinePlace place);
+void Drop(std::string& value, const FieldPointer& field, LinePlace place);
+void ReadEntry(std::string& value, const FieldPointer& field,
+               LinePlace place); // ParseEntry and its limits
+void ReadVal(std::string& value, const FieldPointer& field,
+             LinePlace place); // leading number of any length
+void ReadFirstVal(std::string& value, const FieldPointer& field,
+                  LinePlace place); // of the first field
+void ReadInteger(std::string& value, const FieldPointer& field,
+                 LinePlace place); // the text is a number
+void ReadText(std::string& value, const FieldPointer& field, LinePlace place);
+void ReadTrimmed(std::string& value, const FieldPointer& field, LinePlace place);
+void ReadTicFields(std::string& value, const FieldPointer& field, LinePlace place);
+void ReadCurvePoint(std::string& value, const FieldPointer& field, LinePlace place);
+void ReadTicsAndArcs(std::string& value, const FieldPointer& field, LinePlace place);
+void ReadDeletedTic(std::string& value, const FieldPointer& field, LinePlace place);
+void ReadDeletedLabel(std::string& value, const FieldPointer& field, LinePlace place);
 
 // The next field, up to the next "\", and what follows its separators; several count as one, so
 // that a field is empty only where none is left.

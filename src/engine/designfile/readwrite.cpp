@@ -40,8 +40,8 @@ private:
         if (line.beforeWriting) {
             line.beforeWriting();
         }
-        const Slot slot = line.place(place.outer, place.inner);
-        text_ += LabelOf(line, place.outer) + OnOneLine(line.write(slot, place));
+        const FieldPointer field = line.place.In(Design, place.outer, place.inner);
+        text_ += LabelOf(line, place.outer) + OnOneLine(line.write(field, place));
         text_ += kLineEnd;
         if (line.afterWriting) {
             line.afterWriting();
@@ -86,7 +86,7 @@ private:
             const std::string_view item = NextItem();
             doubts_.Consider(line, place, item, lines_);
             std::string value(LineReader::ValueOf(item));
-            line.read(value, line.place(place.outer, place.inner), place);
+            line.read(value, line.place.In(Design, place.outer, place.inner), place);
         }
         if (line.afterReading) {
             line.afterReading();

@@ -66,8 +66,8 @@ public:
     // the sheet's upper edge, as far as the sheet has room below it.
     virtual void KeepOnSheet(float top, float bottom) = 0;
 
-    virtual void StartPage() = 0; // a new document with the logical area set
-    virtual void EndDoc() = 0;    // sends the document; a RunTimeError if that fails
+    virtual void StartSheet() = 0; // a new document with the logical area set
+    virtual void EndDoc() = 0;     // sends the document; a RunTimeError if that fails
 
     // The size of a device pixel in twips.
     virtual float TwipsPerPixelX() const = 0;

@@ -5,11 +5,11 @@
 
 namespace vernacle {
 
-constexpr double kPageWidth = 11500; // units
-constexpr double kPageHeight = 15200;
-constexpr SurfacePoint kPageCentre = {6000, 4000}; // where the middle of a plate stands
+constexpr double kSheetWidth = 11500; // units
+constexpr double kSheetHeight = 15200;
+constexpr SurfacePoint kSheetCentre = {6000, 4000}; // where the middle of a plate stands
 
 // On a printer whose calibration factors are 1.
-constexpr double kPageUnitsPerHalfMm = 28.289;
+constexpr double kSheetUnitsPerHalfMm = 28.289;
 
 } // namespace vernacle

@@ -35,13 +35,13 @@ std::string CalibrationText() {
 }
 
 void PrintSquare(PrinterSurface& printer) {
-    const double halfX = kSquareMm * double{Design.CalibrationX} * kPageUnitsPerHalfMm;
-    const double halfY = kSquareMm * double{Design.CalibrationY} * kPageUnitsPerHalfMm;
-    printer.KeepOnSheet(F(kPageCentre.y - halfY), F(kPageCentre.y + halfY));
-    printer.StartPage();
+    const double halfX = kSquareMm * double{Design.CalibrationX} * kSheetUnitsPerHalfMm;
+    const double halfY = kSquareMm * double{Design.CalibrationY} * kSheetUnitsPerHalfMm;
+    printer.KeepOnSheet(F(kSheetCentre.y - halfY), F(kSheetCentre.y + halfY));
+    printer.StartSheet();
     printer.SetLineWidth(1);
-    printer.Box(F(kPageCentre.x - halfX), F(kPageCentre.y - halfY), F(kPageCentre.x + halfX),
-                F(kPageCentre.y + halfY), kBlackInk);
+    printer.Box(F(kSheetCentre.x - halfX), F(kSheetCentre.y - halfY), F(kSheetCentre.x + halfX),
+                F(kSheetCentre.y + halfY), kBlackInk);
     printer.EndDoc();
 }
 

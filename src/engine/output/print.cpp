@@ -149,10 +149,10 @@ void PrintTitle(PrintRun& run, int scale) {
     const std::string& title = Design.ScaleTitle[scale];
     const double width = double{run.printer.TextWidth(title)};
     const double x =
-        QuadrantTitleX(frame, scale).value_or(kPageCentre.x - width * frame.plateScale * 0.018);
+        QuadrantTitleX(frame, scale).value_or(kSheetCentre.x - width * frame.plateScale * 0.018);
     const double y =
         (frame.heightMm - 2 * double{Design.BottomToTitle[scale]}) * frame.upPerHalfMm +
-        kPageCentre.y;
+        kSheetCentre.y;
     PrintAt(run.printer, std::trunc(std::clamp(x, 300.0, 11200.0)),
             std::trunc(std::clamp(y, 300.0, 14900.0)), title);
 }
@@ -187,14 +187,14 @@ void PrintFooter(PrintRun& run) {
 void KeepPlateOnSheet(PrintRun& run) {
     const PlateFrame& frame = run.drawing.frame;
     const double outline = Design.PlateOutlineCircular == 1 ? frame.plateScale * frame.widthMm : 0;
-    const double top = std::min(frame.Top() - kMarksReach, kPageCentre.y - outline);
-    const double bottom = std::max(frame.Bottom() + kMarksReach, kPageCentre.y + outline);
+    const double top = std::min(frame.Top() - kMarksReach, kSheetCentre.y - outline);
+    const double bottom = std::max(frame.Bottom() + kMarksReach, kSheetCentre.y + outline);
     run.printer.KeepOnSheet(F(top), F(bottom));
 }
 
 void PrintPage(PrintRun& run) {
     KeepPlateOnSheet(run);
-    run.printer.StartPage();
+    run.printer.StartSheet();
     PrintBackground(run);
     PrintOutline(run);
     for (const DrawingStage stage : run.drawing.traits.stages) {
@@ -226,7 +226,7 @@ constexpr DrawingStage kPrintStages[] = {
 } // namespace
 
 DrawingTraits PrintTraits() {
-    return {.centre = kPageCentre,
+    return {.centre = kSheetCentre,
             .preparation = Preparation::None,
             .lineWidths = {.trimMarks = 16, .holes = 6, .bearings = 3, .arcFactor = 2.4},
             .stages = kPrintStages};
@@ -234,8 +234,8 @@ DrawingTraits PrintTraits() {
 
 PlateFrame PrintFrame() {
     PlateFrame frame =
-        FrameOfDesign(double{Design.CalibrationX} * kPageUnitsPerHalfMm, kPageCentre);
-    frame.upPerHalfMm = double{Design.CalibrationY} * kPageUnitsPerHalfMm;
+        FrameOfDesign(double{Design.CalibrationX} * kSheetUnitsPerHalfMm, kSheetCentre);
+    frame.upPerHalfMm = double{Design.CalibrationY} * kSheetUnitsPerHalfMm;
     return frame;
 }
 

@@ -115,7 +115,7 @@ DrawingTraits SetupTraits() {
             .stages = kSetupStages};
 }
 
-PlateFrame PageFrame(const DrawingTraits& traits) {
+PlateFrame FrameOf(const DrawingTraits& traits) {
     const double width = double{Design.PlateWidth};
     const double height = double{Design.PlateHeight};
     const double larger = CheckedDivide(width, height) <= traits.square ? height : width;
@@ -133,7 +133,7 @@ PlateFrame PageFrame(const DrawingTraits& traits) {
 
 void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageCopies& sizes) {
     Prepare(traits.preparation);
-    DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
+    DrawingRun run{surface, traits, Drawing, sizes, FrameOf(traits)};
     Drawing.WhereMarker = kMarkStart;
     try {
         RunStages(run);
@@ -145,7 +145,7 @@ void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const Page
 void DrawSetup(DrawingSurface& surface, const PageCopies& sizes) {
     const ScaleKeeper keeper;
     const DrawingTraits traits = SetupTraits();
-    DrawingRun run{surface, traits, Drawing, sizes, PageFrame(traits)};
+    DrawingRun run{surface, traits, Drawing, sizes, FrameOf(traits)};
     Drawing.WhereMarker = kMarkStart;
     RunStages(run);
 }

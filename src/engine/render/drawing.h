@@ -121,7 +121,7 @@ Colour InkOf(int scale);
 
 // The frame of a page, its numbers also kept in Drawing. An AspectRatio of 0 or less becomes 1
 // where it counts. A plate without height is a run-time error.
-PlateFrame PageFrame(const DrawingTraits& traits);
+PlateFrame FrameOf(const DrawingTraits& traits);
 
 // What an aspect ratio is held to.
 constexpr EntryLimits kAspectLimits{0.5, 1.15};

@@ -64,14 +64,14 @@ constexpr Nudge kNudges[] = {
 // clang-format on
 
 double NumberOfNudge(const Nudge& nudge) {
-    return NumberInSlot(nudge.field(kScale, 0));
+    return NumberIn(nudge.field.In(Design, kScale));
 }
 
 NudgeResult Correct(const Nudge& nudge, double value) {
     if (!nudge.corrected) {
         return NudgeResult::Ignored;
     }
-    StoreInSlot(value, nudge.field(kScale, 0));
+    StoreIn(nudge.field.In(Design, kScale), value);
     return NudgeResult::Corrected;
 }
 
@@ -87,10 +87,10 @@ std::string NudgeValue(const Nudge& nudge) {
 
 NudgeResult ApplyNudge(const Nudge& nudge, const std::string& text) {
     std::string entered = text;
-    const Slot slot = nudge.field(kScale, 0);
-    if (auto* const* number = std::get_if<float*>(&slot)) {
+    const FieldPointer field = nudge.field.In(Design, kScale);
+    if (auto* const* number = std::get_if<float*>(&field)) {
         ParseEntry(entered, **number);
-    } else if (auto* const* count = std::get_if<std::int16_t*>(&slot)) {
+    } else if (auto* const* count = std::get_if<std::int16_t*>(&field)) {
         ParseEntry(entered, **count);
     }
     const double value = NumberOfNudge(nudge);

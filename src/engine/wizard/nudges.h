@@ -14,7 +14,7 @@ struct Nudge {
     const char* caption = nullptr;
     const char* label = nullptr; // that shows the number
     const char* tip = nullptr;
-    Place field = nullptr;
+    FieldPlace field = {};
     double stepsLowest = 0; // of the control
     double stepsHighest = 0;
     // What is accepted, both ends included but for an open lower one.

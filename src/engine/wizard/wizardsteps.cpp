@@ -23,12 +23,11 @@ constexpr int kScale = 1; // the wizard's only one
 // Holds a count until its step has tested it.
 float workingValue = 0;
 
-Slot WorkingValue(int /*outer*/, int /*inner*/) {
-    return &workingValue;
-}
+constexpr FieldPlace WorkingValue = {[](DesignRecord& /*design*/, int /*outer*/,
+                                        int /*inner*/) -> FieldPointer { return &workingValue; }};
 
-double NumberAt(Place field) {
-    return NumberInSlot(field(kScale, 0));
+double NumberAt(FieldPlace field) {
+    return NumberIn(field.In(Design, kScale));
 }
 
 void NameScale() {
@@ -61,14 +60,14 @@ constexpr WizardLimit Beyond(double number) {
     return {.number = number, .open = true};
 }
 
-constexpr WizardLimit UpTo(Place field) {
+constexpr WizardLimit UpTo(FieldPlace field) {
     return {.field = field};
 }
 
-constexpr Place kWidth = At<&D::PlateWidth>;
-constexpr Place kHeight = At<&D::PlateHeight>;
-constexpr Place kMajorLength = At<&D::MajorTicLength>;
-constexpr Place kMajorWidth = At<&D::MajorTicWidth>;
+constexpr FieldPlace kWidth = At<&D::PlateWidth>;
+constexpr FieldPlace kHeight = At<&D::PlateHeight>;
+constexpr FieldPlace kMajorLength = At<&D::MajorTicLength>;
+constexpr FieldPlace kMajorWidth = At<&D::MajorTicWidth>;
 
 // Some messages tell other limits than those that hold.
 // clang-format off
@@ -101,7 +100,7 @@ constexpr int kReadingOrder[] = {0, 1, 2, 3, 4, 5, 6, 8, 7, 10, 9, 11, 12, 13, 1
 struct Prompt {
     int topic = 0;
     const char* text = nullptr;
-    Place field = nullptr; // whose number stands behind the text
+    FieldPlace field = {}; // whose number stands behind the text
     const char* between = "";
     int tenthsOfHeight = 0; // whose whole millimetres stand behind that
     const char* after = "";
@@ -152,12 +151,12 @@ enum class When { Equal, NotAbove, Below, Above, Always };
 // If a field's number compares so with the bound, it becomes the value; both are fields where one
 // is named.
 struct RepairRow {
-    Place field = nullptr;
+    FieldPlace field = {};
     When when = When::Always;
     double bound = 0;
     double value = 0;
-    Place boundField = nullptr;
-    Place valueField = nullptr; // to which the value is added
+    FieldPlace boundField = {};
+    FieldPlace valueField = {}; // to which the value is added
 };
 
 constexpr RepairRow kRepairs[] = {
@@ -206,14 +205,14 @@ void Repair(const RepairRow& row) {
     const double bound = row.boundField ? NumberAt(row.boundField) : row.bound;
     if (Applies(row.when, NumberAt(row.field), bound)) {
         const double value = row.valueField ? NumberAt(row.valueField) + row.value : row.value;
-        StoreInSlot(value, row.field(kScale, 0));
+        StoreIn(row.field.In(Design, kScale), value);
     }
 }
 
-void Parse(const Slot& slot, std::string text) {
-    if (auto* const* number = std::get_if<float*>(&slot)) {
+void Parse(const FieldPointer& field, std::string text) {
+    if (auto* const* number = std::get_if<float*>(&field)) {
         ParseEntry(text, **number);
-    } else if (auto* const* count = std::get_if<std::int16_t*>(&slot)) {
+    } else if (auto* const* count = std::get_if<std::int16_t*>(&field)) {
         ParseEntry(text, **count);
     }
 }
@@ -241,7 +240,7 @@ std::span<const WizardStep> WizardSteps() {
 }
 
 std::optional<std::string> EnterWizardStep(const WizardStep& step, const std::string& text) {
-    Parse(step.field(kScale, 0), text);
+    Parse(step.field.In(Design, kScale), text);
     if (IsAccepted(step, NumberAt(step.field))) {
         if (step.accepted) {
             step.accepted();
@@ -287,8 +286,8 @@ std::span<const int> WizardReadingOrder() {
 }
 
 void ReadWizardStep(const WizardStep& step, const std::string& text) {
-    const Place field = step.count ? step.count : step.field;
-    Parse(field(kScale, 0), text);
+    const FieldPlace field = step.count ? step.count : step.field;
+    Parse(field.In(Design, kScale), text);
 }
 
 void RepairWizardDesign() {

@@ -13,7 +13,7 @@ namespace vernacle {
 // One end of what a step accepts: a number, or a field of the design.
 struct WizardLimit {
     double number = 0;
-    Place field = nullptr;
+    FieldPlace field = {};
     bool open = false; // the number itself is refused
 
     double Value() const;
@@ -22,7 +22,7 @@ struct WizardLimit {
 // A refusal: these words, with a field's number between them if there is one.
 struct WizardRefusal {
     const char* before = nullptr;
-    Place field = nullptr;
+    FieldPlace field = {};
     const char* after = "";
 };
 
@@ -30,13 +30,13 @@ struct WizardStep {
     const char* caption = nullptr;
     const char* box = nullptr;
     const char* unit = nullptr;
-    Place field = nullptr;
+    FieldPlace field = {};
     WizardLimit lowest = {};
     WizardLimit highest = {};
     WizardRefusal refusal = {};
     int nextTopic = 0;            // 0 for none
     void (*accepted)() = nullptr; // what else the step sets
-    Place count = nullptr;        // the whole number that a working value is for
+    FieldPlace count = {};        // the whole number that a working value is for
 };
 
 std::span<const WizardStep> WizardSteps();

@@ -92,7 +92,7 @@ private:
         char name[] = "vernacle";
         char* words[] = {name, nullptr};
         Application application(count, words);
-        const HostSeam desktop = DesktopHost();
+        const HostServices desktop = DesktopHost();
         Host.failureBox = desktop.failureBox; // the real ones, which wait for their button
         Host.screenSize = desktop.screenSize;
         SetForms(ProgramForms());

@@ -20,7 +20,7 @@ using D = DesignRecord;
 struct TipRow {
     const char* box;
     const char* tip;
-    Place field = nullptr;
+    FieldPlace field = {};
     const char* press = "";
 };
 
@@ -63,7 +63,7 @@ const TipPage kPages[] = {
     }},
     {"frmPreview", nullptr, {
         {"txtAspect",       "0.5 to 1.15", At<&D::AspectRatio>},
-        {"txtAspectUpDown", "50 to 115 %", [](int, int) -> Slot { static float percent; percent = Design.AspectRatio * 100; return &percent; }},
+        {"txtAspectUpDown", "50 to 115 %", FieldPlace{[](DesignRecord& design, int, int) -> FieldPointer { static float percent; percent = design.AspectRatio * 100; return &percent; }}},
     }},
     {"frmText", nullptr, {
         {"txtText",         ""},
@@ -84,7 +84,7 @@ const TipPage kPages[] = {
         {"txtLength1",  "0 to 18 mm by the arrows",  At<&D::HighlightLength>},
     }},
     {"frmSetupdB", nullptr, {
-        {"txtFullScaledB",         "-200 to 200 dB",   [](int, int) -> Slot { static float decibels; decibels = static_cast<float>(NumericValue(Design.TicLabelText[1][0])); return &decibels; }, "cmdEnter"},
+        {"txtFullScaledB",         "-200 to 200 dB",   FieldPlace{[](DesignRecord& design, int, int) -> FieldPointer { static float decibels; decibels = static_cast<float>(NumericValue(design.TicLabelText[1][0])); return &decibels; }}, "cmdEnter"},
         {"txtNrOfTicmarks",        "0 to 24 ticmarks", At<&D::SpecialNrOfTicmarks>, "cmdEnter"},
         {"txtLinearityExponent",   "-4 to 4",          At<&D::LinearityExponent>,   "cmdEnter"},
         {"txtFullscaleMultiplier", "0.7 to 1.1",       At<&D::FullscaleMultiplier>, "cmdEnter"},
@@ -93,7 +93,7 @@ const TipPage kPages[] = {
     {"frmSetupVSWR",   nullptr, {{"txtLinearityExponent", "-4 to 4", At<&D::LinearityExponent>, "Option1"}}},
     {"frmSpecialScale", nullptr, {
         {"txtNrOfTicmarks", "1 to 30 ticmarks",    At<&D::SpecialNrOfTicmarks>},
-        {"txtDeflection0",  "0 to 1 of full scale", [](int, int) -> Slot { return &Design.TicDeflection[1][0]; }, "cmdPreview"},
+        {"txtDeflection0",  "0 to 1 of full scale", FieldPlace{[](DesignRecord& design, int, int) -> FieldPointer { return &design.TicDeflection[1][0]; }}, "cmdPreview"},
     }},
     {"frmSetupOhmmeter", nullptr, {{"txtEnterMidscale", ""}, {"txtEnterResistance", ""}}},
 };
@@ -140,7 +140,7 @@ protected:
             Click(row.press);
         }
         said.clear();
-        return NumberInSlot(row.field(1, 0));
+        return NumberIn(row.field.In(Design, 1));
     }
 
     void ExpectLimited(const TipRow& row) {

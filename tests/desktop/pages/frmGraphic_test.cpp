@@ -512,7 +512,7 @@ protected:
         }
         const double unit = image.width() / 12000.;
         const double unitDown = image.height() / 9000.;
-        const PlateFrame frame = PageFrame(TextTraits());
+        const PlateFrame frame = FrameOf(TextTraits());
         const double across = 2 * frame.upPerHalfMm * frame.aspect;
         const double down = 2 * frame.upPerHalfMm;
         const double left = 3400 - across * double{Design.PlateWidth} / 2;

@@ -26,7 +26,7 @@ struct Entry {
     const char* label;
     const char* caption;
     const char* arrows;
-    Place field;
+    FieldPlace field;
 };
 
 constexpr Entry kEntries[] = {
@@ -63,7 +63,7 @@ protected:
     }
 
     static float ValueOf(const Entry& entry, int highlight) {
-        return static_cast<float>(NumberInSlot(entry.field(highlight, 0)));
+        return static_cast<float>(NumberIn(entry.field.In(Design, highlight)));
     }
 
     // The calls behind the plate's drawing.
@@ -511,7 +511,7 @@ TEST_F(HighlightsPageTest, EnteredBandStandsWhereItsEntriesSay) {
     DrawDesign(surface, traits, {Design.FontSize, Design.LabelSpacing});
     const std::vector<std::string> lines = surface.CallsOf("Line");
     EXPECT_NEAR(static_cast<double>(lines.size()), 2001, 1); // 40 percent in steps of .02
-    const PlateFrame frame = PageFrame(traits);
+    const PlateFrame frame = FrameOf(traits);
     const double radius = 30 - double{Design.BottomToBearing} + double{Design.ActualVirtualOffset};
     const SurfacePoint centre = VirtualBearing(frame);
     const auto expectLine = [&](const std::string& line, double fraction) {

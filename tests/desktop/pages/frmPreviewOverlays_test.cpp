@@ -44,7 +44,7 @@ protected:
 
     static Calls CallsOf(const Overlay& overlay) {
         RecordingSurface surface;
-        overlay.draw(surface, PageFrame(PreviewTraits()));
+        overlay.draw(surface, FrameOf(PreviewTraits()));
         return surface.calls;
     }
 
@@ -149,7 +149,7 @@ TEST_F(OverlayTest, NewAspectDrawsWithoutThem) {
         EXPECT_EQ(LinesOf(Shown()).size(), [&] {
             RecordingSurface surface;
             DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
-            overlay.draw(surface, PageFrame(PreviewTraits()));
+            overlay.draw(surface, FrameOf(PreviewTraits()));
             return LinesOf(surface.calls).size();
         }()) << "at the new aspect";
         overlay.flag() = 0;

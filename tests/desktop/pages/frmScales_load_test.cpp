@@ -107,7 +107,7 @@ TEST_F(ScalesLoadTest, ValuesAreShownAndThenHeldToTheirLimits) {
     for (const LoadedValue& value : kLoaded) {
         SCOPED_TRACE(std::string(value.stem) + " " + value.shown);
         ResetDesign();
-        StoreInSlot(value.stored, EntryOf(value.stem).field(1, 0));
+        StoreIn(EntryOf(value.stem).field.In(Design, 1), value.stored);
         OpenScales();
         EXPECT_EQ(TextOf(EntryOf(value.stem).Box()), value.shown);
         EXPECT_EQ(EntryOf(value.stem).Value(), value.held);

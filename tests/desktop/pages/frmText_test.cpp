@@ -465,7 +465,7 @@ private:
             }
         }
         const double unitsPerPixel = 12000. / image.width();
-        const PlateFrame frame = PageFrame(TextTraits());
+        const PlateFrame frame = FrameOf(TextTraits());
         const double unitsPerMm = 2 * frame.upPerHalfMm * frame.aspect;
         const double plateLeft = 3400 - unitsPerMm * double{Design.PlateWidth} / 2;
         return {(first * unitsPerPixel - plateLeft) / unitsPerMm,

@@ -18,7 +18,7 @@ using D = DesignRecord;
 struct ScaleEntry {
     const char* caption;
     const char* stem;
-    Place field;
+    FieldPlace field;
     double lowest;
     double highest;
     const char* arrows; // none if null
@@ -27,7 +27,7 @@ struct ScaleEntry {
 
     std::string Box() const { return std::string("txt") + stem; }
     std::string Label() const { return std::string("lbl") + stem; }
-    double Value(int scale) const { return NumberInSlot(field(scale, 0)); }
+    double Value(int scale) const { return NumberIn(field.In(Design, scale)); }
     double Value() const { return Value(Design.ActiveScale); }
 };
 

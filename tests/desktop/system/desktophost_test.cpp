@@ -19,7 +19,7 @@ namespace {
 
 class HostTest : public FormTest {
 protected:
-    const HostSeam desktop = DesktopHost();
+    const HostServices desktop = DesktopHost();
 
     // What the next message box says, which is closed by its button.
     struct Said {

@@ -314,7 +314,7 @@ TEST_F(PrintersTest, AFailureOfTheProgramComesThrough) {
     const User user({PrintTo(Path("plate.pdf"))});
     EXPECT_THROW(AskForPrinterAndPrint(nullptr,
                                        [](PrinterSurface& printer) {
-                                           printer.StartPage();
+                                           printer.StartSheet();
                                            ThrowSubscriptOutOfRange();
                                        }),
                  RunTimeError);

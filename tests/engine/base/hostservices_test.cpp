@@ -8,15 +8,15 @@
 namespace vernacle::test {
 namespace {
 
-class SeamTest : public EngineTest {};
+class HostServicesTest : public EngineTest {};
 
-TEST_F(SeamTest, AFailureBeepsAndThenShowsItsText) {
+TEST_F(HostServicesTest, AFailureBeepsAndThenShowsItsText) {
     ReportFailure("It went wrong");
     EXPECT_EQ(said, (std::vector<std::string>{"beep", "failure: It went wrong"}));
 }
 
-TEST_F(SeamTest, TheDefaultHostUsesPlainFiles) {
-    const HostSeam host = DefaultHost();
+TEST_F(HostServicesTest, TheDefaultHostUsesPlainFiles) {
+    const HostServices host = DefaultHost();
     const auto sink = host.openForOutput(Path("file"));
     sink->Write("text");
     sink->Close();
@@ -28,8 +28,8 @@ TEST_F(SeamTest, TheDefaultHostUsesPlainFiles) {
     EXPECT_EQ(host.calibrationsToRead(), std::vector{host.calibrationToWrite()});
 }
 
-TEST_F(SeamTest, TheDefaultHostTellsTheTime) {
-    const HostSeam host = DefaultHost();
+TEST_F(HostServicesTest, TheDefaultHostTellsTheTime) {
+    const HostServices host = DefaultHost();
     const std::string local = host.localDateTime();
     ASSERT_FALSE(local.empty());
     EXPECT_NE(local[0], '*');
@@ -38,15 +38,15 @@ TEST_F(SeamTest, TheDefaultHostTellsTheTime) {
     EXPECT_TRUE(std::regex_match(host.isoDateTime(), iso)) << host.isoDateTime();
 }
 
-TEST_F(SeamTest, TheDefaultClockOnlyRises) {
-    const HostSeam host = DefaultHost();
+TEST_F(HostServicesTest, TheDefaultClockOnlyRises) {
+    const HostServices host = DefaultHost();
     const double before = host.clockSeconds();
     host.pause();
     EXPECT_GT(host.clockSeconds(), before);
 }
 
-TEST_F(SeamTest, TheDefaultHostIsSilentAndHasAScreen) {
-    const HostSeam host = DefaultHost();
+TEST_F(HostServicesTest, TheDefaultHostIsSilentAndHasAScreen) {
+    const HostServices host = DefaultHost();
     EXPECT_NO_THROW({
         host.beep();
         host.failureBox("text");

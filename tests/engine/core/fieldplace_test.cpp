@@ -8,37 +8,37 @@ namespace {
 
 using D = DesignRecord;
 
-class SlotTest : public EngineTest {};
+class FieldPlaceTest : public EngineTest {};
 
-TEST_F(SlotTest, StandsForAFieldAnEntryOrAnEntryOfAnEntry) {
-    StoreInSlot(61.5, At<&D::PlateWidth>(3, 4));
-    StoreInSlot(2.5, At<&D::NrOfTicmarks>(3, 4));
-    StoreInSlot(7, At<&D::DeletedTics>(3, 4));
+TEST_F(FieldPlaceTest, StandsForAFieldAnEntryOrAnEntryOfAnEntry) {
+    StoreIn(At<&D::PlateWidth>.In(Design, 3, 4), 61.5);
+    StoreIn(At<&D::NrOfTicmarks>.In(Design, 3, 4), 2.5);
+    StoreIn(At<&D::DeletedTics>.In(Design, 3, 4), 7);
     EXPECT_EQ(Design.PlateWidth, 61.5F);
     EXPECT_EQ(Design.NrOfTicmarks[3], 2);
     EXPECT_EQ(Design.DeletedTics[3][4], 7);
-    EXPECT_EQ(NumberInSlot(At<&D::PlateWidth>(0, 0)), 61.5);
-    EXPECT_EQ(NumberInSlot(At<&D::NrOfTicmarks>(3, 0)), 2);
-    EXPECT_EQ(NumberInSlot(At<&D::DeletedTics>(3, 4)), 7);
+    EXPECT_EQ(NumberIn(At<&D::PlateWidth>.In(Design, 0)), 61.5);
+    EXPECT_EQ(NumberIn(At<&D::NrOfTicmarks>.In(Design, 3)), 2);
+    EXPECT_EQ(NumberIn(At<&D::DeletedTics>.In(Design, 3, 4)), 7);
 }
 
-TEST_F(SlotTest, ATextTakesNoNumberAndCountsAsItsLeadingOne) {
+TEST_F(FieldPlaceTest, ATextTakesNoNumberAndCountsAsItsLeadingOne) {
     Design.ScaleTitle[1] = "12 V";
-    EXPECT_THROW(StoreInSlot(1, At<&D::ScaleTitle>(1, 0)), RunTimeError);
+    EXPECT_THROW(StoreIn(At<&D::ScaleTitle>.In(Design, 1), 1), RunTimeError);
     EXPECT_EQ(Design.ScaleTitle[1], "12 V");
-    EXPECT_EQ(NumberInSlot(At<&D::ScaleTitle>(1, 0)), 12);
+    EXPECT_EQ(NumberIn(At<&D::ScaleTitle>.In(Design, 1)), 12);
 }
 
-TEST_F(SlotTest, WhatIsNotInTheDesignOrItsTypeIsRefused) {
-    EXPECT_THROW(At<&D::NrOfTicmarks>(9, 0), RunTimeError);
-    EXPECT_THROW(At<&D::DeletedTics>(1, 361), RunTimeError);
-    EXPECT_THROW(StoreInSlot(40000, At<&D::PlateStyle>(0, 0)), RunTimeError);
+TEST_F(FieldPlaceTest, WhatIsNotInTheDesignOrItsTypeIsRefused) {
+    EXPECT_THROW(At<&D::NrOfTicmarks>.In(Design, 9), RunTimeError);
+    EXPECT_THROW(At<&D::DeletedTics>.In(Design, 1, 361), RunTimeError);
+    EXPECT_THROW(StoreIn(At<&D::PlateStyle>.In(Design, 0), 40000), RunTimeError);
 }
 
-TEST_F(SlotTest, NowhereKeepsNothing) {
-    const Slot slot = Nowhere(1, 2);
-    EXPECT_NO_THROW(StoreInSlot(5, slot));
-    EXPECT_EQ(NumberInSlot(slot), 0);
+TEST_F(FieldPlaceTest, NowhereKeepsNothing) {
+    const FieldPointer nowhere = Nowhere.In(Design, 1, 2);
+    EXPECT_NO_THROW(StoreIn(nowhere, 5));
+    EXPECT_EQ(NumberIn(nowhere), 0);
 }
 
 } // namespace

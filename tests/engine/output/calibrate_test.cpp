@@ -251,7 +251,7 @@ TEST_F(CalibrateTest, TestSquareIs100MillimetresByTheFactors) {
         surface = RecordingSurface();
         EXPECT_TRUE(PrintTestSquare(surface));
         EXPECT_TRUE(
-            SameCalls(surface.calls, Calls{"StartPage", "SetLineWidth 1", row.box, "EndDoc"}));
+            SameCalls(surface.calls, Calls{"StartSheet", "SetLineWidth 1", row.box, "EndDoc"}));
         EXPECT_EQ(Design.CalibrationX, row.x == 0 ? 1 : row.x);
         EXPECT_EQ(Design.CalibrationY, row.y == 0 ? 1 : row.y);
     }

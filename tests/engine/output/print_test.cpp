@@ -48,7 +48,7 @@ protected:
 };
 
 constexpr const char* kMarks = R"(
-    StartPage
+    StartSheet
     FilledBox 5667.11 3667.11 6332.89 4332.89 e0e0e0
     SetLineWidth 16
     Line 5417.11 3717.11 5617.11 3717.11 ff0000

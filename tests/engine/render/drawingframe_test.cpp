@@ -5,7 +5,7 @@
 namespace vernacle::test {
 namespace {
 
-using PageFrameTest = RenderTest;
+using DrawingFrameTest = RenderTest;
 
 struct FrameRow {
     const char* name;
@@ -15,7 +15,7 @@ struct FrameRow {
     float plateScale;
 };
 
-TEST_F(PageFrameTest, TheLargerDimensionFillsThePicture) {
+TEST_F(DrawingFrameTest, TheLargerDimensionFillsThePicture) {
     const FrameRow rows[] = {
         {"wide on the preview", 100, 50, PreviewTraits(), 32},
         {"high on the preview", 50, 64, PreviewTraits(), 50},
@@ -30,7 +30,7 @@ TEST_F(PageFrameTest, TheLargerDimensionFillsThePicture) {
     for (const FrameRow& row : rows) {
         Design.PlateWidth = row.width;
         Design.PlateHeight = row.height;
-        const PlateFrame frame = PageFrame(row.traits);
+        const PlateFrame frame = FrameOf(row.traits);
         EXPECT_EQ(Drawing.PlateScale, row.plateScale) << row.name;
         EXPECT_EQ(frame.plateScale, double{row.plateScale}) << row.name;
         EXPECT_EQ(frame.upPerHalfMm, double{row.plateScale}) << row.name;
@@ -38,9 +38,9 @@ TEST_F(PageFrameTest, TheLargerDimensionFillsThePicture) {
     }
 }
 
-TEST_F(PageFrameTest, AspectStretchesAcrossOnly) {
+TEST_F(DrawingFrameTest, AspectStretchesAcrossOnly) {
     Design.AspectRatio = 1.15F;
-    const PlateFrame frame = PageFrame(PreviewTraits());
+    const PlateFrame frame = FrameOf(PreviewTraits());
     EXPECT_NEAR(frame.Right() - frame.Left(), 6400 * 1.15, 0.001);
     EXPECT_NEAR(frame.Bottom() - frame.Top(), 3200, 0.001);
 }
@@ -50,7 +50,7 @@ struct AspectRow {
     float after;
 };
 
-TEST_F(PageFrameTest, AspectRatioIsHeldToWholeHundredths) {
+TEST_F(DrawingFrameTest, AspectRatioIsHeldToWholeHundredths) {
     const AspectRow rows[] = {
         {0.4F, 0.5F},   {0.5F, 0.5F},     {0.777F, 0.78F}, {0.774F, 0.77F}, {0.80F, 0.8F},
         {1.15F, 1.15F}, {1.1499F, 1.15F}, {1.2F, 1.15F},   {50, 1.15F},     {1, 1},
@@ -63,7 +63,7 @@ TEST_F(PageFrameTest, AspectRatioIsHeldToWholeHundredths) {
     }
 }
 
-TEST_F(PageFrameTest, AnAspectRatioThatWasNeverSetBecomes1) {
+TEST_F(DrawingFrameTest, AnAspectRatioThatWasNeverSetBecomes1) {
     for (const AspectRow& row : {AspectRow{0, 1}, AspectRow{-0.7F, 1}, AspectRow{0.2F, 0.2F}}) {
         Design.AspectRatio = row.before;
         RaiseAspectRatio();
