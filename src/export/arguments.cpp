@@ -6,7 +6,7 @@
 
 #include <strings.h>
 
-namespace vernacle {
+namespace vernacle::exporter {
 
 const char* const kHelp =
     R"(Usage: vernacle-export [OPTIONS] DESIGN.VRN OUTPUT [OUTPUT ...]
@@ -151,4 +151,4 @@ Arguments ParseArguments(int argc, char** argv) {
     return arguments;
 }
 
-} // namespace vernacle
+} // namespace vernacle::exporter

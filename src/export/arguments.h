@@ -8,7 +8,7 @@
 #include "commandline/options.h"
 #include "surfaces/papersurface.h"
 
-namespace vernacle {
+namespace vernacle::exporter {
 
 struct Arguments {
     bool help = false;
@@ -29,4 +29,4 @@ Arguments ParseArguments(int argc, char** argv);
 
 extern const char* const kHelp;
 
-} // namespace vernacle
+} // namespace vernacle::exporter

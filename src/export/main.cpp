@@ -24,7 +24,7 @@
 #include "export/outputs.h"
 #include "surfaces/typeface.h"
 
-namespace vernacle {
+namespace vernacle::exporter {
 
 namespace {
 
@@ -256,23 +256,24 @@ void HoldStandardFiles() {
 
 } // namespace
 
-} // namespace vernacle
+} // namespace vernacle::exporter
 
 int main(int argc, char** argv) {
     std::setlocale(LC_ALL, "");    // dates and the system's reasons; numbers never ask it
     std::signal(SIGXFSZ, SIG_IGN); // a file-size limit is a write that fails, not the end
     std::signal(SIGPIPE, SIG_IGN); // and so is a reader that has gone
-    vernacle::HoldStandardFiles();
+    vernacle::exporter::HoldStandardFiles();
     try {
-        return vernacle::Run(argc, argv);
+        return vernacle::exporter::Run(argc, argv);
     } catch (const vernacle::UsageError& error) {
-        vernacle::Say(std::string(vernacle::kProgram) + error.what());
-        return vernacle::kWrongUsage;
+        vernacle::exporter::Say(std::string(vernacle::exporter::kProgram) + error.what());
+        return vernacle::exporter::kWrongUsage;
     } catch (const std::bad_alloc&) {
-        vernacle::Say(std::string(vernacle::kProgram) + vernacle::kNoMemory);
-        return vernacle::kFileFailed;
+        vernacle::exporter::Say(std::string(vernacle::exporter::kProgram) +
+                                vernacle::exporter::kNoMemory);
+        return vernacle::exporter::kFileFailed;
     } catch (const std::exception& error) {
-        vernacle::Say(std::string(vernacle::kProgram) + error.what());
-        return vernacle::kFileFailed;
+        vernacle::exporter::Say(std::string(vernacle::exporter::kProgram) + error.what());
+        return vernacle::exporter::kFileFailed;
     }
 }

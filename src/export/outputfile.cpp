@@ -15,7 +15,7 @@
 #include "engine/base/runtimeerror.h"
 #include "engine/base/samefile.h"
 
-namespace vernacle {
+namespace vernacle::exporter {
 
 namespace {
 
@@ -198,4 +198,4 @@ std::unique_ptr<ByteSink> OpenOutputFile(const std::string& path) {
     return std::make_unique<OutputFile>(path);
 }
 
-} // namespace vernacle
+} // namespace vernacle::exporter

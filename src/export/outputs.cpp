@@ -15,7 +15,7 @@
 #include "export/tictable.h"
 #include "surfaces/documents.h"
 
-namespace vernacle {
+namespace vernacle::exporter {
 
 namespace {
 
@@ -109,4 +109,4 @@ void MakeReady() {
     ComputeTicLabels();
 }
 
-} // namespace vernacle
+} // namespace vernacle::exporter

@@ -5,7 +5,7 @@
 
 #include "export/arguments.h"
 
-namespace vernacle {
+namespace vernacle::exporter {
 
 // Writes the design that Design holds to the path. A failure is reported through Host or thrown as
 // a RunTimeError.
@@ -25,4 +25,4 @@ const OutputForm* FindForm(const std::string& path);
 // What the preview page does to a design before it is drawn.
 void MakeReady();
 
-} // namespace vernacle
+} // namespace vernacle::exporter

@@ -11,7 +11,7 @@
 #include "engine/output/print.h"
 #include "engine/render/stages.h"
 
-namespace vernacle {
+namespace vernacle::exporter {
 
 namespace {
 
@@ -94,4 +94,4 @@ std::string TicTableText() {
     return table;
 }
 
-} // namespace vernacle
+} // namespace vernacle::exporter

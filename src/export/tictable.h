@@ -4,10 +4,10 @@
 
 #include <string>
 
-namespace vernacle {
+namespace vernacle::exporter {
 
 // The table as RFC 4180 text, its header first. Places are millimetres from the plate's left and
 // bottom edges.
 std::string TicTableText();
 
-} // namespace vernacle
+} // namespace vernacle::exporter

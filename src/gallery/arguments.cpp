@@ -6,7 +6,7 @@
 
 #include "engine/base/numbertext.h"
 
-namespace vernacle {
+namespace vernacle::gallery {
 
 const char* const kHelp = R"(Usage: vernacle-gallery [OPTIONS] FORM [DESIGN.VRN]
 
@@ -145,4 +145,4 @@ Arguments ParseArguments(int argc, char** argv) {
     return arguments;
 }
 
-} // namespace vernacle
+} // namespace vernacle::gallery

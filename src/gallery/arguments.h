@@ -5,7 +5,7 @@
 
 #include "commandline/options.h"
 
-namespace vernacle {
+namespace vernacle::gallery {
 
 struct Arguments {
     std::string form;       // its name; whether there is such a form is not judged here
@@ -27,4 +27,4 @@ Arguments ParseArguments(int argc, char** argv);
 
 extern const char* const kHelp;
 
-} // namespace vernacle
+} // namespace vernacle::gallery

@@ -5,7 +5,7 @@
 
 #include "engine/base/numbertext.h"
 
-namespace vernacle {
+namespace vernacle::gallery {
 
 namespace {
 
@@ -220,4 +220,4 @@ std::vector<std::string_view> DumpedFields() {
     return names;
 }
 
-} // namespace vernacle
+} // namespace vernacle::gallery

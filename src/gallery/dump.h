@@ -7,7 +7,7 @@
 
 #include "engine/core/design.h"
 
-namespace vernacle {
+namespace vernacle::gallery {
 
 // One line a value, in the order of the record's declaration: PlateWidth = 75, ScaleColor[1] = 255,
 // StandardDeflection[1][17] = .34. Of the tables only the entries that differ from atStart. Numbers
@@ -18,4 +18,4 @@ std::string DumpDesign(const DesignRecord& design, const DesignRecord& atStart);
 // The names of the dumped fields, in that order.
 std::vector<std::string_view> DumpedFields();
 
-} // namespace vernacle
+} // namespace vernacle::gallery

@@ -19,7 +19,7 @@
 #include "gallery/dump.h"
 #include "gallery/screen.h"
 
-namespace vernacle {
+namespace vernacle::gallery {
 
 namespace {
 
@@ -179,17 +179,17 @@ int Run(int argc, char** argv) {
 
 } // namespace
 
-} // namespace vernacle
+} // namespace vernacle::gallery
 
 int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN); // a file-size limit is a write that fails, not the end
     try {
-        return vernacle::Run(argc, argv);
+        return vernacle::gallery::Run(argc, argv);
     } catch (const vernacle::UsageError& error) {
-        vernacle::Say(std::string("vernacle-gallery: ") + error.what());
-        return vernacle::kWrongUsage;
+        vernacle::gallery::Say(std::string("vernacle-gallery: ") + error.what());
+        return vernacle::gallery::kWrongUsage;
     } catch (const std::exception& error) {
-        vernacle::Say(std::string("vernacle-gallery: ") + error.what());
+        vernacle::gallery::Say(std::string("vernacle-gallery: ") + error.what());
         return EXIT_FAILURE;
     }
 }

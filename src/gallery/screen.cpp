@@ -10,7 +10,7 @@
 
 #include "gallery/arguments.h"
 
-namespace vernacle {
+namespace vernacle::gallery {
 
 namespace {
 
@@ -68,4 +68,4 @@ void UseScreenOf(const Arguments& arguments) {
             QByteArray(kOffscreen) + ":configfile=" + QFile::encodeName(file.fileName()));
 }
 
-} // namespace vernacle
+} // namespace vernacle::gallery

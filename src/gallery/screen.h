@@ -1,7 +1,7 @@
 // A screen of any size without a display, and the look of the desktop on it.
 #pragma once
 
-namespace vernacle {
+namespace vernacle::gallery {
 
 struct Arguments;
 
@@ -13,4 +13,4 @@ void UseScreenOf(const Arguments& arguments);
 // Sets, once there is an application object, the colours and the font that were asked for.
 void UseLookOf(const Arguments& arguments);
 
-} // namespace vernacle
+} // namespace vernacle::gallery

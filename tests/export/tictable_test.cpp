@@ -13,6 +13,8 @@
 
 namespace vernacle::test {
 
+using exporter::TicTableText;
+
 namespace {
 
 constexpr const char* kHeader = "scale,tic,major,labelled,label,deflection,corrected,pointer_deg,"

@@ -8,6 +8,8 @@
 
 namespace vernacle::test {
 
+using namespace gallery;
+
 namespace {
 
 using Words = std::vector<std::string>;

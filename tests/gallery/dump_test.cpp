@@ -14,6 +14,8 @@
 
 namespace vernacle::test {
 
+using namespace gallery;
+
 namespace {
 
 using Lines = std::vector<std::string>;

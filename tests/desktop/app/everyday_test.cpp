@@ -333,7 +333,7 @@ bool BeginsWithOneOf(const std::string& line, std::span<const char* const> names
 std::vector<std::string> DesignLines() {
     const auto atStart = std::make_unique<DesignRecord>();
     std::vector<std::string> lines;
-    std::istringstream dump(DumpDesign(Design, *atStart));
+    std::istringstream dump(gallery::DumpDesign(Design, *atStart));
     for (std::string line; std::getline(dump, line);) {
         if (!BeginsWithOneOf(line, kWorking) && !BeginsWithOneOf(line, kForced)) {
             lines.push_back(line);
