@@ -22,21 +22,6 @@ namespace {
 
 constexpr QSize kSize(1200, 900); // ten units to the pixel
 
-// The largest difference between two pixels of the same place, of 255.
-int Difference(const QImage& a, const QImage& b) {
-    int most = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QColor left = a.pixelColor(x, y);
-            const QColor right = b.pixelColor(x, y);
-            most = std::max({most, std::abs(left.red() - right.red()),
-                             std::abs(left.green() - right.green()),
-                             std::abs(left.blue() - right.blue())});
-        }
-    }
-    return most;
-}
-
 class CutTest : public SurfaceTest {
 protected:
     using Painting = std::function<void(QPainter& painter)>;

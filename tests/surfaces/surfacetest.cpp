@@ -1,24 +1,16 @@
 #include "surfaces/surfacetest.h"
 
 #include <QBuffer>
-#include <QColor>
 
 namespace vernacle::test {
 
 namespace {
-
-constexpr int kNotWhite = 250; // a lightness below it is ink
-constexpr int kDark = 96;
 
 // The toolkit reads GIF but does not write it: 4 x 2 pixels, a palette of red and blue.
 constexpr unsigned char kGif[] = {
     'G', 'I', 'F', '8', '9', 'a', 4, 0, 2, 0, 0x80, 0, 0,    0xFF, 0x00, 0x00, 0x00, 0x00, 0xFF,
     ',', 0,   0,   0,   0,   4,   0, 2, 0, 0, 2,    4, 0x04, 0x12, 0x86, 0x05, 0,    ';',
 };
-
-int LightnessAt(const QImage& picture, int x, int y) {
-    return picture.pixelColor(x, y).lightness();
-}
 
 } // namespace
 
@@ -31,49 +23,6 @@ QImage SurfaceTest::Draw(QSize size, const Drawing& draw) {
     draw(surface);
     surface.Flush();
     return picture;
-}
-
-QRect InkOf(const QImage& picture) {
-    QRect ink;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (LightnessAt(picture, x, y) < kNotWhite) {
-                ink |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return ink;
-}
-
-double InkAcross(const QImage& picture, int row) {
-    double sum = 0;
-    for (int x = 0; x < picture.width(); ++x) {
-        sum += 1 - LightnessAt(picture, x, row) / 255.0;
-    }
-    return sum;
-}
-
-double InkDown(const QImage& picture, int column) {
-    double sum = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        sum += 1 - LightnessAt(picture, column, y) / 255.0;
-    }
-    return sum;
-}
-
-bool IsDark(const QImage& picture, int x, int y) {
-    return LightnessAt(picture, x, y) < kDark;
-}
-
-bool HasColour(const QImage& picture, QColor colour) {
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) == colour) {
-                return true;
-            }
-        }
-    }
-    return false;
 }
 
 std::string PictureBytes(const std::string& format) {

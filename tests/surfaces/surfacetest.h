@@ -5,9 +5,9 @@
 #include <string>
 
 #include <QImage>
-#include <QRect>
 
 #include "support/enginetest.h"
+#include "support/pixels.h"
 #include "surfaces/paintersurface.h"
 
 namespace vernacle::test {
@@ -31,16 +31,6 @@ protected:
     static QImage Draw(QSize size, const Drawing& draw);
     static QImage Draw(const Drawing& draw) { return Draw(QSize(1200, 900), draw); }
 };
-
-// The pixels that are not white, as the rectangle around them; empty if there are none.
-QRect InkOf(const QImage& picture);
-
-// How dark a row or column is in sum, in whole black pixels.
-double InkAcross(const QImage& picture, int row);
-double InkDown(const QImage& picture, int column);
-
-bool IsDark(const QImage& picture, int x, int y);
-bool HasColour(const QImage& picture, QColor colour);
 
 // A picture of 4 x 2 pixels, red but for its right half, which is blue, in that format of the
 // toolkit's ("BMP", "GIF", "ICO", "JPEG").

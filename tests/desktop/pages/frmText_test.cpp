@@ -14,6 +14,7 @@
 #include "engine/designfile/readwrite.h"
 #include "engine/render/stages.h"
 #include "support/answers.h"
+#include "support/pixels.h"
 
 namespace vernacle::test {
 namespace {
@@ -449,27 +450,18 @@ protected:
         PictureBox picture("drawn", {0, 0, 12000, 9000}, UnitShape::OfScreen);
         picture.resize(kPixelsAcross, kPixelsAcross * 9 / 16);
         DrawDesign(picture.Surface(), traits, {Design.FontSize, Design.LabelSpacing});
-        return InkOf(picture.grab().toImage());
+        return OnThePlate(picture.grab().toImage());
     }
 
 private:
-    static Ink InkOf(const QImage& image) {
-        int first = image.width();
-        int last = -1;
-        for (int x = 0; x < image.width(); ++x) {
-            for (int y = 0; y < image.height(); ++y) {
-                if (image.pixelColor(x, y).lightness() < 128) {
-                    first = std::min(first, x);
-                    last = std::max(last, x);
-                }
-            }
-        }
+    static Ink OnThePlate(const QImage& image) {
+        const QRect ink = test::InkOf(image, 128);
         const double unitsPerPixel = 12000. / image.width();
         const PlateFrame frame = FrameOf(TextTraits());
         const double unitsPerMm = 2 * frame.upPerHalfMm * frame.aspect;
         const double plateLeft = 3400 - unitsPerMm * double{Design.PlateWidth} / 2;
-        return {(first * unitsPerPixel - plateLeft) / unitsPerMm,
-                ((last + 1) * unitsPerPixel - plateLeft) / unitsPerMm};
+        return {(ink.left() * unitsPerPixel - plateLeft) / unitsPerMm,
+                ((ink.right() + 1) * unitsPerPixel - plateLeft) / unitsPerMm};
     }
 };
 

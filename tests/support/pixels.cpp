@@ -1,0 +1,96 @@
+#include "support/pixels.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace vernacle::test {
+
+namespace {
+
+constexpr int kDark = 96;
+
+int Lightness(QRgb pixel) {
+    const int lightest = std::max(std::max(qRed(pixel), qGreen(pixel)), qBlue(pixel));
+    const int darkest = std::min(std::min(qRed(pixel), qGreen(pixel)), qBlue(pixel));
+    return (lightest + darkest) / 2;
+}
+
+// Of a picture of 32 bits a pixel.
+const QRgb* Row(const QImage& picture, int y) {
+    return reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+}
+
+QImage Plain(const QImage& picture) {
+    return picture.convertToFormat(QImage::Format_RGB32);
+}
+
+} // namespace
+
+QRect InkOf(const QImage& picture, int lightness) {
+    const QImage plain = Plain(picture);
+    int left = plain.width();
+    int right = -1;
+    int top = -1;
+    int bottom = -1;
+    for (int y = 0; y < plain.height(); ++y) {
+        const QRgb* row = Row(plain, y);
+        for (int x = 0; x < plain.width(); ++x) {
+            if (Lightness(row[x]) < lightness) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+                top = top < 0 ? y : top;
+                bottom = y;
+            }
+        }
+    }
+    return right < 0 ? QRect() : QRect(QPoint(left, top), QPoint(right, bottom));
+}
+
+double InkAcross(const QImage& picture, int row) {
+    double sum = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+        sum += 1 - Lightness(picture.pixel(x, row)) / 255.0;
+    }
+    return sum;
+}
+
+double InkDown(const QImage& picture, int column) {
+    double sum = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        sum += 1 - Lightness(picture.pixel(column, y)) / 255.0;
+    }
+    return sum;
+}
+
+bool IsDark(const QImage& picture, int x, int y) {
+    return Lightness(picture.pixel(x, y)) < kDark;
+}
+
+bool HasColour(const QImage& picture, QColor colour) {
+    const QImage plain = Plain(picture);
+    for (int y = 0; y < plain.height(); ++y) {
+        const QRgb* row = Row(plain, y);
+        if (std::find(row, row + plain.width(), colour.rgb()) != row + plain.width()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+int Difference(const QImage& a, const QImage& b) {
+    const QImage left = Plain(a);
+    const QImage right = Plain(b);
+    int most = 0;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x) {
+            const QRgb one = Row(left, y)[x];
+            const QRgb other = Row(right, y)[x];
+            most = std::max({most, std::abs(qRed(one) - qRed(other)),
+                             std::abs(qGreen(one) - qGreen(other)),
+                             std::abs(qBlue(one) - qBlue(other))});
+        }
+    }
+    return most;
+}
+
+} // namespace vernacle::test
