@@ -36,9 +36,9 @@ protected:
     }
 
     // Points in pixels.
-    static void DrawPolyline(DrawingSurface& surface, const QPolygonF& points) {
+    static void DrawPolyline(DrawingSurface& surface, const std::vector<QPointF>& points) {
         const auto units = [](double pixels) { return static_cast<float>(pixels * 10); };
-        for (int i = 1; i < points.size(); ++i) {
+        for (std::size_t i = 1; i < points.size(); ++i) {
             surface.Line(units(points[i - 1].x()), units(points[i - 1].y()), units(points[i].x()),
                          units(points[i].y()), kBlackInk);
         }
@@ -47,7 +47,7 @@ protected:
 
 struct LineCase {
     const char* name;
-    QPolygonF points;
+    std::vector<QPointF> points;
     int width;
     int tolerance; // 0 for what is neither far enough out to be cut nor very long
 };
@@ -61,23 +61,23 @@ class CutLineTest : public CutTest, public ::testing::WithParamInterface<LineCas
 constexpr int kSmoothing = 10; // of 255, by which two ways of smoothing an edge may differ
 
 const LineCase kLines[] = {
-    {"a_little_out", {{{100, 100}, {1300, 950}}}, 3, 0},
-    {"out_by_thousands", {{{100, 100}, {3300, 2600}}}, 3, 0},
-    {"out_on_both_sides", {{{-1200, -600}, {2400, 1200}}}, 14, 0},
-    {"long", {{{100, 100}, {7300, 6150}}}, 3, kSmoothing},
-    {"far_out", {{{100, 100}, {30000, 26000}}}, 3, kSmoothing},
-    {"far_out_on_both_sides", {{{-60000, -31000}, {70000, 37000}}}, 14, kSmoothing},
-    {"as_far_as_paper_wide_rivers", {{{600, 450}, {900000, 210000}}}, 5, kSmoothing},
-    {"upright", {{{600, 300}, {600, 50000}}}, 3, 0},
-    {"level", {{{-90000, 301}, {50000, 301}}}, 5, 0},
-    {"a_corner_in_sight", {{{20000, 3000}, {500, 450}, {26000, -700}}}, 60, 2},
-    {"a_corner_just_out_of_sight", {{{1000, 30000}, {1225, 450}, {900, -40000}}}, 80, 2},
-    {"out_and_back", {{{100, 100}, {12000, 500}, {12000, 900}, {100, 700}}}, 9, 2},
-    {"two_parts_that_cross", {{{100, 100}, {12000, 10000}, {-12000, 10000}, {1100, 100}}}, 40, 2},
-    {"beside_sight_with_a_wide_pen", {{{-900, -5000}, {-900, 6000}}}, 2000, 0},
-    {"a_pen_wider_than_sight", {{{-3000, -2000}, {-2500, 3000}}}, 6600, kSmoothing},
-    {"a_pen_as_wide_as_a_street", {{{-24000, 100}, {-24100, 20000}}}, 49000, 3},
-    {"all_out", {{{20000, 20000}, {30000, 20000}}}, 3, 0},
+    {"a_little_out", {{100, 100}, {1300, 950}}, 3, 0},
+    {"out_by_thousands", {{100, 100}, {3300, 2600}}, 3, 0},
+    {"out_on_both_sides", {{-1200, -600}, {2400, 1200}}, 14, 0},
+    {"long", {{100, 100}, {7300, 6150}}, 3, kSmoothing},
+    {"far_out", {{100, 100}, {30000, 26000}}, 3, kSmoothing},
+    {"far_out_on_both_sides", {{-60000, -31000}, {70000, 37000}}, 14, kSmoothing},
+    {"as_far_as_paper_wide_rivers", {{600, 450}, {900000, 210000}}, 5, kSmoothing},
+    {"upright", {{600, 300}, {600, 50000}}, 3, 0},
+    {"level", {{-90000, 301}, {50000, 301}}, 5, 0},
+    {"a_corner_in_sight", {{20000, 3000}, {500, 450}, {26000, -700}}, 60, 2},
+    {"a_corner_just_out_of_sight", {{1000, 30000}, {1225, 450}, {900, -40000}}, 80, 2},
+    {"out_and_back", {{100, 100}, {12000, 500}, {12000, 900}, {100, 700}}, 9, 2},
+    {"two_parts_that_cross", {{100, 100}, {12000, 10000}, {-12000, 10000}, {1100, 100}}, 40, 2},
+    {"beside_sight_with_a_wide_pen", {{-900, -5000}, {-900, 6000}}, 2000, 0},
+    {"a_pen_wider_than_sight", {{-3000, -2000}, {-2500, 3000}}, 6600, kSmoothing},
+    {"a_pen_as_wide_as_a_street", {{-24000, 100}, {-24100, 20000}}, 49000, 3},
+    {"all_out", {{20000, 20000}, {30000, 20000}}, 3, 0},
 };
 
 TEST_P(CutLineTest, ShowsNothingOfIt) {
@@ -91,7 +91,7 @@ TEST_P(CutLineTest, ShowsNothingOfIt) {
         const bool isCrisp = line.points.size() == 2 && (line.points[0].x() == line.points[1].x() ||
                                                          line.points[0].y() == line.points[1].y());
         painter.setRenderHint(QPainter::Antialiasing, !isCrisp);
-        painter.drawPolyline(line.points);
+        painter.drawPolyline(line.points.data(), static_cast<int>(line.points.size()));
     });
     EXPECT_LE(Difference(cut, whole), line.tolerance);
     EXPECT_EQ(InkOf(cut).isEmpty(), line.name == std::string("all_out"));

@@ -38,7 +38,7 @@ TEST_F(DialogsTest, AFilterShowsItsDescriptionAndAppliesItsPatternsInAnyCase) {
         WriteFile(name, "x");
     }
     Design.DesignFileName = Path("plate.VRN");
-    Answer([this](QWidget& dialog) {
+    Answer([](QWidget& dialog) {
         const auto* kinds = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
         EXPECT_EQ(kinds->currentText().trimmed(), QLatin1String("Pictures (.gif, .bmp)"));
         EXPECT_TRUE(QTest::qWaitFor([&] { return ShownIn(dialog).size() == 3; }));

@@ -330,7 +330,7 @@ TEST_F(PrintersTest, AFullDiskIsReported) {
 
 TEST_F(PrintersTest, ADiskThatFillsUpIsReported) {
     const User user({PrintTo(Path("plate.pdf"))});
-    AskForPrinterAndPrint(nullptr, [this](PrinterSurface& printer) {
+    AskForPrinterAndPrint(nullptr, [](PrinterSurface& printer) {
         const FileSizeLimit limit(200);
         PrintTestSquare(printer);
     });

@@ -125,10 +125,9 @@ TEST_F(DesignLinesTest, EachBlockComesAsOftenAsItsCountSays) {
         {"Messages: ", 1},    {"Scale 4 - deleted tics: ", 1},
     };
     const std::vector<Visited> visited = Walked();
-    for (const auto& [label, times] : kRows) {
-        const auto found = std::count_if(visited.begin(), visited.end(),
-                                         [&](const Visited& line) { return line.label == label; });
-        EXPECT_EQ(found, times) << label;
+    for (const Row& row : kRows) {
+        const auto found = std::ranges::count(visited, row.label, &Visited::label);
+        EXPECT_EQ(found, row.times) << row.label;
     }
 }
 
