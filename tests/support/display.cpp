@@ -19,15 +19,15 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr double kPatience = 20;   // seconds for a window, or for a display
-constexpr double kEndPatience = 5; // for a program that is told to end
+constexpr double kWindowPatience = 20; // seconds for a window, or for a display
+constexpr double kEndPatience = 5;     // for a program that is told to end
 constexpr const char* kToolPatience = "20";
 constexpr const char* kScreen = "1280x800x24";
 constexpr int kFirstDisplay = 90;
 constexpr int kLastDisplay = 190;
 constexpr auto kManagerStart = std::chrono::milliseconds(300);
 constexpr auto kRest = std::chrono::milliseconds(600);
-constexpr auto kTurn = std::chrono::milliseconds(50);
+constexpr auto kWindowTurn = std::chrono::milliseconds(50);
 
 // Whether it came true within that time.
 template <typename Condition>
@@ -37,7 +37,7 @@ bool WaitUntil(const Condition& condition, double seconds) {
         if (Clock::now() > end) {
             return false;
         }
-        std::this_thread::sleep_for(kTurn);
+        std::this_thread::sleep_for(kWindowTurn);
     }
     return true;
 }
@@ -119,12 +119,12 @@ Display::Display() {
             std::vector<std::string>{});
         const bool ready = WaitUntil(
             [this] { return !server_->IsRunning() || !Tool({"getdisplaygeometry"}).empty(); },
-            kPatience);
+            kWindowPatience);
         if (ready && server_->IsRunning()) {
             manager_ = std::make_unique<BackgroundProgram>(std::vector<std::string>{"openbox"},
                                                            Environment());
             // A window that is there before its manager gets no focus; the manager holds it first.
-            WaitUntil([this] { return FocusedTitle() == "Openbox"; }, kPatience);
+            WaitUntil([this] { return FocusedTitle() == "Openbox"; }, kWindowPatience);
             std::this_thread::sleep_for(kManagerStart);
             return;
         }
@@ -153,7 +153,7 @@ std::string Display::FocusedTitle() const {
 }
 
 bool Display::WaitForWindow(const std::string& title) const {
-    return WaitUntil([&] { return FocusedTitle() == title; }, kPatience);
+    return WaitUntil([&] { return FocusedTitle() == title; }, kWindowPatience);
 }
 
 void Display::Press(const std::string& keys, int times) const {

@@ -30,7 +30,7 @@ std::string ClassOf(const QWidget& widget) {
     return name.remove(QLatin1String("vernacle::")).toStdString();
 }
 
-std::string NameOf(const QWidget& widget) {
+std::string NameAndClassOf(const QWidget& widget) {
     const std::string name = widget.objectName().toStdString();
     return name.empty() ? ClassOf(widget) : name + " " + ClassOf(widget);
 }
@@ -91,7 +91,7 @@ std::string GrowthOf(const QWidget& widget) {
 class Writer {
 public:
     void Form(const QWidget& form) {
-        Put(NameOf(form) + Quoted(form.windowTitle()) + SizeOf(form));
+        Put(NameAndClassOf(form) + Quoted(form.windowTitle()) + SizeOf(form));
         Inside(form);
     }
 
@@ -120,7 +120,7 @@ private:
     }
 
     void Control(const std::string& place, const QWidget& widget) {
-        Put(place + NameOf(widget) + ShownBy(widget) + GrowthOf(widget) +
+        Put(place + NameAndClassOf(widget) + ShownBy(widget) + GrowthOf(widget) +
             (widget.isHidden() ? ", hidden" : ""));
         Inside(widget);
     }

@@ -185,18 +185,18 @@ TEST_F(HighlightsPageTest, SecondOptionAloneRedrawsByItself) {
     EXPECT_TRUE(WasRedrawn()) << "a text has changed";
 }
 
-struct TypedRow {
+struct TypedHighlightRow {
     const char* typed;
     float value;
 };
 
 TEST_F(HighlightsPageTest, EntriesAreReadPlainlyAndHaveNoLimits) {
-    const TypedRow rows[] = {{"80", 80}, {"-20", -20}, {"250", 250}, {"", 0},
-                             {"abc", 0}, {"2,5", 2},   {"2k2", 2},   {"12.5%", 12.5F}};
+    const TypedHighlightRow rows[] = {{"80", 80}, {"-20", -20}, {"250", 250}, {"", 0},
+                                      {"abc", 0}, {"2,5", 2},   {"2k2", 2},   {"12.5%", 12.5F}};
     GiveAll();
     OpenHighlights();
     Click("Option4");
-    for (const TypedRow& row : rows) {
+    for (const TypedHighlightRow& row : rows) {
         for (const Entry& entry : kEntries) {
             SCOPED_TRACE(std::string(entry.box) + " " + row.typed);
             Wipe();
@@ -338,19 +338,19 @@ TEST_F(HighlightsPageTest, PartnerTakesNothingButNumbers) {
     }
 }
 
-struct ArrowRow {
+struct HighlightArrowRow {
     const char* arrows;
     const char* box;
     const char* highest;
 };
 
 TEST_F(HighlightsPageTest, ArrowsHaveTheirRanges) {
-    const ArrowRow rows[] = {{"UpDown1", "txtStart1", "100"},
-                             {"UpDown2", "txtStop1", "100"},
-                             {"UpDown3", "txtCeiling1", "180"}};
+    const HighlightArrowRow rows[] = {{"UpDown1", "txtStart1", "100"},
+                                      {"UpDown2", "txtStop1", "100"},
+                                      {"UpDown3", "txtCeiling1", "180"}};
     OpenHighlights();
     Click("Option1");
-    for (const ArrowRow& row : rows) {
+    for (const HighlightArrowRow& row : rows) {
         Type(row.box, "10");
         StepUp(row.arrows);
         EXPECT_EQ(TextOf(row.box), "11");

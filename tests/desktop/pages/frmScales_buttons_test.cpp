@@ -12,7 +12,6 @@
 namespace vernacle::test {
 namespace {
 
-constexpr std::int32_t kRed = 0x0000FF;
 constexpr std::int32_t kBlue = 0xFF0000;
 
 template <typename Form>

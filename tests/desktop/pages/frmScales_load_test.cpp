@@ -9,8 +9,6 @@
 namespace vernacle::test {
 namespace {
 
-constexpr std::int32_t kRed = 0x0000FF;
-
 class ScalesLoadTest : public ScalesTest {
 protected:
     // The names of the controls that Tab visits from one on.

@@ -7,7 +7,6 @@
 namespace vernacle::test {
 namespace {
 
-constexpr std::int32_t kRed = 0x0000FF;
 constexpr std::int32_t kGreen = 0x00FF00;
 
 const char* const kSizeControls[] = {"lblRelFontsize", "txtRelFontsize", "txtRelFontSizeUpDown",

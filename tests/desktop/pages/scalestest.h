@@ -31,6 +31,7 @@ struct ScaleEntry {
     double Value() const { return Value(Design.ActiveScale); }
 };
 
+constexpr std::int32_t kRed = 0x0000FF;
 constexpr double kLargest = 1e10; // that any entry can be
 
 // clang-format off

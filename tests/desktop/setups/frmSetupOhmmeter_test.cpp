@@ -7,7 +7,7 @@
 namespace vernacle::test {
 namespace {
 
-constexpr int kRows = 31;
+constexpr int kOhmmeterRows = 31;
 constexpr const char* kFull = "information: Only 29 ticmarks are allowed in this routine";
 constexpr const char* kLast = "information: With 29 items please do not delete the last item.";
 
@@ -38,7 +38,7 @@ protected:
     // "Tic# | deflection | label" of the rows that show.
     std::vector<std::string> Rows() const {
         std::vector<std::string> rows;
-        for (int row = 0; row < kRows; ++row) {
+        for (int row = 0; row < kOhmmeterRows; ++row) {
             const bool shown = IsShown(RowName("Tic", row));
             for (const char* part : {"lblDeflection", "fraMajorMinor", "txtLabel"}) {
                 EXPECT_EQ(IsShown(RowName(part, row)), shown) << part << row;
@@ -95,7 +95,7 @@ TEST_F(OhmmeterPageTest, CaptionsAndStartingState) {
 TEST_F(OhmmeterPageTest, AStandardScaleStartsWithTwoRows) {
     OpenOhmmeter();
     EXPECT_EQ(Rows(), (std::vector<std::string>{"0 | 1 | 0", "1 | 0 | 1"}));
-    for (int row = 0; row < kRows; ++row) {
+    for (int row = 0; row < kOhmmeterRows; ++row) {
         EXPECT_EQ(IsSelected(RowName("Major", row)), row < 2);
         EXPECT_EQ(IsSelected(RowName("Minor", row)), row >= 2);
     }

@@ -11,12 +11,12 @@ namespace vernacle::test {
 namespace {
 
 constexpr const char* kHeadings[] = {"Number:", "Text:", "Yes or no?"};
-constexpr int kRows = 40;
+constexpr int kTableRows = 40;
 
 class RowTableTest : public SetupFormTest {
 protected:
     RowTableTest() {
-        for (int row = 0; row < kRows; ++row) {
+        for (int row = 0; row < kTableRows; ++row) {
             auto* edit = new QLineEdit;
             edit->setObjectName(QString::fromStdString(RowName("txtText", row)));
             table.AddRow({MakeRowLabel("Number", row), edit,
@@ -78,7 +78,7 @@ TEST_F(RowTableTest, TabWalksTheRowsAndBringsThemIntoView) {
     auto& scroller = On<QScrollArea>(table, "tblRowsScroller");
     table.activateWindow();
     On<QLineEdit>(table, "txtText0").setFocus();
-    for (int step = 0; step < 2 * (kRows - 1); ++step) {
+    for (int step = 0; step < 2 * (kTableRows - 1); ++step) {
         QTest::keyClick(table.focusWidget(), Qt::Key_Tab);
     }
     EXPECT_EQ(table.focusWidget()->objectName().toStdString(), "txtText39");

@@ -91,7 +91,7 @@ TEST_F(HpglRulesTest, EvenScalesPointInwardAndScalesGoUpward) {
     EXPECT_EQ(Design.CurrentScale, 3);
 }
 
-struct PenRow {
+struct PlottedPenRow {
     const char* name;
     std::int16_t major;
     std::int16_t labels;
@@ -100,7 +100,7 @@ struct PenRow {
 };
 
 TEST_F(HpglRulesTest, PensGoByTheTicsLength) {
-    const PenRow rows[] = {
+    const PlottedPenRow rows[] = {
         {"all kinds",
          2,
          2,
@@ -123,7 +123,7 @@ TEST_F(HpglRulesTest, PensGoByTheTicsLength) {
          {"PW .8 ", "PW .8 ", "PW .1 ", "PW .1 ", "PW .8 ", "PW .8 ", "PW .1 "}},
     };
     Design.ArcWidth = 9; // tells its pen from the tics'
-    for (const PenRow& row : rows) {
+    for (const PlottedPenRow& row : rows) {
         Design.MajorEveryHowMany[1] = row.major;
         Design.LabelsEveryHowMany[1] = row.labels;
         Design.MajorTicLength = row.majorLength;
@@ -217,7 +217,7 @@ TEST_F(HpglRulesTest, FreeTextsHaveTheirOwnSizeAndPlace) {
               (Calls{"LO3", "SI 2.5 3.3333", "PU 3880  8390 ", "LBfree\x03"}));
 }
 
-struct RulerRow {
+struct PlottedRulerRow {
     float plateWidth;
     int corner;
     int lastMm;
@@ -226,13 +226,13 @@ struct RulerRow {
 };
 
 TEST_F(HpglRulesTest, RulerIsAsLongAsThePlateUpTo180) {
-    const RulerRow rows[] = {
+    const PlottedRulerRow rows[] = {
         {250, -900, 180, 6300, 6460},    {180, 500, 180, 7700, 7860},
         {100.5F, 2090, 100, 6110, 6270}, {75, 2600, 75, 5600, 5760},
         {10.49F, 3890, 10, 4309, 4470}, // 4309.6 is cut at the line's end, rounded at the unit
         {10.47F, 3890, 10, 4308, 4469}, // a corner at 3890.6 is cut
     };
-    for (const RulerRow& row : rows) {
+    for (const PlottedRulerRow& row : rows) {
         SCOPED_TRACE(row.plateWidth);
         Design.PlateWidth = row.plateWidth;
         const auto place = [](const char* word, int x, int y) {

@@ -67,7 +67,7 @@ TEST_F(SmeterTest, DecibelsStandAboveTheNinthUnit) {
     }
 }
 
-struct CurveRow {
+struct SmeterCurveRow {
     int type;
     float exponent;
     int tic;
@@ -75,7 +75,7 @@ struct CurveRow {
 };
 
 TEST_F(SmeterTest, ExponentBendsTheRoundedShare) {
-    const CurveRow rows[] = {
+    const SmeterCurveRow rows[] = {
         {1, 2, 3, 0.111111119F},
         {1, 0.5F, 6, 0.816496611F},
         {2, 1, 54, 0.574468076F},
@@ -88,7 +88,7 @@ TEST_F(SmeterTest, ExponentBendsTheRoundedShare) {
         {1, 0, 0, 1},
         {1, 0, 5, 1},
     };
-    for (const CurveRow& row : rows) {
+    for (const SmeterCurveRow& row : rows) {
         Compute(row.type, row.exponent);
         EXPECT_EQ(Design.TicDeflection[1][row.tic], row.deflection) << row.type << " " << row.tic;
         EXPECT_EQ(Design.LinearityExponent[1], row.exponent);
