@@ -104,8 +104,8 @@ bool Load(const std::string& file) {
     try {
         NormalizeDesign();
         HoldAspectRatio();
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
         return true;
     } catch (const RunTimeError&) {
         return false;

@@ -13,8 +13,8 @@ void LoadDense() {
     ReadDesign(VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
     NormalizeDesign();
     HoldAspectRatio();
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
     Design.CalibrationX = Design.CalibrationY = 1;
 }
 

@@ -24,8 +24,8 @@ public:
 void Tables(benchmark::State& state) {
     LoadScales(static_cast<int>(state.range(0)), static_cast<std::int16_t>(state.range(1)));
     for ([[maybe_unused]] auto _ : state) {
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
         benchmark::ClobberMemory();
     }
 }
@@ -34,8 +34,8 @@ BENCHMARK(Tables)->Args({1, 90})->Args({1, 180})->Args({1, 360})->Args({6, 360})
 void TablesOfDense(benchmark::State& state) {
     LoadDense();
     for ([[maybe_unused]] auto _ : state) {
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
         benchmark::ClobberMemory();
     }
 }

@@ -23,8 +23,8 @@ void RedrawOn(QPaintDevice& device) {
     QPainter painter(&device);
     painter.setRenderHint(QPainter::Antialiasing);
     PainterSurface surface(painter, DeviceMap::OfScreen(kWidth, kHeight));
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
     DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
 }
 

@@ -7,13 +7,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace vernacle;
     fuzz::ServeAsFile(data, size);
     SetLinearCurve();
-    ReadCorrectionFile("curve");
+    ReadCorrectionFile(Design, "curve");
     try {
-        ComputeCorrectionSlopes();
+        ComputeCorrectionSlopes(Design);
     } catch (const RunTimeError&) {
         // Two points with the same X, or a slope beyond a float.
     }
     float fraction = 0.4F;
-    CorrectDeflection(fraction);
+    CorrectDeflection(Design, fraction);
     return 0;
 }

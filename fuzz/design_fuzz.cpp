@@ -23,8 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     WriteDesign();
     try {
         NormalizeDesign();
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
     } catch (const RunTimeError&) {
         // The failure of the numbers that the file held; the pages trap it.
     }

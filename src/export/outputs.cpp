@@ -105,8 +105,8 @@ void MakeReady() {
     NormalizeDesign();
     RaiseAspectRatio();
     HoldAspectRatio();
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
 }
 
 } // namespace vernacle::exporter

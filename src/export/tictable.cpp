@@ -49,7 +49,7 @@ using Labels = std::map<int, std::string>; // by tic
 Labels PrintedLabels(int scale) {
     Labels labels;
     if (Design.PrintText == "Y") {
-        WalkLabels(scale, PrintTraits().labelFlags, [&labels](const TicLabel& label) {
+        WalkLabels(Design, scale, PrintTraits().labelFlags, [&labels](const TicLabel& label) {
             const std::string text = PrintedLabel(label);
             if (!Trimmed(text).empty()) {
                 labels[label.number] = text;
@@ -65,7 +65,7 @@ std::string Row(const Tic& tic, const Labels& labels) {
     const SurfacePoint end = AlongPointer(frame, place.point, place.pointerAngleRad, TicLength(tic),
                                           DirectionOf(tic.scale));
     float limited = tic.deflection;
-    const float corrected = CorrectDeflection(limited);
+    const float corrected = CorrectDeflection(Design, limited);
     const auto label = labels.find(tic.number);
     const bool labelled = label != labels.end();
     std::string row = std::to_string(tic.scale) + "," + std::to_string(tic.number);
@@ -89,7 +89,8 @@ std::string TicTableText() {
         }
         RelativeSizeOf(scale);
         const Labels labels = PrintedLabels(scale);
-        WalkTics(scale, PrintTraits().ticFlags, [&](const Tic& tic) { table += Row(tic, labels); });
+        WalkTics(Design, scale, PrintTraits().ticFlags,
+                 [&](const Tic& tic) { table += Row(tic, labels); });
     }
     return table;
 }

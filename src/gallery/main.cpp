@@ -46,8 +46,8 @@ void AnswerFailuresByWords() {
 // and one that does not meets the same failure again.
 void ComputeScales() {
     try {
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
     } catch (const RunTimeError&) {
     }
 }

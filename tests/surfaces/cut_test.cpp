@@ -212,8 +212,8 @@ QImage DrawDesignWith(float ticMm, const char* rotation, Sight sight) {
     Design.LabelSpacing = ticMm / 3;
     Design.LabelRotation = rotation;
     Design.BottomToTitle[1] = -10;
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
     QImage picture(800, 450, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter painter(&picture);

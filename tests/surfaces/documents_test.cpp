@@ -28,8 +28,8 @@ protected:
         Design.DesignFileName = name;
         ReadDesign(SourcePath("examples/" + name));
         NormalizeDesign();
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
     }
 };
 

@@ -106,8 +106,8 @@ TEST_F(DrawingRecordTest, ARecordedDesignPaintsTheSamePicture) {
     SetVersionAndScreenScale();
     SetOpeningValues();
     ResetDesign();
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
     const auto paint = [](const std::function<void(DrawingSurface&)>& draw) {
         QImage image(1600, 900, QImage::Format_RGB32);
         QPainter painter(&image);

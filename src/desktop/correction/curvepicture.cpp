@@ -53,7 +53,7 @@ void CurvePicture::AddMark(const char* name, const char* text, SurfacePoint at, 
 
 void CurvePicture::PlaceHandles() {
     for (int point = 0; point < kCurvePoints; ++point) {
-        places_.at(static_cast<std::size_t>(point)) = HandleMiddle(point);
+        places_.at(static_cast<std::size_t>(point)) = HandleMiddle(Design, point);
     }
     PlaceMarks();
 }

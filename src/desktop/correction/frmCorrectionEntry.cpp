@@ -139,14 +139,15 @@ void frmCorrectionEntry::MakeHandles() {
 
 void frmCorrectionEntry::SetPointFromDrop(int index, double x, double y) {
     picture_->MoveHandle(index, {x, y});
-    PutCurvePoint(index, x, y);
+    PutCurvePoint(Design, index, x, y);
     RedrawCorrectionCurve();
 }
 
 void frmCorrectionEntry::RedrawCorrectionCurve() {
     CurveVerdict verdict = CurveVerdict::Disallowed;
     try {
-        verdict = DrawCurvePlot(picture_->Surface());
+        ComputeCorrectionSlopes(Design);
+        verdict = DrawCurvePlot(Design, picture_->Surface());
     } catch (const RunTimeError&) {
         ReportFailure("Two neighbouring points have the same current, so that the curve would have "
                       "no slope between them.\nPlease enter different currents, or restore the "
@@ -201,7 +202,7 @@ DropResult frmCorrectionEntry::HandleDropped(int index, const QPoint& at) {
 }
 
 void frmCorrectionEntry::HandleStepped(int index, int across, int up) {
-    const SurfacePoint from = CurvePointPlace(index);
+    const SurfacePoint from = CurvePointPlace(Design, index);
     SetPointFromDrop(index, from.x + across * kKeyStep, from.y - up * kKeyStep);
 }
 
@@ -223,7 +224,7 @@ void frmCorrectionEntry::cmdReadClicked() {
     if (CorrectionFileName_.empty()) {
         return; // the curve is linear, whatever the picture shows
     }
-    ReadCorrectionFile(CorrectionFileName_);
+    ReadCorrectionFile(Design, CorrectionFileName_);
     FillBoxesPlainly();
     RedrawCorrectionCurve();
 }
@@ -231,7 +232,7 @@ void frmCorrectionEntry::cmdReadClicked() {
 void frmCorrectionEntry::cmdWriteClicked() {
     CorrectionFileName_ =
         AskForFileToSave(this, {"Save correction data file", kFilter, kEnding}, {});
-    WriteCorrectionFile(CorrectionFileName_);
+    WriteCorrectionFile(Design, CorrectionFileName_);
 }
 
 void frmCorrectionEntry::cmdRestoreClicked() {

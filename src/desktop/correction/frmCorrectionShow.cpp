@@ -41,7 +41,8 @@ QPlainTextEdit* MakeBlock(const char* name, const QString& accessibleName,
 QStringList CurveLines(int first, int count) {
     QStringList lines{QString::fromUtf8(kCurveHeading)};
     for (int row = first; row < first + count; ++row) {
-        lines << QString::fromStdString(CurveRow(row));
+        const Slopes slopes = RefreshSlopes(Design);
+        lines << QString::fromStdString(CurveRow(Design, row, slopes));
     }
     return lines;
 }
@@ -50,7 +51,7 @@ QStringList SegmentLines() {
     QStringList lines{QString::fromUtf8(kSegmentHeading)};
     const int points = std::min<int>(Design.NumberOfCorrectionPoints, kCurvePoints);
     for (int segment = 1; segment < points; ++segment) {
-        lines << QString::fromStdString(SegmentRow(segment));
+        lines << QString::fromStdString(SegmentRow(Design, segment));
     }
     return lines;
 }

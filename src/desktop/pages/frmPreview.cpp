@@ -145,8 +145,8 @@ void frmPreview::Load() {
     NormalizeDesign();
     sizes_ = {Design.FontSize, Design.LabelSpacing};
     CopyTexts();
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
     Design.FontName = "Arial";
     Design.NumberOfScales = 1;
     Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);

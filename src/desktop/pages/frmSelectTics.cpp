@@ -32,7 +32,7 @@ struct frmSelectTics::Option {
     const char* frame;
     const char* name;
     const char* caption;
-    std::string& (*flag)(int scale, int tic);
+    std::string& (*flag)(DesignRecord& design, int scale, int tic);
     const char* value;
 };
 
@@ -121,7 +121,8 @@ QWidget* frmSelectTics::MakeFlagFrame(const char* name) {
 }
 
 void frmSelectTics::FillTicList() {
-    lstTicsData_->Fill(SelectionRow);
+    lstTicsData_->Fill(Design, SelectionRow);
+    StandBehindRows(Design);
 }
 
 // The details are read back from the row. Row 0, which a click beside all rows chooses, is empty.
@@ -142,7 +143,7 @@ void frmSelectTics::RowChosen(int index) {
 }
 
 void frmSelectTics::OptionClicked(const Option& option) {
-    option.flag(Design.CurrentScale, CurrentTic()) = option.value;
+    option.flag(Design, Design.CurrentScale, CurrentTic(Design)) = option.value;
     Control("cmdAccept").setVisible(true);
     Control("Label4").setEnabled(true);
 }
@@ -157,7 +158,7 @@ void frmSelectTics::cmdAcceptClicked() {
 }
 
 void frmSelectTics::cmdExitClicked() {
-    CollectDeletedTics();
+    CollectDeletedTics(Design);
     accept();
 }
 

@@ -38,7 +38,8 @@ frmShowTicInfo::frmShowTicInfo() {
 }
 
 void frmShowTicInfo::FillTicList() {
-    lstTicsData_->Fill(InformationRow);
+    lstTicsData_->Fill(Design, InformationRow);
+    StandBehindRows(Design);
 }
 
 } // namespace vernacle

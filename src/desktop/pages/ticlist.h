@@ -14,7 +14,7 @@ public:
     explicit TicList(const QString& heading);
 
     // Shows the row of every tic, as TicRows::Fill takes them.
-    void Fill(const TicRows::RowText& row);
+    void Fill(const DesignRecord& design, const TicRows::RowText& row);
 
     const std::string& Row(int row) const { return rows_[row]; }
 

@@ -38,7 +38,7 @@ void SetupPage::EnterSetup() {
     BackupDesign();
     lblWorking_->setText(QString::fromStdString("Working with scale # " +
                                                 PlainNumber(std::int32_t{Design.CurrentScale})));
-    if (traits_.readsBack && IsSpecial(Scale())) {
+    if (traits_.readsBack && IsSpecial(Design, Scale())) {
         ReadBack();
     } else {
         StartAnew();

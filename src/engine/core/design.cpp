@@ -234,8 +234,8 @@ double NumberOf(const DynamicValue& value) {
     return std::get<std::int16_t>(value);
 }
 
-int CurrentTic() {
-    return static_cast<int>(Design.TicLoop);
+int CurrentTic(const DesignRecord& design) {
+    return static_cast<int>(design.TicLoop);
 }
 
 void SetOpeningValues() {

@@ -153,7 +153,7 @@ struct DesignRecord {
 extern DesignRecord Design;
 
 // The tic that TicLoop stands at.
-int CurrentTic();
+int CurrentTic(const DesignRecord& design);
 
 // The first values of the process; fields without an opening value keep what they hold.
 void SetOpeningValues();

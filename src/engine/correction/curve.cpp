@@ -6,7 +6,6 @@
 #include "engine/base/linereader.h"
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
-#include "engine/core/design.h"
 #include "engine/core/entry.h"
 
 namespace vernacle {
@@ -17,12 +16,21 @@ constexpr std::string_view kSignature = "Meter"; // all that a reader compares o
 constexpr std::size_t kHeadingColumn = 16;
 constexpr std::size_t kPointColumn = 15;
 
-float& X(int point) {
-    return Design.CorrectionPair[2 * point - 1];
+// Where a point stands in CorrectionPair.
+int XAt(int point) {
+    return 2 * point - 1;
 }
 
-float& Y(int point) {
-    return Design.CorrectionPair[2 * point];
+int YAt(int point) {
+    return 2 * point;
+}
+
+double X(const DesignRecord& design, int point) {
+    return double{design.CorrectionPair[XAt(point)]};
+}
+
+double Y(const DesignRecord& design, int point) {
+    return double{design.CorrectionPair[YAt(point)]};
 }
 
 // first, blanks, and second beginning in that column (counted from 1).
@@ -31,13 +39,14 @@ std::string TwoColumns(std::string first, std::size_t column, std::string_view s
     return first.append(second);
 }
 
-std::string CurveText() {
+std::string CurveText(const DesignRecord& design) {
     std::string text = "Meter movement-correction datafile";
     text.append(kLineEnd).append(Host.localDateTime()).append(kLineEnd).append(kLineEnd);
-    text += PlainNumber(std::int32_t{Design.NumberOfCorrectionPoints});
+    text += PlainNumber(std::int32_t{design.NumberOfCorrectionPoints});
     text.append(kLineEnd).append(TwoColumns(" X:", kHeadingColumn, "Y:")).append(kLineEnd);
     for (int point = 1; point <= kCurvePoints; ++point) {
-        text += TwoColumns(PlainNumber(X(point)), kPointColumn, PlainNumber(Y(point)));
+        text += TwoColumns(PlainNumber(design.CorrectionPair[XAt(point)]), kPointColumn,
+                           PlainNumber(design.CorrectionPair[YAt(point)]));
         text += kLineEnd;
     }
     return text;
@@ -68,50 +77,50 @@ void ReadToken(std::string& line, T& target) {
     ParseEntry(token, target);
 }
 
-void ReadCurve(const std::string& name) {
+void ReadCurve(DesignRecord& design, const std::string& name) {
     LineReader lines(Host.readFile(name));
     if (!ReadCorrectionLine(lines).starts_with(kSignature)) {
         throw FileFailure(name + ": not a correction file");
     }
     ReadCorrectionLine(lines); // the date
     std::string line = ReadCorrectionLine(lines);
-    ReadToken(line, Design.NumberOfCorrectionPoints);
+    ReadToken(line, design.NumberOfCorrectionPoints);
     ReadCorrectionLine(lines); // the column headings
-    const int count = Design.NumberOfCorrectionPoints;
+    const int count = design.NumberOfCorrectionPoints;
     for (int point = 1; point <= count; ++point) {
         line = ReadCorrectionLine(lines);
-        ReadToken(line, X(point));
-        ReadToken(line, Y(point));
+        ReadToken(line, design.CorrectionPair[XAt(point)]);
+        ReadToken(line, design.CorrectionPair[YAt(point)]);
     }
 }
 
 // A row of the curve: up to point n the curve is the line through point n - 1.
-float OnSegment(double f, int segment) {
-    const double slope = double{Design.CorrectionSlope[segment]};
+float OnSegment(const DesignRecord& design, double f, int segment) {
+    const double slope = double{design.CorrectionSlope[segment]};
     if (segment == 1) { // starts at the origin, whatever the first pair says
         return static_cast<float>(f * slope);
     }
-    return static_cast<float>((f - double{X(segment)}) * slope + double{Y(segment)});
+    return static_cast<float>((f - X(design, segment)) * slope + Y(design, segment));
 }
 
 } // namespace
 
-void ComputeCorrectionSlopes() {
+void ComputeCorrectionSlopes(DesignRecord& design) {
     for (int segment = 1; segment < kCurvePoints; ++segment) {
-        const double rise = double{Y(segment + 1)} - double{Y(segment)};
-        const double run = double{X(segment + 1)} - double{X(segment)};
-        StoreNumber(CheckedDivide(rise, run), Design.CorrectionSlope[segment]);
+        const double rise = Y(design, segment + 1) - Y(design, segment);
+        const double run = X(design, segment + 1) - X(design, segment);
+        StoreNumber(CheckedDivide(rise, run), design.CorrectionSlope[segment]);
     }
 }
 
-float CorrectDeflection(float& f) {
+float CorrectDeflection(const DesignRecord& design, float& f) {
     if (f < 0) {
         f = 0;
         return 0;
     }
     for (int segment = 1; segment < kCurvePoints; ++segment) {
-        if (f < X(segment + 1)) {
-            return OnSegment(double{f}, segment);
+        if (double{f} < X(design, segment + 1)) {
+            return OnSegment(design, double{f}, segment);
         }
     }
     if (f >= 1) {
@@ -120,23 +129,23 @@ float CorrectDeflection(float& f) {
     return 1;
 }
 
-void WriteCorrectionFile(const std::string& name) {
+void WriteCorrectionFile(DesignRecord& design, const std::string& name) {
     if (name.empty()) {
         return;
     }
     try {
         const auto sink = Host.openForOutput(name);
-        Design.NumberOfCorrectionPoints = kCurvePoints;
-        sink->Write(CurveText());
+        design.NumberOfCorrectionPoints = kCurvePoints;
+        sink->Write(CurveText(design));
         sink->Close();
     } catch (const RunTimeError&) {
         ReportFailure("We had a problem writing the curve data");
     }
 }
 
-void ReadCorrectionFile(const std::string& name) {
+void ReadCorrectionFile(DesignRecord& design, const std::string& name) {
     try {
-        ReadCurve(name);
+        ReadCurve(design, name);
     } catch (const RunTimeError&) {
         ReportFailure("We did not read the linearity-correction file");
     }

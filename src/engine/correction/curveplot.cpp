@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "engine/core/design.h"
 #include "engine/correction/curve.h"
 #include "engine/geometry/primitives.h"
 
@@ -34,12 +33,21 @@ constexpr double kHandleWidth = 60;
 constexpr double kHandleHeight = 30;
 constexpr int kLastPoint = kCurvePoints - 1;
 
-float& CurrentOf(int point) {
-    return Design.CorrectionPair[2 * point + 1];
+// Where a point stands in CorrectionPair.
+int CurrentIndex(int point) {
+    return 2 * point + 1;
 }
 
-float& DeflectionOf(int point) {
-    return Design.CorrectionPair[2 * point + 2];
+int DeflectionIndex(int point) {
+    return 2 * point + 2;
+}
+
+float CurrentOf(const DesignRecord& design, int point) {
+    return design.CorrectionPair[CurrentIndex(point)];
+}
+
+float DeflectionOf(const DesignRecord& design, int point) {
+    return design.CorrectionPair[DeflectionIndex(point)];
 }
 
 void DrawUpright(DrawingSurface& surface, double x, double top, double bottom, Colour colour) {
@@ -63,33 +71,34 @@ void DrawGrid(DrawingSurface& surface) {
     }
 }
 
-bool NeverFalls() {
-    if (CurrentOf(1) < 0) {
+bool NeverFalls(const DesignRecord& design) {
+    if (CurrentOf(design, 1) < 0) {
         return false;
     }
     for (int point = 1; point <= kLastPoint; ++point) {
-        if (CurrentOf(point) < CurrentOf(point - 1) ||
-            DeflectionOf(point) < DeflectionOf(point - 1)) {
+        if (CurrentOf(design, point) < CurrentOf(design, point - 1) ||
+            DeflectionOf(design, point) < DeflectionOf(design, point - 1)) {
             return false;
         }
     }
     return true;
 }
 
-void DrawCurve(DrawingSurface& surface) {
+void DrawCurve(const DesignRecord& design, DrawingSurface& surface) {
     surface.SetLineWidth(2);
     for (int point = 1; point <= kLastPoint; ++point) {
-        DrawLine(surface, CurvePointPlace(point - 1), CurvePointPlace(point), kCurveInk);
+        DrawLine(surface, CurvePointPlace(design, point - 1), CurvePointPlace(design, point),
+                 kCurveInk);
     }
     surface.SetLineWidth(1);
 }
 
 // An evenly divided scale as the curve moves it.
-void DrawStrip(DrawingSurface& surface) {
+void DrawStrip(const DesignRecord& design, DrawingSurface& surface) {
     surface.Box(F(kLeft), F(kStripTop), F(kRight), F(kStripBottom), kStripInk);
     for (int tic = 0; tic <= kStripTics; ++tic) {
         auto share = static_cast<float>(tic / double{kStripTics});
-        const double corrected = double{CorrectDeflection(share)};
+        const double corrected = double{CorrectDeflection(design, share)};
         DrawUpright(surface, kLeft + kSpan * corrected, kStripTop, kStripBottom, kBlueInk);
     }
 }
@@ -116,34 +125,33 @@ float DeflectionAt(double y) {
     return static_cast<float>(1 - (y - kTop) / kSpan);
 }
 
-SurfacePoint CurvePointPlace(int point) {
-    return CurvePlace(double{CurrentOf(point)}, double{DeflectionOf(point)});
+SurfacePoint CurvePointPlace(const DesignRecord& design, int point) {
+    return CurvePlace(double{CurrentOf(design, point)}, double{DeflectionOf(design, point)});
 }
 
-void PutCurvePoint(int point, double x, double y) {
-    CurrentOf(point) = CurrentAt(x);
-    DeflectionOf(point) = DeflectionAt(y);
+void PutCurvePoint(DesignRecord& design, int point, double x, double y) {
+    design.CorrectionPair[CurrentIndex(point)] = CurrentAt(x);
+    design.CorrectionPair[DeflectionIndex(point)] = DeflectionAt(y);
 }
 
-SurfacePoint HandleMiddle(int point) {
-    const SurfacePoint place = CurvePointPlace(point);
+SurfacePoint HandleMiddle(const DesignRecord& design, int point) {
+    const SurfacePoint place = CurvePointPlace(design, point);
     const double left = place.x - (point == 0 ? kFirstHandleLeft : kHandleLeft);
     const double top = place.y - (point == kLastPoint ? kLastHandleAbove : kHandleAbove);
     return {left + kHandleWidth / 2, top + kHandleHeight / 2};
 }
 
-CurveVerdict DrawCurvePlot(DrawingSurface& surface) {
-    ComputeCorrectionSlopes();
+CurveVerdict DrawCurvePlot(const DesignRecord& design, DrawingSurface& surface) {
     surface.Clear();
     surface.SetLineWidth(1);
     surface.Box(F(kLeft), F(kTop), F(kRight), F(kBottom), kBlueInk);
     DrawGrid(surface);
     DrawLine(surface, CurvePlace(0, 0), CurvePlace(1, 1), kIdealInk);
-    if (!NeverFalls()) {
+    if (!NeverFalls(design)) {
         return CurveVerdict::Disallowed;
     }
-    DrawCurve(surface);
-    DrawStrip(surface);
+    DrawCurve(design, surface);
+    DrawStrip(design, surface);
     return CurveVerdict::Allowed;
 }
 

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "engine/core/design.h"
 #include "engine/geometry/drawingsurface.h"
 #include "engine/geometry/geometry.h"
 #include "engine/geometry/logicalarea.h"
@@ -22,20 +23,19 @@ float DeflectionAt(double y);
 SurfacePoint CurveStripMiddle();
 
 // Point 0 to 6 of the curve, as the pages count them.
-SurfacePoint CurvePointPlace(int point);
+SurfacePoint CurvePointPlace(const DesignRecord& design, int point);
 
 // Puts a point of the curve where it was dropped, wherever that is.
-void PutCurvePoint(int point, double x, double y);
+void PutCurvePoint(DesignRecord& design, int point, double x, double y);
 
 // The middle of a point's handle: on the point, but for the first and the last, which stand a
 // little off the plot's corners.
-SurfacePoint HandleMiddle(int point);
+SurfacePoint HandleMiddle(const DesignRecord& design, int point);
 
 enum class CurveVerdict { Allowed, Disallowed };
 
-// Computes the slopes and draws the plot. A curve that falls somewhere is not drawn, and is
-// disallowed. Two neighbouring points with the same current are a run-time error, before anything
-// is drawn.
-CurveVerdict DrawCurvePlot(DrawingSurface& surface);
+// Draws the plot by the slopes as they are stored. A curve that falls somewhere is not drawn, and
+// is disallowed.
+CurveVerdict DrawCurvePlot(const DesignRecord& design, DrawingSurface& surface);
 
 } // namespace vernacle

@@ -3,7 +3,6 @@
 #include "engine/base/hostservices.h"
 #include "engine/base/numbertext.h"
 #include "engine/base/runtimeerror.h"
-#include "engine/core/design.h"
 #include "engine/correction/curve.h"
 
 namespace vernacle {
@@ -37,16 +36,6 @@ void AddColumn(std::string& row, std::size_t column, const std::string& text) {
     row += text;
 }
 
-float TableDeflection(float current) {
-    try {
-        ComputeCorrectionSlopes();
-        return CorrectDeflection(current);
-    } catch (const RunTimeError&) {
-        ReportFailure("An error was found in the Correction Table routine");
-        return current;
-    }
-}
-
 double Percent(float fraction) {
     return double{static_cast<float>(double{fraction} * 100)};
 }
@@ -67,20 +56,34 @@ std::string FormatTableValue(double value) {
     return value > 99.99 ? "100." : HashPattern(value);
 }
 
-std::string CurveRow(int row) {
+Slopes RefreshSlopes(DesignRecord& design) {
+    try {
+        ComputeCorrectionSlopes(design);
+        return Slopes::Fresh;
+    } catch (const RunTimeError&) {
+        ReportFailure("An error was found in the Correction Table routine");
+        return Slopes::Failed;
+    }
+}
+
+std::string CurveRow(const DesignRecord& design, int row, Slopes slopes) {
     const auto current = static_cast<float>(row / double{kTableRows - 1});
+    float deflection = current;
+    if (slopes == Slopes::Fresh) {
+        deflection = CorrectDeflection(design, deflection);
+    }
     std::string text = PlainNumber(std::int32_t{row});
     AddColumn(text, kCurrentColumn, FormatTableValue(Percent(current)));
-    AddColumn(text, kDeflectionColumn, FormatTableValue(Percent(TableDeflection(current))));
+    AddColumn(text, kDeflectionColumn, FormatTableValue(Percent(deflection)));
     return text;
 }
 
-std::string SegmentRow(int segment) {
+std::string SegmentRow(const DesignRecord& design, int segment) {
     std::string text = PlainNumber(std::int32_t{segment});
     AddColumn(text, kStartColumn,
-              FormatTableValue(Percent(Design.CorrectionPair[2 * segment - 1])));
-    AddColumn(text, kStopColumn, FormatTableValue(Percent(Design.CorrectionPair[2 * segment + 1])));
-    AddColumn(text, kSlopeColumn, FormatTableValue(double{Design.CorrectionSlope[segment]}));
+              FormatTableValue(Percent(design.CorrectionPair[2 * segment - 1])));
+    AddColumn(text, kStopColumn, FormatTableValue(Percent(design.CorrectionPair[2 * segment + 1])));
+    AddColumn(text, kSlopeColumn, FormatTableValue(double{design.CorrectionSlope[segment]}));
     return text;
 }
 

@@ -12,77 +12,77 @@ namespace {
 using D = DesignRecord;
 
 // What the file keeps and the program does not offer: the stored value is read and given up.
-void ForceStandardStyle() {
-    Design.PlateStyle = 0;
+void ForceStandardStyle(DesignRecord& design) {
+    design.PlateStyle = 0;
 }
-void ForceFont() {
-    Design.FontName = "Arial";
+void ForceFont(DesignRecord& design) {
+    design.FontName = "Arial";
 }
-void ForceNoGraphic() {
-    Design.DrawGraphic = "N";
+void ForceNoGraphic(DesignRecord& design) {
+    design.DrawGraphic = "N";
 }
-void ForceNoGraphicFile() {
-    Design.GraphicFileName.clear();
+void ForceNoGraphicFile(DesignRecord& design) {
+    design.GraphicFileName.clear();
 }
-void ForceWhitePlate() {
-    Design.PlateBackground = kWhite;
+void ForceWhitePlate(DesignRecord& design) {
+    design.PlateBackground = kWhite;
 }
-void ForceSevenPoints() {
-    Design.NumberOfCorrectionPoints = kCurvePoints;
+void ForceSevenPoints(DesignRecord& design) {
+    design.NumberOfCorrectionPoints = kCurvePoints;
 }
-void HoldAspect() {
-    Design.AspectRatio = std::clamp(Design.AspectRatio, 0.5F, 2.0F);
+void HoldAspect(DesignRecord& design) {
+    design.AspectRatio = std::clamp(design.AspectRatio, 0.5F, 2.0F);
 }
-void SwitchHighlightsOn() {
-    if (Design.NumberOfHighlights > 0) {
-        Design.DrawHighlights = "Y";
+void SwitchHighlightsOn(DesignRecord& design) {
+    if (design.NumberOfHighlights > 0) {
+        design.DrawHighlights = "Y";
     }
 }
-void ForceNoHighlights() {
-    Design.NumberOfHighlights = 0;
-    Design.DrawHighlights = "N";
+void ForceNoHighlights(DesignRecord& design) {
+    design.NumberOfHighlights = 0;
+    design.DrawHighlights = "N";
 }
-void ForceTicsAndArcs() {
-    Design.PrintTicsAndArcs.fill(std::int16_t{0});
+void ForceTicsAndArcs(DesignRecord& design) {
+    design.PrintTicsAndArcs.fill(std::int16_t{0});
 }
 
 // A curve does not survive a file: what is left is the identity between its ends.
-void ForceStraightCurve() {
+void ForceStraightCurve(DesignRecord& design) {
     constexpr int kFirst = 1;
     constexpr int kLast = 2 * kCurvePoints - 1;
     for (int entry = kFirst; entry <= kLast + 1; ++entry) {
-        Design.CorrectionPair[entry] = 1;
+        design.CorrectionPair[entry] = 1;
     }
-    Design.CorrectionPair[kFirst] = Design.CorrectionPair[kFirst + 1] = 0;
+    design.CorrectionPair[kFirst] = design.CorrectionPair[kFirst + 1] = 0;
     for (int entry = kFirst + 2; entry < kLast; ++entry) {
-        const float previous = Design.CorrectionPair[entry - 2];
-        if (Design.CorrectionPair[entry] <= previous) {
-            Design.CorrectionPair[entry] = static_cast<float>(double{previous} + 0.01);
+        const float previous = design.CorrectionPair[entry - 2];
+        if (design.CorrectionPair[entry] <= previous) {
+            design.CorrectionPair[entry] = static_cast<float>(double{previous} + 0.01);
         }
     }
-    Design.CorrectionPair[kLast] = Design.CorrectionPair[kLast + 1] = 1;
-    ComputeCorrectionSlopes();
+    design.CorrectionPair[kLast] = design.CorrectionPair[kLast + 1] = 1;
+    ComputeCorrectionSlopes(design);
 }
 
-void DropUndrawnGraphic() {
-    if (Design.DrawGraphic == "N") {
-        Design.GraphicFileName.clear();
+void DropUndrawnGraphic(DesignRecord& design) {
+    if (design.DrawGraphic == "N") {
+        design.GraphicFileName.clear();
     }
 }
 
 // Blocks 1 to this count are then written as the slots stand, full or not: a gap among the slots
 // costs the last ones.
-void CountHighlights() {
-    Design.NumberOfHighlights = 0;
+void CountHighlights(DesignRecord& design) {
+    design.NumberOfHighlights = 0;
     for (int slot = 1; slot <= kHighlights; ++slot) {
-        if (Design.HighlightStop[slot] > 0) {
-            ++Design.NumberOfHighlights;
+        if (design.HighlightStop[slot] > 0) {
+            ++design.NumberOfHighlights;
         }
     }
 }
 
 // A step between the lines.
-constexpr FileLine Step(int stage, void (*afterReading)() = nullptr) {
+constexpr FileLine Step(int stage, DesignStep afterReading = nullptr) {
     return {nullptr, nullptr, Nowhere, nullptr, stage, afterReading};
 }
 

@@ -8,16 +8,19 @@
 
 namespace vernacle {
 
+// What reading or writing a line does to the design besides.
+using DesignStep = void (*)(DesignRecord& design);
+
 // One line of the file, or, without a label and a way to read, one step between lines.
 struct FileLine {
     const char* label = nullptr; // "%" stands for the number of the scale, the text or the point
     WriteValue write = nullptr;
     FieldPlace place = Nowhere;
-    ReadValue read = nullptr;         // none: the reader takes no line
-    int stage = 0;                    // what the reader's failure message quotes
-    void (*afterReading)() = nullptr; // what is forced, whatever the line said
-    void (*beforeWriting)() = nullptr;
-    void (*afterWriting)() = nullptr;
+    ReadValue read = nullptr;          // none: the reader takes no line
+    int stage = 0;                     // what the reader's failure message quotes
+    DesignStep afterReading = nullptr; // what is forced, whatever the line said
+    DesignStep beforeWriting = nullptr;
+    DesignStep afterWriting = nullptr;
 };
 
 // Whether a row stands before the blocks of the scales.

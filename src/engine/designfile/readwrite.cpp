@@ -38,13 +38,13 @@ private:
             return;
         }
         if (line.beforeWriting) {
-            line.beforeWriting();
+            line.beforeWriting(Design);
         }
         const FieldPointer field = line.place.In(Design, place.outer, place.inner);
         text_ += LabelOf(line, place.outer) + OnOneLine(line.write(field, place));
         text_ += kLineEnd;
         if (line.afterWriting) {
-            line.afterWriting();
+            line.afterWriting(Design);
         }
     }
 
@@ -89,7 +89,7 @@ private:
             line.read(value, line.place.In(Design, place.outer, place.inner), place);
         }
         if (line.afterReading) {
-            line.afterReading();
+            line.afterReading(Design);
         }
     }
 

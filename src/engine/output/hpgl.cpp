@@ -251,7 +251,7 @@ void Plotter::PlotArc(int scale) {
 void Plotter::PlotScale(int scale) {
     const int last = Design.NrOfTicmarks[scale];
     for (Design.TicLoop = 0; Design.TicLoop <= static_cast<float>(last); ++Design.TicLoop) {
-        PlotTic(scale, CurrentTic());
+        PlotTic(scale, CurrentTic(Design));
     }
     PlotArc(scale);
     Statement("LO6");

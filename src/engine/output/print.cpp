@@ -131,8 +131,9 @@ void PrintLabels(PrintRun& run) {
     const bool turned = Design.LabelRotation == "B" || Design.LabelRotation == "V";
     ForEachScaleUpward([&](int scale) {
         SelectScale(run, scale);
-        run.drawing.state.WhereMarker = IsSpecial(scale) ? kMarkSpecialLabels : kMarkStandardLabels;
-        WalkLabels(scale, run.drawing.traits.labelFlags, [&](const TicLabel& label) {
+        run.drawing.state.WhereMarker =
+            IsSpecial(Design, scale) ? kMarkSpecialLabels : kMarkStandardLabels;
+        WalkLabels(Design, scale, run.drawing.traits.labelFlags, [&](const TicLabel& label) {
             if (turned) {
                 PrintTurnedLabel(run, label);
             } else {

@@ -47,8 +47,8 @@ void Prepare(Preparation preparation) {
     Design.NumberOfScales = std::max<std::int16_t>(Design.NumberOfScales, 1);
     Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
     RaiseAspectRatio();
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
 }
 
 void RunStages(DrawingRun& run) {

@@ -6,6 +6,7 @@
 #include "engine/geometry/primitives.h"
 #include "engine/render/stages.h"
 #include "engine/scale/scale.h"
+#include "engine/scale/ticrows.h"
 
 namespace vernacle {
 
@@ -128,12 +129,17 @@ void DrawLabels(DrawingRun& run, int scale) {
     }
     run.surface.SetForeColor(InkOf(scale));
     const auto draw = [&run](const TicLabel& label) { DrawLabel(run, label); };
+    const auto setBack = [&run](int of, int tic) {
+        if (run.traits.labelFlags == LabelFlags::SetBack) {
+            LabelFlagOf(Design, of, tic) = "Y";
+        }
+    };
     if (ShowsSpecial(run, scale)) {
         run.state.WhereMarker = kMarkSpecialLabels;
-        WalkSpecialLabels(scale, run.traits.labelFlags, draw);
+        WalkSpecialLabels(Design, scale, run.traits.labelFlags, setBack, draw);
     } else {
         run.state.WhereMarker = kMarkStandardLabels;
-        WalkStandardLabels(scale, run.traits.labelFlags, draw);
+        WalkStandardLabels(Design, scale, run.traits.labelFlags, setBack, draw);
     }
 }
 

@@ -12,7 +12,7 @@ constexpr double kHighlightStep = 0.0002; // of full deflection: closer than the
 
 double CorrectedPercent(float percent) {
     auto fraction = static_cast<float>(double{percent} * 0.01);
-    return double{CorrectDeflection(fraction)};
+    return double{CorrectDeflection(Design, fraction)};
 }
 
 void DrawHighlight(DrawingRun& run, int highlight) {

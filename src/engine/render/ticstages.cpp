@@ -52,10 +52,10 @@ void DrawTics(DrawingRun& run, int scale) {
     const auto draw = [&run](const Tic& tic) { DrawTic(run, tic); };
     if (ShowsSpecial(run, scale)) {
         run.state.WhereMarker = kMarkSpecialTics;
-        WalkSpecialTics(scale, draw);
+        WalkSpecialTics(Design, scale, draw);
     } else {
         run.state.WhereMarker = kMarkStandardTics;
-        WalkStandardTics(scale, run.traits.ticFlags, draw);
+        WalkStandardTics(Design, scale, run.traits.ticFlags, draw);
     }
 }
 
@@ -78,7 +78,7 @@ Colour InkOf(int scale) {
 }
 
 bool ShowsSpecial(const DrawingRun& run, int scale) {
-    return run.traits.tables == Tables::SpecialOfCurrentScale || IsSpecial(scale);
+    return run.traits.tables == Tables::SpecialOfCurrentScale || IsSpecial(Design, scale);
 }
 
 double RelativeSizeOf(int scale) {
@@ -91,7 +91,7 @@ double RelativeSizeOf(int scale) {
 
 ArcPlace PlaceTic(const PlateFrame& frame, Correction correction, int scale, float deflection) {
     if (correction == Correction::Applied) {
-        deflection = CorrectDeflection(deflection);
+        deflection = CorrectDeflection(Design, deflection);
     }
     return PlaceOnArc(frame, PointerAngle(frame, double{deflection}),
                       ScaleRadius(frame, double{Design.BottomToScaleCeiling[scale]}));

@@ -5,7 +5,6 @@
 
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
-#include "engine/core/design.h"
 #include "engine/core/entry.h"
 
 namespace vernacle {
@@ -14,27 +13,27 @@ namespace {
 
 using DeletedList = Table<std::int16_t, kLastTic>;
 
-void ComputeDeflections(int scale) {
-    const int last = Design.NrOfTicmarks[scale];
-    const double exponent = double{Design.LinearityExponent[scale]};
+void ComputeDeflections(DesignRecord& design, int scale) {
+    const int last = design.NrOfTicmarks[scale];
+    const double exponent = double{design.LinearityExponent[scale]};
     for (int tic = 0; tic <= last; ++tic) {
         const auto fraction = static_cast<float>(CheckedDivide(tic, last));
         StoreNumber(CheckedPower(double{fraction}, exponent),
-                    Design.StandardDeflection[scale][tic]);
+                    design.StandardDeflection[scale][tic]);
     }
 }
 
-void ComputeLabels(int scale) {
-    const int last = Design.NrOfTicmarks[scale];
-    const int every = Design.LabelsEveryHowMany[scale];
+void ComputeLabels(DesignRecord& design, int scale) {
+    const int last = design.NrOfTicmarks[scale];
+    const int every = design.LabelsEveryHowMany[scale];
     std::string label;
     for (int tic = 0; tic <= last && every > 0; tic += every) {
         const double share = CheckedDivide(tic, last);
         float value = 0;
-        StoreNumber(share * double{Design.ScaleLengthUnits[scale]}, value);
-        StoreNumber(double{value} + double{Design.ScaleLeftEnd[scale]}, value);
+        StoreNumber(share * double{design.ScaleLengthUnits[scale]}, value);
+        StoreNumber(double{value} + double{design.ScaleLeftEnd[scale]}, value);
         FormatByMagnitude(double{value}, label);
-        Design.StandardLabel[scale][tic] = Trimmed(label);
+        design.StandardLabel[scale][tic] = Trimmed(label);
     }
 }
 
@@ -50,33 +49,33 @@ void Collect(DeletionFlags::Row flags, std::int16_t& count, DeletedList& list) {
 
 } // namespace
 
-void ComputeTicDeflections() {
-    for (int scale = 1; scale <= Design.NumberOfScales; ++scale) {
-        if (!IsSpecial(scale)) {
-            ComputeDeflections(scale);
+void ComputeTicDeflections(DesignRecord& design) {
+    for (int scale = 1; scale <= design.NumberOfScales; ++scale) {
+        if (!IsSpecial(design, scale)) {
+            ComputeDeflections(design, scale);
         }
     }
 }
 
-void ComputeTicLabels() {
-    for (int scale = 1; scale <= Design.NumberOfScales; ++scale) {
-        ComputeLabels(scale);
+void ComputeTicLabels(DesignRecord& design) {
+    for (int scale = 1; scale <= design.NumberOfScales; ++scale) {
+        ComputeLabels(design, scale);
     }
 }
 
-void CollectDeletedTics() {
+void CollectDeletedTics(DesignRecord& design) {
     for (int scale = 1; scale <= kScales; ++scale) {
-        Collect(Design.StandardTicYN[scale], Design.DeletedTicCount[scale],
-                Design.DeletedTics[scale]);
+        Collect(design.StandardTicYN[scale], design.DeletedTicCount[scale],
+                design.DeletedTics[scale]);
     }
     for (int scale = 1; scale <= kScales; ++scale) {
-        Collect(Design.StandardLabelYN[scale], Design.DeletedLabelCount[scale],
-                Design.DeletedLabels[scale]);
+        Collect(design.StandardLabelYN[scale], design.DeletedLabelCount[scale],
+                design.DeletedLabels[scale]);
     }
 }
 
-bool IsSpecial(int scale) {
-    return Design.ScaleColor[scale] < 0;
+bool IsSpecial(const DesignRecord& design, int scale) {
+    return design.ScaleColor[scale] < 0;
 }
 
 bool IsMultiple(int tic, int every) {

@@ -1,8 +1,9 @@
 #include "engine/scale/ticrows.h"
 
+#include <algorithm>
+
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
-#include "engine/core/design.h"
 #include "engine/core/entry.h"
 #include "engine/scale/scale.h"
 
@@ -43,59 +44,90 @@ std::int16_t NumberIn(const std::string& row, std::size_t first, std::size_t cha
     return number;
 }
 
+// Of a design that may be changed or not, as the design handed over is.
+template <typename AnyDesign>
+auto& TicFlagIn(AnyDesign& design, int scale, int tic) {
+    return IsSpecial(design, scale) ? design.TicPrintYN[scale][tic]
+                                    : design.StandardTicYN[scale][tic];
+}
+
+template <typename AnyDesign>
+auto& LabelFlagIn(AnyDesign& design, int scale, int tic) {
+    return IsSpecial(design, scale) ? design.TicLabelYN[scale][tic]
+                                    : design.StandardLabelYN[scale][tic];
+}
+
 } // namespace
 
-int LastTicOf(int scale) {
-    return IsSpecial(scale) ? Design.SpecialNrOfTicmarks[scale] : Design.NrOfTicmarks[scale];
+int LastTicOf(const DesignRecord& design, int scale) {
+    return IsSpecial(design, scale) ? design.SpecialNrOfTicmarks[scale]
+                                    : design.NrOfTicmarks[scale];
 }
 
-std::string& TicFlagOf(int scale, int tic) {
-    return IsSpecial(scale) ? Design.TicPrintYN[scale][tic] : Design.StandardTicYN[scale][tic];
+std::string& TicFlagOf(DesignRecord& design, int scale, int tic) {
+    return TicFlagIn(design, scale, tic);
 }
 
-std::string& LabelFlagOf(int scale, int tic) {
-    return IsSpecial(scale) ? Design.TicLabelYN[scale][tic] : Design.StandardLabelYN[scale][tic];
+const std::string& TicFlagOf(const DesignRecord& design, int scale, int tic) {
+    return TicFlagIn(design, scale, tic);
 }
 
-const std::string& LabelTextOf(int scale, int tic) {
-    return IsSpecial(scale) ? Design.TicLabelText[scale][tic] : Design.StandardLabel[scale][tic];
+std::string& LabelFlagOf(DesignRecord& design, int scale, int tic) {
+    return LabelFlagIn(design, scale, tic);
 }
 
-float DeflectionOf(int scale, int tic) {
-    return IsSpecial(scale) ? Design.TicDeflection[scale][tic]
-                            : Design.StandardDeflection[scale][tic];
+const std::string& LabelFlagOf(const DesignRecord& design, int scale, int tic) {
+    return LabelFlagIn(design, scale, tic);
 }
 
-void TicRows::Fill(const RowText& row) {
+const std::string& LabelTextOf(const DesignRecord& design, int scale, int tic) {
+    return IsSpecial(design, scale) ? design.TicLabelText[scale][tic]
+                                    : design.StandardLabel[scale][tic];
+}
+
+float DeflectionOf(const DesignRecord& design, int scale, int tic) {
+    return IsSpecial(design, scale) ? design.TicDeflection[scale][tic]
+                                    : design.StandardDeflection[scale][tic];
+}
+
+void TicRows::Fill(const DesignRecord& design, const RowText& row) {
     count_ = 0;
     rows_.fill({});
-    for (Design.CurrentScale = 1; Design.CurrentScale <= Design.NumberOfScales;
-         ++Design.CurrentScale) {
-        const auto last = static_cast<float>(LastTicOf(Design.CurrentScale));
-        for (Design.TicLoop = 0; Design.TicLoop <= last; ++Design.TicLoop) {
+    for (int scale = 1; scale <= design.NumberOfScales; ++scale) {
+        const int last = LastTicOf(design, scale);
+        for (int tic = 0; tic <= last; ++tic) {
             ++count_;
-            rows_[count_] = row(Design.CurrentScale, CurrentTic());
+            rows_[count_] = row(design, scale, tic);
         }
     }
 }
 
-std::string SelectionRow(int scale, int tic) {
+void StandBehindRows(DesignRecord& design) {
+    const int scales = std::max<int>(design.NumberOfScales, 0);
+    design.CurrentScale = static_cast<std::int16_t>(scales + 1);
+    if (scales > 0) {
+        design.TicLoop = static_cast<float>(std::max(LastTicOf(design, scales) + 1, 0));
+    }
+}
+
+std::string SelectionRow(const DesignRecord& design, int scale, int tic) {
     std::string row;
     AddColumn(row, "Scale " + NumberText(scale));
     AddColumn(row, NumberText(tic));
-    AddColumn(row, TicFlagOf(scale, tic));
-    AddColumn(row, Trimmed(LabelTextOf(scale, tic)));
-    AddColumn(row, LabelFlagOf(scale, tic));
+    AddColumn(row, TicFlagOf(design, scale, tic));
+    AddColumn(row, Trimmed(LabelTextOf(design, scale, tic)));
+    AddColumn(row, LabelFlagOf(design, scale, tic));
     return row;
 }
 
-std::string InformationRow(int scale, int tic) {
+std::string InformationRow(const DesignRecord& design, int scale, int tic) {
     std::string row;
     AddColumn(row, "Scale " + NumberText(scale));
     AddColumn(row, NumberText(tic), kTicSaves);
-    AddColumn(row, Trimmed(LabelTextOf(scale, tic)), kLabelSaves);
+    AddColumn(row, Trimmed(LabelTextOf(design, scale, tic)), kLabelSaves);
     std::string percent;
-    FormatByMagnitude(double{static_cast<float>(double{DeflectionOf(scale, tic)} * 100)}, percent);
+    FormatByMagnitude(double{static_cast<float>(double{DeflectionOf(design, scale, tic)} * 100)},
+                      percent);
     row += percent;
     PadToTen(row, 1); // whatever the percentage's length
     return row;

@@ -5,27 +5,28 @@
 #include <functional>
 #include <string>
 
-#include "engine/base/table.h"
+#include "engine/core/design.h"
 
 namespace vernacle {
 
 // The tables of a scale: those of a special one, whose colour is negative, are its own.
-int LastTicOf(int scale);
-std::string& TicFlagOf(int scale, int tic);
-std::string& LabelFlagOf(int scale, int tic);
-const std::string& LabelTextOf(int scale, int tic);
-float DeflectionOf(int scale, int tic); // fraction, before any movement correction
+int LastTicOf(const DesignRecord& design, int scale);
+std::string& TicFlagOf(DesignRecord& design, int scale, int tic);
+const std::string& TicFlagOf(const DesignRecord& design, int scale, int tic);
+std::string& LabelFlagOf(DesignRecord& design, int scale, int tic);
+const std::string& LabelFlagOf(const DesignRecord& design, int scale, int tic);
+const std::string& LabelTextOf(const DesignRecord& design, int scale, int tic);
+// A fraction, before any movement correction.
+float DeflectionOf(const DesignRecord& design, int scale, int tic);
 
 // Rows 1 to the count; row 0 is empty. The bound is four scales of 361 rows.
 class TicRows {
 public:
     static constexpr int kMost = 1444;
-    using RowText = std::function<std::string(int scale, int tic)>;
+    using RowText = std::function<std::string(const DesignRecord& design, int scale, int tic)>;
 
-    // Takes the row of every tic of every scale. Its loop variables are Design.CurrentScale and
-    // Design.TicLoop, which stand behind the last scale and tic then. One row too many is a
-    // run-time error.
-    void Fill(const RowText& row);
+    // Takes the row of every tic of every scale. One row too many is a run-time error.
+    void Fill(const DesignRecord& design, const RowText& row);
 
     int Count() const { return count_; }
     const std::string& operator[](int row) const { return rows_[row]; }
@@ -35,11 +36,15 @@ private:
     int count_ = 0;
 };
 
+// Has CurrentScale and TicLoop stand behind the last scale and tic, where filling a list leaves
+// them.
+void StandBehindRows(DesignRecord& design);
+
 // Scale, tic, tic flag, label and label flag, each ten characters wide and more if its text is.
-std::string SelectionRow(int scale, int tic);
+std::string SelectionRow(const DesignRecord& design, int scale, int tic);
 
 // Scale, tic, label and deflection in percent.
-std::string InformationRow(int scale, int tic);
+std::string InformationRow(const DesignRecord& design, int scale, int tic);
 
 // What stands at a selection row's fixed places, whatever the lengths of its texts.
 struct SelectedTic {

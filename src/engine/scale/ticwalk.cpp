@@ -10,9 +10,9 @@ namespace vernacle {
 namespace {
 
 // Every labelled tic is major, also one that falls between the multiples of the major interval.
-bool IsMajor(int scale, int tic) {
-    const bool major = IsMultiple(tic, Design.MajorEveryHowMany[scale]);
-    const bool labelled = IsMultiple(tic, Design.LabelsEveryHowMany[scale]);
+bool IsMajor(const DesignRecord& design, int scale, int tic) {
+    const bool major = IsMultiple(tic, design.MajorEveryHowMany[scale]);
+    const bool labelled = IsMultiple(tic, design.LabelsEveryHowMany[scale]);
     return major || labelled;
 }
 
@@ -21,83 +21,86 @@ std::string Normalised(std::string text) {
     return std::string(Trimmed(text));
 }
 
-bool IsShown(std::string& flag, LabelFlags flags) {
+bool IsShown(const std::string& flag, LabelFlags flags) {
     switch (flags) {
     case LabelFlags::SkipDeleted:
         return flag != "N";
     case LabelFlags::OnlyFlagged:
         return flag == "Y";
     case LabelFlags::SetBack:
-        flag = "Y";
-        return true;
     case LabelFlags::Ignored:
         return true;
     }
     return true;
 }
 
-template <typename Visit>
-void ForEachTic(int last, Visit visit) {
-    for (Design.TicLoop = 0; Design.TicLoop <= static_cast<float>(last); ++Design.TicLoop) {
-        visit(CurrentTic());
+// Whatever a page makes of the flags, a special scale draws a label only for a "Y".
+bool IsSpecialShown(const std::string& flag, LabelFlags flags) {
+    return flags == LabelFlags::SetBack || flag == "Y";
+}
+
+void Tell(const TicReached& reached, int scale, int tic) {
+    if (reached) {
+        reached(scale, tic);
     }
 }
 
 } // namespace
 
-void WalkStandardTics(int scale, TicFlags flags, const TicVisit& visit) {
-    ForEachTic(Design.NrOfTicmarks[scale], [&](int tic) {
-        if (flags == TicFlags::Ignored || Design.StandardTicYN[scale][tic] != "N") {
-            visit({scale, tic, Design.StandardDeflection[scale][tic], IsMajor(scale, tic)});
+void WalkStandardTics(const DesignRecord& design, int scale, TicFlags flags,
+                      const TicVisit& visit) {
+    for (int tic = 0; tic <= design.NrOfTicmarks[scale]; ++tic) {
+        if (flags == TicFlags::Ignored || design.StandardTicYN[scale][tic] != "N") {
+            visit({scale, tic, design.StandardDeflection[scale][tic], IsMajor(design, scale, tic)});
         }
-    });
-}
-
-void WalkSpecialTics(int scale, const TicVisit& visit) {
-    ForEachTic(Design.SpecialNrOfTicmarks[scale], [&](int tic) {
-        if (Design.TicPrintYN[scale][tic] == "Y") {
-            const bool major = Design.TicMajorYN[scale][tic] == "Y";
-            visit({scale, tic, Design.TicDeflection[scale][tic], major});
-        }
-    });
-}
-
-void WalkStandardLabels(int scale, LabelFlags flags, const LabelVisit& visit) {
-    ForEachTic(Design.NrOfTicmarks[scale], [&](int tic) {
-        if (IsShown(Design.StandardLabelYN[scale][tic], flags) &&
-            IsMultiple(tic, Design.LabelsEveryHowMany[scale])) {
-            visit({scale, tic, Design.StandardDeflection[scale][tic],
-                   Normalised(Design.StandardLabel[scale][tic]), false});
-        }
-    });
-}
-
-void WalkSpecialLabels(int scale, LabelFlags flags, const LabelVisit& visit) {
-    const bool setBack = flags == LabelFlags::SetBack;
-    ForEachTic(Design.SpecialNrOfTicmarks[scale], [&](int tic) {
-        if (setBack) {
-            Design.TicLabelYN[scale][tic] = "Y";
-        }
-        if (Design.TicLabelYN[scale][tic] == "Y") {
-            visit({scale, tic, Design.TicDeflection[scale][tic],
-                   Normalised(Design.TicLabelText[scale][tic]), true});
-        }
-    });
-}
-
-void WalkTics(int scale, TicFlags flags, const TicVisit& visit) {
-    if (IsSpecial(scale)) {
-        WalkSpecialTics(scale, visit);
-    } else {
-        WalkStandardTics(scale, flags, visit);
     }
 }
 
-void WalkLabels(int scale, LabelFlags flags, const LabelVisit& visit) {
-    if (IsSpecial(scale)) {
-        WalkSpecialLabels(scale, flags, visit);
+void WalkSpecialTics(const DesignRecord& design, int scale, const TicVisit& visit) {
+    for (int tic = 0; tic <= design.SpecialNrOfTicmarks[scale]; ++tic) {
+        if (design.TicPrintYN[scale][tic] == "Y") {
+            const bool major = design.TicMajorYN[scale][tic] == "Y";
+            visit({scale, tic, design.TicDeflection[scale][tic], major});
+        }
+    }
+}
+
+void WalkStandardLabels(const DesignRecord& design, int scale, LabelFlags flags,
+                        const TicReached& reached, const LabelVisit& visit) {
+    for (int tic = 0; tic <= design.NrOfTicmarks[scale]; ++tic) {
+        Tell(reached, scale, tic);
+        if (IsShown(design.StandardLabelYN[scale][tic], flags) &&
+            IsMultiple(tic, design.LabelsEveryHowMany[scale])) {
+            visit({scale, tic, design.StandardDeflection[scale][tic],
+                   Normalised(design.StandardLabel[scale][tic]), false});
+        }
+    }
+}
+
+void WalkSpecialLabels(const DesignRecord& design, int scale, LabelFlags flags,
+                       const TicReached& reached, const LabelVisit& visit) {
+    for (int tic = 0; tic <= design.SpecialNrOfTicmarks[scale]; ++tic) {
+        Tell(reached, scale, tic);
+        if (IsSpecialShown(design.TicLabelYN[scale][tic], flags)) {
+            visit({scale, tic, design.TicDeflection[scale][tic],
+                   Normalised(design.TicLabelText[scale][tic]), true});
+        }
+    }
+}
+
+void WalkTics(const DesignRecord& design, int scale, TicFlags flags, const TicVisit& visit) {
+    if (IsSpecial(design, scale)) {
+        WalkSpecialTics(design, scale, visit);
     } else {
-        WalkStandardLabels(scale, flags, visit);
+        WalkStandardTics(design, scale, flags, visit);
+    }
+}
+
+void WalkLabels(const DesignRecord& design, int scale, LabelFlags flags, const LabelVisit& visit) {
+    if (IsSpecial(design, scale)) {
+        WalkSpecialLabels(design, scale, flags, nullptr, visit);
+    } else {
+        WalkStandardLabels(design, scale, flags, nullptr, visit);
     }
 }
 

@@ -17,7 +17,7 @@ enum class TicFlags {
 enum class LabelFlags {
     SkipDeleted, // labels flagged "N" are skipped
     OnlyFlagged, // only labels flagged "Y" are drawn
-    SetBack,     // each flag is set back to "Y" in the design before it is tested
+    SetBack,     // all are drawn: whoever owns the design sets back each flag that is reached
     Ignored,
 };
 
@@ -39,15 +39,21 @@ struct TicLabel {
 using TicVisit = std::function<void(const Tic&)>;
 using LabelVisit = std::function<void(const TicLabel&)>;
 
-// Visits the tics of a scale in rising order, with Design.TicLoop as the loop variable, which stays
-// where a failure left it. A major or label interval of 0 is a run-time error.
-void WalkStandardTics(int scale, TicFlags flags, const TicVisit& visit);
-void WalkSpecialTics(int scale, const TicVisit& visit);
-void WalkTics(int scale, TicFlags flags, const TicVisit& visit); // as the scale's colour says
+// Told of each tic of a label walk before its flag is asked for; may be empty.
+using TicReached = std::function<void(int scale, int tic)>;
+
+// Visits the tics of a scale in rising order. A major or label interval of 0 is a run-time error.
+void WalkStandardTics(const DesignRecord& design, int scale, TicFlags flags, const TicVisit& visit);
+void WalkSpecialTics(const DesignRecord& design, int scale, const TicVisit& visit);
+// As the scale's colour says.
+void WalkTics(const DesignRecord& design, int scale, TicFlags flags, const TicVisit& visit);
 
 // Visits the labels in the same way; their texts have full stops for commas and no outer blanks.
-void WalkStandardLabels(int scale, LabelFlags flags, const LabelVisit& visit);
-void WalkSpecialLabels(int scale, LabelFlags flags, const LabelVisit& visit);
-void WalkLabels(int scale, LabelFlags flags, const LabelVisit& visit);
+void WalkStandardLabels(const DesignRecord& design, int scale, LabelFlags flags,
+                        const TicReached& reached, const LabelVisit& visit);
+void WalkSpecialLabels(const DesignRecord& design, int scale, LabelFlags flags,
+                       const TicReached& reached, const LabelVisit& visit);
+// As the scale's colour says.
+void WalkLabels(const DesignRecord& design, int scale, LabelFlags flags, const LabelVisit& visit);
 
 } // namespace vernacle

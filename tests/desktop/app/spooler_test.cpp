@@ -337,8 +337,8 @@ protected:
 };
 
 TEST_F(RawJobsTest, TheStreamIsTheExportersByteForByte) {
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
     Send(ChooseQueue(QStringLiteral("plotter")));
     ASSERT_EQ(said.size(), 1U);
     EXPECT_EQ(said[0].rfind("information: THE HPGL FILE WITH PCL HEADER/FOOTER WAS SENT", 0), 0U);

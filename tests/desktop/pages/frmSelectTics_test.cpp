@@ -122,7 +122,7 @@ TEST_F(SelectTicsTest, CaptionsAndStart) {
 TEST_F(SelectTicsTest, FiftyTicsGiveFiftyOneRows) {
     OnForm([this](QWidget&) {
         ASSERT_EQ(List().count(), 51);
-        EXPECT_EQ(RowText(0), SelectionRow(1, 0));
+        EXPECT_EQ(RowText(0), SelectionRow(Design, 1, 0));
         EXPECT_EQ(RowText(7), "Scale 1   7         Y                   Y         ");
         EXPECT_EQ(RowText(50), "Scale 1   50        Y         50        Y         ");
     });

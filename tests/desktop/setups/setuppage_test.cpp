@@ -135,7 +135,7 @@ TEST_F(SetupPageTest, ScalesPageClearsTheMarkOfTheActiveScale) {
         EXPECT_EQ(PageName(), "frmScales");
         EXPECT_EQ(Design.ScaleColor[1], 0);
         EXPECT_EQ(TicsInWords(1, 30), tics) << "the tables stay";
-        EXPECT_FALSE(IsSpecial(1));
+        EXPECT_FALSE(IsSpecial(Design, 1));
     }
 }
 
@@ -179,7 +179,7 @@ TEST_F(SetupPageTest, IgnoreLosesTheCorrectionCurve) {
     Press("cmdIgnore");
     EXPECT_NE(Design.CorrectionPair[3], 0.1F);
     float share = 0.1F;
-    EXPECT_FLOAT_EQ(CorrectDeflection(share), 0.1F);
+    EXPECT_FLOAT_EQ(CorrectDeflection(Design, share), 0.1F);
 }
 
 TEST_F(SetupPageTest, IgnoreTakesBackAMarkOfThePreview) {

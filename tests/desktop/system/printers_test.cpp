@@ -144,8 +144,8 @@ protected:
         SetOpeningValues();
         ReadDesign(SourcePath("examples/VOLTS-0-15.VRN"));
         Design.CalibrationX = Design.CalibrationY = 1;
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
     }
 
     // The one stroke of the test square's file.

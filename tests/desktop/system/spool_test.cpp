@@ -261,8 +261,8 @@ protected:
     void Plot(const PrinterPort& port) {
         SetOpeningValues();
         ReadDesign(SourcePath("examples/VOLTS-0-15.VRN"));
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
         Host.openForOutput = [port](const std::string& name) {
             EXPECT_EQ(name, "LPT1");
             return OpenPrinterPort(port);

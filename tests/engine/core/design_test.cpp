@@ -370,7 +370,7 @@ TEST_F(DesignTest, DynamicValuesCountAsNumbers) {
 
 TEST_F(DesignTest, TheCurrentTicIsWhereTheLoopStands) {
     Design.TicLoop = 360;
-    EXPECT_EQ(CurrentTic(), 360);
+    EXPECT_EQ(CurrentTic(Design), 360);
 }
 
 } // namespace

@@ -26,12 +26,12 @@ protected:
             Design.CorrectionPair[2 * point - 1] = kBent[point - 1].x;
             Design.CorrectionPair[2 * point] = kBent[point - 1].y;
         }
-        ComputeCorrectionSlopes();
+        ComputeCorrectionSlopes(Design);
     }
 };
 
 float Corrected(float f) {
-    return CorrectDeflection(f);
+    return CorrectDeflection(Design, f);
 }
 
 TEST_F(CurveTest, TheStraightCurveChangesNothing) {
@@ -52,7 +52,7 @@ TEST_F(CurveTest, SlopesAreTheQuotientsOfTheDifferences) {
 TEST_F(CurveTest, SlopesAreRoundedOnce) {
     Design.CorrectionPair[3] = 0.29F;
     Design.CorrectionPair[4] = 0.1F;
-    ComputeCorrectionSlopes();
+    ComputeCorrectionSlopes(Design);
     EXPECT_EQ(Design.CorrectionSlope[1], static_cast<float>(double{0.1F} / double{0.29F}));
 }
 
@@ -93,7 +93,7 @@ TEST_F(CurveTest, APointIsJudgedByTheSegmentAboveIt) {
 
 TEST_F(CurveTest, APointReachesItsOwnY) {
     Design.CorrectionPair[4] = 0.3F;
-    ComputeCorrectionSlopes();
+    ComputeCorrectionSlopes(Design);
     EXPECT_EQ(Corrected(0.15F), 0.3F);
 }
 
@@ -109,7 +109,7 @@ TEST_F(CurveTest, HoldsItsArgument) {
     };
     for (const auto& [f, held, corrected] : kRows) {
         float argument = f;
-        EXPECT_EQ(CorrectDeflection(argument), corrected) << f;
+        EXPECT_EQ(CorrectDeflection(Design, argument), corrected) << f;
         EXPECT_EQ(argument, held) << f;
     }
 }
@@ -118,7 +118,7 @@ TEST_F(CurveTest, BehindAnEarlyLastPointTheResultIsOne) {
     UseBentCurve();
     Design.CorrectionPair[13] = 0.875F;
     float f = 0.9F;
-    EXPECT_EQ(CorrectDeflection(f), 1);
+    EXPECT_EQ(CorrectDeflection(Design, f), 1);
     EXPECT_EQ(f, 0.9F);
 }
 
@@ -127,7 +127,7 @@ TEST_F(CurveTest, BelowALateLastPointItsSegmentGoesOn) {
     Design.CorrectionPair[13] = 2;
     Design.CorrectionSlope[6] = 0.75F;
     float f = 1.75F;
-    EXPECT_EQ(CorrectDeflection(f), 1.46875F);
+    EXPECT_EQ(CorrectDeflection(Design, f), 1.46875F);
     EXPECT_EQ(f, 1.75F);
 }
 
@@ -141,7 +141,7 @@ TEST_F(CurveTest, StartsAtTheOriginWhateverTheFirstPointSays) {
 TEST_F(CurveTest, UsesTheSlopesAsTheyAreStored) {
     Design.CorrectionPair[4] = 0.5F;
     EXPECT_EQ(Corrected(0.125F), 0.125F);
-    ComputeCorrectionSlopes();
+    ComputeCorrectionSlopes(Design);
     EXPECT_FLOAT_EQ(Corrected(0.075F), 0.25F);
 }
 
@@ -155,7 +155,7 @@ TEST_F(CurveTest, EqualXIsADivisionByZero) {
     UseBentCurve();
     Design.CorrectionPair[7] = Design.CorrectionPair[5];
     try {
-        ComputeCorrectionSlopes();
+        ComputeCorrectionSlopes(Design);
         ADD_FAILURE() << "no run-time error";
     } catch (const RunTimeError& error) {
         EXPECT_STREQ(error.what(), "Division by zero");

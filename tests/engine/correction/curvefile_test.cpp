@@ -18,7 +18,7 @@ class CurveFileTest : public EngineTest {
 protected:
     CurveFileTest() { ResetDesign(); }
 
-    void Read(const std::string& text) { ReadCorrectionFile(WriteFile("curve.cor", text)); }
+    void Read(const std::string& text) { ReadCorrectionFile(Design, WriteFile("curve.cor", text)); }
 
     void ExpectNotRead() const {
         ASSERT_FALSE(said.empty());
@@ -38,7 +38,7 @@ void ExpectPair(int point, float x, float y) {
 
 TEST_F(CurveFileTest, WritesTheStraightCurve) {
     Design.NumberOfCorrectionPoints = 3;
-    WriteCorrectionFile(Path("curve.cor"));
+    WriteCorrectionFile(Design, Path("curve.cor"));
     EXPECT_EQ(ReadFile("curve.cor"), "Meter movement-correction datafile\r\n"
                                      "11/21/26 10:08:00\r\n"
                                      "\r\n"
@@ -58,7 +58,7 @@ TEST_F(CurveFileTest, WritesTheStraightCurve) {
 TEST_F(CurveFileTest, WritesNumbersOfEveryLength) {
     SetPair(2, -0.03333333F, 1e7F);
     SetPair(3, -0.5F, 1.0F / 3);
-    WriteCorrectionFile(Path("curve.cor"));
+    WriteCorrectionFile(Design, Path("curve.cor"));
     const std::string text = ReadFile("curve.cor");
     EXPECT_NE(text.find("\r\n-3.333333E-02 1E+07\r\n"), std::string::npos) << text;
     EXPECT_NE(text.find("\r\n-.5           .3333333\r\n"), std::string::npos) << text;
@@ -66,7 +66,7 @@ TEST_F(CurveFileTest, WritesNumbersOfEveryLength) {
 
 TEST_F(CurveFileTest, AnEmptyNameWritesNothing) {
     Design.NumberOfCorrectionPoints = 3;
-    WriteCorrectionFile("");
+    WriteCorrectionFile(Design, "");
     EXPECT_TRUE(said.empty());
     EXPECT_EQ(Design.NumberOfCorrectionPoints, 3);
 }
@@ -74,7 +74,7 @@ TEST_F(CurveFileTest, AnEmptyNameWritesNothing) {
 TEST_F(CurveFileTest, ReportsWhatCannotBeWritten) {
     for (const std::string& name : {Path("none/curve.cor"), Path(""), std::string("/dev/full")}) {
         said.clear();
-        WriteCorrectionFile(name);
+        WriteCorrectionFile(Design, name);
         EXPECT_EQ(said, kNotWritten) << name;
     }
 }
@@ -82,14 +82,14 @@ TEST_F(CurveFileTest, ReportsWhatCannotBeWritten) {
 TEST_F(CurveFileTest, ReportsASizeLimit) {
     {
         const FileSizeLimit limit(64);
-        WriteCorrectionFile(Path("curve.cor"));
+        WriteCorrectionFile(Design, Path("curve.cor"));
     }
     EXPECT_EQ(said, kNotWritten);
 }
 
 TEST_F(CurveFileTest, ReportsANumberThatHasNoText) {
     SetPair(7, std::numeric_limits<float>::infinity(), 1);
-    WriteCorrectionFile(Path("curve.cor"));
+    WriteCorrectionFile(Design, Path("curve.cor"));
     EXPECT_EQ(said, kNotWritten);
 }
 
@@ -98,9 +98,9 @@ TEST_F(CurveFileTest, AFileReadsAsItWasWritten) {
     for (int entry = 1; entry <= 8; ++entry) {
         Design.CorrectionPair[entry] = written[entry - 1];
     }
-    WriteCorrectionFile(Path("curve.cor"));
+    WriteCorrectionFile(Design, Path("curve.cor"));
     ResetDesign();
-    ReadCorrectionFile(Path("curve.cor"));
+    ReadCorrectionFile(Design, Path("curve.cor"));
     EXPECT_TRUE(said.empty());
     for (int entry = 1; entry <= 8; ++entry) {
         EXPECT_FLOAT_EQ(Design.CorrectionPair[entry], written[entry - 1]) << entry;
@@ -232,7 +232,7 @@ TEST_F(CurveFileTest, ReportsWhatIsNoFileOfText) {
     for (const std::string& name : {Path("none.cor"), Path("none/curve.cor"), Path(""),
                                     Path("empty.cor"), Path("garbage.cor")}) {
         said.clear();
-        ReadCorrectionFile(name);
+        ReadCorrectionFile(Design, name);
         EXPECT_EQ(said.empty() ? "nothing said" : said.back(), kNotRead) << name;
         ExpectPair(2, 0.15F, 0.15F);
         EXPECT_EQ(Design.NumberOfCorrectionPoints, 7);
@@ -240,7 +240,7 @@ TEST_F(CurveFileTest, ReportsWhatIsNoFileOfText) {
 }
 
 TEST_F(CurveFileTest, AnEmptyNameIsAFileThatCannotBeOpened) {
-    ReadCorrectionFile("");
+    ReadCorrectionFile(Design, "");
     ExpectNotRead();
 }
 

@@ -2,6 +2,7 @@
 
 #include "engine/base/runtimeerror.h"
 #include "engine/core/design.h"
+#include "engine/correction/curve.h"
 #include "support/enginetest.h"
 #include "support/recordingsurface.h"
 
@@ -19,7 +20,8 @@ protected:
 
     CurveVerdict Draw() {
         surface = RecordingSurface();
-        return DrawCurvePlot(surface);
+        ComputeCorrectionSlopes(Design);
+        return DrawCurvePlot(Design, surface);
     }
 
     std::size_t LinesIn(const std::string& colour) const {
@@ -45,22 +47,22 @@ TEST_F(CurvePlotTest, FractionsLieInThePlotsUnits) {
 }
 
 TEST_F(CurvePlotTest, DropsPutAPointWhereverTheyAre) {
-    PutCurvePoint(2, 7000, 2000);
+    PutCurvePoint(Design, 2, 7000, 2000);
     EXPECT_EQ(Design.CorrectionPair[5], 0.4F);
     EXPECT_EQ(Design.CorrectionPair[6], 0.8F);
-    PutCurvePoint(6, 20000, -4000);
+    PutCurvePoint(Design, 6, 20000, -4000);
     EXPECT_EQ(Design.CorrectionPair[13], 3);
     EXPECT_EQ(Design.CorrectionPair[14], 2);
 }
 
 TEST_F(CurvePlotTest, HandlesStandOnTheirPoints) {
     Put(3, 0.5F, 0.25F);
-    EXPECT_EQ(HandleMiddle(3).x, 7500);
-    EXPECT_EQ(HandleMiddle(3).y, 4750);
-    EXPECT_EQ(HandleMiddle(0).x, 4985) << "15 further to the left";
-    EXPECT_EQ(HandleMiddle(0).y, 6000);
-    EXPECT_EQ(HandleMiddle(6).x, 10000);
-    EXPECT_EQ(HandleMiddle(6).y, 985) << "15 higher";
+    EXPECT_EQ(HandleMiddle(Design, 3).x, 7500);
+    EXPECT_EQ(HandleMiddle(Design, 3).y, 4750);
+    EXPECT_EQ(HandleMiddle(Design, 0).x, 4985) << "15 further to the left";
+    EXPECT_EQ(HandleMiddle(Design, 0).y, 6000);
+    EXPECT_EQ(HandleMiddle(Design, 6).x, 10000);
+    EXPECT_EQ(HandleMiddle(Design, 6).y, 985) << "15 higher";
 }
 
 TEST_F(CurvePlotTest, PlotHasFrameGridIdealCurveAndStrip) {
@@ -91,10 +93,13 @@ TEST_F(CurvePlotTest, StripShowsTheCorrectedScale) {
         << "the middle tic";
 }
 
-TEST_F(CurvePlotTest, SlopesAreComputedFirst) {
-    Put(1, 0.15F, 0.3F);
+TEST_F(CurvePlotTest, StripIsDrawnByTheSlopesAsTheyAreStored) {
     Draw();
-    EXPECT_FLOAT_EQ(Design.CorrectionSlope[1], 2);
+    const std::vector<std::string> before = surface.CallsOf("Line");
+    Design.CorrectionSlope[1] = 2;
+    surface = RecordingSurface();
+    EXPECT_EQ(DrawCurvePlot(Design, surface), CurveVerdict::Allowed);
+    EXPECT_NE(surface.CallsOf("Line"), before);
 }
 
 struct VerdictRow {

@@ -10,6 +10,12 @@ namespace {
 class CurveTableTest : public EngineTest {
 protected:
     CurveTableTest() { ResetDesign(); }
+
+    // As the table makes it.
+    static std::string Row(int row) {
+        const Slopes slopes = RefreshSlopes(Design);
+        return CurveRow(Design, row, slopes);
+    }
 };
 
 struct FormRow {
@@ -51,12 +57,12 @@ TEST_F(CurveTableTest, TableValuesAreCutAtHundred) {
 }
 
 TEST_F(CurveTableTest, LinearRowsShowTheSameTwice) {
-    EXPECT_EQ(CurveRow(0), "0       0.        0.");
-    EXPECT_EQ(CurveRow(1), "1       2.        2. ");
-    EXPECT_EQ(CurveRow(25), "25      50.       50. ");
-    EXPECT_EQ(CurveRow(50), "50      100.      100.");
+    EXPECT_EQ(Row(0), "0       0.        0.");
+    EXPECT_EQ(Row(1), "1       2.        2. ");
+    EXPECT_EQ(Row(25), "25      50.       50. ");
+    EXPECT_EQ(Row(50), "50      100.      100.");
     for (int row = 0; row < kTableRows; ++row) {
-        const std::string text = CurveRow(row);
+        const std::string text = Row(row);
         const std::string value = FormatTableValue(2. * row);
         EXPECT_EQ(text.substr(8, value.size()), value);
         EXPECT_EQ(text.substr(18), value);
@@ -66,24 +72,24 @@ TEST_F(CurveTableTest, LinearRowsShowTheSameTwice) {
 TEST_F(CurveTableTest, RowsShowTheCurveAsItStands) {
     Design.CorrectionPair[7] = 0.5F;
     Design.CorrectionPair[8] = 0.625F;
-    EXPECT_EQ(CurveRow(25), "25      50.       62.5 ");
+    EXPECT_EQ(Row(25), "25      50.       62.5 ");
     EXPECT_FLOAT_EQ(Design.CorrectionSlope[3], 1.625F) << "the slopes are fresh";
 }
 
 TEST_F(CurveTableTest, SegmentsRunFromPointToPoint) {
-    EXPECT_EQ(SegmentRow(1), "1         0.        15.      1. ");
-    EXPECT_EQ(SegmentRow(6), "6         85.       100.     1. ");
+    EXPECT_EQ(SegmentRow(Design, 1), "1         0.        15.      1. ");
+    EXPECT_EQ(SegmentRow(Design, 6), "6         85.       100.     1. ");
     Design.CorrectionSlope[2] = 0;
     Design.CorrectionSlope[3] = 120;
-    EXPECT_EQ(SegmentRow(2), "2         15.       30.      0.");
-    EXPECT_EQ(SegmentRow(3), "3         30.       50.      100.");
+    EXPECT_EQ(SegmentRow(Design, 2), "2         15.       30.      0.");
+    EXPECT_EQ(SegmentRow(Design, 3), "3         30.       50.      100.");
 }
 
 TEST_F(CurveTableTest, FailingCurveIsReportedOnceARowAndLeftUncorrected) {
     Design.CorrectionPair[7] = Design.CorrectionPair[5];
     for (int row = 1; row <= 3; ++row) {
-        EXPECT_EQ(CurveRow(row), std::to_string(row) + "       " + FormatTableValue(2. * row) +
-                                     "       " + FormatTableValue(2. * row));
+        EXPECT_EQ(Row(row), std::to_string(row) + "       " + FormatTableValue(2. * row) +
+                                "       " + FormatTableValue(2. * row));
         EXPECT_EQ(said,
                   (std::vector<std::string>{
                       "beep", "failure: An error was found in the Correction Table routine"}));

@@ -15,8 +15,8 @@ protected:
     ScaleTest() { ResetDesign(); }
 
     static void Compute() {
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
     }
 
     // The labels of scale 1 as "tic=text", blank entries left out.
@@ -57,7 +57,7 @@ TEST_F(ScaleTest, DeflectionsFollowTheExponent) {
     };
     for (const auto& [exponent, deflections] : rows) {
         Design.LinearityExponent[1] = exponent;
-        ComputeTicDeflections();
+        ComputeTicDeflections(Design);
         for (int tic = 0; tic <= 4; ++tic) {
             const auto expected = static_cast<float>(deflections[static_cast<std::size_t>(tic)]);
             EXPECT_EQ(Design.StandardDeflection[1][tic], expected) << exponent << " at " << tic;
@@ -68,7 +68,7 @@ TEST_F(ScaleTest, DeflectionsFollowTheExponent) {
 TEST_F(ScaleTest, TheQuotientIsRoundedBeforeItIsRaised) {
     Design.NrOfTicmarks[1] = 3;
     Design.LinearityExponent[1] = 4;
-    ComputeTicDeflections();
+    ComputeTicDeflections(Design);
     const auto third = static_cast<float>(1.0 / 3);
     EXPECT_EQ(Design.StandardDeflection[1][1], static_cast<float>(std::pow(double{third}, 4)));
     EXPECT_NE(Design.StandardDeflection[1][1], static_cast<float>(std::pow(1.0 / 3, 4)));
@@ -84,8 +84,8 @@ TEST_F(ScaleTest, AScaleMayHaveAllItsTics) {
     EXPECT_EQ(Design.StandardLabel[1][359], "359");
     EXPECT_EQ(Design.StandardLabel[1][360], "360");
     Design.NrOfTicmarks[1] = 361;
-    EXPECT_THROW(ComputeTicDeflections(), RunTimeError);
-    EXPECT_THROW(ComputeTicLabels(), RunTimeError);
+    EXPECT_THROW(ComputeTicDeflections(Design), RunTimeError);
+    EXPECT_THROW(ComputeTicLabels(Design), RunTimeError);
 }
 
 TEST_F(ScaleTest, LabelsStandAtMultiples) {
@@ -109,7 +109,7 @@ TEST_F(ScaleTest, LabelsStandAtMultiples) {
         Design.NrOfTicmarks[1] = tics;
         Design.LabelsEveryHowMany[1] = every;
         Design.ScaleLengthUnits[1] = 7;
-        ComputeTicLabels();
+        ComputeTicLabels(Design);
         EXPECT_EQ(Labels(), labels) << tics << " every " << every;
     }
 }
@@ -138,26 +138,26 @@ TEST_F(ScaleTest, LabelsAreLinearWhateverTheExponent) {
         Design.LinearityExponent[1] = 3;
         Design.ScaleLeftEnd[1] = leftEnd;
         Design.ScaleLengthUnits[1] = length;
-        ComputeTicLabels();
+        ComputeTicLabels(Design);
         EXPECT_EQ(Labels(), labels) << name;
     }
 }
 
 TEST_F(ScaleTest, AFallingScaleDeflectsAsARisingOne) {
     Design.ScaleLengthUnits[1] = -50;
-    ComputeTicDeflections();
+    ComputeTicDeflections(Design);
     EXPECT_EQ(Design.StandardDeflection[1][20], 0.4F);
 }
 
 TEST_F(ScaleTest, OldLabelsStayWhereNoneIsWritten) {
     Design.LabelsEveryHowMany[1] = 25;
-    ComputeTicLabels();
+    ComputeTicLabels(Design);
     Design.LabelsEveryHowMany[1] = 50;
     Design.ScaleLengthUnits[1] = 100;
-    ComputeTicLabels();
+    ComputeTicLabels(Design);
     EXPECT_EQ(Labels(), "0=0 25=25 50=100 ");
     Design.NrOfTicmarks[1] = 10;
-    ComputeTicLabels();
+    ComputeTicLabels(Design);
     EXPECT_EQ(Labels(), "0=0 25=25 50=100 ");
 }
 
@@ -189,27 +189,27 @@ TEST_F(ScaleTest, TheTablesHoldEightScales) {
     Compute();
     EXPECT_EQ(Design.StandardDeflection[8][50], 1);
     Design.NumberOfScales = 9;
-    EXPECT_THROW(ComputeTicDeflections(), RunTimeError);
-    EXPECT_THROW(ComputeTicLabels(), RunTimeError);
+    EXPECT_THROW(ComputeTicDeflections(Design), RunTimeError);
+    EXPECT_THROW(ComputeTicLabels(Design), RunTimeError);
 }
 
 TEST_F(ScaleTest, NoTicsAtAllIsARunTimeError) {
     Design.NrOfTicmarks[1] = 0;
-    EXPECT_THROW(ComputeTicDeflections(), RunTimeError);
-    EXPECT_THROW(ComputeTicLabels(), RunTimeError);
+    EXPECT_THROW(ComputeTicDeflections(Design), RunTimeError);
+    EXPECT_THROW(ComputeTicLabels(Design), RunTimeError);
 }
 
 TEST_F(ScaleTest, ANegativeExponentIsARunTimeErrorAtTheFirstTic) {
     Design.LinearityExponent[1] = -1;
     Design.StandardDeflection[1][1] = 0.125F;
-    EXPECT_THROW(ComputeTicDeflections(), RunTimeError);
+    EXPECT_THROW(ComputeTicDeflections(Design), RunTimeError);
     EXPECT_EQ(Design.StandardDeflection[1][1], 0.125F);
 }
 
 TEST_F(ScaleTest, ALabelBeyondTheLargestNumberIsARunTimeError) {
     Design.ScaleLeftEnd[1] = 3e38F;
     Design.ScaleLengthUnits[1] = 3e38F;
-    EXPECT_THROW(ComputeTicLabels(), RunTimeError);
+    EXPECT_THROW(ComputeTicLabels(Design), RunTimeError);
 }
 
 TEST_F(ScaleTest, MultiplesAreWholeQuotients) {
@@ -255,7 +255,7 @@ TEST_F(ScaleTest, DeletionsAreListedInRisingOrder) {
         Design.StandardTicYN[scale][0] = "N";
         Design.StandardLabelYN[scale][scale] = "N";
     }
-    CollectDeletedTics();
+    CollectDeletedTics(Design);
     for (int scale = 1; scale <= 6; ++scale) {
         SCOPED_TRACE(scale);
         ASSERT_EQ(Design.DeletedTicCount[scale], 3);
@@ -268,10 +268,10 @@ TEST_F(ScaleTest, DeletionsAreListedInRisingOrder) {
 TEST_F(ScaleTest, ListsAreMadeAnew) {
     Design.StandardTicYN[1][10] = "N";
     Design.StandardTicYN[1][20] = "N";
-    CollectDeletedTics();
+    CollectDeletedTics(Design);
     Design.StandardTicYN[1][10] = "Y";
     Design.NrOfTicmarks[1] = 5;
-    CollectDeletedTics();
+    CollectDeletedTics(Design);
     ASSERT_EQ(Design.DeletedTicCount[1], 1);
     EXPECT_EQ(Design.DeletedTics[1][1], 20);
     EXPECT_EQ(Design.DeletedLabelCount[1], 0);
@@ -282,7 +282,7 @@ TEST_F(ScaleTest, OnlyACapitalNDeletes) {
     for (int tic = 0; tic < 5; ++tic) {
         Design.StandardTicYN[1][tic] = Design.StandardLabelYN[1][tic] = others[tic];
     }
-    CollectDeletedTics();
+    CollectDeletedTics(Design);
     EXPECT_EQ(Design.DeletedTicCount[1], 0);
     EXPECT_EQ(Design.DeletedLabelCount[1], 0);
 }
@@ -295,19 +295,19 @@ TEST_F(ScaleTest, AListHoldsThreeHundredAndSixtyDeletions) {
             for (int tic = 1; tic <= 360; ++tic) {
                 (*flags)[scale][tic] = "N";
             }
-            EXPECT_NO_THROW(CollectDeletedTics());
+            EXPECT_NO_THROW(CollectDeletedTics(Design));
             (*flags)[scale][0] = "N";
-            EXPECT_THROW(CollectDeletedTics(), RunTimeError);
+            EXPECT_THROW(CollectDeletedTics(Design), RunTimeError);
         }
     }
 }
 
 TEST_F(ScaleTest, DeletionsAreKeyedByTheTicsNumber) {
     Design.StandardTicYN[1][10] = "N";
-    ComputeTicDeflections();
+    ComputeTicDeflections(Design);
     const float before = Design.StandardDeflection[1][10];
     Design.NrOfTicmarks[1] = 100;
-    ComputeTicDeflections();
+    ComputeTicDeflections(Design);
     EXPECT_EQ(Design.StandardTicYN[1][10], "N");
     EXPECT_EQ(Design.StandardDeflection[1][10], before / 2);
 }

@@ -12,8 +12,8 @@ class TicRowsTest : public EngineTest {
 protected:
     TicRowsTest() {
         ResetDesign();
-        ComputeTicDeflections();
-        ComputeTicLabels();
+        ComputeTicDeflections(Design);
+        ComputeTicLabels(Design);
     }
 
     static void UseScales(int scales, int tics) {
@@ -35,88 +35,89 @@ protected:
 };
 
 TEST_F(TicRowsTest, ColumnsOfASelectionRowAreTenWide) {
-    EXPECT_EQ(SelectionRow(1, 0), "Scale 1   0         Y         0         Y         ");
-    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y                   Y         ");
-    EXPECT_EQ(SelectionRow(1, 50), "Scale 1   50        Y         50        Y         ");
+    EXPECT_EQ(SelectionRow(Design, 1, 0), "Scale 1   0         Y         0         Y         ");
+    EXPECT_EQ(SelectionRow(Design, 1, 7), "Scale 1   7         Y                   Y         ");
+    EXPECT_EQ(SelectionRow(Design, 1, 50), "Scale 1   50        Y         50        Y         ");
     Design.StandardTicYN[1][50] = "N";
     Design.StandardLabelYN[1][50] = "N";
     Design.StandardLabel[1][50] = "  fifty ";
-    EXPECT_EQ(SelectionRow(1, 50), "Scale 1   50        N         fifty     N         ");
+    EXPECT_EQ(SelectionRow(Design, 1, 50), "Scale 1   50        N         fifty     N         ");
 }
 
 TEST_F(TicRowsTest, LabelsOfTenAndMoreCharactersGetNoBlanks) {
     Design.StandardLabel[1][7] = "ninechars";
-    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y         ninechars Y         ");
+    EXPECT_EQ(SelectionRow(Design, 1, 7), "Scale 1   7         Y         ninechars Y         ");
     Design.StandardLabel[1][7] = "tencharact";
-    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y         tencharactY         ");
+    EXPECT_EQ(SelectionRow(Design, 1, 7), "Scale 1   7         Y         tencharactY         ");
     Design.StandardLabel[1][7] = "elevencharac";
-    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y         elevencharacY         ");
+    EXPECT_EQ(SelectionRow(Design, 1, 7), "Scale 1   7         Y         elevencharacY         ");
     Design.StandardLabel[1][7] = "µA"; // characters, not bytes
-    EXPECT_EQ(SelectionRow(1, 7), "Scale 1   7         Y         µA        Y         ");
+    EXPECT_EQ(SelectionRow(Design, 1, 7), "Scale 1   7         Y         µA        Y         ");
 }
 
 TEST_F(TicRowsTest, InformationRowsHaveNarrowerColumns) {
-    EXPECT_EQ(InformationRow(1, 0), "Scale 1   0     0    0         ");
-    EXPECT_EQ(InformationRow(1, 25), "Scale 1   25         50         ") << "no label, 50 percent";
-    EXPECT_EQ(InformationRow(1, 50), "Scale 1   50    50   100         ");
+    EXPECT_EQ(InformationRow(Design, 1, 0), "Scale 1   0     0    0         ");
+    EXPECT_EQ(InformationRow(Design, 1, 25), "Scale 1   25         50         ")
+        << "no label, 50 percent";
+    EXPECT_EQ(InformationRow(Design, 1, 50), "Scale 1   50    50   100         ");
     UseScales(1, 360);
-    ComputeTicDeflections();
-    ComputeTicLabels();
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
     Design.StandardLabel[1][359] = "longer";
-    EXPECT_EQ(InformationRow(1, 359), "Scale 1   359   longer99.722         ");
+    EXPECT_EQ(InformationRow(Design, 1, 359), "Scale 1   359   longer99.722         ");
 }
 
 TEST_F(TicRowsTest, InformationKnowsNoFlags) {
-    const std::string before = InformationRow(1, 20);
+    const std::string before = InformationRow(Design, 1, 20);
     Design.StandardTicYN[1][20] = "N";
     Design.StandardLabelYN[1][20] = "N";
-    EXPECT_EQ(InformationRow(1, 20), before);
+    EXPECT_EQ(InformationRow(Design, 1, 20), before);
 }
 
 TEST_F(TicRowsTest, PercentIsThatOfTheTableBeforeAnyCorrection) {
     Design.LinearityExponent[1] = 2;
-    ComputeTicDeflections();
-    EXPECT_EQ(InformationRow(1, 25), "Scale 1   25         25         ");
+    ComputeTicDeflections(Design);
+    EXPECT_EQ(InformationRow(Design, 1, 25), "Scale 1   25         25         ");
     for (int segment = 1; segment < kCurvePoints; ++segment) {
         Design.CorrectionSlope[segment] = 0.5F;
     }
-    EXPECT_EQ(InformationRow(1, 25), "Scale 1   25         25         ");
+    EXPECT_EQ(InformationRow(Design, 1, 25), "Scale 1   25         25         ");
 }
 
 TEST_F(TicRowsTest, NegativeColourReadsTheSpecialTables) {
     Design.NrOfTicmarks[1] = 20;
     Design.NrOfTicmarks[2] = 30;
     MakeSpecial(2);
-    EXPECT_EQ(LastTicOf(1), 20);
-    EXPECT_EQ(LastTicOf(2), 7);
-    EXPECT_EQ(SelectionRow(2, 3), "Scale 2   3         P         dB        L         ");
-    EXPECT_EQ(InformationRow(2, 3), "Scale 2   3     dB   12.5         ");
+    EXPECT_EQ(LastTicOf(Design, 1), 20);
+    EXPECT_EQ(LastTicOf(Design, 2), 7);
+    EXPECT_EQ(SelectionRow(Design, 2, 3), "Scale 2   3         P         dB        L         ");
+    EXPECT_EQ(InformationRow(Design, 2, 3), "Scale 2   3     dB   12.5         ");
     Design.ScaleColor[2] = 0;
-    EXPECT_EQ(LastTicOf(2), 30);
-    EXPECT_EQ(SelectionRow(2, 3), "Scale 2   3         Y                   Y         ");
+    EXPECT_EQ(LastTicOf(Design, 2), 30);
+    EXPECT_EQ(SelectionRow(Design, 2, 3), "Scale 2   3         Y                   Y         ");
 }
 
 TEST_F(TicRowsTest, FlagsAreWrittenToTheScalesOwnTables) {
-    TicFlagOf(2, 3) = "s";
-    LabelFlagOf(2, 3) = "t";
+    TicFlagOf(Design, 2, 3) = "s";
+    LabelFlagOf(Design, 2, 3) = "t";
     EXPECT_EQ(Design.StandardTicYN[2][3], "s");
     EXPECT_EQ(Design.StandardLabelYN[2][3], "t");
     MakeSpecial(2);
-    TicFlagOf(2, 3) = "u";
-    LabelFlagOf(2, 3) = "v";
+    TicFlagOf(Design, 2, 3) = "u";
+    LabelFlagOf(Design, 2, 3) = "v";
     EXPECT_EQ(Design.TicPrintYN[2][3], "u");
     EXPECT_EQ(Design.TicLabelYN[2][3], "v");
     EXPECT_EQ(Design.StandardTicYN[2][3], "s");
 }
 
 TEST_F(TicRowsTest, ReadingBackFindsTheRow) {
-    const SelectedTic tic = ReadSelectionRow(SelectionRow(1, 50));
+    const SelectedTic tic = ReadSelectionRow(SelectionRow(Design, 1, 50));
     EXPECT_EQ(tic.scale, 1);
     EXPECT_EQ(tic.tic, 50);
     EXPECT_EQ(tic.ticFlag, "Y");
     EXPECT_EQ(tic.label, "50");
     EXPECT_EQ(tic.labelFlag, "Y");
-    const SelectedTic bare = ReadSelectionRow(SelectionRow(6, 7));
+    const SelectedTic bare = ReadSelectionRow(SelectionRow(Design, 6, 7));
     EXPECT_EQ(bare.scale, 6);
     EXPECT_EQ(bare.tic, 7);
     EXPECT_EQ(bare.label, "");
@@ -137,7 +138,7 @@ TEST_F(TicRowsTest, PlacesAreFixedWhateverTheLabelsLength) {
     };
     for (const LabelRow& row : rows) {
         Design.StandardLabel[1][50] = row.label;
-        const SelectedTic tic = ReadSelectionRow(SelectionRow(1, 50));
+        const SelectedTic tic = ReadSelectionRow(SelectionRow(Design, 1, 50));
         EXPECT_EQ(tic.label, row.read);
         EXPECT_EQ(tic.labelFlag, row.flag) << row.label;
         EXPECT_EQ(tic.ticFlag, "Y");
@@ -154,31 +155,52 @@ TEST_F(TicRowsTest, AnEmptyRowIsTicZeroOfScaleZero) {
 
 TEST_F(TicRowsTest, OneScaleOfFiftyTicsGivesFiftyOneRows) {
     TicRows rows;
-    rows.Fill(SelectionRow);
+    rows.Fill(Design, SelectionRow);
     EXPECT_EQ(rows.Count(), 51);
     EXPECT_EQ(rows[0], "");
-    EXPECT_EQ(rows[1], SelectionRow(1, 0));
-    EXPECT_EQ(rows[51], SelectionRow(1, 50));
-    EXPECT_EQ(Design.CurrentScale, 2) << "the loops end behind";
-    EXPECT_EQ(Design.TicLoop, 51);
+    EXPECT_EQ(rows[1], SelectionRow(Design, 1, 0));
+    EXPECT_EQ(rows[51], SelectionRow(Design, 1, 50));
+}
+
+struct BehindRow {
+    std::int16_t scales;
+    std::int16_t tics;
+    std::int16_t scaleBehind;
+    float ticBehind;
+};
+
+TEST_F(TicRowsTest, WorkingScaleAndTicStandBehindTheRows) {
+    for (const BehindRow& row :
+         {BehindRow{1, 50, 2, 51}, {3, 360, 4, 361}, {2, -5, 3, 0}, {0, 50, 1, 7}, {-2, 9, 1, 7}}) {
+        UseScales(row.scales, row.tics);
+        Design.CurrentScale = 9;
+        Design.TicLoop = 7;
+        StandBehindRows(Design);
+        EXPECT_EQ(Design.CurrentScale, row.scaleBehind) << row.scales;
+        EXPECT_EQ(Design.TicLoop, row.ticBehind) << row.scales << " of " << row.tics;
+    }
+    UseScales(2, 10);
+    MakeSpecial(2);
+    StandBehindRows(Design);
+    EXPECT_EQ(Design.TicLoop, 8);
 }
 
 TEST_F(TicRowsTest, ScalesFollowEachOther) {
     UseScales(3, 10);
     MakeSpecial(2);
     TicRows rows;
-    rows.Fill(InformationRow);
+    rows.Fill(Design, InformationRow);
     EXPECT_EQ(rows.Count(), 11 + 8 + 11);
-    EXPECT_EQ(rows[11], InformationRow(1, 10));
-    EXPECT_EQ(rows[12], InformationRow(2, 0));
-    EXPECT_EQ(rows[20], InformationRow(3, 0));
+    EXPECT_EQ(rows[11], InformationRow(Design, 1, 10));
+    EXPECT_EQ(rows[12], InformationRow(Design, 2, 0));
+    EXPECT_EQ(rows[20], InformationRow(Design, 3, 0));
 }
 
 TEST_F(TicRowsTest, RefillingForgetsTheFormerRows) {
     TicRows rows;
-    rows.Fill(SelectionRow);
+    rows.Fill(Design, SelectionRow);
     Design.NrOfTicmarks[1] = 5;
-    rows.Fill(SelectionRow);
+    rows.Fill(Design, SelectionRow);
     EXPECT_EQ(rows.Count(), 6);
     EXPECT_EQ(rows[7], "");
 }
@@ -186,16 +208,20 @@ TEST_F(TicRowsTest, RefillingForgetsTheFormerRows) {
 TEST_F(TicRowsTest, FourFullScalesFitAndOneTicMoreIsARunTimeError) {
     TicRows rows;
     UseScales(2, 360);
-    rows.Fill(SelectionRow);
+    rows.Fill(Design, SelectionRow);
     EXPECT_EQ(rows.Count(), 722);
     UseScales(4, 360);
-    rows.Fill(SelectionRow);
+    rows.Fill(Design, SelectionRow);
     EXPECT_EQ(rows.Count(), 1444);
-    EXPECT_EQ(rows[1444], SelectionRow(4, 360));
+    EXPECT_EQ(rows[1444], SelectionRow(Design, 4, 360));
     UseScales(5, 360);
-    EXPECT_THROW(rows.Fill(SelectionRow), RunTimeError);
-    EXPECT_EQ(Design.CurrentScale, 5);
-    EXPECT_EQ(Design.TicLoop, 0);
+    std::pair<int, int> asked;
+    const auto row = [&asked](const DesignRecord& /*design*/, int scale, int tic) {
+        asked = {scale, tic};
+        return std::string("row");
+    };
+    EXPECT_THROW(rows.Fill(Design, row), RunTimeError);
+    EXPECT_EQ(asked, (std::pair{5, 0}));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include "engine/base/runtimeerror.h"
 #include "engine/scale/scale.h"
+#include "engine/scale/ticrows.h"
 #include "support/rendertest.h"
 
 namespace vernacle::test {
@@ -14,24 +15,49 @@ using Names = std::vector<std::string>;
 
 class TicWalkTest : public RenderTest {
 protected:
-    // "3" for a minor tic, "3M" for a major one.
-    static Names Tics(int scale, TicFlags flags = TicFlags::Honoured) {
+    // "3" for a minor tic, "3M" for a major one; of those before a failure, the last is kept.
+    Names Tics(int scale, TicFlags flags = TicFlags::Honoured) {
         Names names;
-        WalkTics(scale, flags, [&](const Tic& tic) {
+        last = {};
+        WalkTics(Design, scale, flags, [&](const Tic& tic) {
             EXPECT_EQ(tic.scale, scale);
-            names.push_back(std::to_string(tic.number) + (tic.major ? "M" : ""));
+            last = std::to_string(tic.number) + (tic.major ? "M" : "");
+            names.push_back(last);
         });
         return names;
     }
 
     static Names Labels(int scale, LabelFlags flags) {
         Names names;
-        WalkLabels(scale, flags, [&](const TicLabel& label) {
+        WalkLabels(Design, scale, flags, [&](const TicLabel& label) {
             EXPECT_EQ(label.scale, scale);
-            names.push_back(std::to_string(label.number) + ":" + label.text);
+            names.push_back(NameOf(label));
         });
         return names;
     }
+
+    // What a label walk tells, as a page that sets the flags back hears it: each tic reached and,
+    // behind its own, each label.
+    Names LabelsAndReached(int scale, LabelFlags flags) {
+        const bool special = IsSpecial(Design, scale);
+        const auto walk = special ? WalkSpecialLabels : WalkStandardLabels;
+        told.clear();
+        walk(
+            Design, scale, flags,
+            [this](int of, int tic) {
+                LabelFlagOf(Design, of, tic) = "Y";
+                told.push_back(std::to_string(of) + "/" + std::to_string(tic));
+            },
+            [this](const TicLabel& label) { told.push_back(NameOf(label)); });
+        return told;
+    }
+
+    static std::string NameOf(const TicLabel& label) {
+        return std::to_string(label.number) + ":" + label.text;
+    }
+
+    std::string last;
+    Names told;
 };
 
 struct MajorRow {
@@ -69,27 +95,19 @@ TEST_F(TicWalkTest, DeletedTicsAreSkippedUnlessFlagsAreIgnored) {
     EXPECT_EQ(Tics(1, TicFlags::Ignored), (Names{"0M", "1M", "2M", "3M"}));
 }
 
-TEST_F(TicWalkTest, LoopVariableIsBehindTheLastTicAfterwards) {
-    GiveTics(1, 5);
-    Tics(1);
-    EXPECT_EQ(Design.TicLoop, 6);
-    GiveTics(1, 3);
-    Labels(1, LabelFlags::SkipDeleted);
-    EXPECT_EQ(Design.TicLoop, 4);
-    EXPECT_EQ(CurrentTic(), 4);
-}
-
 TEST_F(TicWalkTest, DeflectionsComeFromTheTables) {
     GiveTics(1, 4);
     std::vector<float> found;
-    WalkTics(1, TicFlags::Honoured, [&](const Tic& tic) { found.push_back(tic.deflection); });
+    WalkTics(Design, 1, TicFlags::Honoured,
+             [&](const Tic& tic) { found.push_back(tic.deflection); });
     EXPECT_EQ(found, (std::vector<float>{0, 0.25F, 0.5F, 0.75F, 1}));
     found.clear();
     GiveSpecialTics(1, 2);
-    WalkTics(1, TicFlags::Honoured, [&](const Tic& tic) { found.push_back(tic.deflection); });
+    WalkTics(Design, 1, TicFlags::Honoured,
+             [&](const Tic& tic) { found.push_back(tic.deflection); });
     EXPECT_EQ(found, (std::vector<float>{0, 0.5F, 1}));
     found.clear();
-    WalkLabels(1, LabelFlags::SkipDeleted,
+    WalkLabels(Design, 1, LabelFlags::SkipDeleted,
                [&](const TicLabel& label) { found.push_back(label.deflection); });
     EXPECT_EQ(found, (std::vector<float>{0, 0.5F, 1}));
 }
@@ -115,11 +133,11 @@ TEST_F(TicWalkTest, SpecialScaleWithoutStepsVisitsItsFirstTic) {
 }
 
 TEST_F(TicWalkTest, TheSignOfTheColourMakesAScaleSpecial) {
-    EXPECT_FALSE(IsSpecial(1));
+    EXPECT_FALSE(IsSpecial(Design, 1));
     Design.ScaleColor[1] = 0;
-    EXPECT_FALSE(IsSpecial(1));
+    EXPECT_FALSE(IsSpecial(Design, 1));
     Design.ScaleColor[1] = -1;
-    EXPECT_TRUE(IsSpecial(1));
+    EXPECT_TRUE(IsSpecial(Design, 1));
 }
 
 struct FlagRow {
@@ -151,16 +169,30 @@ TEST_F(TicWalkTest, SettingBackReachesEveryTicOfTheScaleAndNoFurther) {
     for (int tic = 0; tic <= 6; ++tic) {
         Design.StandardLabelYN[1][tic] = "N";
     }
-    Labels(1, LabelFlags::SetBack);
+    EXPECT_EQ(LabelsAndReached(1, LabelFlags::SetBack),
+              (Names{"1/0", "0:0", "1/1", "1/2", "2:2", "1/3", "1/4", "4:4", "1/5"}));
     for (int tic = 0; tic <= 5; ++tic) {
         EXPECT_EQ(Design.StandardLabelYN[1][tic], "Y") << tic;
     }
     EXPECT_EQ(Design.StandardLabelYN[1][6], "N");
-    Design.StandardLabelYN[1][2] = "N";
-    Labels(1, LabelFlags::SkipDeleted);
-    Labels(1, LabelFlags::OnlyFlagged);
-    Labels(1, LabelFlags::Ignored);
-    EXPECT_EQ(Design.StandardLabelYN[1][2], "N");
+}
+
+// A page that draws every label draws those of a design that nobody may change, too.
+TEST_F(TicWalkTest, SettingBackNeedsNoFlagToBeSetBack) {
+    GiveTics(1, 2);
+    Design.StandardLabelYN[1][1] = "N";
+    EXPECT_EQ(Labels(1, LabelFlags::SetBack), (Names{"0:0", "1:1", "2:2"}));
+    EXPECT_EQ(Design.StandardLabelYN[1][1], "N");
+}
+
+TEST_F(TicWalkTest, FlagIsAskedForWhenItsTicWasTold) {
+    GiveTics(1, 2);
+    Design.StandardLabelYN[1][1] = "N";
+    EXPECT_EQ(LabelsAndReached(1, LabelFlags::SkipDeleted),
+              (Names{"1/0", "0:0", "1/1", "1:1", "1/2", "2:2"}));
+    GiveSpecialTics(1, 1);
+    Design.TicLabelYN[1][1] = "N";
+    EXPECT_EQ(LabelsAndReached(1, LabelFlags::SkipDeleted), (Names{"1/0", "0:s0", "1/1", "1:s1"}));
 }
 
 TEST_F(TicWalkTest, SpecialLabelsNeedTheirOwnFlag) {
@@ -175,6 +207,7 @@ TEST_F(TicWalkTest, SpecialLabelsNeedTheirOwnFlag) {
         EXPECT_EQ(Design.TicLabelYN[1][1], "N");
     }
     EXPECT_EQ(Labels(1, LabelFlags::SetBack), (Names{"0:s0", "1:s1", "2:s2", "3:s3"}));
+    EXPECT_EQ(LabelsAndReached(1, LabelFlags::SetBack).size(), 8U);
     EXPECT_EQ(Design.TicLabelYN[1][1], "Y");
 }
 
@@ -192,7 +225,7 @@ TEST_F(TicWalkTest, IntervalOfZeroFailsWhereItStands) {
     Design.StandardTicYN[1][0] = "N"; // a deleted tic is passed by before its class is asked for
     Design.MajorEveryHowMany[1] = 0;
     EXPECT_THROW(Tics(1), RunTimeError);
-    EXPECT_EQ(Design.TicLoop, 1);
+    EXPECT_EQ(last, "");
 
     Design.MajorEveryHowMany[1] = 1;
     Design.LabelsEveryHowMany[1] = 0;
@@ -200,7 +233,9 @@ TEST_F(TicWalkTest, IntervalOfZeroFailsWhereItStands) {
     Design.StandardLabelYN[1][0] = "N";
     Design.StandardLabelYN[1][1] = "N";
     EXPECT_THROW(Labels(1, LabelFlags::SkipDeleted), RunTimeError);
-    EXPECT_EQ(Design.TicLoop, 2);
+    EXPECT_THROW(LabelsAndReached(1, LabelFlags::SetBack), RunTimeError);
+    EXPECT_EQ(told, (Names{"1/0"}));
+    EXPECT_EQ(Design.StandardLabelYN[1][1], "N") << "not reached";
 }
 
 TEST_F(TicWalkTest, MoreTicsThanATableHoldsIsARunTimeError) {
@@ -208,7 +243,7 @@ TEST_F(TicWalkTest, MoreTicsThanATableHoldsIsARunTimeError) {
     EXPECT_EQ(Tics(1).size(), 361U);
     Design.NrOfTicmarks[1] = 361;
     EXPECT_THROW(Tics(1), RunTimeError);
-    EXPECT_EQ(Design.TicLoop, 361);
+    EXPECT_EQ(last, "360M");
 }
 
 } // namespace
