@@ -195,7 +195,6 @@ constexpr Field kFields[] = {
     {"ScreenScaleX", DumpField<&DesignRecord::ScreenScaleX>},
     {"ScreenScaleY", DumpField<&DesignRecord::ScreenScaleY>},
     {"ScratchText", DumpField<&DesignRecord::ScratchText>},
-    {"LastStepTrace", DumpField<&DesignRecord::LastStepTrace>},
     {"SharedIndex", DumpField<&DesignRecord::SharedIndex>},
     {"SharedIndex2", DumpField<&DesignRecord::SharedIndex2>},
     {"ScaleLoop", DumpField<&DesignRecord::ScaleLoop>},

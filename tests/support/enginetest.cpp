@@ -7,6 +7,7 @@
 
 #include "engine/base/hostservices.h"
 #include "engine/core/design.h"
+#include "engine/core/entry.h"
 #include "engine/render/drawing.h"
 
 namespace vernacle::test {
@@ -27,6 +28,7 @@ EngineTest::EngineTest() : folder_(MakeFolder()) {
     std::setlocale(LC_ALL, ""); // as a window system does: a decimal comma must not get in
     Design = DesignRecord{};
     Drawing = DrawingState{};
+    LastStepTrace = StepTrace{};
     Host = DefaultHost();
     const auto place = [this](const std::string& name) {
         return name == "Backup.DAT" ? Path(name) : name;

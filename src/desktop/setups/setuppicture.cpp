@@ -3,6 +3,7 @@
 #include "engine/base/hostservices.h"
 #include "engine/base/runtimeerror.h"
 #include "engine/core/design.h"
+#include "engine/core/entry.h"
 
 namespace vernacle {
 
@@ -23,7 +24,7 @@ void SetupPicture::DrawScale() {
         DrawSetup(Surface(), sizes_);
     } catch (const RunTimeError&) {
         Host.failureBox("We have a problem.\n\nWe are at SetupPreview errorhandler 337\n" +
-                        Design.LastStepTrace);
+                        LastStepTrace.Text());
     }
 }
 

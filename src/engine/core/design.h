@@ -143,7 +143,6 @@ struct DesignRecord {
     float ScreenScaleX = 0;       // screen width in twips / 12000
     float ScreenScaleY = 0;       // screen height in twips / 9000
     std::string ScratchText;      // shared scratch text
-    std::string LastStepTrace;    // what ArcSin last noted
     std::int16_t SharedIndex = 0; // overwritten by ParseEntry and SplitField
     std::int16_t SharedIndex2 = 0;
     std::int16_t ScaleLoop = 0; // loop index of the file reader and writer

@@ -232,9 +232,15 @@ std::string RangeText(const EntryLimits& limits, std::string_view unit) {
     return hasHighest ? to + behind : "";
 }
 
+StepTrace LastStepTrace;
+
+std::string StepTrace::Text() const {
+    return argument ? "In ArcSin, X=" + PlainNumber(ToFloat(*argument)) : "";
+}
+
 double ArcSin(double& x) {
     constexpr double kLimit = 0.999999; // short of a right angle, so that the root is never 0
-    Design.LastStepTrace.assign("In ArcSin, X=").append(PlainNumber(ToFloat(x)));
+    LastStepTrace.argument = x;
     x = std::clamp(x, -kLimit, kLimit);
     return std::atan(x / std::sqrt(1 - x * x));
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -44,6 +45,16 @@ void FormatByMagnitude(double value, std::string& result);
 // The arc sine of x in radians. x is first held to +-0.999999, in the caller's variable too, so
 // that a geometry which cannot be still draws.
 double ArcSin(double& x);
+
+// What ArcSin noted last, for the message of a drawing that fails. It becomes a text only where one
+// is read: to make that text takes longer than all else that a tic asks for.
+struct StepTrace {
+    std::optional<double> argument;
+
+    std::string Text() const; // "In ArcSin, X=" and the argument; empty before the first
+};
+
+extern StepTrace LastStepTrace;
 
 // Serves the pending events once, then blocks until so many seconds have passed.
 void Delay(float seconds);

@@ -318,7 +318,7 @@ protected:
 // Fields of the dump that are no part of a design, or are computed from it.
 constexpr const char* kWorking[] = {
     "CurrentScale",        "ActiveScale",    "HelpTopic",      "ScratchText",
-    "LastStepTrace",       "SharedIndex",    "ScaleLoop",      "TicLoop",
+    "SharedIndex",    "ScaleLoop",      "TicLoop",
     "StandardDeflection[", "StandardLabel[", "DesignFileName",
 };
 

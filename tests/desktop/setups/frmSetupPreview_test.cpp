@@ -231,7 +231,7 @@ TEST_F(SetupPreviewTest, FailingDrawingIsReportedOnceAndStaysOpen) {
     Design.BottomToScaleCeiling[1] = -20;
     Design.BottomToBearing = 10;
     Design.ActualVirtualOffset = 30; // no radius is left
-    Design.LastStepTrace = "In ArcSin, X=.5";
+    LastStepTrace.argument = 0.5;
     OpenPage("frmPreview");
     Design.CurrentScale = 1;
     said.clear();
@@ -241,7 +241,7 @@ TEST_F(SetupPreviewTest, FailingDrawingIsReportedOnceAndStaysOpen) {
         Click(On<QPushButton>(form, "cmdExit"));
     });
     Design.BottomToScaleCeiling[1] = -20;
-    Design.LastStepTrace = "In ArcSin, X=.5";
+    LastStepTrace.argument = 0.5;
     ShowModal("frmSetupPreview");
     EXPECT_EQ(said, std::vector<std::string>{
                         "failure: We have a problem.\n\nWe are at SetupPreview errorhandler "

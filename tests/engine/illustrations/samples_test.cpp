@@ -117,7 +117,7 @@ std::string Remembered() {
         d.ArcWidth, d.MessageLevel, d.NumberOfTexts, d.NumberOfHighlights, d.PlateBackground,
         d.AspectRatio, d.NumberOfCorrectionPoints, d.DrawHighlights, d.PlateOutlineCircular,
         d.CalibrationX, d.CalibrationY, d.CurrentScale, d.ActiveScale, d.HelpTopic, d.ProgramName,
-        d.VersionText, d.ScreenScaleX, d.ScreenScaleY, d.ScratchText, d.LastStepTrace,
+        d.VersionText, d.ScreenScaleX, d.ScreenScaleY, d.ScratchText, LastStepTrace.Text(),
         d.SharedIndex, d.SharedIndex2, d.ScaleLoop, d.TicLoop);
     for (int scale = 0; scale <= kLastScale; ++scale) {
         put(d.ScaleColor[scale], d.ScaleLeftEnd[scale], d.ScaleLengthUnits[scale],
@@ -155,7 +155,7 @@ void Disturb() {
     Design.PlateWidth = 61.5F;
     Design.PlateStyle = 1;
     Design.LabelRotation = "V";
-    Design.LastStepTrace = "mine";
+    LastStepTrace.argument = 0.125;
     Design.NumberOfScales = 4;
     Design.CurrentScale = 3;
     Design.TicLoop = 17;
