@@ -32,7 +32,7 @@ struct DeviceMap {
 // The text without its control characters: they have no shape, and an SVG that holds one is no XML.
 QString ShownText(const std::string& text);
 
-class PainterSurface : public virtual DrawingSurface {
+class PainterSurface : public DrawingSurface {
 public:
     // The painter may begin later than the surface, but before the first drawing call.
     PainterSurface(QPainter& painter, const DeviceMap& map);
@@ -66,13 +66,11 @@ public:
     void PaintPicture(const std::string& file, float x, float y, float width,
                       float height) override;
 
-protected:
     // Writes in the selected font, with the text's top left corner at painter coordinates.
     void WriteAt(QPointF corner, const std::string& text);
 
     const DeviceMap& Map() const { return map_; }
     void SetOriginY(double originY) { map_.originY = originY; }
-    QPainter& Painter() { return painter_; }
 
 private:
     // A font as it is asked for: scales from the reference font to painter coordinates.

@@ -34,34 +34,34 @@ DeviceMap MapOf(double coordinatesPerInch, const Sheet& sheet) {
 } // namespace
 
 PaperSurface::PaperSurface(QPaintDevice& device, double coordinatesPerInch, const Sheet& sheet)
-    : PainterSurface(painter, MapOf(coordinatesPerInch, sheet)),
-      device_(device),
+    : device_(device),
+      page_(painter_, MapOf(coordinatesPerInch, sheet)),
       sheetBottom_((sheet.heightMm - kUnprintableMm) * coordinatesPerInch / kMmPerInch),
       sheetTop_(kUnprintableMm * coordinatesPerInch / kMmPerInch),
-      areaTop_(Map().originY) {}
+      areaTop_(page_.Map().originY) {}
 
 PaperSurface::~PaperSurface() {
-    if (painter.isActive()) {
-        Flush();
-        painter.end();
+    if (painter_.isActive()) {
+        page_.Flush();
+        painter_.end();
     }
 }
 
 void PaperSurface::KeepOnSheet(float top, float bottom) {
-    const double needed = sheetTop_ - (areaTop_ + double{top} * Map().perUnitY);
-    const double room = sheetBottom_ - (areaTop_ + double{bottom} * Map().perUnitY);
-    SetOriginY(areaTop_ + std::max(std::min(needed, room), 0.0));
+    const double needed = sheetTop_ - (areaTop_ + double{top} * page_.Map().perUnitY);
+    const double room = sheetBottom_ - (areaTop_ + double{bottom} * page_.Map().perUnitY);
+    page_.SetOriginY(areaTop_ + std::max(std::min(needed, room), 0.0));
 }
 
 void PaperSurface::StartSheet() {
-    if (!painter.begin(&device_)) {
+    if (!painter_.begin(&device_)) {
         throw RunTimeError("The printer could not be started");
     }
 }
 
 void PaperSurface::EndDoc() {
-    Flush();
-    if (!painter.end()) {
+    page_.Flush();
+    if (!painter_.end()) {
         throw RunTimeError("The printer could not end the document");
     }
 }
@@ -75,7 +75,7 @@ float PaperSurface::TwipsPerPixelY() const {
 }
 
 void PaperSurface::TextOutA(int xPixels, int yPixels, const std::string& text) {
-    WriteAt({Map().originX + xPixels * Map().perPixel, Map().originY + yPixels * Map().perPixel},
+    page_.WriteAt({page_.Map().originX + xPixels * page_.Map().perPixel, page_.Map().originY + yPixels * page_.Map().perPixel},
             text);
 }
 

@@ -26,16 +26,13 @@ constexpr Sheet kSheets[] = {
 // Line widths, made fonts and turned labels count device pixels of this many to the inch.
 constexpr double kPrinterDpi = 600;
 
-// The painter is made before the surface that draws with it.
-struct PainterHolder {
-    QPainter painter;
-};
-
-class PaperSurface : private PainterHolder, public PainterSurface, public PrinterSurface {
+class PaperSurface : public PrinterSurface {
 public:
     // The device's coordinates begin at the sheet's corner, so many of them to the inch.
     PaperSurface(QPaintDevice& device, double coordinatesPerInch, const Sheet& sheet);
     ~PaperSurface() override;
+    PaperSurface(const PaperSurface&) = delete;
+    PaperSurface& operator=(const PaperSurface&) = delete;
 
     void KeepOnSheet(float top, float bottom) override;
     void StartSheet() override;
@@ -44,8 +41,45 @@ public:
     float TwipsPerPixelY() const override;
     void TextOutA(int xPixels, int yPixels, const std::string& text) override;
 
+    // As any painter draws.
+    void Clear() override { page_.Clear(); }
+    void SetLineWidth(int pixels) override { page_.SetLineWidth(pixels); }
+    void SetForeColor(Colour colour) override { page_.SetForeColor(colour); }
+    void Line(float x1, float y1, float x2, float y2, Colour colour) override {
+        page_.Line(x1, y1, x2, y2, colour);
+    }
+    void Box(float x1, float y1, float x2, float y2, Colour colour) override {
+        page_.Box(x1, y1, x2, y2, colour);
+    }
+    void FilledBox(float x1, float y1, float x2, float y2, Colour colour) override {
+        page_.FilledBox(x1, y1, x2, y2, colour);
+    }
+    void Circle(float x, float y, float r, Colour colour) override {
+        page_.Circle(x, y, r, colour);
+    }
+    void SetCurrentX(float x) override { page_.SetCurrentX(x); }
+    void SetCurrentY(float y) override { page_.SetCurrentY(y); }
+    float GetCurrentX() const override { return page_.GetCurrentX(); }
+    float GetCurrentY() const override { return page_.GetCurrentY(); }
+    void Dot(float x, float y, Colour colour) override { page_.Dot(x, y, colour); }
+    void PrintText(const std::string& text) override { page_.PrintText(text); }
+    void SetFontName(const std::string& name) override { page_.SetFontName(name); }
+    void SetFontSize(double points) override { page_.SetFontSize(points); }
+    float TextWidth(const std::string& text) const override { return page_.TextWidth(text); }
+    float TextHeight(const std::string& text) const override { return page_.TextHeight(text); }
+    void BeginFont(int height, int width, int escapement, const std::string& face) override {
+        page_.BeginFont(height, width, escapement, face);
+    }
+    void EndFont() override { page_.EndFont(); }
+    void PaintPicture(const std::string& file, float x, float y, float width,
+                      float height) override {
+        page_.PaintPicture(file, x, y, width, height);
+    }
+
 private:
     QPaintDevice& device_;
+    QPainter painter_;
+    PainterSurface page_;
     double sheetBottom_; // where printing ends, the device's coordinates, as all here
     double sheetTop_;    // where it begins
     double areaTop_;     // of a logical area that is not moved

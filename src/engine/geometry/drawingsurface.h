@@ -59,7 +59,7 @@ public:
 
 // What a printer offers beyond that. Its page is a logical area of 11500 x 15200 units, whatever
 // the paper; line widths count its own pixels.
-class PrinterSurface : public virtual DrawingSurface {
+class PrinterSurface : public DrawingSurface {
 public:
     // The logical area's part from top to bottom holds what must not be lost. Of the next document
     // the area as a whole, turned labels too, is moved down the sheet by what that part needs at
