@@ -72,14 +72,14 @@ QLayout* MakeStepped(EntryBox& box, UpDown* arrows) {
     return pair;
 }
 
-EntryBox* AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box) {
+CaptionedBox AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box) {
     const int row = grid.rowCount();
     auto* entry = new EntryBox(box, QString::fromUtf8(caption));
     QLabel* text = MakeLabel(label, QString::fromUtf8(caption));
     text->setBuddy(entry);
     grid.addWidget(text, row, 0);
     grid.addWidget(entry, row, 1);
-    return entry;
+    return {*text, *entry};
 }
 
 QLabel* MakeHeading(const char* name, const QString& text) {

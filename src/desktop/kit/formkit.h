@@ -28,8 +28,13 @@ constexpr int kEntrySpacing = 6;
 // a column are of one width.
 QLayout* MakeStepped(EntryBox& box, UpDown* arrows);
 
+struct CaptionedBox {
+    QLabel& label;
+    EntryBox& box;
+};
+
 // A box behind its caption, as the next row of the grid.
-EntryBox* AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box);
+CaptionedBox AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box);
 
 // The page's heading, in a larger font.
 QLabel* MakeHeading(const char* name, const QString& text);

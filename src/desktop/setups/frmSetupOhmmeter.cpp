@@ -21,7 +21,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr int kRows = 31;    // the last is never shown: a removed row takes its contents
 constexpr int kLastRow = 29; // that can be used
 constexpr int kLastRemovable = 28;
 
@@ -47,6 +46,18 @@ std::string EntryTextOf(float number) {
     return text;
 }
 
+void Enable(std::initializer_list<QWidget*> controls) {
+    for (QWidget* control : controls) {
+        control->setEnabled(true);
+    }
+}
+
+void Disable(std::initializer_list<QWidget*> controls) {
+    for (QWidget* control : controls) {
+        control->setEnabled(false);
+    }
+}
+
 } // namespace
 
 frmSetupOhmmeter::frmSetupOhmmeter() : SetupPage(kTraits) {
@@ -58,10 +69,7 @@ void frmSetupOhmmeter::Build() {
     auto* column = new QVBoxLayout;
     column->setSpacing(10);
     column->addLayout(MakeEntries());
-    QPushButton* preview = MakeButton("cmdPreview", QStringLiteral("Preview"));
-    connect(preview, &QPushButton::clicked, this, &frmSetupOhmmeter::cmdPreviewClicked);
-    QPushButton* accept = MakeAccept();
-    for (QPushButton* button : {preview, MakeIgnore(), accept}) {
+    for (QPushButton* button : {MakePreview(), MakeIgnore(), MakeAccept()}) {
         column->addWidget(button);
     }
     column->addStretch();
@@ -76,9 +84,8 @@ void frmSetupOhmmeter::Build() {
     halves->addLayout(column);
     halves->addLayout(list, 1);
     Body().addLayout(halves, 1);
-    SetEnabled({"lblEnterResistance", "txtEnterResistance", "cmdComputeDeflection",
-                "lblResultingDeflection", "cmdAddToList", "cmdIgnoreEntry", "cmdAccept"},
-               false);
+    Disable({lblEnterResistance_, txtEnterResistance_, cmdComputeDeflection_,
+             lblResultingDeflection_, cmdAddToList_, cmdIgnoreEntry_, &Accept()});
 }
 
 QLayout* frmSetupOhmmeter::MakeEntries() {
@@ -88,49 +95,76 @@ QLayout* frmSetupOhmmeter::MakeEntries() {
         QPushButton* button = MakeButton(name, QString::fromUtf8(caption));
         connect(button, &QPushButton::clicked, this, clicked);
         grid->addWidget(button, grid->rowCount(), 0, 1, 2);
+        return button;
     };
-    AddEntry(*grid, "lblEnterMidscale", "Enter midscale resistance value:", "txtEnterMidscale")
-        ->OnChange([this] { txtEnterMidscaleChanged(); });
-    AddEntry(*grid, "lblEnterResistance",
-             "Enter resistance to get deflection:", "txtEnterResistance")
-        ->OnChange([this] { txtEnterResistanceChanged(); });
-    addButton("cmdComputeDeflection", "Compute deflection",
-              &frmSetupOhmmeter::cmdComputeDeflectionClicked);
+    const CaptionedBox midscale =
+        AddEntry(*grid, "lblEnterMidscale", "Enter midscale resistance value:", "txtEnterMidscale");
+    txtEnterMidscale_ = &midscale.box;
+    txtEnterMidscale_->OnChange([this] { txtEnterMidscaleChanged(); });
+    const CaptionedBox resistance = AddEntry(
+        *grid, "lblEnterResistance", "Enter resistance to get deflection:", "txtEnterResistance");
+    lblEnterResistance_ = &resistance.label;
+    txtEnterResistance_ = &resistance.box;
+    txtEnterResistance_->OnChange([this] { txtEnterResistanceChanged(); });
+    cmdComputeDeflection_ = addButton("cmdComputeDeflection", "Compute deflection",
+                                      &frmSetupOhmmeter::cmdComputeDeflectionClicked);
     lblResultingDeflection_ = MakeLabel("lblResultingDeflection", {});
     grid->addWidget(lblResultingDeflection_, grid->rowCount(), 0, 1, 2);
-    addButton("cmdAddToList", "Add to list", &frmSetupOhmmeter::cmdAddToListClicked);
-    addButton("cmdIgnoreEntry", "Ignore", &frmSetupOhmmeter::cmdIgnoreEntryClicked);
+    cmdAddToList_ =
+        addButton("cmdAddToList", "Add to list", &frmSetupOhmmeter::cmdAddToListClicked);
+    cmdIgnoreEntry_ =
+        addButton("cmdIgnoreEntry", "Ignore", &frmSetupOhmmeter::cmdIgnoreEntryClicked);
     return grid;
 }
 
 RowTable* frmSetupOhmmeter::MakeTable() {
     auto* table = new RowTable("tblTics", kHeadings);
     for (int row = 0; row < kRows; ++row) {
-        QPushButton* tic = MakeButton(RowName("Tic", row).c_str(), QString::number(row));
-        tic->setAccessibleName(QStringLiteral("Remove item %1").arg(row));
-        connect(tic, &QPushButton::clicked, this, [this, row] { TicClicked(row); });
-        auto* label = new EntryBox(RowName("txtLabel", row).c_str(),
-                                   QStringLiteral("Label of item %1").arg(row));
-        table->AddRow({tic, MakeRowLabel("lblDeflection", row), label,
-                       MakeRowChoice("fraMajorMinor", "Class of item", {"Major", "Major"},
-                                     {"Minor", "Minor"}, row)});
-    }
-    for (int row = 0; row < kRows; ++row) {
-        table->findChild<OptionButton*>(QString::fromStdString(RowName("Minor", row)))
-            ->ShowSelected();
+        const ListRow& made = Row(row) = MakeRow(row);
+        made.ticClass.second->ShowSelected();
+        table->AddRow({made.tic, made.deflection, made.label, made.ticClass.frame});
     }
     table->AlignHeadings();
     return table;
 }
 
+frmSetupOhmmeter::ListRow frmSetupOhmmeter::MakeRow(int row) {
+    ListRow made{.tic = MakeButton(RowName("Tic", row).c_str(), QString::number(row)),
+                 .deflection = MakeRowLabel("lblDeflection", row),
+                 .label = new EntryBox(RowName("txtLabel", row).c_str(),
+                                       QStringLiteral("Label of item %1").arg(row)),
+                 .ticClass = MakeRowChoice("fraMajorMinor", "Class of item", {"Major", "Major"},
+                                           {"Minor", "Minor"}, row)};
+    made.tic->setAccessibleName(QStringLiteral("Remove item %1").arg(row));
+    connect(made.tic, &QPushButton::clicked, this, [this, row] { TicClicked(row); });
+    return made;
+}
+
+void frmSetupOhmmeter::ListRow::Write(const ResistanceRow& contents) const {
+    deflection->setText(QString::fromStdString(contents.deflection));
+    label->Write(contents.label);
+    ticClass.first->Unselect();
+    ticClass.second->Unselect();
+    if (contents.ticClass != TicClass::Undecided) {
+        ticClass.Show(AnswerIf(contents.ticClass == TicClass::Major));
+    }
+}
+
+ResistanceRow frmSetupOhmmeter::ListRow::Contents() const {
+    ResistanceRow contents{.deflection = deflection->text().toStdString(), .label = label->Text()};
+    if (ticClass.first->isChecked()) {
+        contents.ticClass = TicClass::Major;
+    } else if (ticClass.second->isChecked()) {
+        contents.ticClass = TicClass::Minor;
+    }
+    return contents;
+}
+
 // Zero ohms at full deflection, and what the user replaces by a mark for no connection at none.
 void frmSetupOhmmeter::StartAnew() {
     ListCount_ = 1;
-    SetRow(0, {.deflection = "1", .label = "0", .ticClass = TicClass::Major});
-    SetRow(1, {.deflection = "0", .label = "1", .ticClass = TicClass::Major});
-    for (int row = 0; row <= ListCount_; ++row) {
-        TicOf(row).setText(QString::number(row));
-    }
+    Row(0).Write({.deflection = "1", .label = "0", .ticClass = TicClass::Major});
+    Row(1).Write({.deflection = "0", .label = "1", .ticClass = TicClass::Major});
 }
 
 void frmSetupOhmmeter::ReadBack() {
@@ -140,17 +174,16 @@ void frmSetupOhmmeter::ReadBack() {
     for (int row = 0; row <= ListCount_; ++row) {
         MendEmptyLabel(scale, row);
         const bool major = Design.TicMajorYN[scale][row] == "Y";
-        TicOf(row).setText(QString::number(row));
-        SetRow(row, {.deflection = EntryTextOf(Design.TicDeflection[scale][row]),
-                     .label = Design.TicLabelText[scale][row],
-                     .ticClass = major ? TicClass::Major : TicClass::Minor});
+        Row(row).Write({.deflection = EntryTextOf(Design.TicDeflection[scale][row]),
+                        .label = Design.TicLabelText[scale][row],
+                        .ticClass = major ? TicClass::Major : TicClass::Minor});
     }
 }
 
 void frmSetupOhmmeter::ComputeResistanceDeflection() {
-    std::string text = Box("txtEnterMidscale").Text();
+    std::string text = txtEnterMidscale_->Text();
     ParseEntry(text, EnteredMidscale_);
-    text = Box("txtEnterResistance").Text();
+    text = txtEnterResistance_->Text();
     ParseEntry(text, EnteredResistance_);
     const float deflection =
         vernacle::ComputeResistanceDeflection(EnteredMidscale_, EnteredResistance_);
@@ -158,38 +191,45 @@ void frmSetupOhmmeter::ComputeResistanceDeflection() {
     ResultingDeflectionText_ = Trimmed(ResultingDeflectionText_);
     lblResultingDeflection_->setText(
         QString::fromStdString("Deflection:  " + ResultingDeflectionText_));
-    SetEnabled({"cmdAddToList", "cmdIgnoreEntry"}, true);
+    Enable({cmdAddToList_, cmdIgnoreEntry_});
 }
 
 void frmSetupOhmmeter::LayOutResistanceRows() {
     for (int row = 0; row < kRows; ++row) {
-        SetRowVisible(row, row <= ListCount_);
+        const ListRow& parts = Row(row);
+        for (QWidget* part : std::initializer_list<QWidget*>{parts.tic, parts.deflection,
+                                                             parts.ticClass.frame, parts.label}) {
+            part->setVisible(row <= ListCount_);
+        }
     }
 }
 
 void frmSetupOhmmeter::StoreResistanceList() {
     std::vector<ResistanceRow> rows;
     for (int row = 0; row <= ListCount_; ++row) {
-        rows.push_back(RowAt(row));
+        rows.push_back(Row(row).Contents());
     }
     vernacle::StoreResistanceList(Scale(), rows);
 }
 
 void frmSetupOhmmeter::txtEnterMidscaleChanged() {
-    SetEnabled({"lblEnterResistance", "txtEnterResistance", "lblResultingDeflection"}, true);
+    Enable({lblEnterResistance_, txtEnterResistance_, lblResultingDeflection_});
 }
 
 // What was computed is not that resistance's any more.
 void frmSetupOhmmeter::txtEnterResistanceChanged() {
-    lblResultingDeflection_->clear();
-    SetEnabled({"cmdComputeDeflection"}, true);
-    SetEnabled({"cmdAddToList", "cmdIgnoreEntry"}, false);
+    ForgetResult();
+    Enable({cmdComputeDeflection_});
 }
 
 void frmSetupOhmmeter::cmdComputeDeflectionClicked() {
-    lblResultingDeflection_->clear();
-    SetEnabled({"cmdAddToList", "cmdIgnoreEntry"}, false); // until there is a result again
+    ForgetResult();
     ComputeOrReport([this] { ComputeResistanceDeflection(); });
+}
+
+void frmSetupOhmmeter::ForgetResult() {
+    lblResultingDeflection_->clear();
+    Disable({cmdAddToList_, cmdIgnoreEntry_});
 }
 
 void frmSetupOhmmeter::cmdAddToListClicked() {
@@ -203,24 +243,25 @@ void frmSetupOhmmeter::cmdAddToListClicked() {
 }
 
 void frmSetupOhmmeter::AddRow() {
-    TicOf(ListCount_).setText(QString::number(ListCount_));
-    DeflectionOf(ListCount_).setText(QString::fromStdString(ResultingDeflectionText_));
-    LabelOf(ListCount_).Write(Box("txtEnterResistance").Text());
-    Box("txtEnterResistance").Write({});
-    lblResultingDeflection_->clear();
-    SetEnabled({"cmdComputeDeflection", "cmdAddToList", "cmdIgnoreEntry"}, false);
-    SetEnabled({"cmdAccept"}, true);
+    const ListRow& row = Row(ListCount_);
+    row.tic->setText(QString::number(ListCount_));
+    row.deflection->setText(QString::fromStdString(ResultingDeflectionText_));
+    row.label->Write(txtEnterResistance_->Text());
+    txtEnterResistance_->Write({});
+    ForgetResult();
+    Disable({cmdComputeDeflection_});
+    Enable({&Accept()});
     LayOutResistanceRows();
 }
 
 void frmSetupOhmmeter::cmdIgnoreEntryClicked() {
-    Box("txtEnterResistance").Write({});
+    txtEnterResistance_->Write({});
     lblResultingDeflection_->clear();
 }
 
-void frmSetupOhmmeter::cmdPreviewClicked() {
-    ShowSetupPreview();
-    SetEnabled({"cmdAccept"}, true);
+void frmSetupOhmmeter::ShowSetupPreview() {
+    SetupPage::ShowSetupPreview();
+    Enable({&Accept()});
 }
 
 // The numbers move along with their rows: the place counts, the number only tells.
@@ -230,62 +271,11 @@ void frmSetupOhmmeter::TicClicked(int row) {
         return;
     }
     for (int moved = row; moved <= ListCount_; ++moved) {
-        TicOf(moved).setText(TicOf(moved + 1).text());
-        SetRow(moved, RowAt(moved + 1));
+        Row(moved).tic->setText(Row(moved + 1).tic->text());
+        Row(moved).Write(Row(moved + 1).Contents());
     }
-    SetRowVisible(ListCount_, false);
     --ListCount_;
     LayOutResistanceRows();
-}
-
-void frmSetupOhmmeter::SetRow(int row, const ResistanceRow& contents) {
-    DeflectionOf(row).setText(QString::fromStdString(contents.deflection));
-    LabelOf(row).Write(contents.label);
-    Option(RowName("Major", row).c_str()).Unselect();
-    Option(RowName("Minor", row).c_str()).Unselect();
-    if (contents.ticClass != TicClass::Undecided) {
-        const char* option = contents.ticClass == TicClass::Major ? "Major" : "Minor";
-        Option(RowName(option, row).c_str()).ShowSelected();
-    }
-}
-
-ResistanceRow frmSetupOhmmeter::RowAt(int row) const {
-    const auto isSelected = [this, row](const char* option) {
-        return Option(RowName(option, row).c_str()).isChecked();
-    };
-    TicClass ticClass = TicClass::Undecided;
-    if (isSelected("Major")) {
-        ticClass = TicClass::Major;
-    } else if (isSelected("Minor")) {
-        ticClass = TicClass::Minor;
-    }
-    return {.deflection = DeflectionOf(row).text().toStdString(),
-            .label = LabelOf(row).Text(),
-            .ticClass = ticClass};
-}
-
-void frmSetupOhmmeter::SetRowVisible(int row, bool visible) {
-    for (const char* part : {"Tic", "lblDeflection", "fraMajorMinor", "txtLabel"}) {
-        Control(RowName(part, row).c_str()).setVisible(visible);
-    }
-}
-
-void frmSetupOhmmeter::SetEnabled(std::initializer_list<const char*> controls, bool enabled) {
-    for (const char* control : controls) {
-        Control(control).setEnabled(enabled);
-    }
-}
-
-QPushButton& frmSetupOhmmeter::TicOf(int row) const {
-    return *findChild<QPushButton*>(QString::fromStdString(RowName("Tic", row)));
-}
-
-QLabel& frmSetupOhmmeter::DeflectionOf(int row) const {
-    return *findChild<QLabel*>(QString::fromStdString(RowName("lblDeflection", row)));
-}
-
-EntryBox& frmSetupOhmmeter::LabelOf(int row) const {
-    return Box(RowName("txtLabel", row).c_str());
 }
 
 } // namespace vernacle

@@ -2,19 +2,14 @@
 // join a list.
 #pragma once
 
-#include <initializer_list>
+#include <array>
 #include <string>
-#include <vector>
 
+#include "desktop/setups/rowtable.h"
 #include "desktop/setups/setuppage.h"
 #include "engine/setups/ohmmeter.h"
 
-class QLabel;
-class QPushButton;
-
 namespace vernacle {
-
-class RowTable;
 
 class frmSetupOhmmeter : public SetupPage {
     Q_OBJECT
@@ -27,11 +22,26 @@ protected:
     void StartAnew() override;
     void ShowStored() override { LayOutResistanceRows(); }
     void Compute() override { StoreResistanceList(); }
+    void ShowSetupPreview() override;
 
 private:
+    static constexpr int kRows = 31; // the last is never shown: a removed row takes its contents
+
+    // What stands in a row of the list.
+    struct ListRow {
+        QPushButton* tic = nullptr;
+        QLabel* deflection = nullptr;
+        EntryBox* label = nullptr;
+        RowChoice ticClass = {};
+
+        void Write(const ResistanceRow& contents) const;
+        ResistanceRow Contents() const;
+    };
+
     void Build();
     QLayout* MakeEntries();
     RowTable* MakeTable();
+    ListRow MakeRow(int row);
 
     void ComputeResistanceDeflection();
     void LayOutResistanceRows();
@@ -42,23 +52,24 @@ private:
     void cmdComputeDeflectionClicked();
     void cmdAddToListClicked();
     void cmdIgnoreEntryClicked();
-    void cmdPreviewClicked();
     void TicClicked(int row);
 
     void AddRow();
-    void SetRow(int row, const ResistanceRow& contents);
-    ResistanceRow RowAt(int row) const;
-    void SetRowVisible(int row, bool visible);
-    void SetEnabled(std::initializer_list<const char*> controls, bool enabled);
-    QPushButton& TicOf(int row) const;
-    QLabel& DeflectionOf(int row) const;
-    EntryBox& LabelOf(int row) const;
+    void ForgetResult();
+    ListRow& Row(int row) { return rows_.at(static_cast<std::size_t>(row)); }
 
     std::int16_t ListCount_ = -1; // number of the last row in use
     float EnteredMidscale_ = 0;
     float EnteredResistance_ = 0;
     std::string ResultingDeflectionText_;
+    EntryBox* txtEnterMidscale_ = nullptr;
+    QLabel* lblEnterResistance_ = nullptr;
+    EntryBox* txtEnterResistance_ = nullptr;
+    QPushButton* cmdComputeDeflection_ = nullptr;
     QLabel* lblResultingDeflection_ = nullptr;
+    QPushButton* cmdAddToList_ = nullptr;
+    QPushButton* cmdIgnoreEntry_ = nullptr;
+    std::array<ListRow, kRows> rows_;
 };
 
 } // namespace vernacle

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include <QPushButton>
+
 namespace vernacle {
 
 namespace {
@@ -31,7 +33,7 @@ frmSetupVSWR::frmSetupVSWR() : PicturedSetupPage(kTraits) {
 
 // What is accepted cannot be ignored any more, also while the next page is built.
 void frmSetupVSWR::AcceptSetup() {
-    Control("cmdIgnore").setEnabled(false);
+    Ignore().setEnabled(false);
     PicturedSetupPage::AcceptSetup();
 }
 

@@ -27,56 +27,48 @@ constexpr SetupPageTraits kTraits = {.form = "frmSetupdB",
                                      .computes = kAtLoad | kAtPreview,
                                      .readsBack = true};
 
-struct Entry {
+constexpr const char* kHeadings[] = {
+    "Tic#:", "Deflection:", "Label:", "Print label?", "Major/minor?", "Print tic?"};
+
+} // namespace
+
+// How a number is shown again once it is held to its limits.
+enum class ShownAgain { ByMagnitude, Plainly, AsTyped };
+
+struct frmSetupdB::Entry {
     const char* label = nullptr;
     const char* caption = nullptr;
     const char* box = nullptr;
     const char* start = nullptr;
     EntryLimits limits = {};
     const char* unit = nullptr;
+    float DecibelEntries::*number = nullptr;
+    ShownAgain again = ShownAgain::ByMagnitude;
 };
 
 // clang-format off
-constexpr Entry kEntries[] = {
-    {"lblFullScaledB",         "Full-scale dB value:",  "txtFullScaledB",         "0",  kFullScaleLimits,  "dB"},
-    {"lblNrOfTicmarks",        "Number of ticmarks:",   "txtNrOfTicmarks",        "11", kTicmarksLimits,   "ticmarks"},
-    {"lblLinearityExponent",   "Linearity exponent:",   "txtLinearityExponent",   "1",  kExponentLimits,   ""},
-    {"lblFullscaleMultiplier", "Fullscale multiplier:", "txtFullscaleMultiplier", "1",  kMultiplierLimits, ""},
+const frmSetupdB::Entry frmSetupdB::kEntries[] = {
+    {"lblFullScaledB",         "Full-scale dB value:",  "txtFullScaledB",         "0",  kFullScaleLimits,  "dB",       &DecibelEntries::fullScale},
+    {"lblNrOfTicmarks",        "Number of ticmarks:",   "txtNrOfTicmarks",        "11", kTicmarksLimits,   "ticmarks", &DecibelEntries::ticmarks},
+    {"lblLinearityExponent",   "Linearity exponent:",   "txtLinearityExponent",   "1",  kExponentLimits,   "",         &DecibelEntries::exponent,   ShownAgain::AsTyped},
+    {"lblFullscaleMultiplier", "Fullscale multiplier:", "txtFullscaleMultiplier", "1",  kMultiplierLimits, "",         &DecibelEntries::multiplier, ShownAgain::Plainly},
 };
 // clang-format on
 
 // Both start with Yes.
-struct Question {
+struct frmSetupdB::Question {
     const char* frame;
     const char* text;
     const char* yes;
     const char* no;
+    OptionButton* frmSetupdB::*control; // that for Yes
 };
 
-constexpr Question kQuestions[] = {
+const frmSetupdB::Question frmSetupdB::kQuestions[] = {
     {"fraUnlabelledAtBottom", "Unlabelled ticmark at zero deflection?", "optUnlabelledAtBottomYes",
-     "optUnlabelledAtBottomNo"},
-    {"fraPrefix", "Prefix  '+'  to positive decibel labels?", "optY", "optN"},
+     "optUnlabelledAtBottomNo", &frmSetupdB::optUnlabelledAtBottomYes_},
+    {"fraPrefix", "Prefix  '+'  to positive decibel labels?", "optY", "optN", &frmSetupdB::optY_},
 };
-
-constexpr const char* kHeadings[] = {
-    "Tic#:", "Deflection:", "Label:", "Print label?", "Major/minor?", "Print tic?"};
-
-constexpr const char* kHiddenParts[] = {"fraTics", "fraMajorMinor", "Value", "fraPrintLabel",
-                                        "DeflectLabel"};
-
-QWidget* MakeQuestion(const Question& question) {
-    QGroupBox* frame = MakeFrame(question.frame, QString::fromUtf8(question.text));
-    auto* line = new QHBoxLayout(frame);
-    auto* yes = new OptionButton(question.yes, QStringLiteral("Yes"));
-    yes->ShowSelected();
-    line->addWidget(yes);
-    line->addWidget(new OptionButton(question.no, QStringLiteral("No")));
-    line->addStretch();
-    return frame;
-}
-
-} // namespace
 
 frmSetupdB::frmSetupdB() : SetupPage(kTraits) {
     Build();
@@ -103,20 +95,31 @@ QLayout* frmSetupdB::MakeEntries() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     for (const Entry& entry : kEntries) {
-        EntryBox* box = AddEntry(*grid, entry.label, entry.caption, entry.box);
-        box->TellRange(RangeText(entry.limits, entry.unit));
-        box->Show(entry.start);
+        EntryBox& box = AddEntry(*grid, entry.label, entry.caption, entry.box).box;
+        box.TellRange(RangeText(entry.limits, entry.unit));
+        box.Show(entry.start);
+        boxes_.push_back({entry, box});
     }
     return grid;
+}
+
+QWidget* frmSetupdB::MakeQuestion(const Question& question) {
+    QGroupBox* frame = MakeFrame(question.frame, QString::fromUtf8(question.text));
+    auto* line = new QHBoxLayout(frame);
+    auto* yes = new OptionButton(question.yes, QStringLiteral("Yes"));
+    yes->ShowSelected();
+    this->*question.control = yes;
+    line->addWidget(yes);
+    line->addWidget(new OptionButton(question.no, QStringLiteral("No")));
+    line->addStretch();
+    return frame;
 }
 
 QLayout* frmSetupdB::MakeButtons() {
     auto* column = new QVBoxLayout;
     QPushButton* enter = MakeButton("cmdEnter", QStringLiteral("Enter"));
-    QPushButton* preview = MakeButton("cmdPreview", QStringLiteral("Preview"));
     connect(enter, &QPushButton::clicked, this, &frmSetupdB::ComputeDecibelTics);
-    connect(preview, &QPushButton::clicked, this, &frmSetupdB::ShowSetupPreview);
-    for (QPushButton* button : {enter, preview, MakeIgnore(), MakeAccept()}) {
+    for (QPushButton* button : {enter, MakePreview(), MakeIgnore(), MakeAccept()}) {
         column->addWidget(button);
     }
     return column;
@@ -125,25 +128,26 @@ QLayout* frmSetupdB::MakeButtons() {
 RowTable* frmSetupdB::MakeTable() {
     auto* table = new RowTable("tblTics", kHeadings);
     for (int row = 0; row < kDecibelRows; ++row) {
-        const auto label = [row](const char* name) { return MakeRowLabel(name, row); };
-        const auto choice = [row](const char* frame, const char* question, const RowOption& first,
-                                  const RowOption& second) {
-            return MakeRowChoice(frame, question, first, second, row);
-        };
-        table->AddRow(
-            {label("Tic"), label("DeflectLabel"), label("Value"),
-             choice("fraPrintLabel", "Print label", {"PrintLabelYes", "Yes"},
-                    {"PrintLabelNo", "No"}),
-             choice("fraMajorMinor", "Class of tic", {"Major", "Major"}, {"Minor", "Minor"}),
-             choice("fraTics", "Print tic", {"PrintTicYes", "Yes"}, {"PrintTicNo", "No"})});
+        const TicRow& made = Row(row) = MakeRow(row);
+        made.printed.Show(Answer::Yes);
+        table->AddRow({made.tic, made.deflection, made.value, made.labelled.frame, made.major.frame,
+                       made.printed.frame});
     }
-    for (int row = 0; row < kDecibelRows; ++row) {
-        table->findChild<OptionButton*>(QString::fromStdString(RowName("PrintTicYes", row)))
-            ->ShowSelected();
-    }
-    table->findChild<OptionButton*>(QStringLiteral("Major0"))->ShowSelected();
+    Row(0).major.Show(Answer::Yes);
     table->AlignHeadings();
     return table;
+}
+
+frmSetupdB::TicRow frmSetupdB::MakeRow(int row) {
+    return {.tic = MakeRowLabel("Tic", row),
+            .deflection = MakeRowLabel("DeflectLabel", row),
+            .value = MakeRowLabel("Value", row),
+            .labelled = MakeRowChoice("fraPrintLabel", "Print label", {"PrintLabelYes", "Yes"},
+                                      {"PrintLabelNo", "No"}, row),
+            .major = MakeRowChoice("fraMajorMinor", "Class of tic", {"Major", "Major"},
+                                   {"Minor", "Minor"}, row),
+            .printed = MakeRowChoice("fraTics", "Print tic", {"PrintTicYes", "Yes"},
+                                     {"PrintTicNo", "No"}, row)};
 }
 
 // A number whose text is too long for an entry is kept as it is read here.
@@ -152,94 +156,83 @@ void frmSetupdB::ReadBack() {
     constexpr double kLargest = 1e30;
     const double fullScale = NumericValue(Design.TicLabelText[scale][0]);
     entries_.fullScale = static_cast<float>(std::clamp(fullScale, -kLargest, kLargest));
+    entries_.ticmarks = Design.SpecialNrOfTicmarks[scale];
     entries_.exponent = Design.LinearityExponent[scale];
     entries_.multiplier = Design.FullscaleMultiplier[scale];
-    Box("txtNrOfTicmarks").Write(PlainNumber(std::int32_t{Design.SpecialNrOfTicmarks[scale]}));
-    Box("txtFullScaledB").Write(PlainNumber(entries_.fullScale));
-    Box("txtLinearityExponent").Write(PlainNumber(entries_.exponent));
-    Box("txtFullscaleMultiplier").Write(PlainNumber(entries_.multiplier));
-    for (int row = 0; row < kDecibelRows; ++row) {
-        SelectIf("PrintTicYes", "PrintTicNo", row, Design.TicPrintYN[scale][row] != "N");
-        SelectIf("Major", "Minor", row, Design.TicMajorYN[scale][row] != "N");
-        SelectIf("PrintLabelYes", "PrintLabelNo", row, Design.TicLabelYN[scale][row] != "N");
-        SetText("Value", row, Design.TicLabelText[scale][row]);
-        SetText("DeflectLabel", row, PlainNumber(Design.TicDeflection[scale][row]));
+    for (const auto& [entry, box] : boxes_) {
+        box.Write(PlainNumber(entries_.*entry.number));
+    }
+    for (int tic = 0; tic < kDecibelRows; ++tic) {
+        const TicRow& row = Row(tic);
+        row.printed.Show(AnswerIf(Design.TicPrintYN[scale][tic] != "N"));
+        row.major.Show(AnswerIf(Design.TicMajorYN[scale][tic] != "N"));
+        row.labelled.Show(AnswerIf(Design.TicLabelYN[scale][tic] != "N"));
+        ShowNumbers(tic);
     }
 }
 
 void frmSetupdB::ComputeDecibelTics() {
     ReadEntries();
     vernacle::ComputeDecibelTics(Scale(), entries_);
-    ShowNumbers();
+    ShowEntries();
     ShowRows();
 }
 
 void frmSetupdB::ReadEntries() {
-    const auto read = [this](const char* box, float& number) {
-        std::string text = Box(box).Text();
-        ParseEntry(text, number);
-    };
-    read("txtFullScaledB", entries_.fullScale);
-    read("txtNrOfTicmarks", entries_.ticmarks);
-    read("txtLinearityExponent", entries_.exponent);
-    read("txtFullscaleMultiplier", entries_.multiplier);
-    entries_.plusSigns = AnswerOf("optY");
-    entries_.unlabelledBottomTic = AnswerOf("optUnlabelledAtBottomYes");
-    for (int row = 0; row < kDecibelRows; ++row) {
-        entries_.tics.at(static_cast<std::size_t>(row)) = {
-            .printed = AnswerOf(RowName("PrintTicYes", row)),
-            .major = AnswerOf(RowName("Major", row)),
-            .labelled = AnswerOf(RowName("PrintLabelYes", row))};
+    for (const auto& [entry, box] : boxes_) {
+        std::string text = box.Text();
+        ParseEntry(text, entries_.*entry.number);
     }
+    entries_.plusSigns = AnswerIf(optY_->isChecked());
+    entries_.unlabelledBottomTic = AnswerIf(optUnlabelledAtBottomYes_->isChecked());
+    std::ranges::transform(rows_, entries_.tics.begin(), [](const TicRow& row) {
+        return DecibelTic{.printed = row.printed.Chosen(),
+                          .major = row.major.Chosen(),
+                          .labelled = row.labelled.Chosen()};
+    });
 }
 
-// The exponent goes on showing what was typed.
-void frmSetupdB::ShowNumbers() {
-    std::string text;
-    FormatByMagnitude(double{entries_.fullScale}, text);
-    Box("txtFullScaledB").Write(text);
-    FormatByMagnitude(double{entries_.ticmarks}, text);
-    Box("txtNrOfTicmarks").Write(text);
-    Box("txtFullscaleMultiplier").Write(PlainNumber(entries_.multiplier));
+void frmSetupdB::ShowEntries() {
+    for (const auto& [entry, box] : boxes_) {
+        std::string text = PlainNumber(entries_.*entry.number);
+        if (entry.again == ShownAgain::ByMagnitude) {
+            FormatByMagnitude(double{entries_.*entry.number}, text);
+        }
+        if (entry.again != ShownAgain::AsTyped) {
+            box.Write(text);
+        }
+    }
 }
 
 // The row behind the last tic is the bottom tic's, also where that is switched off.
 void frmSetupdB::ShowRows() {
     const int last = Design.SpecialNrOfTicmarks[Scale()];
-    for (int row = 0; row < kDecibelRows; ++row) {
-        for (const char* text : {"Tic", "Value", "DeflectLabel"}) {
-            SetText(text, row, {});
+    for (int tic = 0; tic < kDecibelRows; ++tic) {
+        const TicRow& row = Row(tic);
+        for (QLabel* text : {row.tic, row.value, row.deflection}) {
+            text->clear();
         }
-        for (const char* part : kHiddenParts) {
-            Control(RowName(part, row).c_str()).setVisible(row <= last);
+        for (QWidget* part :
+             std::initializer_list<QWidget*>{row.printed.frame, row.major.frame, row.labelled.frame,
+                                             row.value, row.deflection}) {
+            part->setVisible(tic <= last);
         }
     }
-    for (int row = 0; row < last; ++row) {
-        ShowRow(row);
+    for (int tic = 0; tic < last; ++tic) {
+        Row(tic).tic->setText(QString::number(tic) + QLatin1String(tic == 0 ? " (top)" : ""));
+        ShowNumbers(tic);
     }
     if (Design.UnlabelledBottomTic[Scale()] == "Y") {
-        SetText("Tic", last, "(bottom)");
-        SetText("DeflectLabel", last, "0");
+        Row(last).tic->setText(QStringLiteral("(bottom)"));
+        Row(last).deflection->setText(QStringLiteral("0"));
     }
 }
 
-void frmSetupdB::ShowRow(int row) {
-    SetText("Tic", row, PlainNumber(std::int32_t{row}) + (row == 0 ? " (top)" : ""));
-    SetText("Value", row, Design.TicLabelText[Scale()][row]);
-    SetText("DeflectLabel", row, PlainNumber(Design.TicDeflection[Scale()][row]));
-}
-
-void frmSetupdB::SetText(const char* label, int row, const std::string& text) {
-    findChild<QLabel*>(QString::fromStdString(RowName(label, row)))
-        ->setText(QString::fromStdString(text));
-}
-
-void frmSetupdB::SelectIf(const char* option, const char* other, int row, bool selected) {
-    Option(RowName(selected ? option : other, row).c_str()).ShowSelected();
-}
-
-Answer frmSetupdB::AnswerOf(const std::string& option) const {
-    return AnswerIf(Option(option.c_str()).isChecked());
+void frmSetupdB::ShowNumbers(int tic) {
+    const TicRow& row = Row(tic);
+    row.value->setText(QString::fromStdString(Design.TicLabelText[Scale()][tic]));
+    row.deflection->setText(
+        QString::fromStdString(PlainNumber(Design.TicDeflection[Scale()][tic])));
 }
 
 } // namespace vernacle

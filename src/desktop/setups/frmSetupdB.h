@@ -2,14 +2,14 @@
 // choices for each.
 #pragma once
 
+#include <array>
+#include <vector>
+
+#include "desktop/setups/rowtable.h"
 #include "desktop/setups/setuppage.h"
 #include "engine/setups/decibel.h"
 
-class QLabel;
-
 namespace vernacle {
-
-class RowTable;
 
 class frmSetupdB : public SetupPage {
     Q_OBJECT
@@ -22,23 +22,47 @@ protected:
     void Compute() override { ComputeDecibelTics(); }
 
 private:
+    struct Entry;
+    static const Entry kEntries[];
+
+    struct EntryShown {
+        const Entry& entry;
+        EntryBox& box;
+    };
+
+    // What stands in a row of the table.
+    struct TicRow {
+        QLabel* tic = nullptr;
+        QLabel* deflection = nullptr;
+        QLabel* value = nullptr;
+        RowChoice labelled = {};
+        RowChoice major = {};
+        RowChoice printed = {};
+    };
+
+    struct Question;
+    static const Question kQuestions[];
+
     void Build();
     QLayout* MakeEntries();
+    QWidget* MakeQuestion(const Question& question);
     QLayout* MakeButtons();
     RowTable* MakeTable();
+    static TicRow MakeRow(int row);
 
     void ComputeDecibelTics();
 
     void ReadEntries();
-    void ShowNumbers();
+    void ShowEntries();
     void ShowRows();
-    void ShowRow(int row);
-
-    void SetText(const char* label, int row, const std::string& text);
-    void SelectIf(const char* option, const char* other, int row, bool selected);
-    Answer AnswerOf(const std::string& option) const;
+    void ShowNumbers(int tic); // those of its row
+    TicRow& Row(int tic) { return rows_.at(static_cast<std::size_t>(tic)); }
 
     DecibelEntries entries_;
+    std::vector<EntryShown> boxes_;
+    OptionButton* optUnlabelledAtBottomYes_ = nullptr;
+    OptionButton* optY_ = nullptr;
+    std::array<TicRow, kDecibelRows> rows_;
 };
 
 } // namespace vernacle

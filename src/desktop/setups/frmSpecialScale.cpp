@@ -48,21 +48,19 @@ frmSpecialScale::frmSpecialScale() : SetupPage(kTraits) {
 
 void frmSpecialScale::Build() {
     auto* count = new QGridLayout;
-    EntryBox* last = AddEntry(*count, "lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks");
-    last->TellRange(RangeText(kLastRowLimits, "ticmarks"));
-    last->OnChange([this] { ApplySpecialTable(); });
+    txtNrOfTicmarks_ =
+        &AddEntry(*count, "lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks").box;
+    txtNrOfTicmarks_->TellRange(RangeText(kLastRowLimits, "ticmarks"));
+    txtNrOfTicmarks_->OnChange([this] { ApplySpecialTable(); });
     QLabel* note = MakeLabel(
         "lblFullScale",
         QStringLiteral("Full-scale deflection is 1.0; for a \"blank\" label, use a space."));
     note->setWordWrap(true);
-    QPushButton* preview = MakeButton("cmdPreview", QStringLiteral("Preview"));
-    connect(preview, &QPushButton::clicked, this, &frmSpecialScale::ShowSetupPreview);
     auto* column = new QVBoxLayout;
     column->setSpacing(10);
     column->addLayout(count);
     column->addWidget(note);
-    QPushButton* accept = MakeAccept();
-    for (QPushButton* button : {preview, MakeIgnore(), accept}) {
+    for (QPushButton* button : {MakePreview(), MakeIgnore(), MakeAccept()}) {
         column->addWidget(button);
     }
     column->addStretch();
@@ -76,44 +74,48 @@ void frmSpecialScale::Build() {
 RowTable* frmSpecialScale::MakeTable() {
     auto* table = new RowTable("tblTics", kHeadings);
     for (int row = 0; row < kSpecialRows; ++row) {
-        const QString number = QString::number(row);
-        auto* deflection = new EntryBox(RowName("txtDeflection", row).c_str(),
-                                        QStringLiteral("Deflection of tic ") + number);
-        deflection->TellRange(RangeText(kDeflectionLimits, "of full scale"));
-        table->AddRow({MakeRowLabel("Tic", row), deflection,
-                       new EntryBox(RowName("txtLabel", row).c_str(),
-                                    QStringLiteral("Label of tic ") + number),
-                       MakeRowChoice("fraMajorMinor", "Class of tic", {"Major", "Major"},
-                                     {"Minor", "Minor"}, row)});
+        const TicRow& made = Row(row) = MakeRow(row);
+        table->AddRow({made.tic, made.deflection, made.label, made.major.frame});
     }
     table->AlignHeadings();
     return table;
 }
 
+frmSpecialScale::TicRow frmSpecialScale::MakeRow(int row) {
+    const QString number = QString::number(row);
+    TicRow made{.tic = MakeRowLabel("Tic", row),
+                .deflection = new EntryBox(RowName("txtDeflection", row).c_str(),
+                                           QStringLiteral("Deflection of tic ") + number),
+                .label = new EntryBox(RowName("txtLabel", row).c_str(),
+                                      QStringLiteral("Label of tic ") + number),
+                .major = MakeRowChoice("fraMajorMinor", "Class of tic", {"Major", "Major"},
+                                       {"Minor", "Minor"}, row)};
+    made.deflection->TellRange(RangeText(kDeflectionLimits, "of full scale"));
+    return made;
+}
+
 void frmSpecialScale::ReadBack() {
     const int scale = Scale();
     const int last = std::min<int>(Design.SpecialNrOfTicmarks[scale], kSpecialRows - 1);
-    for (int row = 0; row <= last; ++row) {
-        const bool major = Design.TicMajorYN[scale][row] == "Y";
-        Option(RowName(major ? "Major" : "Minor", row).c_str()).ShowSelected();
-        MendEmptyLabel(scale, row);
-        Box(RowName("txtLabel", row).c_str()).Write(Design.TicLabelText[scale][row]);
-        Box(RowName("txtDeflection", row).c_str())
-            .Write(PlainNumber(Design.TicDeflection[scale][row]));
+    for (int tic = 0; tic <= last; ++tic) {
+        const TicRow& row = Row(tic);
+        row.major.Show(AnswerIf(Design.TicMajorYN[scale][tic] == "Y"));
+        MendEmptyLabel(scale, tic);
+        row.label->Write(Design.TicLabelText[scale][tic]);
+        row.deflection->Write(PlainNumber(Design.TicDeflection[scale][tic]));
     }
 }
 
 void frmSpecialScale::ShowStored() {
     const std::int16_t last = Design.SpecialNrOfTicmarks[Scale()];
-    Box("txtNrOfTicmarks").Write(PlainNumber(std::int32_t{last}));
+    txtNrOfTicmarks_->Write(PlainNumber(std::int32_t{last}));
 }
 
 void frmSpecialScale::CheckEntries(SetupMoment moment) {
-    for (int row = 0; row <= Design.SpecialNrOfTicmarks[Scale()]; ++row) {
-        EntryBox& box = Box(RowName("txtDeflection", row).c_str());
-        std::string text = box.Text();
-        const DeflectionFault fault = CheckDeflection(Scale(), row, text);
-        box.Write(text);
+    for (int tic = 0; tic <= Design.SpecialNrOfTicmarks[Scale()]; ++tic) {
+        std::string text = Row(tic).deflection->Text();
+        const DeflectionFault fault = CheckDeflection(Scale(), tic, text);
+        Row(tic).deflection->Write(text);
         if (fault != DeflectionFault::None) {
             Host.informationBox(MessageOf(fault, moment));
         }
@@ -121,35 +123,30 @@ void frmSpecialScale::CheckEntries(SetupMoment moment) {
 }
 
 void frmSpecialScale::ApplySpecialTable() {
-    std::string text = Box("txtNrOfTicmarks").Text();
+    std::string text = txtNrOfTicmarks_->Text();
     ParseEntry(text, ticmarks_);
     std::array<SpecialRow, kSpecialRows> rows;
-    for (int row = 0; row < kSpecialRows; ++row) {
-        rows.at(static_cast<std::size_t>(row)) = RowAt(row);
-    }
+    std::ranges::transform(rows_, rows.begin(), [](const TicRow& row) {
+        return SpecialRow{.deflection = row.deflection->Text(),
+                          .label = row.label->Text(),
+                          .major = row.major.Chosen()};
+    });
     vernacle::ApplySpecialTable(Scale(), ticmarks_, rows);
     FormatByMagnitude(double{ticmarks_}, text);
-    Box("txtNrOfTicmarks").Write(text);
+    txtNrOfTicmarks_->Write(text);
     ShowRows();
-}
-
-SpecialRow frmSpecialScale::RowAt(int row) const {
-    return {.deflection = Box(RowName("txtDeflection", row).c_str()).Text(),
-            .label = Box(RowName("txtLabel", row).c_str()).Text(),
-            .major = AnswerIf(Option(RowName("Major", row).c_str()).isChecked())};
 }
 
 void frmSpecialScale::ShowRows() {
     const int last = Design.SpecialNrOfTicmarks[Scale()];
-    for (int row = 0; row < kSpecialRows; ++row) {
-        for (const char* part : {"fraMajorMinor", "txtLabel", "txtDeflection"}) {
-            Control(RowName(part, row).c_str()).setVisible(row <= last);
+    for (int tic = 0; tic < kSpecialRows; ++tic) {
+        const TicRow& row = Row(tic);
+        for (QWidget* part :
+             std::initializer_list<QWidget*>{row.major.frame, row.label, row.deflection}) {
+            part->setVisible(tic <= last);
         }
-        QString text = row <= last ? QString::number(row) : QString();
-        if (row == last) {
-            text += QStringLiteral(" (top)");
-        }
-        findChild<QLabel*>(QString::fromStdString(RowName("Tic", row)))->setText(text);
+        const QString number = tic <= last ? QString::number(tic) : QString();
+        row.tic->setText(number + QLatin1String(tic == last ? " (top)" : ""));
     }
 }
 

@@ -1,12 +1,11 @@
 // The setup of a scale that the user types tic by tic.
 #pragma once
 
+#include "desktop/setups/rowtable.h"
 #include "desktop/setups/setuppage.h"
 #include "engine/setups/special.h"
 
 namespace vernacle {
-
-class RowTable;
 
 class frmSpecialScale : public SetupPage {
     Q_OBJECT
@@ -21,15 +20,26 @@ protected:
     void CheckEntries(SetupMoment moment) override;
 
 private:
+    // What stands in a row of the table.
+    struct TicRow {
+        QLabel* tic = nullptr;
+        EntryBox* deflection = nullptr;
+        EntryBox* label = nullptr;
+        RowChoice major = {};
+    };
+
     void Build();
     RowTable* MakeTable();
+    static TicRow MakeRow(int row);
 
     void ApplySpecialTable();
 
-    SpecialRow RowAt(int row) const;
     void ShowRows();
+    TicRow& Row(int tic) { return rows_.at(static_cast<std::size_t>(tic)); }
 
     float ticmarks_ = 0; // as last read
+    EntryBox* txtNrOfTicmarks_ = nullptr;
+    std::array<TicRow, kSpecialRows> rows_;
 };
 
 } // namespace vernacle

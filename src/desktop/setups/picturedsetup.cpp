@@ -22,11 +22,12 @@ PicturedSetupPage::PicturedSetupPage(const PicturedSetupTraits& traits)
 void PicturedSetupPage::Build() {
     picture_ = new SetupPicture;
     auto* exponent = new QGridLayout;
-    EntryBox* box =
-        AddEntry(*exponent, "lblLinearityExponent", "Linearity exponent:", "txtLinearityExponent");
-    box->TellRange(RangeText(kExponentLimits, ""));
-    box->Show("1");
-    box->OnChange([this] { txtLinearityExponentChanged(); });
+    txtLinearityExponent_ =
+        &AddEntry(*exponent, "lblLinearityExponent", "Linearity exponent:", "txtLinearityExponent")
+             .box;
+    txtLinearityExponent_->TellRange(RangeText(kExponentLimits, ""));
+    txtLinearityExponent_->Show("1");
+    txtLinearityExponent_->OnChange([this] { txtLinearityExponentChanged(); });
     auto* column = new QVBoxLayout;
     column->setSpacing(10);
     column->addWidget(MakeOptions());
@@ -50,12 +51,13 @@ QWidget* PicturedSetupPage::MakeOptions() {
         auto* option = new OptionButton(OptionName(number).c_str(), QString::fromUtf8(caption));
         option->OnSelect([this, number] { OptionClicked(number); });
         column->addWidget(option);
+        options_.push_back(option);
     }
     return frame;
 }
 
 void PicturedSetupPage::OptionClicked(int option) {
-    std::string text = Box("txtLinearityExponent").Text();
+    std::string text = txtLinearityExponent_->Text();
     float exponent = Design.LinearityExponent[Scale()]; // stays where the text is no entry
     ParseEntry(text, exponent);
     ComputeOrReport([&] {
@@ -66,8 +68,8 @@ void PicturedSetupPage::OptionClicked(int option) {
 
 // The tics stay as they are until an option is chosen again.
 void PicturedSetupPage::txtLinearityExponentChanged() {
-    for (int option = 1; option <= static_cast<int>(traits_.options.size()); ++option) {
-        Option(OptionName(option).c_str()).Unselect();
+    for (OptionButton* option : options_) {
+        option->Unselect();
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "desktop/setups/setuppage.h"
 
@@ -35,6 +36,8 @@ private:
 
     const PicturedSetupTraits& traits_;
     SetupPicture* picture_ = nullptr;
+    EntryBox* txtLinearityExponent_ = nullptr;
+    std::vector<OptionButton*> options_; // in the order of their numbers
 };
 
 } // namespace vernacle

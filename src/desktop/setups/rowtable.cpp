@@ -46,14 +46,23 @@ std::string RowName(const char* control, int row) {
     return control + std::to_string(row);
 }
 
-QWidget* MakeRowChoice(const char* frame, const char* question, const RowOption& first,
-                       const RowOption& second, int row) {
-    auto* choice = new QFrame;
-    choice->setObjectName(QString::fromStdString(RowName(frame, row)));
-    auto* line = new QHBoxLayout(choice);
+void RowChoice::Show(Answer answer) const {
+    (answer == Answer::Yes ? first : second)->ShowSelected();
+}
+
+Answer RowChoice::Chosen() const {
+    return AnswerIf(first->isChecked());
+}
+
+RowChoice MakeRowChoice(const char* frame, const char* question, const RowOption& first,
+                        const RowOption& second, int row) {
+    const RowChoice choice{new QFrame, MakeRowOption(first, question, row),
+                           MakeRowOption(second, question, row)};
+    choice.frame->setObjectName(QString::fromStdString(RowName(frame, row)));
+    auto* line = new QHBoxLayout(choice.frame);
     line->setContentsMargins({});
-    line->addWidget(MakeRowOption(first, question, row));
-    line->addWidget(MakeRowOption(second, question, row));
+    line->addWidget(choice.first);
+    line->addWidget(choice.second);
     return choice;
 }
 

@@ -9,6 +9,8 @@
 
 #include <QWidget>
 
+#include "engine/setups/setup.h"
+
 class QGridLayout;
 class QLabel;
 
@@ -25,10 +27,19 @@ struct RowOption {
     const char* caption;
 };
 
-// A frame with two options, of which a row has one or none. The question is told to a screen
-// reader.
-QWidget* MakeRowChoice(const char* frame, const char* question, const RowOption& first,
-                       const RowOption& second, int row);
+// A frame with two options, of which a row has one or none. The first is the answer Yes.
+struct RowChoice {
+    QWidget* frame = nullptr;
+    OptionButton* first = nullptr;
+    OptionButton* second = nullptr;
+
+    void Show(Answer answer) const;
+    Answer Chosen() const; // No also for none
+};
+
+// The question is told to a screen reader.
+RowChoice MakeRowChoice(const char* frame, const char* question, const RowOption& first,
+                        const RowOption& second, int row);
 
 // A label of a row, wide enough for any number.
 QLabel* MakeRowLabel(const char* name, int row);

@@ -3,9 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
 #include "desktop/kit/formkit.h"
-#include "desktop/kit/optionbutton.h"
 #include "desktop/navigation/navigator.h"
 #include "desktop/navigation/session.h"
 #include "engine/base/hostservices.h"
@@ -89,32 +87,26 @@ void SetupPage::CloseBoxClicked() {
     SaveSessionAndEnd();
 }
 
+QPushButton* SetupPage::MakePreview() {
+    QPushButton* preview = MakeButton("cmdPreview", QStringLiteral("Preview"));
+    connect(preview, &QPushButton::clicked, this, &SetupPage::ShowSetupPreview);
+    return preview;
+}
+
 QPushButton* SetupPage::MakeAccept() {
-    QPushButton* accept = MakeButton("cmdAccept", QString::fromUtf8(traits_.acceptCaption));
-    connect(accept, &QPushButton::clicked, this, &SetupPage::AcceptSetup);
-    return accept;
+    accept_ = MakeButton("cmdAccept", QString::fromUtf8(traits_.acceptCaption));
+    connect(accept_, &QPushButton::clicked, this, &SetupPage::AcceptSetup);
+    return accept_;
 }
 
 QPushButton* SetupPage::MakeIgnore() {
-    QPushButton* ignore = MakeButton(traits_.ignoreName, QString::fromUtf8(traits_.ignoreCaption));
-    connect(ignore, &QPushButton::clicked, this, &SetupPage::IgnoreSetup);
-    return ignore;
+    ignore_ = MakeButton(traits_.ignoreName, QString::fromUtf8(traits_.ignoreCaption));
+    connect(ignore_, &QPushButton::clicked, this, &SetupPage::IgnoreSetup);
+    return ignore_;
 }
 
 int SetupPage::Scale() {
     return Design.CurrentScale;
-}
-
-EntryBox& SetupPage::Box(const char* name) const {
-    return *findChild<EntryBox*>(QLatin1String(name));
-}
-
-OptionButton& SetupPage::Option(const char* name) const {
-    return *findChild<OptionButton*>(QLatin1String(name));
-}
-
-QWidget& SetupPage::Control(const char* name) const {
-    return *findChild<QWidget*>(QLatin1String(name));
 }
 
 } // namespace vernacle

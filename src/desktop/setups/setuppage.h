@@ -55,31 +55,34 @@ protected:
     // Before the page computes for the preview or the accepting.
     virtual void CheckEntries(SetupMoment /*moment*/) {}
 
-    void ShowSetupPreview();    // cmdPreview
-    virtual void AcceptSetup(); // cmdAccept
+    virtual void ShowSetupPreview(); // cmdPreview
+    virtual void AcceptSetup();      // cmdAccept
 
     // Computes, and reports an entry from which nothing can be computed; the page stays.
     void ComputeOrReport(const std::function<void()>& compute);
 
     void CloseBoxClicked() override;
 
+    QPushButton* MakePreview();
     QPushButton* MakeAccept();
     QPushButton* MakeIgnore();
+
+    // Once they are made.
+    QPushButton& Accept() { return *accept_; }
+    QPushButton& Ignore() { return *ignore_; }
 
     // Where the page's own parts stand, below its heading.
     using Page::Body;
 
     static int Scale(); // the one that is being set up
 
-    EntryBox& Box(const char* name) const;
-    OptionButton& Option(const char* name) const;
-    QWidget& Control(const char* name) const;
-
 private:
     void IgnoreSetup();
 
     const SetupPageTraits& traits_;
     QLabel* lblWorking_;
+    QPushButton* accept_ = nullptr;
+    QPushButton* ignore_ = nullptr;
 };
 
 } // namespace vernacle

@@ -19,8 +19,9 @@ protected:
         for (int row = 0; row < kTableRows; ++row) {
             auto* edit = new QLineEdit;
             edit->setObjectName(QString::fromStdString(RowName("txtText", row)));
-            table.AddRow({MakeRowLabel("Number", row), edit,
-                          MakeRowChoice("fraChoice", "Choice", {"Yes", "Yes"}, {"No", "No"}, row)});
+            table.AddRow(
+                {MakeRowLabel("Number", row), edit,
+                 MakeRowChoice("fraChoice", "Choice", {"Yes", "Yes"}, {"No", "No"}, row).frame});
         }
         table.AlignHeadings();
         table.resize(table.minimumWidth() + 40, 300);
