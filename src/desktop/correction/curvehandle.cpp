@@ -21,8 +21,7 @@ CurveHandle::CurveHandle(const char* name, const QString& accessibleName, QWidge
     setFixedSize(kSize, kSize);
 }
 
-void CurveHandle::SetEvents(HandleEvents events) {
-    events_ = std::move(events);
+void CurveHandle::SetMovable() {
     movable_ = true;
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::SizeAllCursor);
@@ -37,7 +36,7 @@ void CurveHandle::mousePressEvent(QMouseEvent* event) {
     home_ = pos();
     raise();
     setFocus(); // for the key that ends the drag
-    events_.pressed();
+    Q_EMIT Pressed();
 }
 
 void CurveHandle::mouseMoveEvent(QMouseEvent* event) {
@@ -53,19 +52,18 @@ void CurveHandle::mouseReleaseEvent(QMouseEvent* event) {
     }
     dragged_ = false;
     const QPoint at = mapToParent(event->pos());
-    const bool stayed = QRect(home_, size()).contains(at);
-    if (stayed) {
-        move(home_);
-        events_.pressed();
-    } else if (events_.released(at) == DropResult::Refused) {
-        move(home_);
+    if (QRect(home_, size()).contains(at)) {
+        TakeBack();
+        Q_EMIT Pressed();
+    } else {
+        Q_EMIT Dropped(at);
     }
 }
 
 void CurveHandle::keyPressEvent(QKeyEvent* event) {
     if (dragged_ && event->matches(QKeySequence::Cancel)) {
         dragged_ = false;
-        move(home_);
+        TakeBack();
         return;
     }
     const int across = (event->key() == Qt::Key_Right ? 1 : 0) - (event->key() == Qt::Key_Left);
@@ -74,8 +72,8 @@ void CurveHandle::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
         return;
     }
-    events_.pressed();
-    events_.stepped(across, up);
+    Q_EMIT Pressed();
+    Q_EMIT Stepped(across, up);
 }
 
 void CurveHandle::paintEvent(QPaintEvent* /*event*/) {

@@ -2,20 +2,9 @@
 // small steps by the arrow keys.
 #pragma once
 
-#include <functional>
-
 #include <QWidget>
 
 namespace vernacle {
-
-enum class DropResult { Taken, Refused };
-
-// What a handle tells its page. Places are in the coordinates of its parent.
-struct HandleEvents {
-    std::function<void()> pressed;
-    std::function<DropResult(QPoint at)> released;   // where the pointer stands, after a drag
-    std::function<void(int across, int up)> stepped; // by a key, one step each
-};
 
 class CurveHandle : public QWidget {
     Q_OBJECT
@@ -24,7 +13,15 @@ public:
     CurveHandle(const char* name, const QString& accessibleName, QWidget* parent);
 
     // Lets it be dragged; without it the handle only marks its point.
-    void SetEvents(HandleEvents events);
+    void SetMovable();
+
+    // Puts it back to where it stood when it was pressed.
+    void TakeBack() { move(home_); }
+
+Q_SIGNALS:
+    void Pressed();
+    void Dropped(QPoint at);          // where the pointer stands, after a drag; in its parent
+    void Stepped(int across, int up); // by a key, one step each
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -34,10 +31,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    HandleEvents events_;
     bool movable_ = false;
     bool dragged_ = false;
-    QPoint home_; // where it stood when it was pressed
+    QPoint home_;
 };
 
 } // namespace vernacle

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "desktop/correction/curvehandle.h"
 #include "desktop/correction/curvepicture.h"
 #include "desktop/kit/entrybox.h"
 #include "desktop/kit/formkit.h"
@@ -26,7 +27,6 @@ namespace {
 
 constexpr int kFirstEntered = 3; // the boxes of the end points are not read
 constexpr int kLastEntered = 12;
-constexpr int kTextBoxes = 2 * kCurvePoints;
 constexpr EntryLimits kPercent{0, 100}; // the ends of the curve, between which its points lie
 constexpr double kLargest = 1e30;       // percent
 constexpr double kKeyStep = 25;         // units: half a percent
@@ -93,10 +93,11 @@ QLayout* frmCorrectionEntry::MakeBoxes() {
         const QString caption = QStringLiteral("Point %1:").arg(point);
         grid->addWidget(MakeLabel(kPointLabels[point], caption), point + 1, 0);
         for (int axis = 0; axis < 2; ++axis) {
-            const std::string name = "Text" + std::to_string(2 * point + axis + 1);
+            const int number = 2 * point + axis + 1;
+            const std::string name = "Text" + std::to_string(number);
             const QString spoken = caption + (axis == 0 ? QStringLiteral(" current %")
                                                         : QStringLiteral(" deflection %"));
-            auto* box = new EntryBox(name.c_str(), spoken);
+            EntryBox* box = Text(number) = new EntryBox(name.c_str(), spoken);
             connect(box, &EntryBox::returnPressed, this, &frmCorrectionEntry::cmdAcceptXYClicked);
             box->setMaximumWidth(kBoxCharacters * box->fontMetrics().averageCharWidth());
             if (point > 0 && point < kCurvePoints - 1) { // the ends cannot be entered
@@ -130,10 +131,13 @@ QLayout* frmCorrectionEntry::MakeButtons() {
 // The ends of the curve never move.
 void frmCorrectionEntry::MakeHandles() {
     for (int index = 1; index < kCurvePoints - 1; ++index) {
-        picture_->Handle(index).SetEvents(
-            {.pressed = [this, index] { HandlePressed(index); },
-             .released = [this, index](QPoint at) { return HandleDropped(index, at); },
-             .stepped = [this, index](int across, int up) { HandleStepped(index, across, up); }});
+        CurveHandle& handle = picture_->Handle(index);
+        handle.SetMovable();
+        connect(&handle, &CurveHandle::Pressed, this, [this, index] { HandlePressed(index); });
+        connect(&handle, &CurveHandle::Dropped, this,
+                [this, index](QPoint at) { HandleDropped(index, at); });
+        connect(&handle, &CurveHandle::Stepped, this,
+                [this, index](int across, int up) { HandleStepped(index, across, up); });
     }
 }
 
@@ -166,14 +170,14 @@ void frmCorrectionEntry::RedrawCorrectionCurve() {
 
 void frmCorrectionEntry::FillBoxes() {
     for (int number = 1; number <= kTextBoxes; ++number) {
-        Text(number).Show(FormatPercentEntry(Design.CorrectionPair[number]));
+        Text(number)->Show(FormatPercentEntry(Design.CorrectionPair[number]));
     }
 }
 
 // Until the redraw, which need not come.
 void frmCorrectionEntry::FillBoxesPlainly() {
     for (int number = 1; number <= kTextBoxes; ++number) {
-        Text(number).Show(PlainNumber(Design.CorrectionPair[number]));
+        Text(number)->Show(PlainNumber(Design.CorrectionPair[number]));
     }
 }
 
@@ -182,7 +186,7 @@ void frmCorrectionEntry::ResetToLinear() {
     SetLinearPairs();
     int number = 0;
     for (const char* text : kLinearTexts) {
-        Text(++number).Show(text);
+        Text(++number)->Show(text);
     }
 }
 
@@ -191,14 +195,15 @@ void frmCorrectionEntry::HandlePressed(int index) {
 }
 
 // What is let go beside the plot's surface, or on another control upon it, is no drop.
-DropResult frmCorrectionEntry::HandleDropped(int index, const QPoint& at) {
+void frmCorrectionEntry::HandleDropped(int index, const QPoint& at) {
     DraggedPoint_ = static_cast<std::int16_t>(index);
-    if (!picture_->IsSurface(at, picture_->Handle(index))) {
-        return DropResult::Refused;
+    CurveHandle& handle = picture_->Handle(index);
+    if (!picture_->IsSurface(at, handle)) {
+        handle.TakeBack();
+        return;
     }
     const SurfacePoint place = picture_->PlotPlace(at);
     SetPointFromDrop(DraggedPoint_, place.x, place.y);
-    return DropResult::Taken;
 }
 
 void frmCorrectionEntry::HandleStepped(int index, int across, int up) {
@@ -209,7 +214,7 @@ void frmCorrectionEntry::HandleStepped(int index, int across, int up) {
 void frmCorrectionEntry::cmdAcceptXYClicked() {
     Design.CorrectionPair[1] = Design.CorrectionPair[2] = FractionOf(kPercent.lowest);
     for (int number = kFirstEntered; number <= kLastEntered; ++number) {
-        const double percent = std::clamp(NumericValue(Text(number).Text()), -kLargest, kLargest);
+        const double percent = std::clamp(NumericValue(Text(number)->Text()), -kLargest, kLargest);
         Design.CorrectionPair[number] = FractionOf(percent);
     }
     Design.CorrectionPair[kTextBoxes - 1] = Design.CorrectionPair[kTextBoxes] =
@@ -242,10 +247,6 @@ void frmCorrectionEntry::cmdRestoreClicked() {
 
 void frmCorrectionEntry::cmdShowTableClicked() {
     ShowModal("frmCorrectionShow");
-}
-
-EntryBox& frmCorrectionEntry::Text(int number) const {
-    return *findChild<EntryBox*>(QStringLiteral("Text%1").arg(number));
 }
 
 } // namespace vernacle

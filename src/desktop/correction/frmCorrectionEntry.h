@@ -2,10 +2,11 @@
 // the design itself: there is no undo.
 #pragma once
 
+#include <array>
 #include <string>
 
-#include "desktop/correction/curvehandle.h"
 #include "desktop/kit/form.h"
+#include "engine/core/design.h"
 
 class QLabel;
 class QPoint;
@@ -34,7 +35,7 @@ private:
     void ResetToLinear();
 
     void HandlePressed(int index);
-    DropResult HandleDropped(int index, const QPoint& at);
+    void HandleDropped(int index, const QPoint& at);
     void HandleStepped(int index, int across, int up);
     void cmdAcceptXYClicked();
     void cmdReadClicked();
@@ -42,8 +43,11 @@ private:
     void cmdRestoreClicked();
     void cmdShowTableClicked();
 
-    EntryBox& Text(int number) const; // "Text1" to "Text14"
+    // "Text1" to "Text14": of each point the current and the deflection.
+    static constexpr int kTextBoxes = 2 * kCurvePoints;
+    EntryBox*& Text(int number) { return boxes_.at(static_cast<std::size_t>(number) - 1); }
 
+    std::array<EntryBox*, kTextBoxes> boxes_{};
     CurvePicture* picture_ = nullptr;
     QLabel* Label10_ = nullptr;
     std::int16_t DraggedPoint_ = 0; // the handle last pressed
