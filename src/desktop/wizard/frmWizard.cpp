@@ -87,21 +87,21 @@ void frmWizard::Build() {
 void frmWizard::AddStep(QGridLayout& grid, int step) {
     const WizardStep& row = StepAt(step);
     const QString caption = QString::fromUtf8(row.caption);
-    auto* box = new EntryBox(row.box, caption);
-    QLabel* label = MakeLabel(StepName("lblStep", step).toLatin1().constData(), caption);
-    label->setBuddy(box);
-    QPushButton* enter =
-        MakeButton(StepName("cmdEnter", step).toLatin1().constData(), QStringLiteral("Enter"));
-    enter->setAccessibleName(QStringLiteral("Enter ") + caption);
-    connect(enter, &QPushButton::clicked, this, [this, step] { EnterClicked(step); });
-    connect(box, &QLineEdit::returnPressed, enter, &QPushButton::click);
-    grid.addWidget(label, step, 0);
-    grid.addWidget(box, step, 1);
-    grid.addWidget(enter, step, 2);
-    for (QWidget* part :
-         {static_cast<QWidget*>(label), static_cast<QWidget*>(box), static_cast<QWidget*>(enter)}) {
+    const StepRow made{
+        .label = MakeLabel(StepName("lblStep", step).toLatin1().constData(), caption),
+        .box = new EntryBox(row.box, caption),
+        .enter =
+            MakeButton(StepName("cmdEnter", step).toLatin1().constData(), QStringLiteral("Enter"))};
+    made.label->setBuddy(made.box);
+    made.enter->setAccessibleName(QStringLiteral("Enter ") + caption);
+    connect(made.enter, &QPushButton::clicked, this, [this, step] { EnterClicked(step); });
+    connect(made.box, &QLineEdit::returnPressed, made.enter, &QPushButton::click);
+    int column = 0;
+    for (QWidget* part : std::initializer_list<QWidget*>{made.label, made.box, made.enter}) {
+        grid.addWidget(part, step, column++);
         part->hide();
     }
+    rows_.push_back(made);
 }
 
 void frmWizard::ShowPrompt() {
@@ -129,7 +129,7 @@ void frmWizard::EnterClicked(int step) {
         ShowStep(step + 1);
         BoxOf(step + 1).setFocus();
     }
-    EnterOf(step).setEnabled(false);
+    rows_.at(static_cast<std::size_t>(step)).enter->setEnabled(false);
     schematic_->Surface().Clear();
     Label1_->clear();
     Design.HelpTopic = static_cast<std::int16_t>(row.nextTopic);
@@ -154,19 +154,11 @@ void frmWizard::CloseBoxClicked() {
 }
 
 void frmWizard::ShowStep(int step) {
-    for (const char* part : {"lblStep", "cmdEnter"}) {
-        findChild<QWidget*>(StepName(part, step))->show();
-    }
-    BoxOf(step).TellRange(WizardRange(StepAt(step))); // which earlier steps may decide
-    BoxOf(step).show();
-}
-
-EntryBox& frmWizard::BoxOf(int step) const {
-    return *findChild<EntryBox*>(QLatin1String(StepAt(step).box));
-}
-
-QPushButton& frmWizard::EnterOf(int step) const {
-    return *findChild<QPushButton*>(StepName("cmdEnter", step));
+    const StepRow& row = rows_.at(static_cast<std::size_t>(step));
+    row.label->show();
+    row.enter->show();
+    row.box->TellRange(WizardRange(StepAt(step))); // which earlier steps may decide
+    row.box->show();
 }
 
 } // namespace vernacle

@@ -2,6 +2,8 @@
 // of what it means.
 #pragma once
 
+#include <vector>
+
 #include "desktop/kit/form.h"
 
 class QGridLayout;
@@ -23,6 +25,13 @@ protected:
     void CloseBoxClicked() override;
 
 private:
+    // What stands in the row of a step.
+    struct StepRow {
+        QLabel* label = nullptr;
+        EntryBox* box = nullptr;
+        QPushButton* enter = nullptr;
+    };
+
     void Build();
     void AddStep(QGridLayout& grid, int step);
 
@@ -32,9 +41,9 @@ private:
     void cmdExitClicked();
 
     void ShowStep(int step);
-    EntryBox& BoxOf(int step) const;
-    QPushButton& EnterOf(int step) const;
+    EntryBox& BoxOf(int step) const { return *rows_.at(static_cast<std::size_t>(step)).box; }
 
+    std::vector<StepRow> rows_; // in the order of the steps
     PictureBox* schematic_ = nullptr;
     QLabel* Label1_ = nullptr; // the prompt
     QLabel* Label2_ = nullptr; // what the last step tells

@@ -76,7 +76,8 @@ void frmWizardPart2::AddNudge(const Nudge& nudge, QGridLayout& grid, int row) {
     arrows->setToolTip(QString::fromUtf8(nudge.tip));
     arrows->setMinimumHeight(kArrowsHeight); // a label is lower than a box
     arrows->TakeKeys();
-    arrows->OnStep([this, &nudge] { Step(nudge, 1); }, [this, &nudge] { Step(nudge, -1); });
+    arrows->OnStep([this, &nudge, number] { Step(nudge, *number, 1); },
+                   [this, &nudge, number] { Step(nudge, *number, -1); });
     grid.addWidget(MakeLabel(captionName.c_str(), caption), row, 0);
     grid.addWidget(number, row, 1);
     grid.addWidget(arrows, row, 2);
@@ -95,16 +96,15 @@ void frmWizardPart2::Load() {
 }
 
 // From the number that the label shows, inside the range of the arrows.
-void frmWizardPart2::Step(const Nudge& nudge, double by) {
-    auto* number = findChild<QLabel*>(QLatin1String(nudge.label));
-    const double from = NumericValue(number->text().toStdString());
+void frmWizardPart2::Step(const Nudge& nudge, QLabel& number, double by) {
+    const double from = NumericValue(number.text().toStdString());
     const double to = std::clamp(from + by, nudge.stepsLowest, nudge.stepsHighest);
-    number->setText(QString::fromStdString(PlainNumber(static_cast<float>(to))));
-    const NudgeResult result = ApplyNudge(nudge, number->text().toStdString());
+    number.setText(QString::fromStdString(PlainNumber(static_cast<float>(to))));
+    const NudgeResult result = ApplyNudge(nudge, number.text().toStdString());
     if (result == NudgeResult::Corrected) {
-        number->setText(QString::fromStdString(NudgeValue(nudge)));
+        number.setText(QString::fromStdString(NudgeValue(nudge)));
     }
-    SpeakNumber(*number, QString::fromUtf8(nudge.caption));
+    SpeakNumber(number, QString::fromUtf8(nudge.caption));
     if (result == NudgeResult::Accepted) {
         TakeSize(nudge);
         Redraw();

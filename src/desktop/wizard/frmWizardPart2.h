@@ -5,6 +5,7 @@
 #include "engine/render/drawing.h"
 
 class QGridLayout;
+class QLabel;
 
 namespace vernacle {
 
@@ -25,7 +26,7 @@ private:
     void AddNudge(const Nudge& nudge, QGridLayout& grid, int row);
     void Load();
 
-    void Step(const Nudge& nudge, double by);
+    void Step(const Nudge& nudge, QLabel& number, double by);
     void TakeSize(const Nudge& nudge);
     void Redraw();
     void cmdAcceptClicked();
