@@ -1,8 +1,8 @@
 #include "desktop/kit/toolbar.h"
 
-#include <QHBoxLayout>
-#include <QShortcut>
-#include <QToolButton>
+#include <QLayout>
+#include <QStyleOptionFrame>
+#include <QStylePainter>
 
 #include "desktop/kit/inkicon.h"
 
@@ -11,50 +11,43 @@ namespace vernacle {
 namespace {
 
 constexpr QSize kIconSize(24, 24);
+constexpr int kEdge = 3;                 // pixels, with the frame
 constexpr double kSmallestLetters = 0.5; // of the ordinary font
 constexpr double kLetterStep = 0.02;
 
 } // namespace
 
-Toolbar::Toolbar(const char* name, QWidget* parent) : QFrame(parent) {
+Toolbar::Toolbar(const char* name, QWidget* parent) : QToolBar(parent) {
     setObjectName(QLatin1String(name));
-    setFrameShape(QFrame::StyledPanel);
-    row_ = new QHBoxLayout(this);
-    row_->setContentsMargins(4, 2, 4, 2);
-    row_->setSpacing(2);
-    row_->addStretch();
+    setMovable(false);
+    setIconSize(kIconSize);
+    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    layout()->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
+    layout()->setSpacing(2);
 }
 
-void Toolbar::AddKey(const ToolbarKey& key, KeyState state, std::function<void()> clicked) {
-    auto* button = new QToolButton(this);
+QAction* Toolbar::AddKey(const ToolbarKey& key, KeyState state) {
+    QAction* action = addAction(InkIcon(key.icon), QString::fromUtf8(key.caption));
+    action->setToolTip(QString::fromUtf8(key.tip));
+    action->setShortcut(QKeySequence(QLatin1String(key.shortcut)));
+    action->setEnabled(state == KeyState::Enabled);
+    QWidget* button = widgetForAction(action);
     button->setObjectName(QLatin1String(key.key));
     button->setAccessibleName(QString::fromUtf8(key.caption));
-    button->setText(QString::fromUtf8(key.caption));
-    button->setToolTip(QString::fromUtf8(key.tip));
-    button->setIcon(InkIcon(key.icon));
-    button->setIconSize(kIconSize);
-    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    button->setAutoRaise(true);
+    button->setToolTip(QString::fromUtf8(key.tip)); // an action without one tells its caption
     button->setFocusPolicy(Qt::TabFocus);
-    button->setEnabled(state == KeyState::Enabled);
-    connect(button, &QToolButton::clicked, this, std::move(clicked));
-    if (*key.shortcut != '\0') {
-        auto* shortcut = new QShortcut(QKeySequence(QLatin1String(key.shortcut)), this);
-        connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
-    }
-    row_->insertWidget(row_->count() - 1, button);
+    return action;
 }
 
 QSize Toolbar::minimumSizeHint() const {
-    const QSize least = QFrame::minimumSizeHint();
-    return {0, least.height()};
+    return {0, sizeHint().height()};
 }
 
 void Toolbar::resizeEvent(QResizeEvent* event) {
-    QFrame::resizeEvent(event);
+    QToolBar::resizeEvent(event);
     double share = 1;
     SetKeyFont(share);
-    while (row_->totalMinimumSize().width() > width() && share > kSmallestLetters) {
+    while (layout()->sizeHint().width() > width() && share > kSmallestLetters) {
         share -= kLetterStep;
         SetKeyFont(share);
     }
@@ -63,10 +56,19 @@ void Toolbar::resizeEvent(QResizeEvent* event) {
 void Toolbar::SetKeyFont(double share) {
     QFont letters = font();
     letters.setPointSizeF(letters.pointSizeF() * share);
-    for (auto* key : findChildren<QToolButton*>()) {
-        key->setFont(letters);
+    for (QAction* action : actions()) {
+        widgetForAction(action)->setFont(letters);
     }
-    row_->invalidate();
+    layout()->invalidate();
+}
+
+// A frame around it, where the toolkit draws a line below it.
+void Toolbar::paintEvent(QPaintEvent* /*event*/) {
+    QStyleOptionFrame frame;
+    frame.initFrom(this);
+    frame.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, this);
+    frame.frameShape = QFrame::StyledPanel;
+    QStylePainter(this).drawPrimitive(QStyle::PE_Frame, frame);
 }
 
 } // namespace vernacle

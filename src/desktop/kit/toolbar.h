@@ -1,11 +1,7 @@
 // The row of keys at the top of a page: an icon with its caption below, a tip, a shortcut.
 #pragma once
 
-#include <functional>
-
-#include <QFrame>
-
-class QHBoxLayout;
+#include <QToolBar>
 
 namespace vernacle {
 
@@ -20,24 +16,24 @@ struct ToolbarKey {
 enum class KeyState { Enabled, Greyed };
 
 // Where a window is too narrow for it, its letters are smaller.
-class Toolbar : public QFrame {
+class Toolbar : public QToolBar {
     Q_OBJECT
 
 public:
     explicit Toolbar(const char* name, QWidget* parent = nullptr);
 
-    // Adds a key behind those before it; its object name is the key.
-    void AddKey(const ToolbarKey& key, KeyState state, std::function<void()> clicked);
+    // Adds a key behind those before it, and gives what it does; its button's object name is the
+    // key.
+    QAction* AddKey(const ToolbarKey& key, KeyState state);
 
     QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void SetKeyFont(double share);
-
-    QHBoxLayout* row_;
 };
 
 } // namespace vernacle

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include <QAction>
 #include <QVBoxLayout>
 
 #include "desktop/kit/toolbar.h"
@@ -83,7 +84,8 @@ void DesignPage::AddToolbar() {
     for (const Key& key : kKeys) {
         ToolbarKey face = key.face;
         face.tip = TipOf(traits_, face);
-        toolbar->AddKey(face, StateOf(traits_, face), [this, &key] { KeyClicked(key); });
+        connect(toolbar->AddKey(face, StateOf(traits_, face)), &QAction::triggered, this,
+                [this, &key] { KeyClicked(key); });
     }
     Head().addWidget(toolbar);
 }

@@ -276,6 +276,10 @@ TEST_F(FocusTest, NoPageOfEntriesIsTooWideForTheSmallestScreen) {
             EXPECT_FALSE(bar->orientation() == Qt::Horizontal && bar->isVisible()) << name;
         }
         for (const auto* key : page.findChildren<QToolButton*>()) {
+            if (key->objectName().startsWith(QLatin1String("qt_"))) {
+                EXPECT_FALSE(key->isVisible()) << name << " has keys that find no room";
+                continue;
+            }
             const QRect shown = key->visibleRegion().boundingRect();
             EXPECT_EQ(shown.width(), key->width())
                 << name << " " << key->objectName().toStdString();

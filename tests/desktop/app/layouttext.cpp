@@ -168,7 +168,8 @@ private:
         std::ostringstream head;
         auto* grid = qobject_cast<QGridLayout*>(&layout);
         auto* box = qobject_cast<QBoxLayout*>(&layout);
-        const bool across = box && box->direction() == QBoxLayout::LeftToRight;
+        auto* form = qobject_cast<QFormLayout*>(&layout);
+        const bool across = box ? box->direction() == QBoxLayout::LeftToRight : !grid && !form;
         head << place << (across ? "row" : box ? "column" : "grid") << " spaced ";
         if (grid) {
             head << grid->horizontalSpacing() << " " << grid->verticalSpacing();
@@ -185,8 +186,10 @@ private:
             GridItems(*grid);
         } else if (box) {
             BoxItems(*box);
+        } else if (form) {
+            FormItems(*form);
         } else {
-            FormItems(static_cast<QFormLayout&>(layout));
+            RowItems(layout);
         }
     }
 
@@ -197,6 +200,13 @@ private:
             form.getItemPosition(index, &row, &role);
             const int column = role == QFormLayout::FieldRole ? 1 : 0;
             Item(std::to_string(row) + "," + std::to_string(column) + ": ", *form.itemAt(index));
+        }
+    }
+
+    // Of a toolbar.
+    void RowItems(QLayout& row) {
+        for (int index = 0; index < row.count(); ++index) {
+            Item("", *row.itemAt(index));
         }
     }
 
@@ -241,8 +251,8 @@ private:
     }
 
     void Item(std::string place, QLayoutItem& item) {
-        if (item.alignment()) {
-            place = place + "(" + AlignmentText(item.alignment()).substr(1) + ") ";
+        if (const std::string side = AlignmentText(item.alignment()); !side.empty()) {
+            place += "(" + side.substr(1) + ") ";
         }
         if (item.widget()) {
             Control(place, *item.widget());
