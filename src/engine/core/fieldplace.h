@@ -54,9 +54,18 @@ constexpr FieldPlace Nowhere = {
 // Stores the number as the field's type; a failed conversion is a run-time error.
 void StoreIn(const FieldPointer& field, double value);
 
+// Stores what is typed, by the rules of ParseEntry; a text takes no number, as in StoreIn.
+void ParseInto(std::string& text, const FieldPointer& field);
+
 double NumberIn(const ConstFieldPointer& field);
 inline double NumberIn(const FieldPointer& field) {
     return NumberIn(AsConst(field));
+}
+
+// The field as a box shows it: a number in its plain form, a text as it stands.
+std::string PlainText(const ConstFieldPointer& field);
+inline std::string PlainText(const FieldPointer& field) {
+    return PlainText(AsConst(field));
 }
 
 } // namespace vernacle
