@@ -41,17 +41,15 @@ EntryBox::EntryBox(const char* name, const QString& accessibleName, QWidget* par
     : QLineEdit(parent) {
     setObjectName(QLatin1String(name));
     setAccessibleName(accessibleName);
-    connect(this, &QLineEdit::textChanged, this, &EntryBox::Changed);
+    connect(this, &QLineEdit::textChanged, this, &EntryBox::RunHandler);
 }
 
-void EntryBox::Changed() {
+void EntryBox::RunHandler() {
     if (typing_ == 0) {
         Owe({}); // another text stands there
     }
-    if (handler_) {
-        const UnderWay running(running_);
-        handler_();
-    }
+    const UnderWay running(running_);
+    Q_EMIT Changed();
 }
 
 float EntryBox::Number() const {
@@ -81,7 +79,7 @@ void EntryBox::Write(const std::string& text) {
     const bool same = written == this->text();
     Put(written);
     if (same && running_ == 0) {
-        Changed();
+        RunHandler();
     }
 }
 

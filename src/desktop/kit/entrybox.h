@@ -1,5 +1,5 @@
-// A box for one typed value. Its handler runs at every change of the text, typed or written by the
-// program alike.
+// A box for one typed value. It tells of every change of its text, typed or written by the program
+// alike; what is connected there is its handler.
 //
 // A handler may write another text into its own box: a limit, the number in its plain form. While
 // the user types, that would stand between two keys and make ".8" a ".58". So what a key brings on
@@ -7,7 +7,6 @@
 // else that the handler does follows each key, and what is pasted is rewritten at once.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -18,8 +17,10 @@ namespace vernacle {
 class UpDown;
 
 enum class Reading {
-    Entry, // by the rules of an entry, "2k2" and "1,5"
-    Plain, // the number that the text starts with
+    Entry,   // a number by the rules of an entry, "2k2" and "1,5"
+    Plain,   // the number that the text starts with
+    Text,    // the text as it stands
+    Trimmed, // the text without the blanks around it
 };
 
 // When the box shows what its handler wrote into it while a key was under way.
@@ -33,8 +34,6 @@ class EntryBox : public QLineEdit {
 
 public:
     EntryBox(const char* name, const QString& accessibleName, QWidget* parent = nullptr);
-
-    void OnChange(std::function<void()> handler) { handler_ = std::move(handler); }
 
     std::string Text() const { return text().toStdString(); }
 
@@ -72,6 +71,9 @@ public:
     // A warning colour, or white, with a text that reads on it whatever the desktop's colours are.
     void SetBackground(const QColor& colour);
 
+Q_SIGNALS:
+    void Changed();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -84,11 +86,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Changed();
+    void RunHandler();
     void Put(const QString& text);
     void Owe(const std::optional<QString>& text);
 
-    std::function<void()> handler_;
     UpDown* arrows_ = nullptr;
     Reading reading_ = Reading::Entry;
     Rewriting rewriting_ = Rewriting::WhenLeft;

@@ -5,6 +5,7 @@
 
 #include "desktop/kit/entrybox.h"
 #include "desktop/kit/formkit.h"
+#include "desktop/kit/steppedentry.h"
 
 namespace vernacle {
 
@@ -61,11 +62,11 @@ EntryControls AddEntryRow(const EntryRow& entry, QGridLayout& grid, int row, QWi
     EntryBox* partner = MakePartner(entry, page);
     grid.addWidget(MakeCaption(entry, *box), row, 0);
     if (!entry.arrows) {
-        grid.addLayout(MakeStepped(*box, nullptr), row, 1);
+        grid.addWidget(new SteppedEntry(*box), row, 1);
         return {*box, partner};
     }
     auto* arrows = new UpDown(entry.arrows, box->accessibleName());
-    grid.addLayout(MakeStepped(*box, arrows), row, 1);
+    grid.addWidget(new SteppedEntry(*box, arrows), row, 1);
     arrows->AttachTo(partner ? *partner : *box, entry.range);
     box->SetArrows(arrows); // its Up and Down keys step a partner too
     return {*box, partner};

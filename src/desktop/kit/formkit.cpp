@@ -1,11 +1,9 @@
 #include "desktop/kit/formkit.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 
 #include "desktop/kit/entrybox.h"
-#include "desktop/kit/updown.h"
 
 namespace vernacle {
 
@@ -57,19 +55,6 @@ QGroupBox* MakeFrame(const char* name, const QString& title) {
     frame->setObjectName(QLatin1String(name));
     frame->setAccessibleName(title);
     return frame;
-}
-
-QLayout* MakeStepped(EntryBox& box, UpDown* arrows) {
-    box.setMinimumWidth(box.fontMetrics().horizontalAdvance(QStringLiteral("-100000.5")));
-    auto* pair = new QHBoxLayout;
-    pair->setSpacing(0);
-    pair->addWidget(&box);
-    if (arrows) {
-        pair->addWidget(arrows);
-    } else {
-        pair->addSpacing(UpDown::kWidth);
-    }
-    return pair;
 }
 
 CaptionedBox AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box) {

@@ -10,7 +10,6 @@ class QGridLayout;
 namespace vernacle {
 
 class EntryBox;
-class UpDown;
 
 QLabel* MakeLabel(const char* name, const QString& text);
 
@@ -23,10 +22,6 @@ QGroupBox* MakeFrame(const char* name, const QString& title);
 
 // Space between the rows and columns of entries, pixels.
 constexpr int kEntrySpacing = 6;
-
-// A box with its arrows at its right side; without arrows their place stays free, so that boxes in
-// a column are of one width.
-QLayout* MakeStepped(EntryBox& box, UpDown* arrows);
 
 struct CaptionedBox {
     QLabel& label;

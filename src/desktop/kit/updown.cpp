@@ -44,8 +44,8 @@ UpDown::UpDown(const char* name, const QString& accessibleName, QWidget* parent)
 
 void UpDown::AttachTo(EntryBox& box, const StepRange& range) {
     box.SetArrows(this);
-    OnStep([&box, range] { StepBox(box, range.step, range); },
-           [&box, range] { StepBox(box, -range.step, range); });
+    connect(this, &UpDown::Stepped, &box,
+            [&box, range](int by) { StepBox(box, by * range.step, range); });
 }
 
 void UpDown::TakeKeys() {
@@ -54,19 +54,14 @@ void UpDown::TakeKeys() {
     }
 }
 
-void UpDown::OnStep(std::function<void()> up, std::function<void()> down) {
-    up_ = std::move(up);
-    down_ = std::move(down);
-}
-
 void UpDown::Up() {
     Q_EMIT Stepping();
-    up_();
+    Q_EMIT Stepped(1);
 }
 
 void UpDown::Down() {
     Q_EMIT Stepping();
-    down_();
+    Q_EMIT Stepped(-1);
 }
 
 } // namespace vernacle

@@ -1,8 +1,6 @@
 // The two arrows beside a box, one above the other.
 #pragma once
 
-#include <functional>
-
 #include <QWidget>
 
 namespace vernacle {
@@ -30,18 +28,12 @@ public:
     // Makes the arrows stops of the Tab key, where no box has the keys.
     void TakeKeys();
 
-    // What the arrows do instead.
-    void OnStep(std::function<void()> up, std::function<void()> down);
-
     void Up();
     void Down();
 
 Q_SIGNALS:
-    void Stepping(); // before each step
-
-private:
-    std::function<void()> up_ = [] {};
-    std::function<void()> down_ = [] {};
+    void Stepping();      // before each step
+    void Stepped(int by); // 1 or -1
 };
 
 } // namespace vernacle

@@ -74,8 +74,10 @@ void frmGraphic::Build() {
     grid->setColumnStretch(0, 1);
     for (const Measure& measure : kMeasures) {
         const EntryControls controls = AddEntryRow(measure.row, *grid, grid->rowCount(), *this);
-        controls.box.OnChange([this, &measure] { MeasureChanged(measure); });
-        controls.partner->OnChange([this, &measure] { PartnerChanged(measure); });
+        connect(&controls.box, &EntryBox::Changed, this,
+                [this, &measure] { MeasureChanged(measure); });
+        connect(controls.partner, &EntryBox::Changed, this,
+                [this, &measure] { PartnerChanged(measure); });
     }
     Column().addLayout(grid);
     QPushButton* get = MakeButton("cmdGetGraphic", QStringLiteral("Browse to get graphic"),

@@ -72,9 +72,10 @@ void frmHighlights::Build() {
     grid->setColumnStretch(0, 1);
     for (const Entry& entry : kEntries) {
         const EntryControls controls = AddEntryRow(entry.row, *grid, grid->rowCount(), *this);
-        controls.box.OnChange([this, &entry] { (this->*entry.changed)(entry); });
+        connect(&controls.box, &EntryBox::Changed, this,
+                [this, &entry] { (this->*entry.changed)(entry); });
         if (controls.partner) {
-            controls.partner->OnChange([this] { txtLength10Changed(); });
+            connect(controls.partner, &EntryBox::Changed, this, &frmHighlights::txtLength10Changed);
         }
     }
     Column().addLayout(grid);

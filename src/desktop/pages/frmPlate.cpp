@@ -9,6 +9,7 @@
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/kit/picturebox.h"
+#include "desktop/kit/steppedentry.h"
 #include "desktop/kit/updown.h"
 #include "desktop/navigation/navigator.h"
 #include "desktop/system/dialogs.h"
@@ -216,10 +217,10 @@ void frmPlate::AddItem(const NumericItem& item, QGridLayout& grid, int row) {
     auto* arrows = new UpDown(Sibling("UpDown", item.box).c_str(), caption);
     arrows->AttachTo(*box, item.arrows);
     QPushButton* help = MakeHelpButton(Sibling("cmd", item.box).c_str(), caption);
-    box->OnChange([this, &item] { ItemChanged(item); });
+    connect(box, &EntryBox::Changed, this, [this, &item] { ItemChanged(item); });
     connect(help, &QPushButton::clicked, this, [this, &item] { Illustrate(item); });
     grid.addWidget(label, row, 0);
-    grid.addLayout(MakeStepped(*box, arrows), row, 1);
+    grid.addWidget(new SteppedEntry(*box, arrows), row, 1);
     grid.addWidget(help, row, 2);
 }
 

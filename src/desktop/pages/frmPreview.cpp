@@ -9,6 +9,7 @@
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/inkicon.h"
 #include "desktop/kit/picturebox.h"
+#include "desktop/kit/steppedentry.h"
 #include "desktop/kit/updown.h"
 #include "desktop/navigation/navigator.h"
 #include "engine/base/numbertext.h"
@@ -101,23 +102,22 @@ QLayout* frmPreview::MakeAspect() {
     txtAspect_ = new EntryBox("txtAspect", ratio);
     txtAspectUpDown_ = new EntryBox("txtAspectUpDown", percent);
     auto* arrows = new UpDown("UpDown1", percent);
-    arrows->OnStep([this] { UpDown1Clicked(double{Design.AspectRatio} * kAspectStep); },
-                   [this] { UpDown1Clicked(double{Design.AspectRatio} / kAspectStep); });
+    connect(arrows, &UpDown::Stepped, this, &frmPreview::UpDown1Stepped);
     txtAspectUpDown_->SetArrows(arrows);
     const EntryLimits percents{kAspectLimits.lowest * 100, kAspectLimits.highest * 100};
     txtAspect_->TellRange(RangeText(kAspectLimits, ""));
     txtAspectUpDown_->TellRange(RangeText(percents, "%"));
-    txtAspect_->OnChange([this] { txtAspectChanged(); });
-    txtAspectUpDown_->OnChange([this] { txtAspectUpDownChanged(); });
+    connect(txtAspect_, &EntryBox::Changed, this, &frmPreview::txtAspectChanged);
+    connect(txtAspectUpDown_, &EntryBox::Changed, this, &frmPreview::txtAspectUpDownChanged);
     QLabel* lblAspect = MakeLabel("lblAspect", ratio);
     QLabel* lblPercent = MakeLabel("lblAspectUpDown", percent);
     lblAspect->setBuddy(txtAspect_);
     lblPercent->setBuddy(txtAspectUpDown_);
     auto* grid = new QGridLayout;
     grid->addWidget(lblAspect, 0, 0);
-    grid->addLayout(MakeStepped(*txtAspect_, nullptr), 0, 1);
+    grid->addWidget(new SteppedEntry(*txtAspect_), 0, 1);
     grid->addWidget(lblPercent, 1, 0);
-    grid->addLayout(MakeStepped(*txtAspectUpDown_, arrows), 1, 1);
+    grid->addWidget(new SteppedEntry(*txtAspectUpDown_, arrows), 1, 1);
     return grid;
 }
 
@@ -201,8 +201,9 @@ void frmPreview::txtAspectUpDownChanged() {
     txtAspect_->Show(PlainNumber(Design.AspectRatio)); // which the ratio's box has rounded
 }
 
-void frmPreview::UpDown1Clicked(double aspect) {
-    Design.AspectRatio = HeldAspect(aspect);
+void frmPreview::UpDown1Stepped(int by) {
+    const double aspect = double{Design.AspectRatio};
+    Design.AspectRatio = HeldAspect(by > 0 ? aspect * kAspectStep : aspect / kAspectStep);
     Load();
 }
 

@@ -36,7 +36,7 @@ private:
 
     void txtAspectChanged();
     void txtAspectUpDownChanged();
-    void UpDown1Clicked(double aspect);
+    void UpDown1Stepped(int by);
     void cmdCircleClicked();
     void cmdGridClicked();
     void cmdPointerClicked();

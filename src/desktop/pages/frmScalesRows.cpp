@@ -83,9 +83,11 @@ void frmScales::AddEntry(const Entry& entry, QGridLayout& grid, int row) {
     const EntryControls controls =
         isText ? AddTextRow(entry.row, grid, row) : AddEntryRow(entry.row, grid, row, *this);
     controls.box.setText(QString::fromUtf8(entry.text));
-    controls.box.OnChange([this, &entry] { (this->*entry.changed)(entry); });
+    connect(&controls.box, &EntryBox::Changed, this,
+            [this, &entry] { (this->*entry.changed)(entry); });
     if (controls.partner) {
-        controls.partner->OnChange([this] { txtRelFontSizeUpDownChanged(); });
+        connect(controls.partner, &EntryBox::Changed, this,
+                &frmScales::txtRelFontSizeUpDownChanged);
     }
     if (entry.help) {
         grid.addWidget(MakeButtonOf(*entry.help), row, 2);

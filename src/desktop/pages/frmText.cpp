@@ -61,12 +61,14 @@ void frmText::Build() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
-    AddTextRow(kText, *grid, 0).box.OnChange([this] { txtTextChanged(); });
-    AddEntryRow(kLeft, *grid, 1, *this).box.OnChange([this] { txtLeftToTextChanged(); });
-    AddEntryRow(kBottom, *grid, 2, *this).box.OnChange([this] { txtBottomToTextChanged(); });
+    connect(&AddTextRow(kText, *grid, 0).box, &EntryBox::Changed, this, &frmText::txtTextChanged);
+    connect(&AddEntryRow(kLeft, *grid, 1, *this).box, &EntryBox::Changed, this,
+            &frmText::txtLeftToTextChanged);
+    connect(&AddEntryRow(kBottom, *grid, 2, *this).box, &EntryBox::Changed, this,
+            &frmText::txtBottomToTextChanged);
     const EntryControls size = AddEntryRow(kSize, *grid, 3, *this);
-    size.box.OnChange([this] { txtRelSizeChanged(); });
-    size.partner->OnChange([this] { txtRelSizeUpDownChanged(); });
+    connect(&size.box, &EntryBox::Changed, this, &frmText::txtRelSizeChanged);
+    connect(size.partner, &EntryBox::Changed, this, &frmText::txtRelSizeUpDownChanged);
     Column().addLayout(grid);
 
     lblTextWidthmm_ = MakeLabel("lblTextWidthmm", QStringLiteral("Text width (mm): "));

@@ -100,12 +100,14 @@ QLayout* frmSetupOhmmeter::MakeEntries() {
     const CaptionedBox midscale =
         AddEntry(*grid, "lblEnterMidscale", "Enter midscale resistance value:", "txtEnterMidscale");
     txtEnterMidscale_ = &midscale.box;
-    txtEnterMidscale_->OnChange([this] { txtEnterMidscaleChanged(); });
+    connect(txtEnterMidscale_, &EntryBox::Changed, this,
+            &frmSetupOhmmeter::txtEnterMidscaleChanged);
     const CaptionedBox resistance = AddEntry(
         *grid, "lblEnterResistance", "Enter resistance to get deflection:", "txtEnterResistance");
     lblEnterResistance_ = &resistance.label;
     txtEnterResistance_ = &resistance.box;
-    txtEnterResistance_->OnChange([this] { txtEnterResistanceChanged(); });
+    connect(txtEnterResistance_, &EntryBox::Changed, this,
+            &frmSetupOhmmeter::txtEnterResistanceChanged);
     cmdComputeDeflection_ = addButton("cmdComputeDeflection", "Compute deflection",
                                       &frmSetupOhmmeter::cmdComputeDeflectionClicked);
     lblResultingDeflection_ = MakeLabel("lblResultingDeflection", {});

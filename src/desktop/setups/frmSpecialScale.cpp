@@ -51,7 +51,7 @@ void frmSpecialScale::Build() {
     txtNrOfTicmarks_ =
         &AddEntry(*count, "lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks").box;
     txtNrOfTicmarks_->TellRange(RangeText(kLastRowLimits, "ticmarks"));
-    txtNrOfTicmarks_->OnChange([this] { ApplySpecialTable(); });
+    connect(txtNrOfTicmarks_, &EntryBox::Changed, this, &frmSpecialScale::ApplySpecialTable);
     QLabel* note = MakeLabel(
         "lblFullScale",
         QStringLiteral("Full-scale deflection is 1.0; for a \"blank\" label, use a space."));

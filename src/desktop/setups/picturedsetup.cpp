@@ -27,7 +27,8 @@ void PicturedSetupPage::Build() {
              .box;
     txtLinearityExponent_->TellRange(RangeText(kExponentLimits, ""));
     txtLinearityExponent_->Show("1");
-    txtLinearityExponent_->OnChange([this] { txtLinearityExponentChanged(); });
+    connect(txtLinearityExponent_, &EntryBox::Changed, this,
+            &PicturedSetupPage::txtLinearityExponentChanged);
     auto* column = new QVBoxLayout;
     column->setSpacing(10);
     column->addWidget(MakeOptions());

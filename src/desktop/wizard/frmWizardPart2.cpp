@@ -76,8 +76,8 @@ void frmWizardPart2::AddNudge(const Nudge& nudge, QGridLayout& grid, int row) {
     arrows->setToolTip(QString::fromUtf8(nudge.tip));
     arrows->setMinimumHeight(kArrowsHeight); // a label is lower than a box
     arrows->TakeKeys();
-    arrows->OnStep([this, &nudge, number] { Step(nudge, *number, 1); },
-                   [this, &nudge, number] { Step(nudge, *number, -1); });
+    connect(arrows, &UpDown::Stepped, this,
+            [this, &nudge, number](int by) { Step(nudge, *number, by); });
     grid.addWidget(MakeLabel(captionName.c_str(), caption), row, 0);
     grid.addWidget(number, row, 1);
     grid.addWidget(arrows, row, 2);

@@ -254,13 +254,20 @@ private:
         if (const std::string side = AlignmentText(item.alignment()); !side.empty()) {
             place += "(" + side.substr(1) + ") ";
         }
-        if (item.widget()) {
+        if (item.widget() && HoldsTogether(*item.widget())) {
+            Layout(place, *item.widget()->layout());
+        } else if (item.widget()) {
             Control(place, *item.widget());
         } else if (item.layout()) {
             Layout(place, *item.layout());
         } else {
             Put(place + SpaceText(item));
         }
+    }
+
+    // One that shows nothing of its own, and has no name either, such as a box with its arrows.
+    static bool HoldsTogether(const QWidget& widget) {
+        return widget.objectName().isEmpty() && widget.layout() && !widget.isHidden();
     }
 
     static std::string SpaceText(const QLayoutItem& item) {

@@ -4,6 +4,7 @@
 #include "desktop/kit/entrybox.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/kit/updown.h"
+#include "onchange.h"
 #include "support/formtest.h"
 
 namespace vernacle::test {
@@ -12,7 +13,7 @@ namespace {
 class ControlsTest : public FormTest {
 protected:
     ControlsTest() {
-        box.OnChange([this] { seen.push_back(box.Text()); });
+        OnChange(box, [this] { seen.push_back(box.Text()); });
         auto* line = new QHBoxLayout(&window); // the arrows are as high as the box
         line->addWidget(&box);
         line->addWidget(&arrows);
@@ -68,8 +69,8 @@ TEST_F(ControlsTest, NumberIsWhatTheTextStartsWith) {
 TEST_F(ControlsTest, TwoBoxesThatWriteEachOtherComeToAnEnd) {
     EntryBox other("txtOther", QStringLiteral("Other"));
     int runs = 0;
-    box.OnChange([&] { other.Write(box.Text()); });
-    other.OnChange([&] {
+    OnChange(box, [&] { other.Write(box.Text()); });
+    OnChange(other, [&] {
         ++runs;
         box.Write(other.Text());
     });
@@ -81,10 +82,10 @@ TEST_F(ControlsTest, TwoBoxesThatWriteEachOtherComeToAnEnd) {
 }
 
 TEST_F(ControlsTest, AHandlerThatFailsLeavesTheBoxInOrder) {
-    box.OnChange([] { throw std::runtime_error("no"); });
+    OnChange(box, [] { throw std::runtime_error("no"); });
     EXPECT_THROW(box.Write("1"), std::runtime_error);
     int runs = 0;
-    box.OnChange([&] { ++runs; });
+    OnChange(box, [&] { ++runs; });
     box.Write("1"); // the same text: runs, as nothing is under way
     EXPECT_EQ(runs, 1);
 }

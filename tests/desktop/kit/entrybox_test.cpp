@@ -12,6 +12,7 @@
 #include "desktop/kit/updown.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/entry.h"
+#include "onchange.h"
 #include "support/formtest.h"
 
 namespace vernacle::test {
@@ -33,7 +34,7 @@ protected:
         toolless->setFocusPolicy(Qt::NoFocus);
         shortcut->setShortcut(QKeySequence(QStringLiteral("Ctrl+S")));
         window.addAction(shortcut);
-        box->OnChange([this] { Changed(); });
+        OnChange(*box, [this] { Changed(); });
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -257,9 +258,9 @@ TEST_F(TypingTest, ABoxThatSaysSoIsRewrittenAtOnce) {
 }
 
 TEST_F(TypingTest, AFailedKeyLeavesTheBoxInOrder) {
-    box->OnChange([] { throw std::runtime_error("no"); });
+    OnChange(*box, [] { throw std::runtime_error("no"); });
     EXPECT_THROW(Keys("2"), std::runtime_error);
-    box->OnChange([this] { Changed(); });
+    OnChange(*box, [this] { Changed(); });
     box->Write("20");
     EXPECT_EQ(box->Text(), "15") << "the key is not under way any more";
 }
@@ -275,8 +276,8 @@ TEST_F(TypingTest, ABoxMayGoWhileATextWaits) {
 TEST_F(TypingTest, PairsAgreeWhenTheTypedOneIsLeft) {
     EntryBox partner("txtPartner", QStringLiteral("Partner"));
     std::vector<std::string> shown;
-    box->OnChange([&] { partner.Show(PlainNumber(kLimits.Held(box->Number()))); });
-    partner.OnChange([&] {
+    OnChange(*box, [&] { partner.Show(PlainNumber(kLimits.Held(box->Number()))); });
+    OnChange(partner, [&] {
         shown.push_back(partner.Text());
         box->Show(partner.Text());
     });
