@@ -97,12 +97,12 @@ std::vector<AbsurdDesign> MakeDesigns() {
 // False where the numbers do not even make a scale.
 bool Load(const std::string& file) {
     Host.readFile = [&file](const std::string&) { return file; };
-    SetVersionAndScreenScale();
-    SetOpeningValues();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
     ReadDesign("design");
     Design.CalibrationX = Design.CalibrationY = 1;
     try {
-        NormalizeDesign();
+        NormalizeDesign(Design);
         HoldAspectRatio();
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);

@@ -8,10 +8,10 @@
 namespace vernacle::bench {
 
 void LoadDense() {
-    SetVersionAndScreenScale();
-    SetOpeningValues();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
     ReadDesign(VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
-    NormalizeDesign();
+    NormalizeDesign(Design);
     HoldAspectRatio();
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
@@ -19,8 +19,8 @@ void LoadDense() {
 }
 
 void LoadScales(int scales, std::int16_t steps) {
-    SetOpeningValues();
-    ResetDesign();
+    SetOpeningValues(Design);
+    ResetDesign(Design);
     Design.NumberOfScales = static_cast<std::int16_t>(scales);
     for (int scale = 1; scale <= scales; ++scale) {
         Design.NrOfTicmarks[scale] = steps;

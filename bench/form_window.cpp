@@ -13,8 +13,8 @@ namespace {
 using namespace vernacle;
 
 void OpenDesign(const char* path) {
-    SetVersionAndScreenScale();
-    SetOpeningValues();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
     Design.DesignFileName = path;
     ReadDesign(path);
     Design.ActiveScale = 1;

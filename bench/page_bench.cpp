@@ -91,8 +91,8 @@ int main(int argc, char** argv) {
     Application application(argc, argv);
     Host = DesktopHost();
     SetForms(ProgramForms());
-    SetVersionAndScreenScale();
-    SetOpeningValues();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

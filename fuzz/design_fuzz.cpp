@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ReadDesign("design", {.doubt = hear, .failure = hear});
     WriteDesign();
     try {
-        NormalizeDesign();
+        NormalizeDesign(Design);
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);
     } catch (const RunTimeError&) {

@@ -169,8 +169,8 @@ bool ReadInputs(const Arguments& arguments, Progress& progress) {
 int Export(const Arguments& arguments) {
     Progress progress;
     SetHost(arguments, progress);
-    SetVersionAndScreenScale();
-    SetOpeningValues();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
     if (!ReadInputs(arguments, progress)) {
         return kFileFailed;
     }

@@ -102,7 +102,7 @@ const OutputForm* FindForm(const std::string& path) {
 }
 
 void MakeReady() {
-    NormalizeDesign();
+    NormalizeDesign(Design);
     RaiseAspectRatio();
     HoldAspectRatio();
     ComputeTicDeflections(Design);

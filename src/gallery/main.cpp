@@ -54,10 +54,10 @@ void ComputeScales() {
 
 // What the program has done by the time it shows the form.
 void Prepare(const Arguments& arguments) {
-    SetVersionAndScreenScale();
-    SetOpeningValues();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
     ReadCalibrate();
-    ResetDesign();
+    ResetDesign(Design);
     Design.ActiveScale = 1;
     if (!arguments.design.empty()) {
         Design.DesignFileName = arguments.design;

@@ -155,8 +155,8 @@ class TicTableTest : public ExportTest {
 protected:
     // One special scale with three tics, from the left end to the middle.
     void GiveSpecialScale(const char* label0, const char* label1, const char* label2) {
-        SetOpeningValues();
-        ResetDesign();
+        SetOpeningValues(Design);
+        ResetDesign(Design);
         Design.ScaleColor[1] = -1;
         Design.SpecialNrOfTicmarks[1] = 2;
         const char* const labels[] = {label0, label1, label2};

@@ -81,8 +81,8 @@ protected:
     // A reset design with what change does to it, as a file.
     template <typename Change>
     std::string DesignFile(const Change& change) const {
-        SetOpeningValues();
-        ResetDesign();
+        SetOpeningValues(Design);
+        ResetDesign(Design);
         change();
         Design.DesignFileName = Path("plate.VRN");
         WriteDesign();

@@ -33,9 +33,9 @@ FormTest::FormTest() {
     Host.pause = [] {};
     Host.clockSeconds = [this] { return clock_ += kClockStep; };
     SetForms(ProgramForms());
-    SetVersionAndScreenScale();
-    SetOpeningValues();
-    ResetDesign();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
+    ResetDesign(Design);
     Design.ActiveScale = 1;
     Design.CalibrationX = Design.CalibrationY = 1;
 }

@@ -65,7 +65,7 @@ Calls WithoutRepeatedWidths(const Calls& calls) {
 } // namespace
 
 RenderTest::RenderTest() {
-    ResetDesign();
+    ResetDesign(Design);
     Design.ScreenScaleX = 2;
     Design.ScreenScaleY = 0.5F;
     Design.AspectRatio = 0.5F;

@@ -205,8 +205,8 @@ enum class Sight { OfThePicture, OfAll };
 // A design with tics of that length. A painter whose window is larger than its picture takes more
 // for seen than it shows, and nothing is cut.
 QImage DrawDesignWith(float ticMm, const char* rotation, Sight sight) {
-    ResetDesign();
-    NormalizeDesign();
+    ResetDesign(Design);
+    NormalizeDesign(Design);
     Design.MajorTicLength = ticMm;
     Design.MinorTicLength = ticMm / 2;
     Design.LabelSpacing = ticMm / 3;
@@ -230,8 +230,8 @@ QImage DrawDesignWith(float ticMm, const char* rotation, Sight sight) {
 }
 
 TEST_F(CutTest, ADesignThatReachesOutOfSightLooksAsIfItWereAllSeen) {
-    SetVersionAndScreenScale();
-    SetOpeningValues();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
     for (const char* rotation : {"H", "B"}) {
         for (const float ticMm : {6.F, 25.F, 100.F, 500.F, 1000.F}) {
             EXPECT_EQ(DrawDesignWith(ticMm, rotation, Sight::OfThePicture),

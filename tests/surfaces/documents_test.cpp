@@ -23,11 +23,11 @@ constexpr const char* kAt = "2026-01-02 03:04:05";
 class DocumentsTest : public SurfaceTest {
 protected:
     static void ReadExample(const std::string& name) {
-        SetOpeningValues();
+        SetOpeningValues(Design);
         Design.CalibrationX = Design.CalibrationY = 1;
         Design.DesignFileName = name;
         ReadDesign(SourcePath("examples/" + name));
-        NormalizeDesign();
+        NormalizeDesign(Design);
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);
     }

@@ -103,9 +103,9 @@ TEST_F(DrawingRecordTest, APictureThatHasGoneSinceIsLeftOut) {
 }
 
 TEST_F(DrawingRecordTest, ARecordedDesignPaintsTheSamePicture) {
-    SetVersionAndScreenScale();
-    SetOpeningValues();
-    ResetDesign();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
+    ResetDesign(Design);
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
     const auto paint = [](const std::function<void(DrawingSurface&)>& draw) {

@@ -77,11 +77,11 @@ const frmOpening::Button frmOpening::kButtons[] = {
 
 frmOpening::frmOpening() {
     setObjectName(QStringLiteral("frmOpening"));
-    SetVersionAndScreenScale();
+    SetVersionAndScreenScale(Design);
     setWindowTitle(QString::fromStdString(Design.ProgramName + " - Welcome !"));
     Build();
     if (!CurrentPage()) { // the program starts: who comes back from the wizard keeps the design
-        SetOpeningValues();
+        SetOpeningValues(Design);
     }
     ReadCalibrate();
 }
@@ -153,7 +153,7 @@ void frmOpening::closeEvent(QCloseEvent* event) {
 void frmOpening::cmdOldClicked() {
     Delay(kButtonDelay);
     Design.DesignFileName = AskForVernacleFile(this, "Get Vernacle File");
-    ResetDesign();
+    ResetDesign(Design);
     ReadDesign(Design.DesignFileName);
     GoToPage("frmPreview");
 }
@@ -172,7 +172,7 @@ void frmOpening::cmdExitClicked() {
 }
 
 void frmOpening::StartNewDesign() {
-    ResetDesign();
+    ResetDesign(Design);
     Delay(kButtonDelay);
     GoToPage("frmWizard");
 }

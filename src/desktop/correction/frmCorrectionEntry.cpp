@@ -183,7 +183,7 @@ void frmCorrectionEntry::FillBoxesPlainly() {
 
 // The slopes are the redraw's.
 void frmCorrectionEntry::ResetToLinear() {
-    SetLinearPairs();
+    SetLinearPairs(Design);
     int number = 0;
     for (const char* text : kLinearTexts) {
         Text(++number)->Show(text);

@@ -307,7 +307,7 @@ void frmPlate::Load() {
     ShowOptionsOf("fraSound");
     WarnOfQuadrant();
     Design.NumberOfScales = 1;
-    NormalizeDesign();
+    NormalizeDesign(Design);
     FillItems();
     SetIfEmpty(Design.DrawArcs, "Y");
     SetIfEmpty(Design.LabelRotation, "H");

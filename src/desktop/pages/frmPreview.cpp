@@ -142,7 +142,7 @@ QLayout* frmPreview::MakeTools() {
 // in the same way, and the controls stay.
 void frmPreview::Load() {
     ShowTitle();
-    NormalizeDesign();
+    NormalizeDesign(Design);
     sizes_ = {Design.FontSize, Design.LabelSpacing};
     CopyTexts();
     ComputeTicDeflections(Design);

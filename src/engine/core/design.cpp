@@ -102,41 +102,42 @@ void Put(const Value& value, const FieldPointer& slot) {
 }
 
 template <std::size_t Count>
-void PutAll(const Default (&rows)[Count], Value Default::*column, int index = 0) {
+void PutAll(DesignRecord& design, const Default (&rows)[Count], Value Default::*column,
+            int index = 0) {
     for (const Default& row : rows) {
-        Put(row.*column, row.place.In(Design, index));
+        Put(row.*column, row.place.In(design, index));
     }
 }
 
-void ResetTic(int scale, int tic) {
-    Design.StandardDeflection[scale][tic] = 0;
-    Design.TicDeflection[scale][tic] = 0;
-    Design.StandardLabel[scale][tic].clear();
-    Design.TicLabelText[scale][tic].clear();
-    Design.StandardLabelYN[scale][tic] = "Y";
-    Design.TicLabelYN[scale][tic] = "Y";
-    Design.StandardTicYN[scale][tic] = "Y";
-    Design.TicPrintYN[scale][tic] = "Y";
-    Design.TicMajorYN[scale][tic] = "N";
+void ResetTic(DesignRecord& design, int scale, int tic) {
+    design.StandardDeflection[scale][tic] = 0;
+    design.TicDeflection[scale][tic] = 0;
+    design.StandardLabel[scale][tic].clear();
+    design.TicLabelText[scale][tic].clear();
+    design.StandardLabelYN[scale][tic] = "Y";
+    design.TicLabelYN[scale][tic] = "Y";
+    design.StandardTicYN[scale][tic] = "Y";
+    design.TicPrintYN[scale][tic] = "Y";
+    design.TicMajorYN[scale][tic] = "N";
 }
 
-void ResetScale(int scale) {
+void ResetScale(DesignRecord& design, int scale) {
     const auto number = static_cast<float>(scale);
-    PutAll(kScaleDefaults, &Default::reset, scale);
-    Design.BottomToScaleCeiling[scale] = 5 * number + 30;
-    Design.BottomToTitle[scale] = 5 * number + 25;
-    Design.PrintTicsAndArcs[scale] = std::int16_t{0};
-    Design.ScaleTitle[scale] = "Default Scale " + std::to_string(scale);
+    PutAll(design, kScaleDefaults, &Default::reset, scale);
+    design.BottomToScaleCeiling[scale] = 5 * number + 30;
+    design.BottomToTitle[scale] = 5 * number + 25;
+    design.PrintTicsAndArcs[scale] = std::int16_t{0};
+    design.ScaleTitle[scale] = "Default Scale " + std::to_string(scale);
     for (int tic = 0; tic <= kLastTic; ++tic) {
-        ResetTic(scale, tic);
+        ResetTic(design, scale, tic);
     }
 }
 
-void ResetDeletedLists() {
+void ResetDeletedLists(DesignRecord& design) {
     for (int scale = 1; scale <= kFiledLists; ++scale) {
         for (int entry = 1; entry <= kLastTic; ++entry) {
-            Design.DeletedTics[scale][entry] = 0;
-            Design.DeletedLabels[scale][entry] = 0;
+            design.DeletedTics[scale][entry] = 0;
+            design.DeletedLabels[scale][entry] = 0;
         }
     }
 }
@@ -167,9 +168,9 @@ bool Offends(const Limit& limit, double value) {
 }
 
 template <std::size_t Count>
-void HoldTo(const Limit (&limits)[Count], int index = 0) {
+void HoldTo(DesignRecord& design, const Limit (&limits)[Count], int index = 0) {
     for (const Limit& limit : limits) {
-        const FieldPointer slot = limit.place.In(Design, index);
+        const FieldPointer slot = limit.place.In(design, index);
         if (Offends(limit, NumberIn(slot))) {
             StoreIn(slot, limit.becomes);
         }
@@ -215,14 +216,14 @@ void FillIfEmpty(std::string& text, const char* filling) {
     }
 }
 
-void NormalizeScale(int scale) {
-    HoldTo(kScaleLimits, scale);
-    Design.LinearityExponent[scale] = 1;
-    Design.ScaleColor[scale] = 0;
-    if (Design.ScaleLengthUnits[scale] == 0) {
-        Design.ScaleLengthUnits[scale] = 100;
+void NormalizeScale(DesignRecord& design, int scale) {
+    HoldTo(design, kScaleLimits, scale);
+    design.LinearityExponent[scale] = 1;
+    design.ScaleColor[scale] = 0;
+    if (design.ScaleLengthUnits[scale] == 0) {
+        design.ScaleLengthUnits[scale] = 100;
     }
-    FillIfEmpty(Design.ScaleTitle[scale], ("Default " + std::to_string(scale)).c_str());
+    FillIfEmpty(design.ScaleTitle[scale], ("Default " + std::to_string(scale)).c_str());
 }
 
 } // namespace
@@ -238,70 +239,70 @@ int CurrentTic(const DesignRecord& design) {
     return static_cast<int>(design.TicLoop);
 }
 
-void SetOpeningValues() {
-    PutAll(kDefaults, &Default::opening);
+void SetOpeningValues(DesignRecord& design) {
+    PutAll(design, kDefaults, &Default::opening);
     for (int scale = 1; scale <= kScales; ++scale) {
-        PutAll(kScaleDefaults, &Default::opening, scale);
+        PutAll(design, kScaleDefaults, &Default::opening, scale);
     }
     for (int text = 1; text <= kOpeningTexts; ++text) {
-        PutAll(kTextDefaults, &Default::opening, text);
+        PutAll(design, kTextDefaults, &Default::opening, text);
     }
 }
 
-void SetLinearPairs() {
+void SetLinearPairs(DesignRecord& design) {
     constexpr std::array<float, kCurvePoints> kPoints = {0, 0.15F, 0.3F, 0.5F, 0.7F, 0.85F, 1};
     for (int point = 1; point <= kCurvePoints; ++point) {
         const float coordinate = kPoints[static_cast<std::size_t>(point - 1)];
-        Design.CorrectionPair[2 * point - 1] = coordinate;
-        Design.CorrectionPair[2 * point] = coordinate;
+        design.CorrectionPair[2 * point - 1] = coordinate;
+        design.CorrectionPair[2 * point] = coordinate;
     }
 }
 
-void SetLinearCurve() {
-    SetLinearPairs();
+void SetLinearCurve(DesignRecord& design) {
+    SetLinearPairs(design);
     for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 1;
+        design.CorrectionSlope[segment] = 1;
     }
 }
 
-void ResetDesign() {
-    PutAll(kDefaults, &Default::reset);
+void ResetDesign(DesignRecord& design) {
+    PutAll(design, kDefaults, &Default::reset);
     for (int scale = 1; scale <= kFiledLists; ++scale) {
-        Design.DeletedTicCount[scale] = 0;
-        Design.DeletedLabelCount[scale] = 0;
+        design.DeletedTicCount[scale] = 0;
+        design.DeletedLabelCount[scale] = 0;
     }
     for (int scale = 1; scale <= kScales; ++scale) {
-        ResetScale(scale);
+        ResetScale(design, scale);
     }
     for (int text = 1; text <= kTexts; ++text) {
-        PutAll(kTextDefaults, &Default::reset, text);
+        PutAll(design, kTextDefaults, &Default::reset, text);
     }
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
-        PutAll(kHighlightDefaults, &Default::reset, highlight);
+        PutAll(design, kHighlightDefaults, &Default::reset, highlight);
     }
-    ResetDeletedLists();
-    SetLinearCurve();
+    ResetDeletedLists(design);
+    SetLinearCurve(design);
 }
 
-int NormalizeDesign() {
-    HoldTo(kPlateLimits);
-    FillIfEmpty(Design.DrawArcs, "Y");
-    FillIfEmpty(Design.PrintText, "Y");
-    FillIfEmpty(Design.LabelRotation, "H");
-    Design.FontName = "Arial";
-    Design.NumberOfScales = 1;
-    Design.CurrentScale = 1;
-    Design.BottomToGraphic = std::max(Design.BottomToGraphic, Design.GraphicHeight);
-    NormalizeScale(1);
+int NormalizeDesign(DesignRecord& design) {
+    HoldTo(design, kPlateLimits);
+    FillIfEmpty(design.DrawArcs, "Y");
+    FillIfEmpty(design.PrintText, "Y");
+    FillIfEmpty(design.LabelRotation, "H");
+    design.FontName = "Arial";
+    design.NumberOfScales = 1;
+    design.CurrentScale = 1;
+    design.BottomToGraphic = std::max(design.BottomToGraphic, design.GraphicHeight);
+    NormalizeScale(design, 1);
     return 0;
 }
 
-void SetVersionAndScreenScale() {
-    Design.VersionText = "Version 3.04";
-    Design.ProgramName = "Vernacle";
+void SetVersionAndScreenScale(DesignRecord& design) {
+    design.VersionText = "Version 3.04";
+    design.ProgramName = "Vernacle";
     const ScreenSize screen = Host.screenSize();
-    Design.ScreenScaleX = screen.widthTwips / 12000;
-    Design.ScreenScaleY = screen.heightTwips / 9000;
+    design.ScreenScaleX = screen.widthTwips / 12000;
+    design.ScreenScaleY = screen.heightTwips / 9000;
 }
 
 } // namespace vernacle

@@ -155,20 +155,20 @@ extern DesignRecord Design;
 int CurrentTic(const DesignRecord& design);
 
 // The first values of the process; fields without an opening value keep what they hold.
-void SetOpeningValues();
+void SetOpeningValues(DesignRecord& design);
 
 // Puts every design field that has a default back to it, and the correction curve to the line.
-void ResetDesign();
+void ResetDesign(DesignRecord& design);
 
 // Makes the correction curve the straight line through its seven usual points, all slopes 1.
-void SetLinearCurve();
-void SetLinearPairs(); // the same without its slopes
+void SetLinearCurve(DesignRecord& design);
+void SetLinearPairs(DesignRecord& design); // the same without its slopes
 
 // Repairs what a file may have brought and forces what the program does not offer: one scale, its
 // law linear, its colour the default, the font "Arial". Returns 0.
-int NormalizeDesign();
+int NormalizeDesign(DesignRecord& design);
 
 // VersionText, ProgramName and the screen factors, from the screen's size.
-void SetVersionAndScreenScale();
+void SetVersionAndScreenScale(DesignRecord& design);
 
 } // namespace vernacle

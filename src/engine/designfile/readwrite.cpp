@@ -205,10 +205,10 @@ void ReadDesign(const std::string& name, const ReadReports& reports) {
     try {
         const std::string bytes = ReadBytes(name, reports);
         stage = kStageReset;
-        ResetDesign();
+        ResetDesign(Design);
         DesignReader(FromFileBytes(bytes), stage, reports).Read();
     } catch (const RunTimeError&) {
-        ResetDesign();
+        ResetDesign(Design);
         ReportFailure("We were not successful in reading that Vernacle file.\n"
                       "Default values for all items have been put in place.\n\nReadWrite " +
                       std::to_string(stage));

@@ -163,8 +163,8 @@ private:
 void SetDefaults() {
     Design.ScreenScaleX = kSquareScreenScale;
     Design.ScreenScaleY = kSquareScreenScale;
-    SetOpeningValues();
-    ResetDesign();
+    SetOpeningValues(Design);
+    ResetDesign(Design);
     Design.AspectRatio = 1;
 }
 

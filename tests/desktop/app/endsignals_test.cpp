@@ -97,8 +97,8 @@ private:
         Host.screenSize = desktop.screenSize;
         SetForms(ProgramForms());
         KeepSessionAtTheSystemsEnd();
-        SetVersionAndScreenScale();
-        ResetDesign();
+        SetVersionAndScreenScale(Design);
+        ResetDesign(Design);
         Design.ActiveScale = 1;
         QTimer::singleShot(0, &application, [&] {
             GoToPage(page);

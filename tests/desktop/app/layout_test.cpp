@@ -58,7 +58,7 @@ protected:
             return ScreenSize{static_cast<float>(screen.width()) * kTwipsPerPixel,
                               static_cast<float>(screen.height()) * kTwipsPerPixel};
         };
-        SetVersionAndScreenScale();
+        SetVersionAndScreenScale(Design);
         form_ = MakeForm(name);
         if (qobject_cast<QDialog*>(form_.get())) {
             form_->show();

@@ -178,9 +178,9 @@ TEST_F(RunTimeErrorTest, AScaleWithoutTicsEndsTheProgramWhereNothingRepairsIt) {
     Design = DesignRecord{};
     Host = DesktopHost();
     SetForms(ProgramForms());
-    SetVersionAndScreenScale();
-    SetOpeningValues();
-    ResetDesign();
+    SetVersionAndScreenScale(Design);
+    SetOpeningValues(Design);
+    ResetDesign(Design);
     const int status = RunWith([] {
         Design.NrOfTicmarks[1] = 0;
         GoToPage("frmPreview");

@@ -69,7 +69,7 @@ protected:
         Host.screenSize = [=] {
             return ScreenSize{static_cast<float>(width * 15), static_cast<float>(height * 15)};
         };
-        SetVersionAndScreenScale();
+        SetVersionAndScreenScale(Design);
     }
 
     static QImage DrawnPlate(const QSize& size) {

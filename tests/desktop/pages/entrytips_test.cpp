@@ -120,7 +120,7 @@ class EntryTipsTest : public DrawingPageTest {
 protected:
     // Over a new design.
     void Open(const TipPage& page) {
-        ResetDesign();
+        ResetDesign(Design);
         Design.ActiveScale = Design.CurrentScale = Design.NumberOfScales = 1;
         OpenPage(page.form);
         EnableAll();

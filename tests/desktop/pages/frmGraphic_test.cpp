@@ -398,7 +398,7 @@ TEST_F(GraphicPageTest, OpenReadsWithTheFirstScaleActive) {
     Design.GraphicFileName = "MARK.BMP";
     Design.DesignFileName = Path("graphic.VRN");
     WriteDesign();
-    ResetDesign();
+    ResetDesign(Design);
     OpenPage("frmGraphic");
     Design.ActiveScale = 3;
     Answer(TypeFile(Path("graphic.VRN")));

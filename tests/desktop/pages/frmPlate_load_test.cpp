@@ -89,7 +89,7 @@ constexpr LoadedValue kLoaded[] = {
 TEST_F(PlateLoadTest, ValuesAreRepairedThenShownThenHeldToTheLimits) {
     for (const LoadedValue& value : kLoaded) {
         SCOPED_TRACE(std::string(value.stem) + " " + PlainNumber(value.stored));
-        ResetDesign();
+        ResetDesign(Design);
         const Measure& measure = MeasureOf(value.stem);
         measure.Value() = value.stored;
         OpenPlate();

@@ -84,7 +84,7 @@ const LoadRow kLoads[] = {
 
 TEST_F(PreviewPageTest, LoadForcesValues) {
     for (const LoadRow& row : kLoads) {
-        ResetDesign();
+        ResetDesign(Design);
         row.before();
         OpenPreview();
         EXPECT_TRUE(row.after()) << row.name;

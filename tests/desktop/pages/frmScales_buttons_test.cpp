@@ -191,7 +191,7 @@ TEST_F(ScalesButtonsTest, ScaleWithoutAnOptionTakesItsColourToo) {
 TEST_F(ScalesButtonsTest, RevertTakesOverTheScaleBehindTheLastWithText) {
     for (const int scales : {1, 3}) {
         SCOPED_TRACE(scales);
-        ResetDesign();
+        ResetDesign(Design);
         const int behind = scales + 1;
         GiveOwnValues(behind);
         Design.ScaleColor[behind] = -kRed;

@@ -104,7 +104,7 @@ constexpr LoadedValue kLoaded[] = {
 TEST_F(ScalesLoadTest, ValuesAreShownAndThenHeldToTheirLimits) {
     for (const LoadedValue& value : kLoaded) {
         SCOPED_TRACE(std::string(value.stem) + " " + value.shown);
-        ResetDesign();
+        ResetDesign(Design);
         StoreIn(EntryOf(value.stem).field.In(Design, 1), value.stored);
         OpenScales();
         EXPECT_EQ(TextOf(EntryOf(value.stem).Box()), value.shown);
@@ -314,7 +314,7 @@ TEST_F(ScalesLoadTest, CountOfTicsThatCannotBeComputedFailsTheLoad) {
     for (const Row& row : kRows) {
         SCOPED_TRACE(std::to_string(row.tics) + " tics on " + std::to_string(row.scale) + " of " +
                      std::to_string(row.scales));
-        ResetDesign();
+        ResetDesign(Design);
         Design.NrOfTicmarks[row.scale] = static_cast<std::int16_t>(row.tics);
         Design.NumberOfScales = static_cast<std::int16_t>(row.scales);
         if (row.fails) {
@@ -389,7 +389,7 @@ TEST_F(ScalesLoadTest, DesignThatIsOpenedStartsWithTheFirstScale) {
     Design.DesignFileName = Path("other.VRN");
     Design.ScaleTitle[1] = "Ohms";
     SaveDesign(Design.DesignFileName);
-    ResetDesign();
+    ResetDesign(Design);
     Design.ActiveScale = 3;
     OpenScales(3);
     Answer([this](QWidget& dialog) {

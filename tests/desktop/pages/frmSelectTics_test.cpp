@@ -251,7 +251,7 @@ TEST_F(SelectTicsTest, LongLabelsAreCutInTheDetailsAndHideTheFlag) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.label);
-        ResetDesign();
+        ResetDesign(Design);
         OpenPage("frmScales");
         Design.StandardLabel[1][10] = row.label;
         OnFormAbove([&](QWidget&) {

@@ -140,7 +140,7 @@ TEST_F(TextPageTest, EveryKeyOfTheToolbarGivesTheTextsBack) {
     for (const char* key : {"Save", "Plate", "Scales", "Text", "Graphic", "Highlights", "Preview",
                             "Help", "Exit", "About"}) {
         SCOPED_TRACE(key);
-        ResetDesign();
+        ResetDesign(Design);
         Design.TextString[1].clear();
         OpenText();
         Type("txtText", "mark");
@@ -164,7 +164,7 @@ TEST_F(TextPageTest, OpenGivesThemBackBeforeItReads) {
     EXPECT_EQ(Design.TextString[1], "mark");
     const std::string file = Path("empty.VRN");
     const DesignRecord kept = Design;
-    ResetDesign();
+    ResetDesign(Design);
     Design.TextString[1] = "of the file";
     Design.NumberOfTexts = 1;
     Design.DesignFileName = file;
@@ -663,7 +663,7 @@ TEST_F(TextPageTest, FreeTextsReachThePlotter) {
     Design.NumberOfTexts = 2;
     Design.DesignFileName = Path("texts.VRN");
     WriteDesign();
-    ResetDesign();
+    ResetDesign(Design);
     for (const int entry : {1, 2}) {
         GiveText(entry, "", 10, 10, 1);
     }

@@ -154,7 +154,7 @@ TEST_F(SpecialPageTest, FaultsAreCorrectedAndToldInTwoWays) {
     const FaultRow rows[] = {{"1.5", "1", 1, "."}, {"-0.1", "0", 0, ""}};
     for (const FaultRow& row : rows) {
         SCOPED_TRACE(row.typed);
-        ResetDesign();
+        ResetDesign(Design);
         OpenSpecial();
         TypeRow(1, row.typed, "x");
         said.clear();

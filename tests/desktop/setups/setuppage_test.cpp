@@ -67,7 +67,7 @@ TEST_F(SetupPageTest, EnteringBacksTheDesignUpAndNamesTheScale) {
     for (const SetupRow& row : kSetups) {
         SCOPED_TRACE(row.page);
         std::filesystem::remove(Path("Backup.DAT"));
-        ResetDesign();
+        ResetDesign(Design);
         Design.DesignFileName = "/designs/mine.VRN";
         Design.PlateWidth = 63;
         WalkTo(row);
@@ -86,7 +86,7 @@ TEST_F(SetupPageTest, EnteringBacksTheDesignUpAndNamesTheScale) {
 TEST_F(SetupPageTest, BackupIsTakenBeforeTheFirstWrite) {
     for (const SetupRow& row : kSetups) {
         SCOPED_TRACE(row.page);
-        ResetDesign();
+        ResetDesign(Design);
         Design.NumberOfScales = 2;
         Design.ScaleColor[2] = -5;
         Design.SpecialNrOfTicmarks[2] = 3;
@@ -109,7 +109,7 @@ TEST_F(SetupPageTest, BackupIsTakenBeforeTheFirstWrite) {
 TEST_F(SetupPageTest, AcceptMarksBeforeTheScalesPageLoads) {
     for (const SetupRow& row : kSetups) {
         SCOPED_TRACE(row.page);
-        ResetDesign();
+        ResetDesign(Design);
         Design.ActiveScale = 1;
         WalkTo(row);
         MakeTics(row);
@@ -126,7 +126,7 @@ TEST_F(SetupPageTest, AcceptMarksBeforeTheScalesPageLoads) {
 TEST_F(SetupPageTest, ScalesPageClearsTheMarkOfTheActiveScale) {
     for (const SetupRow& row : kSetups) {
         SCOPED_TRACE(row.page);
-        ResetDesign();
+        ResetDesign(Design);
         Design.ActiveScale = 1;
         WalkTo(row);
         MakeTics(row);
@@ -142,7 +142,7 @@ TEST_F(SetupPageTest, ScalesPageClearsTheMarkOfTheActiveScale) {
 TEST_F(SetupPageTest, SpecialScalesKeepTheirColour) {
     for (const SetupRow& row : kSetups) {
         SCOPED_TRACE(row.page);
-        ResetDesign();
+        ResetDesign(Design);
         OpenSetup(row.page);
         MakeTics(row);
         Design.ScaleColor[1] = -0x804020;
@@ -155,7 +155,7 @@ TEST_F(SetupPageTest, SpecialScalesKeepTheirColour) {
 TEST_F(SetupPageTest, IgnoreBringsTheDesignBack) {
     for (const SetupRow& row : kSetups) {
         SCOPED_TRACE(row.page);
-        ResetDesign();
+        ResetDesign(Design);
         Design.DesignFileName = "/designs/mine.VRN";
         Design.PlateWidth = 63;
         Design.ScaleColor[1] = 0;
@@ -292,7 +292,7 @@ TEST_F(SetupPageTest, MissingBackupIsReportedAndTheScalesPageOpens) {
 TEST_F(SetupPageTest, AcceptedScalesGoThroughAFile) {
     for (const SetupRow& row : kSetups) {
         SCOPED_TRACE(row.page);
-        ResetDesign();
+        ResetDesign(Design);
         OpenSetup(row.page);
         MakeTics(row);
         Design.ActiveScale = 2;
@@ -308,7 +308,7 @@ TEST_F(SetupPageTest, AcceptedScalesGoThroughAFile) {
         const std::vector<float> deflections = DeflectionsOf(1, last);
         Design.DesignFileName = Path("first.VRN");
         WriteDesign();
-        ResetDesign();
+        ResetDesign(Design);
         ReadDesign(Path("first.VRN"));
         EXPECT_EQ(Design.SpecialNrOfTicmarks[1], last);
         EXPECT_EQ(Design.ScaleColor[1], -1);

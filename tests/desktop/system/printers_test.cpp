@@ -141,7 +141,7 @@ protected:
     PrintersTest() { Design.CalibrationX = Design.CalibrationY = 1; }
 
     static void ReadExample() {
-        SetOpeningValues();
+        SetOpeningValues(Design);
         ReadDesign(SourcePath("examples/VOLTS-0-15.VRN"));
         Design.CalibrationX = Design.CalibrationY = 1;
         ComputeTicDeflections(Design);

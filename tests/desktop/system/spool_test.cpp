@@ -259,7 +259,7 @@ TEST_F(SpoolTest, APrinterThatGoesAwayIsAFailure) {
 class PlotterPortTest : public SpoolTest {
 protected:
     void Plot(const PrinterPort& port) {
-        SetOpeningValues();
+        SetOpeningValues(Design);
         ReadDesign(SourcePath("examples/VOLTS-0-15.VRN"));
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);

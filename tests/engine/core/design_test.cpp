@@ -212,7 +212,7 @@ TEST_F(DesignTest, TablesHaveTheirBounds) {
 
 TEST_F(DesignTest, OpeningValuesCoverTheirFieldsAlone) {
     PoisonDesign();
-    SetOpeningValues();
+    SetOpeningValues(Design);
     ExpectPlate(&PlateDefault::opening);
     for (int scale = 0; scale <= 8; ++scale) {
         const bool covered = scale >= 1 && scale <= 6;
@@ -240,13 +240,13 @@ TEST_F(DesignTest, OpeningValuesCoverTheirFieldsAlone) {
 
 TEST_F(DesignTest, ResetCoversTheFieldsOfThePlate) {
     PoisonDesign();
-    ResetDesign();
+    ResetDesign(Design);
     ExpectPlate(&PlateDefault::reset);
 }
 
 TEST_F(DesignTest, ResetCoversSixScales) {
     PoisonDesign();
-    ResetDesign();
+    ResetDesign(Design);
     const char* ceilings[] = {"", "35", "40", "45", "50", "55", "60"};
     const char* titles[] = {"", "30", "35", "40", "45", "50", "55"};
     for (int scale = 1; scale <= 6; ++scale) {
@@ -275,7 +275,7 @@ TEST_F(DesignTest, ResetCoversSixScales) {
 
 TEST_F(DesignTest, ResetCoversAllTicsOfSixScales) {
     PoisonDesign();
-    ResetDesign();
+    ResetDesign(Design);
     for (int scale = 0; scale <= 8; ++scale) {
         const bool covered = scale >= 1 && scale <= 6;
         SCOPED_TRACE(scale);
@@ -295,7 +295,7 @@ TEST_F(DesignTest, ResetCoversAllTicsOfSixScales) {
 
 TEST_F(DesignTest, ResetCoversAllTextsAndHighlights) {
     PoisonDesign();
-    ResetDesign();
+    ResetDesign(Design);
     for (int index = 1; index <= 10; ++index) {
         ExpectBlock(kTextFields, index,
                     {{"TextString", ""},
@@ -314,7 +314,7 @@ TEST_F(DesignTest, ResetCoversAllTextsAndHighlights) {
 
 TEST_F(DesignTest, ResetEmptiesTheDeletedListsOfFourScales) {
     PoisonDesign();
-    ResetDesign();
+    ResetDesign(Design);
     for (int scale = 1; scale <= 6; ++scale) {
         const int expected = scale <= 4 ? 0 : 77;
         SCOPED_TRACE(scale);
@@ -341,20 +341,20 @@ void ExpectLinearCurve() {
 
 TEST_F(DesignTest, ResetMakesTheCurveStraight) {
     PoisonDesign();
-    ResetDesign();
+    ResetDesign(Design);
     ExpectLinearCurve();
 }
 
 TEST_F(DesignTest, TheStraightCurveHasSevenPoints) {
     PoisonDesign();
-    SetLinearCurve();
+    SetLinearCurve(Design);
     ExpectLinearCurve();
     EXPECT_EQ(Design.PlateWidth, 77);
 }
 
 TEST_F(DesignTest, ScreenFactorsComeFromTheScreen) {
     Host.screenSize = [] { return ScreenSize{24000, 13500}; };
-    SetVersionAndScreenScale();
+    SetVersionAndScreenScale(Design);
     EXPECT_EQ(Design.VersionText, "Version 3.04");
     EXPECT_EQ(Design.ProgramName, "Vernacle");
     EXPECT_EQ(Design.ScreenScaleX, 2);

@@ -11,7 +11,7 @@ namespace {
 
 class NormalizeTest : public EngineTest {
 protected:
-    NormalizeTest() { ResetDesign(); }
+    NormalizeTest() { ResetDesign(Design); }
 };
 
 struct Repaired {
@@ -23,7 +23,7 @@ template <typename T>
 void ExpectRepairs(const char* name, T& field, const std::vector<Repaired>& rows) {
     for (const auto& [value, becomes] : rows) {
         field = static_cast<T>(value);
-        NormalizeDesign();
+        NormalizeDesign(Design);
         EXPECT_EQ(field, static_cast<T>(becomes)) << name << " " << value;
     }
 }
@@ -78,7 +78,7 @@ TEST_F(NormalizeTest, HoldsTheGraphic) {
 TEST_F(NormalizeTest, HoldsTheGraphicsBottomToItsRepairedHeight) {
     Design.GraphicHeight = 500;
     Design.BottomToGraphic = 100;
-    NormalizeDesign();
+    NormalizeDesign(Design);
     EXPECT_EQ(Design.GraphicHeight, 180);
     EXPECT_EQ(Design.BottomToGraphic, 180);
 }
@@ -106,7 +106,7 @@ TEST_F(NormalizeTest, ForcesWhatTheProgramDoesNotOffer) {
     ExpectRepairs("LinearityExponent", Design.LinearityExponent[1], {{0, 1}, {2, 1}, {-4, 1}});
     ExpectRepairs("ScaleColor", Design.ScaleColor[1], {{255, 0}, {-1, 0}, {0, 0}});
     Design.FontName = "Courier New";
-    NormalizeDesign();
+    NormalizeDesign(Design);
     EXPECT_EQ(Design.FontName, "Arial");
 }
 
@@ -124,20 +124,20 @@ TEST_F(NormalizeTest, FillsEmptyTexts) {
     };
     for (const Row& row : rows) {
         row.field.clear();
-        NormalizeDesign();
+        NormalizeDesign(Design);
         EXPECT_EQ(row.field, row.filling);
         row.field = row.kept;
-        NormalizeDesign();
+        NormalizeDesign(Design);
         EXPECT_EQ(row.field, row.kept);
     }
 }
 
 TEST_F(NormalizeTest, ADefaultTitleNamesTheScaleAndAnEmptyOneItsNumber) {
     EXPECT_EQ(Design.ScaleTitle[1], "Default Scale 1");
-    NormalizeDesign();
+    NormalizeDesign(Design);
     EXPECT_EQ(Design.ScaleTitle[1], "Default Scale 1");
     Design.ScaleTitle[1].clear();
-    NormalizeDesign();
+    NormalizeDesign(Design);
     EXPECT_EQ(Design.ScaleTitle[1], "Default 1");
 }
 
@@ -147,7 +147,7 @@ TEST_F(NormalizeTest, LeavesTheOtherScalesAlone) {
     Design.LinearityExponent[2] = 3;
     Design.ScaleTitle[2].clear();
     Design.BottomToTitle[2] = -300;
-    NormalizeDesign();
+    NormalizeDesign(Design);
     EXPECT_EQ(Design.ScaleColor[2], -255);
     EXPECT_EQ(Design.NrOfTicmarks[2], 400);
     EXPECT_EQ(Design.LinearityExponent[2], 3);
@@ -156,7 +156,7 @@ TEST_F(NormalizeTest, LeavesTheOtherScalesAlone) {
 }
 
 TEST_F(NormalizeTest, ChangesNothingElseInADefaultDesign) {
-    EXPECT_EQ(NormalizeDesign(), 0);
+    EXPECT_EQ(NormalizeDesign(Design), 0);
     EXPECT_EQ(Design.PlateWidth, 75);
     EXPECT_EQ(Design.PlateHeight, 50);
     EXPECT_EQ(Design.PointerDeflection, 99);

@@ -19,7 +19,7 @@ constexpr Point kBent[] = {{0, 0},       {0.125F, 0.25F},   {0.25F, 0.375F},
 
 class CurveTest : public EngineTest {
 protected:
-    CurveTest() { ResetDesign(); }
+    CurveTest() { ResetDesign(Design); }
 
     static void UseBentCurve() {
         for (int point = 1; point <= 7; ++point) {

@@ -16,7 +16,7 @@ constexpr const char* kNotRead = "failure: We did not read the linearity-correct
 
 class CurveFileTest : public EngineTest {
 protected:
-    CurveFileTest() { ResetDesign(); }
+    CurveFileTest() { ResetDesign(Design); }
 
     void Read(const std::string& text) { ReadCorrectionFile(Design, WriteFile("curve.cor", text)); }
 
@@ -99,7 +99,7 @@ TEST_F(CurveFileTest, AFileReadsAsItWasWritten) {
         Design.CorrectionPair[entry] = written[entry - 1];
     }
     WriteCorrectionFile(Design, Path("curve.cor"));
-    ResetDesign();
+    ResetDesign(Design);
     ReadCorrectionFile(Design, Path("curve.cor"));
     EXPECT_TRUE(said.empty());
     for (int entry = 1; entry <= 8; ++entry) {
@@ -145,7 +145,7 @@ TEST_F(CurveFileTest, FiveCharactersMakeTheHeader) {
     };
     for (const auto& [header, reads] : kRows) {
         said.clear();
-        ResetDesign();
+        ResetDesign(Design);
         Read(std::string(header) + "\nd\n1\nh\n.5 .6\n");
         if (reads) {
             EXPECT_TRUE(said.empty()) << header;
@@ -179,7 +179,7 @@ TEST_F(CurveFileTest, AnEarlyEndIsAFailureThatKeepsThePointsRead) {
     for (std::size_t count = 0; count < lines.size(); ++count) {
         SCOPED_TRACE(count);
         said.clear();
-        ResetDesign();
+        ResetDesign(Design);
         Read(text + "* no line of the curve\n\n");
         EXPECT_EQ(said, (std::vector<std::string>{"beep", kNotRead}));
         EXPECT_EQ(Design.NumberOfCorrectionPoints, count > 2 ? 3 : 7);
@@ -213,7 +213,7 @@ TEST_F(CurveFileTest, CountsOfEverySize) {
     for (const auto& [count, reads, counted] : kRows) {
         SCOPED_TRACE(count);
         said.clear();
-        ResetDesign();
+        ResetDesign(Design);
         Design.CorrectionPair[20] = 0;
         Read(std::string("Meter\nd\n") + count + "\nh\n" + points);
         EXPECT_EQ(said.empty(), reads);

@@ -11,7 +11,7 @@ namespace {
 
 class CurvePlotTest : public EngineTest {
 protected:
-    CurvePlotTest() { ResetDesign(); }
+    CurvePlotTest() { ResetDesign(Design); }
 
     static void Put(int point, float current, float deflection) {
         Design.CorrectionPair[2 * point + 1] = current;
@@ -118,7 +118,7 @@ TEST_F(CurvePlotTest, ACurveMustNotFall) {
         {2, 0.4F, 0.5F, CurveVerdict::Allowed},
     };
     for (const VerdictRow& row : rows) {
-        SetLinearCurve();
+        SetLinearCurve(Design);
         Put(row.point, row.current, row.deflection);
         EXPECT_EQ(Draw(), row.verdict) << row.point << " " << row.current << " " << row.deflection;
         EXPECT_EQ(LinesIn("111199"), row.verdict == CurveVerdict::Allowed ? 6U : 0U);

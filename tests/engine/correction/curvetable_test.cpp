@@ -9,7 +9,7 @@ namespace {
 
 class CurveTableTest : public EngineTest {
 protected:
-    CurveTableTest() { ResetDesign(); }
+    CurveTableTest() { ResetDesign(Design); }
 
     // As the table makes it.
     static std::string Row(int row) {

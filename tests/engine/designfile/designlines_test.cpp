@@ -25,7 +25,7 @@ private:
 
 class DesignLinesTest : public EngineTest {
 protected:
-    DesignLinesTest() { ResetDesign(); }
+    DesignLinesTest() { ResetDesign(Design); }
 
     static std::vector<Visited> Walked() {
         RecordingWalker walker;

@@ -12,7 +12,7 @@ namespace {
 
 class LineDoubtsTest : public EngineTest {
 protected:
-    LineDoubtsTest() { ResetDesign(); }
+    LineDoubtsTest() { ResetDesign(Design); }
 
     using Reports = std::vector<std::string>;
 

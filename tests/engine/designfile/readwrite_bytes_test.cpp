@@ -11,7 +11,7 @@ namespace {
 class WrittenDesignTest : public EngineTest {
 protected:
     WrittenDesignTest() {
-        ResetDesign();
+        ResetDesign(Design);
         Design.FontName = "Arial";
     }
 

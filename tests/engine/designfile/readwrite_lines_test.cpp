@@ -158,7 +158,7 @@ TEST_F(ReadLineTest, TheLinesOfTextsTakeLeadingNumbersOfAnyLength) {
 
 TEST_F(ReadLineTest, AWidthInExponentFormLoadsAsTheDefault) {
     Design.FontName = "Arial";
-    ResetDesign();
+    ResetDesign(Design);
     Design.DesignFileName = Path("plate.vrn");
     Design.PlateWidth = 0.03333333F;
     Design.NumberOfTexts = 1;
@@ -318,7 +318,7 @@ TEST_F(ReadLineTest, EightScalesFitAndASeventhAndEighthHaveNoDefaults) {
     EXPECT_EQ(Design.ScaleTitle[8], "t8");
     EXPECT_EQ(Design.RelativeFontSize[8], 8);
     EXPECT_EQ(Design.AspectRatio, 1.5F);
-    NormalizeDesign();
+    NormalizeDesign(Design);
     EXPECT_EQ(Design.NumberOfScales, 1);
 }
 

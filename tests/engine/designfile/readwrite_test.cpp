@@ -21,7 +21,7 @@ const std::vector<std::string> kNotWritten = {
 
 class ReadWriteTest : public EngineTest {
 protected:
-    ReadWriteTest() { ResetDesign(); }
+    ReadWriteTest() { ResetDesign(Design); }
 
     // The file behind the line of its name.
     std::string Body(const std::string& name) const {
@@ -236,7 +236,7 @@ TEST_F(ReadWriteTest, ReportsWhatItCannotGoThrough) {
     for (const Unwritable& row : kUnwritable) {
         SCOPED_TRACE(row.name);
         said.clear();
-        ResetDesign();
+        ResetDesign(Design);
         Design.DesignFileName = Path("plate.vrn");
         row.make();
         WriteDesign();

@@ -62,7 +62,7 @@ class SamplesTest : public RenderTest {
 protected:
     SamplesTest() {
         Host.screenSize = [] { return ScreenSize{28800, 16200}; };
-        SetVersionAndScreenScale();
+        SetVersionAndScreenScale(Design);
     }
 
     const RecordingSurface& Draw(Sample sample) {
@@ -206,10 +206,10 @@ TEST_F(SamplesTest, DesignAndDrawingAreGivenBackWhenTheSurfaceFails) {
 TEST_F(SamplesTest, UsersDesignDoesNotShowThrough) {
     for (const Sample sample : kAll) {
         SCOPED_TRACE(static_cast<int>(sample));
-        ResetDesign();
+        ResetDesign(Design);
         const Calls calls = Draw(sample).calls;
         Disturb();
-        SetLinearCurve();
+        SetLinearCurve(Design);
         Design.CorrectionPair[6] = 0.9F;
         Design.RelativeFontSize[1] = 5;
         Design.PlateBackground = 1;
@@ -346,7 +346,7 @@ TEST_F(SamplesTest, AreTheSameOnEveryScreen) {
     const std::vector<std::string> usual = Draw(Sample::RotatedBearing).calls;
     for (const ScreenSize& screen : {ScreenSize{15360, 11520}, {36000, 9000}, {57600, 32400}}) {
         Host.screenSize = [screen] { return screen; };
-        SetVersionAndScreenScale();
+        SetVersionAndScreenScale(Design);
         const float before = Design.ScreenScaleY;
         EXPECT_EQ(Draw(Sample::RotatedBearing).calls, usual) << screen.widthTwips;
         EXPECT_EQ(Design.ScreenScaleY, before);

@@ -108,9 +108,9 @@ TEST_F(SchematicTest, NothingLeavesItsArea) {
 }
 
 TEST_F(SchematicTest, DesignHasNoPartInIt) {
-    SetOpeningValues();
+    SetOpeningValues(Design);
     const std::vector<std::string> calls = Draw(6).calls;
-    ResetDesign();
+    ResetDesign(Design);
     Design.PlateWidth = 33;
     Design.PlateStyle = 1;
     Design.PointerDeflection = 240;

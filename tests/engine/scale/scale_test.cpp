@@ -12,7 +12,7 @@ namespace {
 
 class ScaleTest : public EngineTest {
 protected:
-    ScaleTest() { ResetDesign(); }
+    ScaleTest() { ResetDesign(Design); }
 
     static void Compute() {
         ComputeTicDeflections(Design);
@@ -105,7 +105,7 @@ TEST_F(ScaleTest, LabelsStandAtMultiples) {
         {-1, 2, ""},
     };
     for (const auto& [tics, every, labels] : kRows) {
-        ResetDesign();
+        ResetDesign(Design);
         Design.NrOfTicmarks[1] = tics;
         Design.LabelsEveryHowMany[1] = every;
         Design.ScaleLengthUnits[1] = 7;
@@ -291,7 +291,7 @@ TEST_F(ScaleTest, AListHoldsThreeHundredAndSixtyDeletions) {
     for (int scale = 1; scale <= 6; ++scale) {
         for (auto* flags : {&Design.StandardTicYN, &Design.StandardLabelYN}) {
             SCOPED_TRACE(scale);
-            ResetDesign();
+            ResetDesign(Design);
             for (int tic = 1; tic <= 360; ++tic) {
                 (*flags)[scale][tic] = "N";
             }

@@ -11,7 +11,7 @@ namespace {
 class TicRowsTest : public EngineTest {
 protected:
     TicRowsTest() {
-        ResetDesign();
+        ResetDesign(Design);
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);
     }

@@ -12,8 +12,8 @@ namespace vernacle::test {
 class SetupTablesTest : public EngineTest {
 protected:
     SetupTablesTest() {
-        SetOpeningValues();
-        ResetDesign();
+        SetOpeningValues(Design);
+        ResetDesign(Design);
     }
 };
 

@@ -9,8 +9,8 @@ namespace {
 class NudgesTest : public EngineTest {
 protected:
     NudgesTest() {
-        SetOpeningValues();
-        ResetDesign();
+        SetOpeningValues(Design);
+        ResetDesign(Design);
         Design.BottomToBearing = 30;
         Design.PlateHeight = 50;
         Design.MinorTicLength = 2;

@@ -9,8 +9,8 @@ namespace {
 class WizardStepsTest : public EngineTest {
 protected:
     WizardStepsTest() {
-        SetOpeningValues();
-        ResetDesign();
+        SetOpeningValues(Design);
+        ResetDesign(Design);
         Design.PlateWidth = 100;
         Design.PlateHeight = 80;
         Design.MajorTicLength = 4;
