@@ -99,7 +99,7 @@ bool Load(const std::string& file) {
     Host.readFile = [&file](const std::string&) { return file; };
     SetVersionAndScreenScale(Design);
     SetOpeningValues(Design);
-    ReadDesign("design");
+    ReadDesign(Design, "design");
     Design.CalibrationX = Design.CalibrationY = 1;
     try {
         NormalizeDesign(Design);

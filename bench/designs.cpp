@@ -10,7 +10,7 @@ namespace vernacle::bench {
 void LoadDense() {
     SetVersionAndScreenScale(Design);
     SetOpeningValues(Design);
-    ReadDesign(VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
+    ReadDesign(Design, VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
     NormalizeDesign(Design);
     HoldAspectRatio();
     ComputeTicDeflections(Design);

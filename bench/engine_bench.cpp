@@ -55,7 +55,7 @@ void ReadDense(benchmark::State& state) {
     std::string bytes = ReadWholeFile(VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
     Host.readFile = [bytes = std::move(bytes)](const std::string&) -> std::string { return bytes; };
     for ([[maybe_unused]] auto _ : state) {
-        ReadDesign("dense");
+        ReadDesign(Design, "dense");
     }
     Host = DefaultHost();
 }
@@ -65,7 +65,7 @@ void WriteDense(benchmark::State& state) {
     LoadDense();
     Host.openForOutput = [](const std::string&) { return std::make_unique<CountingSink>(); };
     for ([[maybe_unused]] auto _ : state) {
-        WriteDesign();
+        WriteDesign(Design);
     }
     Host = DefaultHost();
 }

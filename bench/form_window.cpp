@@ -16,7 +16,7 @@ void OpenDesign(const char* path) {
     SetVersionAndScreenScale(Design);
     SetOpeningValues(Design);
     Design.DesignFileName = path;
-    ReadDesign(path);
+    ReadDesign(Design, path);
     Design.ActiveScale = 1;
 }
 

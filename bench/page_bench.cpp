@@ -32,7 +32,7 @@ double ResidentMemory() {
 
 EntryBox& OpenScalesPage(const char* box) {
     Design.DesignFileName = VERNACLE_EXAMPLES "/DEGREES-0-360.VRN";
-    ReadDesign(Design.DesignFileName);
+    ReadDesign(Design, Design.DesignFileName);
     Design.ActiveScale = 1;
     GoToPage("frmScales");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the page before

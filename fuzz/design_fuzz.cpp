@@ -19,8 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::ServeAsFile(data, size);
     Host.openForOutput = [](const std::string&) { return std::make_unique<NoSink>(); };
     const LineReport hear = [](int /*line*/, const std::string& /*reason*/) {};
-    ReadDesign("design", {.doubt = hear, .failure = hear});
-    WriteDesign();
+    ReadDesign(Design, "design", {.doubt = hear, .failure = hear});
+    WriteDesign(Design);
     try {
         NormalizeDesign(Design);
         ComputeTicDeflections(Design);

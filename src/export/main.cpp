@@ -157,8 +157,9 @@ bool ReadInputs(const Arguments& arguments, Progress& progress) {
                         SayingFor(*arguments.calibration, progress.doubted));
     }
     Design.DesignFileName = arguments.design;
-    ReadDesign(arguments.design, {.doubt = SayingFor(arguments.design, progress.doubted),
-                                  .failure = SayingFor(arguments.design, progress.failed)});
+    ReadDesign(Design, arguments.design,
+               {.doubt = SayingFor(arguments.design, progress.doubted),
+                .failure = SayingFor(arguments.design, progress.failed)});
     if (progress.doubted && arguments.strict && !progress.failed) {
         Say(std::string(kProgram) + "nothing was written");
         return false;

@@ -72,7 +72,7 @@ void WritePng(const std::string& path, const Arguments& arguments) {
 
 void WriteVrn(const std::string& path, const Arguments& /*arguments*/) {
     Design.DesignFileName = path;
-    WriteDesign();
+    WriteDesign(Design);
 }
 
 void WriteCsv(const std::string& path, const Arguments& /*arguments*/) {

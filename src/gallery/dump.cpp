@@ -194,10 +194,7 @@ constexpr Field kFields[] = {
     {"VersionText", DumpField<&DesignRecord::VersionText>},
     {"ScreenScaleX", DumpField<&DesignRecord::ScreenScaleX>},
     {"ScreenScaleY", DumpField<&DesignRecord::ScreenScaleY>},
-    {"ScratchText", DumpField<&DesignRecord::ScratchText>},
-    {"SharedIndex", DumpField<&DesignRecord::SharedIndex>},
     {"SharedIndex2", DumpField<&DesignRecord::SharedIndex2>},
-    {"ScaleLoop", DumpField<&DesignRecord::ScaleLoop>},
     {"TicLoop", DumpField<&DesignRecord::TicLoop>},
 };
 

@@ -61,7 +61,7 @@ void Prepare(const Arguments& arguments) {
     Design.ActiveScale = 1;
     if (!arguments.design.empty()) {
         Design.DesignFileName = arguments.design;
-        ReadDesign(arguments.design);
+        ReadDesign(Design, arguments.design);
     }
     ComputeScales();
     Design.CurrentScale = Design.ActiveScale; // as the scales page leaves it to a setup

@@ -211,9 +211,9 @@ TEST_F(DumpTest, EscapesTextsSoThatEachStaysOnItsLine) {
         {"µA \xC2\xB0", "\"µA \xC2\xB0\""},      {"\xFF", "\"\xFF\""},
     };
     for (const auto& [text, dumped] : rows) {
-        Design.ScratchText = Design.ScaleTitle[1] = text;
+        Design.ProgramName = Design.ScaleTitle[1] = text;
         Design.PrintTicsAndArcs[1] = text;
-        EXPECT_EQ(LinesOf("ScratchText"), Lines{std::string("ScratchText = ") + dumped});
+        EXPECT_EQ(LinesOf("ProgramName"), Lines{std::string("ProgramName = ") + dumped});
         EXPECT_EQ(LinesOf("ScaleTitle"), Lines{std::string("ScaleTitle[1] = ") + dumped});
         EXPECT_EQ(LinesOf("PrintTicsAndArcs"),
                   Lines{std::string("PrintTicsAndArcs[1] = ") + dumped});

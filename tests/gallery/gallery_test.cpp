@@ -85,7 +85,7 @@ protected:
         ResetDesign(Design);
         change();
         Design.DesignFileName = Path("plate.VRN");
-        WriteDesign();
+        WriteDesign(Design);
         return Path("plate.VRN");
     }
 };

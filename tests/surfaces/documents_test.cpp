@@ -26,7 +26,7 @@ protected:
         SetOpeningValues(Design);
         Design.CalibrationX = Design.CalibrationY = 1;
         Design.DesignFileName = name;
-        ReadDesign(SourcePath("examples/" + name));
+        ReadDesign(Design, SourcePath("examples/" + name));
         NormalizeDesign(Design);
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);

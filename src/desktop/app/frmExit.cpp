@@ -79,7 +79,7 @@ void frmExit::cmdCancelClicked() {
 // Who was told that the session could not be kept may mend it, or go all the same.
 void frmExit::cmdExitClicked() {
     const std::string name = Design.DesignFileName;
-    if (SaveLastSession()) {
+    if (SaveLastSession(Design)) {
         cmdCancel_->setEnabled(false);
         cmdExit_->setEnabled(false);
         ShowNotice();

@@ -154,14 +154,14 @@ void frmOpening::cmdOldClicked() {
     Delay(kButtonDelay);
     Design.DesignFileName = AskForVernacleFile(this, "Get Vernacle File");
     ResetDesign(Design);
-    ReadDesign(Design.DesignFileName);
+    ReadDesign(Design, Design.DesignFileName);
     GoToPage("frmPreview");
 }
 
 void frmOpening::cmdLastSessionClicked() {
     Delay(kButtonDelay);
     Design.DesignFileName = LastSessionName();
-    ReadDesign(Design.DesignFileName);
+    ReadDesign(Design, Design.DesignFileName);
     Design.ActiveScale = 1;
     GoToPage("frmPreview");
 }

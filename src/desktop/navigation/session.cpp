@@ -7,7 +7,7 @@
 namespace vernacle {
 
 void SaveSessionAndEnd() {
-    SaveLastSession();
+    SaveLastSession(Design);
     JustEnd();
 }
 
@@ -18,7 +18,7 @@ void JustEnd() {
 
 bool KeepSession() {
     const auto* page = qobject_cast<const Page*>(CurrentPage());
-    return !page || !page->KeepsSession() || KeepLastSession();
+    return !page || !page->KeepsSession() || KeepLastSession(Design);
 }
 
 } // namespace vernacle

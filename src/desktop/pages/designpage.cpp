@@ -104,7 +104,7 @@ void DesignPage::OpenClicked() {
     if (Design.DesignFileName.empty()) {
         return;
     }
-    ReadDesign(Design.DesignFileName);
+    ReadDesign(Design, Design.DesignFileName);
     Design.ActiveScale = 1;
     ReloadPage();
 }
@@ -112,7 +112,7 @@ void DesignPage::OpenClicked() {
 void DesignPage::SaveClicked() {
     Design.DesignFileName =
         AskForNewVernacleFile(this, "Save Vernacle file", Design.DesignFileName);
-    SaveDesign(Design.DesignFileName);
+    SaveDesign(Design, Design.DesignFileName);
 }
 
 void DesignPage::PrintClicked() {

@@ -33,7 +33,7 @@ SetupPage::SetupPage(const SetupPageTraits& traits) : Page(traits.form), traits_
 }
 
 void SetupPage::EnterSetup() {
-    BackupDesign();
+    BackupDesign(Design);
     lblWorking_->setText(QString::fromStdString("Working with scale # " +
                                                 PlainNumber(std::int32_t{Design.CurrentScale})));
     if (traits_.readsBack && IsSpecial(Design, Scale())) {
@@ -71,7 +71,7 @@ void SetupPage::AcceptSetup() {
 }
 
 void SetupPage::IgnoreSetup() {
-    RestoreBackup();
+    RestoreBackup(Design);
     GoToPage(kScalesPage);
 }
 

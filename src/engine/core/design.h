@@ -140,13 +140,10 @@ struct DesignRecord {
     std::int16_t HelpTopic = 0;    // the illustration that the illustrated help shows
     std::string ProgramName;
     std::string VersionText;
-    float ScreenScaleX = 0;       // screen width in twips / 12000
-    float ScreenScaleY = 0;       // screen height in twips / 9000
-    std::string ScratchText;      // shared scratch text
-    std::int16_t SharedIndex = 0; // overwritten by ParseEntry and SplitField
-    std::int16_t SharedIndex2 = 0;
-    std::int16_t ScaleLoop = 0; // loop index of the file reader and writer
-    float TicLoop = 0;          // the drawing's loop index over tics
+    float ScreenScaleX = 0;        // screen width in twips / 12000
+    float ScreenScaleY = 0;        // screen height in twips / 9000
+    std::int16_t SharedIndex2 = 0; // the tic that a file's line deleted, or where a field ended
+    float TicLoop = 0;             // the tic selected among all
 };
 
 extern DesignRecord Design;

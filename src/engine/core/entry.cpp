@@ -11,7 +11,6 @@
 #include "engine/base/numbertext.h"
 #include "engine/base/runtimeerror.h"
 #include "engine/base/text.h"
-#include "engine/core/design.h"
 
 namespace vernacle {
 
@@ -135,9 +134,8 @@ void Parse(std::string& text, T& target) {
     }
     text = std::string(Trimmed(text));
     Accumulator accumulator;
-    const auto length = static_cast<std::int16_t>(text.size());
-    for (Design.SharedIndex = 1; Design.SharedIndex <= length; ++Design.SharedIndex) {
-        accumulator.Add(text[static_cast<std::size_t>(Design.SharedIndex - 1)]);
+    for (const char c : text) {
+        accumulator.Add(c);
         if (accumulator.IsClosed()) {
             break;
         }

@@ -13,7 +13,7 @@ namespace vernacle {
 
 // Turns forgiving text ("2k2", "1,5", "-1e-3") into a number and stores it in the target; bad text
 // gives 0 or the number found so far, a text of more than ten characters is ignored. Trims text in
-// place and overwrites Design.SharedIndex. Never fails: an overflow stores 1e10, held to the type.
+// place. Never fails: an overflow stores 1e10, held to the type.
 void ParseEntry(std::string& text, float& target);
 void ParseEntry(std::string& text, std::int16_t& target);
 void ParseEntry(std::string& text, std::int32_t& target);

@@ -64,7 +64,7 @@ void ForceStraightCurve(DesignRecord& design) {
     ComputeCorrectionSlopes(design);
 }
 
-void DropUndrawnGraphic(DesignRecord& design) {
+void DropUndrawnGraphic(DesignRecord& design, LinePlace /*place*/) {
     if (design.DrawGraphic == "N") {
         design.GraphicFileName.clear();
     }
@@ -72,7 +72,7 @@ void DropUndrawnGraphic(DesignRecord& design) {
 
 // Blocks 1 to this count are then written as the slots stand, full or not: a gap among the slots
 // costs the last ones.
-void CountHighlights(DesignRecord& design) {
+void CountHighlights(DesignRecord& design, LinePlace /*place*/) {
     design.NumberOfHighlights = 0;
     for (int slot = 1; slot <= kHighlights; ++slot) {
         if (design.HighlightStop[slot] > 0) {
@@ -81,8 +81,12 @@ void CountHighlights(DesignRecord& design) {
     }
 }
 
+void ListDeletions(DesignRecord& design, LinePlace /*place*/) {
+    CollectDeletedTics(design);
+}
+
 // A step between the lines.
-constexpr FileLine Step(int stage, DesignStep afterReading = nullptr) {
+constexpr FileLine Step(int stage, ReadingStep afterReading = nullptr) {
     return {nullptr, nullptr, Nowhere, nullptr, stage, afterReading};
 }
 
@@ -140,7 +144,7 @@ constexpr FileLine kSpecialScaleHead[] = {
 };
 
 constexpr FileLine kSpecialTic =
-    {"",                                 WriteTicFields,  Nowhere,                           ReadTicFields,   620};
+    {"",                                 WriteTicFields,  Nowhere,                           ReadTicFields,   620, nullptr, FillEmptyLabel};
 
 constexpr FileLine kSpecialScaleFoot[] = {
     {"Unlabelled ticmark at scale bottom Y/N: ",WriteTrimmed,    At<&D::UnlabelledBottomTic>,       ReadText,        625},
@@ -186,7 +190,7 @@ constexpr FileLine kBackground[] = {
 
 // The lists of scales 5 and 6 have no lines: deletions there do not outlive the session.
 constexpr FileLine kDeletedTics[kFiledLists] = {
-    {"Scale 1 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         750, nullptr, CollectDeletedTics},
+    {"Scale 1 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         750, nullptr, ListDeletions},
     {"Scale 2 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         760},
     {"Scale 3 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         770},
     {"Scale 4 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         780},
@@ -255,16 +259,16 @@ void FileWalker::VisitAll(const FileLine (&lines)[Count], LinePlace place) {
 
 void FileWalker::Walk() {
     VisitAll(kHead);
-    const int scales = Design.NumberOfScales;
-    for (Design.ScaleLoop = 1; Design.ScaleLoop <= scales; ++Design.ScaleLoop) {
-        WalkScale(Design.ScaleLoop);
+    const int scales = design_.NumberOfScales;
+    for (int scale = 1; scale <= scales; ++scale) {
+        WalkScale(scale);
     }
     VisitAll(kPlateTail);
-    for (int text = 1, last = Design.NumberOfTexts; text <= last; ++text) {
+    for (int text = 1, last = design_.NumberOfTexts; text <= last; ++text) {
         VisitAll(kText, {text});
     }
     Visit(kHighlightCount, {});
-    for (int highlight = 1, last = Design.NumberOfHighlights; highlight <= last; ++highlight) {
+    for (int highlight = 1, last = design_.NumberOfHighlights; highlight <= last; ++highlight) {
         VisitAll(kHighlight, {highlight});
     }
     VisitAll(kBackground);
@@ -281,12 +285,12 @@ void FileWalker::Walk() {
 
 void FileWalker::WalkScale(int scale) {
     Visit(kScaleColor, {scale});
-    if (Design.ScaleColor[scale] >= 0) {
+    if (design_.ScaleColor[scale] >= 0) {
         VisitAll(kStandardScale, {scale});
         return;
     }
     VisitAll(kSpecialScaleHead, {scale});
-    for (int tic = 0, last = Design.SpecialNrOfTicmarks[scale]; tic <= last; ++tic) {
+    for (int tic = 0, last = design_.SpecialNrOfTicmarks[scale]; tic <= last; ++tic) {
         Visit(kSpecialTic, {scale, tic});
     }
     VisitAll(kSpecialScaleFoot, {scale});
@@ -295,13 +299,13 @@ void FileWalker::WalkScale(int scale) {
 void FileWalker::WalkDeletions() {
     for (int scale = 1; scale <= kFiledLists; ++scale) {
         Visit(kDeletedTics[scale - 1], {scale});
-        for (int entry = 1, last = Design.DeletedTicCount[scale]; entry <= last; ++entry) {
+        for (int entry = 1, last = design_.DeletedTicCount[scale]; entry <= last; ++entry) {
             Visit(kDeletedTic[scale - 1], {scale, entry});
         }
     }
     for (int scale = 1; scale <= kFiledLists; ++scale) {
         Visit(kDeletedLabels[scale - 1], {scale});
-        for (int entry = 1, last = Design.DeletedLabelCount[scale]; entry <= last; ++entry) {
+        for (int entry = 1, last = design_.DeletedLabelCount[scale]; entry <= last; ++entry) {
             Visit(kDeletedLabel[scale - 1], {scale, entry});
         }
     }
@@ -309,9 +313,9 @@ void FileWalker::WalkDeletions() {
 
 void FileWalker::WalkPerScale(const FileLine& heading, const FileLine& line) {
     Visit(heading, {});
-    const int scales = Design.NumberOfScales;
-    for (Design.ScaleLoop = 1; Design.ScaleLoop <= scales; ++Design.ScaleLoop) {
-        Visit(line, {Design.ScaleLoop});
+    const int scales = design_.NumberOfScales;
+    for (int scale = 1; scale <= scales; ++scale) {
+        Visit(line, {scale});
     }
 }
 

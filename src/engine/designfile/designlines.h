@@ -8,19 +8,20 @@
 
 namespace vernacle {
 
-// What reading or writing a line does to the design besides.
-using DesignStep = void (*)(DesignRecord& design);
+// What writing a line, and what reading one, does to the design besides.
+using WritingStep = void (*)(DesignRecord& design, LinePlace place);
+using ReadingStep = void (*)(DesignRecord& design);
 
 // One line of the file, or, without a label and a way to read, one step between lines.
 struct FileLine {
     const char* label = nullptr; // "%" stands for the number of the scale, the text or the point
     WriteValue write = nullptr;
     FieldPlace place = Nowhere;
-    ReadValue read = nullptr;          // none: the reader takes no line
-    int stage = 0;                     // what the reader's failure message quotes
-    DesignStep afterReading = nullptr; // what is forced, whatever the line said
-    DesignStep beforeWriting = nullptr;
-    DesignStep afterWriting = nullptr;
+    ReadValue read = nullptr;           // none: the reader takes no line
+    int stage = 0;                      // what the reader's failure message quotes
+    ReadingStep afterReading = nullptr; // what is forced, whatever the line said
+    WritingStep beforeWriting = nullptr;
+    WritingStep afterWriting = nullptr;
 };
 
 // Whether a row stands before the blocks of the scales.
@@ -31,9 +32,10 @@ bool IsOfHead(const FileLine& line);
 bool LooksLikeHead(std::string_view item, bool isEnded);
 
 // Goes through the lines of a design file in their order. The loops over its blocks run by the
-// counts that Design holds when each is reached, so that a reader may fill them on the way.
+// counts that the design holds when each is reached, so that a reader may fill them on the way.
 class FileWalker {
 public:
+    explicit FileWalker(const DesignRecord& design) : design_(design) {}
     virtual ~FileWalker() = default;
     void Walk();
 
@@ -45,6 +47,8 @@ private:
     void WalkScale(int scale);
     void WalkDeletions();
     void WalkPerScale(const FileLine& heading, const FileLine& line);
+
+    const DesignRecord& design_;
 };
 
 } // namespace vernacle

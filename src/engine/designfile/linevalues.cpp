@@ -15,187 +15,203 @@ namespace {
 constexpr char kSeparator = '\\';
 constexpr std::string_view kEmptyLabel = "/"; // stands for no label, since no field can be empty
 
-std::string& TextIn(const FieldPointer& field) {
-    return *std::get<std::string*>(field);
+const std::string& TextIn(const LineSource& line) {
+    return *std::get<const std::string*>(line.field);
 }
 
-bool HasField(std::string_view rest) {
-    return rest.find_first_not_of(kSeparator) != std::string_view::npos;
+std::string& TextIn(const LineTarget& line) {
+    return *std::get<std::string*>(line.field);
+}
+
+// The next field. The place behind it stays with the design: a line that deletes a tic and says
+// which in too many characters deletes the one that stands there.
+void TakeField(DesignRecord& design, std::string& rest, std::string& field) {
+    if (const auto behind = SplitField(rest, field)) {
+        design.SharedIndex2 = *behind;
+    }
 }
 
 // The next field, without the blanks around it, to a text that keeps what it holds if none is left.
-void TakeText(std::string& rest, std::string& target) {
-    if (HasField(rest)) {
-        SplitField(rest, Design.ScratchText);
-        target = Trimmed(Design.ScratchText);
+void TakeText(DesignRecord& design, std::string& rest, std::string& target) {
+    std::string field;
+    TakeField(design, rest, field);
+    if (!field.empty()) {
+        target = Trimmed(field);
     }
 }
 
-void TakeCoordinate(std::string& rest, float& target) {
-    if (HasField(rest)) {
-        SplitField(rest, Design.ScratchText);
-        ParseEntry(Design.ScratchText, target);
+void TakeCoordinate(DesignRecord& design, std::string& rest, float& target) {
+    std::string field;
+    TakeField(design, rest, field);
+    if (!field.empty()) {
+        ParseEntry(field, target);
     }
 }
 
-void FlagDeleted(std::string& value, DeletionFlags::Row flags) {
-    ParseEntry(value, Design.SharedIndex2);
-    flags[Design.SharedIndex2] = "N";
+void FlagDeleted(DesignRecord& design, std::string& value, DeletionFlags::Row flags) {
+    ParseEntry(value, design.SharedIndex2);
+    flags[design.SharedIndex2] = "N";
 }
 
 } // namespace
 
-std::string WriteNothing(const FieldPointer& /*field*/, LinePlace /*place*/) {
+std::string WriteNothing(const LineSource& /*line*/) {
     return "";
 }
 
-std::string WriteDateTime(const FieldPointer& /*field*/, LinePlace /*place*/) {
+std::string WriteDateTime(const LineSource& /*line*/) {
     return Host.localDateTime();
 }
 
-std::string WritePlain(const FieldPointer& field, LinePlace /*place*/) {
-    if (const auto* number = std::get_if<float*>(&field)) {
+std::string WritePlain(const LineSource& line) {
+    if (const auto* number = std::get_if<const float*>(&line.field)) {
         return PlainNumber(**number);
     }
-    return PlainNumber(static_cast<std::int32_t>(NumberIn(field)));
+    return PlainNumber(static_cast<std::int32_t>(NumberIn(line.field)));
 }
 
-std::string WritePadded(const FieldPointer& field, LinePlace /*place*/) {
-    return PaddedNumber(*std::get<float*>(field));
+std::string WritePadded(const LineSource& line) {
+    return PaddedNumber(*std::get<const float*>(line.field));
 }
 
-std::string WriteGlued(const FieldPointer& field, LinePlace /*place*/) {
-    return TextIn(field);
+std::string WriteGlued(const LineSource& line) {
+    return TextIn(line);
 }
 
-std::string WriteTrimmed(const FieldPointer& field, LinePlace /*place*/) {
-    return std::string(Trimmed(TextIn(field)));
+std::string WriteTrimmed(const LineSource& line) {
+    return std::string(Trimmed(TextIn(line)));
 }
 
-std::string WriteTicFields(const FieldPointer& /*field*/, LinePlace place) {
-    const auto [scale, tic] = place;
-    std::string& label = Design.TicLabelText[scale][tic];
-    if (Trimmed(label).empty()) {
-        label = kEmptyLabel;
-    }
-    std::string text = SignedNumber(Design.TicDeflection[scale][tic]);
-    for (auto* fields :
-         {&Design.TicLabelYN, &Design.TicPrintYN, &Design.TicMajorYN, &Design.TicLabelText}) {
+std::string WriteTicFields(const LineSource& line) {
+    const auto [scale, tic] = line.place;
+    const DesignRecord& design = line.design;
+    std::string text = SignedNumber(design.TicDeflection[scale][tic]);
+    for (const auto* fields :
+         {&design.TicLabelYN, &design.TicPrintYN, &design.TicMajorYN, &design.TicLabelText}) {
         text += kSeparator;
         text += Trimmed((*fields)[scale][tic]);
     }
     return text;
 }
 
-std::string WriteCurvePoint(const FieldPointer& /*field*/, LinePlace place) {
-    return PlainNumber(Design.CorrectionPair[2 * place.outer - 1]) + " \\ " +
-           PlainNumber(Design.CorrectionPair[2 * place.outer]);
-}
-
-std::string WriteTicsAndArcs(const FieldPointer& /*field*/, LinePlace place) {
-    float number = 0;
-    StoreNumber(NumberOf(Design.PrintTicsAndArcs[place.outer]), number);
-    return PlainNumber(number);
-}
-
-std::string WriteDeletedTic(const FieldPointer& /*field*/, LinePlace place) {
-    return PlainNumber(std::int32_t{Design.DeletedTics[place.outer][place.inner]});
-}
-
-std::string WriteDeletedLabel(const FieldPointer& /*field*/, LinePlace place) {
-    return PlainNumber(std::int32_t{Design.DeletedLabels[place.outer][place.inner]});
-}
-
-std::string WriteOne(const FieldPointer& /*field*/, LinePlace /*place*/) {
-    return PlainNumber(1);
-}
-
-std::string WriteSpacedTwo(const FieldPointer& /*field*/, LinePlace /*place*/) {
-    return PaddedNumber(2);
-}
-
-std::string WriteThree(const FieldPointer& /*field*/, LinePlace /*place*/) {
-    return PlainNumber(3);
-}
-
-std::string WriteFour(const FieldPointer& /*field*/, LinePlace /*place*/) {
-    return PlainNumber(4);
-}
-
-void Drop(std::string& /*value*/, const FieldPointer& /*field*/, LinePlace /*place*/) {}
-
-void ReadEntry(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
-    if (const auto* number = std::get_if<float*>(&field)) {
-        ParseEntry(value, **number);
-    } else if (const auto* whole = std::get_if<std::int16_t*>(&field)) {
-        ParseEntry(value, **whole);
-    } else {
-        ParseEntry(value, *std::get<std::int32_t*>(field));
+void FillEmptyLabel(DesignRecord& design, LinePlace place) {
+    std::string& label = design.TicLabelText[place.outer][place.inner];
+    if (Trimmed(label).empty()) {
+        label = kEmptyLabel;
     }
 }
 
-void ReadVal(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
-    StoreIn(field, NumericValue(value));
+std::string WriteCurvePoint(const LineSource& line) {
+    return PlainNumber(line.design.CorrectionPair[2 * line.place.outer - 1]) + " \\ " +
+           PlainNumber(line.design.CorrectionPair[2 * line.place.outer]);
 }
 
-void ReadFirstVal(std::string& value, const FieldPointer& field, LinePlace place) {
+std::string WriteTicsAndArcs(const LineSource& line) {
+    float number = 0;
+    StoreNumber(NumberOf(line.design.PrintTicsAndArcs[line.place.outer]), number);
+    return PlainNumber(number);
+}
+
+std::string WriteDeletedTic(const LineSource& line) {
+    return PlainNumber(std::int32_t{line.design.DeletedTics[line.place.outer][line.place.inner]});
+}
+
+std::string WriteDeletedLabel(const LineSource& line) {
+    return PlainNumber(std::int32_t{line.design.DeletedLabels[line.place.outer][line.place.inner]});
+}
+
+std::string WriteOne(const LineSource& /*line*/) {
+    return PlainNumber(1);
+}
+
+std::string WriteSpacedTwo(const LineSource& /*line*/) {
+    return PaddedNumber(2);
+}
+
+std::string WriteThree(const LineSource& /*line*/) {
+    return PlainNumber(3);
+}
+
+std::string WriteFour(const LineSource& /*line*/) {
+    return PlainNumber(4);
+}
+
+void Drop(std::string& /*value*/, const LineTarget& /*line*/) {}
+
+void ReadEntry(std::string& value, const LineTarget& line) {
+    if (const auto* number = std::get_if<float*>(&line.field)) {
+        ParseEntry(value, **number);
+    } else if (const auto* whole = std::get_if<std::int16_t*>(&line.field)) {
+        ParseEntry(value, **whole);
+    } else {
+        ParseEntry(value, *std::get<std::int32_t*>(line.field));
+    }
+}
+
+void ReadVal(std::string& value, const LineTarget& line) {
+    StoreIn(line.field, NumericValue(value));
+}
+
+void ReadFirstVal(std::string& value, const LineTarget& line) {
     std::string first;
-    SplitField(value, first);
-    ReadVal(first, field, place);
+    TakeField(line.design, value, first);
+    ReadVal(first, line);
 }
 
-void ReadInteger(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
+void ReadInteger(std::string& value, const LineTarget& line) {
     const auto number = StrictNumber(value);
     if (!number) {
         ThrowTypeMismatch();
     }
-    StoreIn(field, *number);
+    StoreIn(line.field, *number);
 }
 
-void ReadText(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
-    TextIn(field) = std::move(value);
+void ReadText(std::string& value, const LineTarget& line) {
+    TextIn(line) = std::move(value);
 }
 
-void ReadTrimmed(std::string& value, const FieldPointer& field, LinePlace /*place*/) {
-    TextIn(field) = Trimmed(value);
+void ReadTrimmed(std::string& value, const LineTarget& line) {
+    TextIn(line) = Trimmed(value);
 }
 
-void ReadTicFields(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
-    const auto [scale, tic] = place;
-    float& deflection = Design.TicDeflection[scale][tic];
-    if (HasField(value)) {
-        SplitField(value, Design.ScratchText);
-        StoreNumber(NumericValue(Design.ScratchText), deflection);
+void ReadTicFields(std::string& value, const LineTarget& line) {
+    const auto [scale, tic] = line.place;
+    DesignRecord& design = line.design;
+    float& deflection = design.TicDeflection[scale][tic];
+    std::string field;
+    TakeField(design, value, field);
+    if (!field.empty()) {
+        StoreNumber(NumericValue(field), deflection);
     }
-    TakeText(value, Design.TicLabelYN[scale][tic]);
-    TakeText(value, Design.TicPrintYN[scale][tic]);
-    TakeText(value, Design.TicMajorYN[scale][tic]);
-    std::string& label = Design.TicLabelText[scale][tic];
-    TakeText(value, label);
+    TakeText(design, value, design.TicLabelYN[scale][tic]);
+    TakeText(design, value, design.TicPrintYN[scale][tic]);
+    TakeText(design, value, design.TicMajorYN[scale][tic]);
+    std::string& label = design.TicLabelText[scale][tic];
+    TakeText(design, value, label);
     if (label == kEmptyLabel) {
         label = " ";
     }
 }
 
-void ReadCurvePoint(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
+void ReadCurvePoint(std::string& value, const LineTarget& line) {
     float x = 0;
     float y = 0;
-    TakeCoordinate(value, x);
-    TakeCoordinate(value, y);
-    Design.CorrectionPair[2 * place.outer - 1] = x;
-    Design.CorrectionPair[2 * place.outer] = y;
+    TakeCoordinate(line.design, value, x);
+    TakeCoordinate(line.design, value, y);
+    line.design.CorrectionPair[2 * line.place.outer - 1] = x;
+    line.design.CorrectionPair[2 * line.place.outer] = y;
 }
 
-void ReadTicsAndArcs(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
-    Design.PrintTicsAndArcs[place.outer] = std::move(value);
+void ReadTicsAndArcs(std::string& value, const LineTarget& line) {
+    line.design.PrintTicsAndArcs[line.place.outer] = std::move(value);
 }
 
-void ReadDeletedTic(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
-    FlagDeleted(value, Design.StandardTicYN[place.outer]);
+void ReadDeletedTic(std::string& value, const LineTarget& line) {
+    FlagDeleted(line.design, value, line.design.StandardTicYN[line.place.outer]);
 }
 
-void ReadDeletedLabel(std::string& value, const FieldPointer& /*field*/, LinePlace place) {
-    FlagDeleted(value, Design.StandardLabelYN[place.outer]);
+void ReadDeletedLabel(std::string& value, const LineTarget& line) {
+    FlagDeleted(line.design, value, line.design.StandardLabelYN[line.place.outer]);
 }
 
 FoundField FindField(std::string_view rest) {
@@ -205,17 +221,16 @@ FoundField FindField(std::string_view rest) {
     return {rest.substr(start, end - start), rest.substr(next)};
 }
 
-void SplitField(std::string& rest, std::string& field) {
+std::optional<std::int16_t> SplitField(std::string& rest, std::string& field) {
     const FoundField found = FindField(rest);
     if (found.text.empty()) {
         rest.clear();
-        return;
+        return std::nullopt;
     }
     const auto start = static_cast<std::size_t>(found.text.data() - rest.data());
     field = found.text;
-    Design.SharedIndex = static_cast<std::int16_t>(start + 1);
-    Design.SharedIndex2 = static_cast<std::int16_t>(start + field.size() + 1);
     rest.erase(0, rest.size() - found.rest.size());
+    return static_cast<std::int16_t>(start + field.size() + 1);
 }
 
 } // namespace vernacle

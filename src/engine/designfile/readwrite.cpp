@@ -1,6 +1,7 @@
 #include "engine/designfile/readwrite.h"
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -8,7 +9,6 @@
 #include "engine/base/hostservices.h"
 #include "engine/base/linereader.h"
 #include "engine/base/samefile.h"
-#include "engine/core/design.h"
 #include "engine/designfile/designlines.h"
 #include "engine/designfile/linedoubts.h"
 
@@ -28,9 +28,14 @@ std::string OnOneLine(std::string text) {
     return text;
 }
 
+// Writes the lines of a design that it cannot change: what a line does to the design besides is run
+// by whoever owns it, at that moment.
 class DesignWriter : public FileWalker {
 public:
-    explicit DesignWriter(std::string& text) : text_(text) {}
+    using RunStep = std::function<void(WritingStep step, LinePlace place)>;
+
+    DesignWriter(const DesignRecord& design, std::string& text, RunStep run)
+        : FileWalker(design), design_(design), text_(text), run_(std::move(run)) {}
 
 private:
     void Visit(const FileLine& line, LinePlace place) override {
@@ -38,17 +43,19 @@ private:
             return;
         }
         if (line.beforeWriting) {
-            line.beforeWriting(Design);
+            run_(line.beforeWriting, place);
         }
-        const FieldPointer field = line.place.In(Design, place.outer, place.inner);
-        text_ += LabelOf(line, place.outer) + OnOneLine(line.write(field, place));
+        const ConstFieldPointer field = line.place.In(design_, place.outer, place.inner);
+        text_ += LabelOf(line, place.outer) + OnOneLine(line.write({design_, field, place}));
         text_ += kLineEnd;
         if (line.afterWriting) {
-            line.afterWriting(Design);
+            run_(line.afterWriting, place);
         }
     }
 
+    const DesignRecord& design_;
     std::string& text_;
+    RunStep run_;
 };
 
 void Report(const LineReport& report, int line, const RunTimeError& error) {
@@ -63,8 +70,12 @@ struct EndOfDesign {};
 
 class DesignReader : public FileWalker {
 public:
-    DesignReader(std::string text, int& stage, const ReadReports& reports)
-        : lines_(std::move(text)), stage_(stage), reports_(reports) {}
+    DesignReader(DesignRecord& design, std::string text, int& stage, const ReadReports& reports)
+        : FileWalker(design),
+          design_(design),
+          lines_(std::move(text)),
+          stage_(stage),
+          reports_(reports) {}
 
     void Read() {
         try {
@@ -86,10 +97,11 @@ private:
             const std::string_view item = NextItem();
             doubts_.Consider(line, place, item, lines_);
             std::string value(LineReader::ValueOf(item));
-            line.read(value, line.place.In(Design, place.outer, place.inner), place);
+            const FieldPointer field = line.place.In(design_, place.outer, place.inner);
+            line.read(value, {design_, field, place});
         }
         if (line.afterReading) {
-            line.afterReading(Design);
+            line.afterReading(design_);
         }
     }
 
@@ -101,6 +113,7 @@ private:
         }
     }
 
+    DesignRecord& design_;
     LineReader lines_;
     int& stage_;
     const ReadReports& reports_;
@@ -130,11 +143,12 @@ void RefuseCalibration(const std::string& name) {
 
 // The text is opened first and filled then, so that a failure on the way leaves the file as far as
 // it got.
-void WriteDesignFile(const std::string& name) {
-    const auto sink = Host.openForOutput(name);
+void WriteDesignFile(DesignRecord& design) {
+    const auto sink = Host.openForOutput(design.DesignFileName);
     std::string text;
+    const auto run = [&design](WritingStep step, LinePlace place) { step(design, place); };
     try {
-        DesignWriter(text).Walk();
+        DesignWriter(design, text, run).Walk();
     } catch (const RunTimeError&) {
         sink->Write(ToFileBytes(text));
         throw;
@@ -144,10 +158,10 @@ void WriteDesignFile(const std::string& name) {
     sink->Close();
 }
 
-bool TryToWrite(const std::string& name) {
+bool TryToWrite(DesignRecord& design) {
     try {
-        RefuseCalibration(name);
-        WriteDesignFile(name);
+        RefuseCalibration(design.DesignFileName);
+        WriteDesignFile(design);
         return true;
     } catch (const RunTimeError&) {
         return false;
@@ -156,48 +170,46 @@ bool TryToWrite(const std::string& name) {
 
 } // namespace
 
-bool WriteDesign() {
-    const bool written = TryToWrite(Design.DesignFileName);
+bool WriteDesign(DesignRecord& design) {
+    const bool written = TryToWrite(design);
     if (!written) {
         ReportFailure("The Vernacle file was not written correctly.\nReadWrite 364");
     }
     return written;
 }
 
-void SaveDesign(const std::string& name) {
+void SaveDesign(DesignRecord& design, const std::string& name) {
     if (!name.empty()) {
-        WriteDesign();
+        WriteDesign(design);
     }
 }
 
-void RestoreBackup() {
-    ReadDesign(kBackup);
+void RestoreBackup(DesignRecord& design) {
+    ReadDesign(design, kBackup);
 }
 
-void BackupDesign() {
-    Design.DesignFileName = kBackup;
-    WriteDesign();
-    Design.DesignFileName.clear();
+void BackupDesign(DesignRecord& design) {
+    design.DesignFileName = kBackup;
+    WriteDesign(design);
+    design.DesignFileName.clear();
 }
 
 std::string LastSessionName() {
     return Host.newestBesideProgram(kLastSession);
 }
 
-bool SaveLastSession() {
-    Design.DesignFileName = Host.besideProgram(kLastSession);
-    return WriteDesign();
+bool SaveLastSession(DesignRecord& design) {
+    design.DesignFileName = Host.besideProgram(kLastSession);
+    return WriteDesign(design);
 }
 
-bool KeepLastSession() {
-    const auto inHand = std::make_unique<DesignRecord>(Design);
-    Design.DesignFileName = Host.besideProgram(kLastSession);
-    const bool kept = TryToWrite(Design.DesignFileName);
-    Design = *inHand;
-    return kept;
+bool KeepLastSession(const DesignRecord& design) {
+    const auto copy = std::make_unique<DesignRecord>(design);
+    copy->DesignFileName = Host.besideProgram(kLastSession);
+    return TryToWrite(*copy);
 }
 
-void ReadDesign(const std::string& name, const ReadReports& reports) {
+void ReadDesign(DesignRecord& design, const std::string& name, const ReadReports& reports) {
     if (name.empty()) {
         return;
     }
@@ -205,10 +217,10 @@ void ReadDesign(const std::string& name, const ReadReports& reports) {
     try {
         const std::string bytes = ReadBytes(name, reports);
         stage = kStageReset;
-        ResetDesign(Design);
-        DesignReader(FromFileBytes(bytes), stage, reports).Read();
+        ResetDesign(design);
+        DesignReader(design, FromFileBytes(bytes), stage, reports).Read();
     } catch (const RunTimeError&) {
-        ResetDesign(Design);
+        ResetDesign(design);
         ReportFailure("We were not successful in reading that Vernacle file.\n"
                       "Default values for all items have been put in place.\n\nReadWrite " +
                       std::to_string(stage));

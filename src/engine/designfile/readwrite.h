@@ -4,6 +4,7 @@
 #include <string>
 
 #include "engine/base/readreports.h"
+#include "engine/core/design.h"
 
 namespace vernacle {
 
@@ -11,29 +12,29 @@ namespace vernacle {
 // reported; the file stays as far as it got, and that of the printer's calibration is not touched.
 // Writing changes the design a little: empty labels of special tics become "/", a graphic that is
 // not drawn loses its file name, the highlights and deletions are counted anew.
-bool WriteDesign();
+bool WriteDesign(DesignRecord& design);
 
 // WriteDesign, unless the name is empty.
-void SaveDesign(const std::string& name);
+void SaveDesign(DesignRecord& design, const std::string& name);
 
 // Writes the design to "Backup.DAT" and leaves it without a name.
-void BackupDesign();
+void BackupDesign(DesignRecord& design);
 
 // Reads it back, with what the reader forces on every design.
-void RestoreBackup();
+void RestoreBackup(DesignRecord& design);
 
 // Writes the design to "LASTSESSION.VRN" beside the program and leaves that name; false if that
 // failed, which is reported.
-bool SaveLastSession();
+bool SaveLastSession(DesignRecord& design);
 
 // The same without a word, and with the design left as it is.
-bool KeepLastSession();
+bool KeepLastSession(const DesignRecord& design);
 
 // The name of the file of the last session that was kept, wherever that was.
 std::string LastSessionName();
 
 // Reads a design file over the defaults; an empty name does nothing at all. A file that ends early
 // is no failure. A failure is reported with its stage and leaves the defaults.
-void ReadDesign(const std::string& name, const ReadReports& reports = {});
+void ReadDesign(DesignRecord& design, const std::string& name, const ReadReports& reports = {});
 
 } // namespace vernacle

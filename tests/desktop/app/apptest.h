@@ -42,7 +42,7 @@ protected:
         Design.PlateWidth = width;
         Design.PlateHeight = height;
         Design.DesignFileName = Path(name);
-        WriteDesign();
+        WriteDesign(Design);
         Design = kept;
         return Path(name);
     }
@@ -50,7 +50,7 @@ protected:
     // The width that a design file holds.
     float WidthIn(const std::string& name) const {
         const DesignRecord kept = Design;
-        ReadDesign(Path(name));
+        ReadDesign(Design, Path(name));
         const float width = Design.PlateWidth;
         Design = kept;
         return width;

@@ -317,8 +317,8 @@ protected:
 
 // Fields of the dump that are no part of a design, or are computed from it.
 constexpr const char* kWorking[] = {
-    "CurrentScale", "ActiveScale", "HelpTopic",           "ScratchText",    "SharedIndex",
-    "ScaleLoop",    "TicLoop",     "StandardDeflection[", "StandardLabel[", "DesignFileName",
+    "CurrentScale", "ActiveScale",         "HelpTopic",      "SharedIndex2",
+    "TicLoop",      "StandardDeflection[", "StandardLabel[", "DesignFileName",
 };
 
 // What no file brings back.

@@ -53,7 +53,7 @@ protected:
             return;
         }
         design = SourcePath("examples/MILLIAMPERES-0-1.VRN");
-        ReadDesign(design);
+        ReadDesign(Design, design);
         Design.DesignFileName = design;
         OpenPage("frmPreview");
     }

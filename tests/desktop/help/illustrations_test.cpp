@@ -187,11 +187,11 @@ TEST_P(IllustrationsTest, DesignIsUntouched) {
     Design.ScreenScaleX = 7;
     Design.HelpTopic = 12;
     Design.LinearityExponent[1] = 3;
-    SaveDesign(Path("before.VRN"));
+    SaveDesign(Design, Path("before.VRN"));
     said.clear();
     Show([](QWidget&) {});
     EXPECT_TRUE(said.empty());
-    SaveDesign(Path("after.VRN"));
+    SaveDesign(Design, Path("after.VRN"));
     EXPECT_EQ(ReadFile("after.VRN"), ReadFile("before.VRN"));
     EXPECT_EQ(Design.ScreenScaleX, 7);
     EXPECT_EQ(Design.HelpTopic, 12);

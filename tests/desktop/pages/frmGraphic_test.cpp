@@ -397,7 +397,7 @@ TEST_F(GraphicPageTest, OpenReadsWithTheFirstScaleActive) {
     Design.DrawGraphic = "Y";
     Design.GraphicFileName = "MARK.BMP";
     Design.DesignFileName = Path("graphic.VRN");
-    WriteDesign();
+    WriteDesign(Design);
     ResetDesign(Design);
     OpenPage("frmGraphic");
     Design.ActiveScale = 3;

@@ -461,7 +461,7 @@ TEST_F(HighlightsPageTest, ToolbarGivesTheTextsBack) {
 
 TEST_F(HighlightsPageTest, OpenReadsWithTheFirstScaleActive) {
     Design.DesignFileName = Path("highlights.VRN");
-    WriteDesign();
+    WriteDesign(Design);
     OpenPage("frmHighlights");
     Design.ActiveScale = 3;
     Answer(TypeFile(Path("highlights.VRN")));

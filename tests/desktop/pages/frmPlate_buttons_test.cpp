@@ -134,11 +134,11 @@ TEST_F(PlateButtonsTest, IllustrationsLeaveTheDesignAndThePage) {
     OpenPlate();
     Click("cmdFontSize");
     Type("txtPlateWidth", "200");
-    SaveDesign(Path("before.VRN"));
+    SaveDesign(Design, Path("before.VRN"));
     const std::vector<std::string> schematic = ShownSchematic();
     FormBehind("cmdRotateHelp", "Command1");
     FormBehind("cmdStyleHelp", "cmdReturn");
-    SaveDesign(Path("after.VRN"));
+    SaveDesign(Design, Path("after.VRN"));
     EXPECT_EQ(ReadFile("after.VRN"), ReadFile("before.VRN"));
     EXPECT_EQ(Design.HelpTopic, 1);
     EXPECT_EQ(TextOf("txtPlateWidth"), "200");

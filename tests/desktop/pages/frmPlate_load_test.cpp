@@ -298,7 +298,7 @@ TEST_F(PlateLoadTest, CloseBoxSavesTheSessionAndEnds) {
     EXPECT_EQ(CurrentPage(), nullptr);
     EXPECT_TRUE(TakeProcessEnd());
     Design.PlateWidth = 0;
-    ReadDesign(Path("LASTSESSION.VRN"));
+    ReadDesign(Design, Path("LASTSESSION.VRN"));
     EXPECT_EQ(Design.PlateWidth, 123);
 }
 

@@ -113,7 +113,7 @@ TEST_F(PreviewPageTest, ItsChangesStandOnOtherPagesAndInTheFile) {
     EXPECT_EQ(Design.NumberOfScales, 1);
     EXPECT_EQ(Design.FontName, "Arial");
     EXPECT_EQ(Design.ScaleColor[1], 0);
-    SaveDesign(Design.DesignFileName);
+    SaveDesign(Design, Design.DesignFileName);
     const std::string file = ReadFile("mine.VRN");
     for (const char* line :
          {"Font style: Arial\r\n", "Number of scales: 1\r\nScale color: 0\r\n"}) {

@@ -381,14 +381,14 @@ TEST_F(ScalesLoadTest, CloseBoxKeepsWhatWasEntered) {
     CloseByUser(Page());
     EXPECT_TRUE(TakeProcessEnd());
     Design.ScaleTitle[1].clear();
-    ReadDesign(Path("LASTSESSION.VRN"));
+    ReadDesign(Design, Path("LASTSESSION.VRN"));
     EXPECT_EQ(Design.ScaleTitle[1], "Volts");
 }
 
 TEST_F(ScalesLoadTest, DesignThatIsOpenedStartsWithTheFirstScale) {
     Design.DesignFileName = Path("other.VRN");
     Design.ScaleTitle[1] = "Ohms";
-    SaveDesign(Design.DesignFileName);
+    SaveDesign(Design, Design.DesignFileName);
     ResetDesign(Design);
     Design.ActiveScale = 3;
     OpenScales(3);

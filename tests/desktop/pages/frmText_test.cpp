@@ -168,7 +168,7 @@ TEST_F(TextPageTest, OpenGivesThemBackBeforeItReads) {
     Design.TextString[1] = "of the file";
     Design.NumberOfTexts = 1;
     Design.DesignFileName = file;
-    WriteDesign();
+    WriteDesign(Design);
     Design = kept;
     Answer(TypeFile(file));
     Click("Open");
@@ -662,7 +662,7 @@ TEST_F(TextPageTest, FreeTextsReachThePlotter) {
     GiveText(2, "made in 2026", 20, 5, 0.5F);
     Design.NumberOfTexts = 2;
     Design.DesignFileName = Path("texts.VRN");
-    WriteDesign();
+    WriteDesign(Design);
     ResetDesign(Design);
     for (const int entry : {1, 2}) {
         GiveText(entry, "", 10, 10, 1);

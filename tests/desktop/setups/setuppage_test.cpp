@@ -76,7 +76,7 @@ TEST_F(SetupPageTest, EnteringBacksTheDesignUpAndNamesTheScale) {
         EXPECT_EQ(Shown("lblWorking"), "Working with scale # 1");
         EXPECT_EQ(Design.CurrentScale, 1);
         const DesignRecord now = Design;
-        ReadDesign("Backup.DAT");
+        ReadDesign(Design, "Backup.DAT");
         EXPECT_EQ(Design.PlateWidth, 63);
         EXPECT_EQ(Design.DesignFileName, "");
         Design = now;
@@ -97,7 +97,7 @@ TEST_F(SetupPageTest, BackupIsTakenBeforeTheFirstWrite) {
         OpenSetup(row.page, 2);
         EXPECT_EQ(Shown("lblWorking"), "Working with scale # 2");
         MakeTics(row);
-        ReadDesign("Backup.DAT");
+        ReadDesign(Design, "Backup.DAT");
         EXPECT_EQ(Design.SpecialNrOfTicmarks[2], 3);
         EXPECT_EQ(Design.TicDeflection[2][1], 0.25F);
         EXPECT_EQ(Design.TicLabelText[2][3], "tic 3");
@@ -307,9 +307,9 @@ TEST_F(SetupPageTest, AcceptedScalesGoThroughAFile) {
         }
         const std::vector<float> deflections = DeflectionsOf(1, last);
         Design.DesignFileName = Path("first.VRN");
-        WriteDesign();
+        WriteDesign(Design);
         ResetDesign(Design);
-        ReadDesign(Path("first.VRN"));
+        ReadDesign(Design, Path("first.VRN"));
         EXPECT_EQ(Design.SpecialNrOfTicmarks[1], last);
         EXPECT_EQ(Design.ScaleColor[1], -1);
         EXPECT_EQ(TicsInWords(1, last), tics);
@@ -318,7 +318,7 @@ TEST_F(SetupPageTest, AcceptedScalesGoThroughAFile) {
                             deflections[static_cast<std::size_t>(tic)]);
         }
         Design.DesignFileName = Path("again.VRN");
-        WriteDesign();
+        WriteDesign(Design);
         EXPECT_EQ(ScaleLinesIn("again.VRN"), ScaleLinesIn("first.VRN"));
     }
     EXPECT_TRUE(said.empty());

@@ -142,7 +142,7 @@ protected:
 
     static void ReadExample() {
         SetOpeningValues(Design);
-        ReadDesign(SourcePath("examples/VOLTS-0-15.VRN"));
+        ReadDesign(Design, SourcePath("examples/VOLTS-0-15.VRN"));
         Design.CalibrationX = Design.CalibrationY = 1;
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);

@@ -260,7 +260,7 @@ class PlotterPortTest : public SpoolTest {
 protected:
     void Plot(const PrinterPort& port) {
         SetOpeningValues(Design);
-        ReadDesign(SourcePath("examples/VOLTS-0-15.VRN"));
+        ReadDesign(Design, SourcePath("examples/VOLTS-0-15.VRN"));
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);
         Host.openForOutput = [port](const std::string& name) {

@@ -244,16 +244,6 @@ TEST_F(EntryTest, RoundsForALongIntegerAndHoldsIt) {
     }
 }
 
-TEST_F(EntryTest, UsesTheSharedIndexAndLeavesTheScaleLoopAlone) {
-    Design.SharedIndex = 99;
-    Design.SharedIndex2 = 98;
-    Design.ScaleLoop = 97;
-    EXPECT_EQ(Entered<float>("123"), 123);
-    EXPECT_NE(Design.SharedIndex, 99);
-    EXPECT_EQ(Design.SharedIndex2, 98);
-    EXPECT_EQ(Design.ScaleLoop, 97);
-}
-
 TEST_F(EntryTest, NeverSpeaks) {
     Entered<float>("9E99");
     Entered<std::int16_t>("99999");

@@ -15,6 +15,7 @@ struct Visited {
 
 class RecordingWalker : public FileWalker {
 public:
+    using FileWalker::FileWalker;
     std::vector<Visited> visited;
 
 private:
@@ -28,7 +29,7 @@ protected:
     DesignLinesTest() { ResetDesign(Design); }
 
     static std::vector<Visited> Walked() {
-        RecordingWalker walker;
+        RecordingWalker walker(Design);
         walker.Walk();
         return walker.visited;
     }

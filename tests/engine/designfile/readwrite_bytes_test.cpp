@@ -17,7 +17,7 @@ protected:
 
     std::string Written() {
         Design.DesignFileName = Path("plate.vrn");
-        WriteDesign();
+        WriteDesign(Design);
         EXPECT_TRUE(said.empty());
         return ReadFile("plate.vrn");
     }
@@ -326,7 +326,7 @@ TEST_F(WrittenDesignTest, AListOf360DeletionsFits) {
 TEST_F(WrittenDesignTest, ATextStaysOnItsLine) {
     Design.ScaleTitle[1] = "two\r\nlines";
     EXPECT_EQ(WrittenValue("Scale title:"), "two  lines");
-    ReadDesign(Path("plate.vrn"));
+    ReadDesign(Design, Path("plate.vrn"));
     EXPECT_TRUE(said.empty());
     EXPECT_EQ(Design.ScaleTitle[1], "two  lines");
     EXPECT_EQ(Design.NrOfTicmarks[1], 50);
@@ -339,7 +339,7 @@ TEST_F(WrittenDesignTest, AForeignCharacterTurnsTheFileToUtf8) {
                         "Filename: "),
               0U);
     EXPECT_NE(text.find("\r\nScale title:k\u2126 \u00B5\r\n"), std::string::npos);
-    ReadDesign(Path("plate.vrn"));
+    ReadDesign(Design, Path("plate.vrn"));
     EXPECT_EQ(Design.ScaleTitle[1], "k\u2126 \u00B5");
     EXPECT_EQ(Design.PlateWidth, 75);
     Design.ScaleTitle[1] = "\u00B5";
@@ -359,9 +359,9 @@ TEST_F(WrittenDesignTest, ADesignInUseComesBackByteByByte) {
     Design.TextString[7] = "\u00B0C: \u20AC";
     Design.StandardTicYN[1][360] = Design.StandardLabelYN[4][0] = "N";
     Written();
-    ReadDesign(Path("plate.vrn"));
+    ReadDesign(Design, Path("plate.vrn"));
     const std::string text = Written();
-    ReadDesign(Path("plate.vrn"));
+    ReadDesign(Design, Path("plate.vrn"));
     EXPECT_EQ(Design.StandardTicYN[1][360], "N");
     EXPECT_EQ(Design.TextString[7], "\u00B0C: \u20AC");
     EXPECT_EQ(Written(), text);

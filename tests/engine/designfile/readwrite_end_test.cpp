@@ -167,7 +167,7 @@ protected:
         Design.FontName = "Times";
         Design.GraphicFileName = "old.bmp";
         Design.DrawHighlights = "?";
-        ReadDesign(WriteFile("plate.vrn", text));
+        ReadDesign(Design, WriteFile("plate.vrn", text));
         EXPECT_TRUE(said.empty());
     }
 

@@ -17,7 +17,7 @@ protected:
     // The stage that the message quotes; 0 without a message.
     int StageOf(const std::string& text) {
         said.clear();
-        ReadDesign(WriteFile("plate.vrn", text));
+        ReadDesign(Design, WriteFile("plate.vrn", text));
         if (said.empty()) {
             return 0;
         }
@@ -190,7 +190,7 @@ TEST_F(ReadFailureTest, AllTicsDeletedAreAFailureOfTheWriter) {
     file.Set(tics, "361").AddBehind(tics, Numbered("Tic deleted: ", 360));
     ASSERT_EQ(StageOf(file.Text()), 0);
     Design.DesignFileName = Path("again.vrn");
-    WriteDesign();
+    WriteDesign(Design);
     EXPECT_EQ(said, (std::vector<std::string>{
                         "beep", "failure: The Vernacle file was not written correctly.\n"
                                 "ReadWrite 364"}));

@@ -32,9 +32,9 @@ protected:
 
 TEST_F(ReadWriteTest, SavesUnderTheDesignsNameUnlessNoneWasChosen) {
     Design.DesignFileName = Path("plate.vrn");
-    SaveDesign("");
+    SaveDesign(Design, "");
     EXPECT_FALSE(Exists("plate.vrn"));
-    SaveDesign("any");
+    SaveDesign(Design, "any");
     EXPECT_TRUE(Exists("plate.vrn"));
     EXPECT_FALSE(Exists("any"));
     EXPECT_TRUE(said.empty());
@@ -43,19 +43,19 @@ TEST_F(ReadWriteTest, SavesUnderTheDesignsNameUnlessNoneWasChosen) {
 TEST_F(ReadWriteTest, ReplacesTheFile) {
     WriteFile("plate.vrn", std::string(100000, '~'));
     Design.DesignFileName = Path("plate.vrn");
-    WriteDesign();
+    WriteDesign(Design);
     EXPECT_EQ(ReadFile("plate.vrn").find('~'), std::string::npos);
 }
 
 TEST_F(ReadWriteTest, ABackupLosesTheNameInHand) {
     Design.DesignFileName = Path("plate.vrn");
     Design.PlateWidth = 61.5F;
-    BackupDesign();
+    BackupDesign(Design);
     EXPECT_EQ(Design.DesignFileName, "");
     EXPECT_FALSE(Exists("plate.vrn"));
     EXPECT_EQ(ReadFile("Backup.DAT").find("Filename: Backup.DAT\r\n"), 0U);
     Design.PlateWidth = 20;
-    ReadDesign("Backup.DAT");
+    ReadDesign(Design, "Backup.DAT");
     EXPECT_EQ(Design.PlateWidth, 61.5F);
     EXPECT_EQ(Design.DesignFileName, "");
     EXPECT_TRUE(said.empty());
@@ -64,7 +64,7 @@ TEST_F(ReadWriteTest, ABackupLosesTheNameInHand) {
 TEST_F(ReadWriteTest, TheLastSessionStandsBesideTheProgram) {
     Host.besideProgram = [this](const std::string& name) { return Path("beside-" + name); };
     Design.DesignFileName = Path("plate.vrn");
-    SaveLastSession();
+    SaveLastSession(Design);
     EXPECT_EQ(Design.DesignFileName, Path("beside-LASTSESSION.VRN"));
     EXPECT_TRUE(Exists("beside-LASTSESSION.VRN"));
     EXPECT_FALSE(Exists("plate.vrn"));
@@ -72,16 +72,16 @@ TEST_F(ReadWriteTest, TheLastSessionStandsBesideTheProgram) {
 
 TEST_F(ReadWriteTest, ReadingAnEmptyNameDoesNothing) {
     Design.PlateWidth = 61.5F;
-    ReadDesign("");
+    ReadDesign(Design, "");
     EXPECT_EQ(Design.PlateWidth, 61.5F);
     EXPECT_TRUE(said.empty());
 }
 
 TEST_F(ReadWriteTest, ReadingKeepsTheNameOfTheDesign) {
     Design.DesignFileName = "mine";
-    ReadDesign(WriteFile("plate.vrn", DesignFile().Text()));
+    ReadDesign(Design, WriteFile("plate.vrn", DesignFile().Text()));
     EXPECT_EQ(Design.DesignFileName, "mine");
-    ReadDesign(Path("none.vrn"));
+    ReadDesign(Design, Path("none.vrn"));
     EXPECT_EQ(Design.DesignFileName, "mine");
 }
 
@@ -90,7 +90,7 @@ TEST_F(ReadWriteTest, ReportsWhatCannotBeWritten) {
          {Path("none/plate.vrn"), Path(""), std::string("/dev/full"), std::string("")}) {
         said.clear();
         Design.DesignFileName = name;
-        WriteDesign();
+        WriteDesign(Design);
         EXPECT_EQ(said, kNotWritten) << name;
         EXPECT_EQ(Design.DesignFileName, name);
     }
@@ -98,30 +98,30 @@ TEST_F(ReadWriteTest, ReportsWhatCannotBeWritten) {
 
 TEST_F(ReadWriteTest, ReportsABackupAndALastSessionThatCannotBeWritten) {
     Host.openForOutput = [](const std::string&) { return OpenFileSink("/dev/full"); };
-    BackupDesign();
+    BackupDesign(Design);
     EXPECT_EQ(said, kNotWritten);
     EXPECT_EQ(Design.DesignFileName, "");
     said.clear();
-    SaveLastSession();
+    SaveLastSession(Design);
     EXPECT_EQ(said, kNotWritten);
     EXPECT_EQ(Design.DesignFileName, LastSessionName());
 }
 
 TEST_F(ReadWriteTest, TellsWhetherTheDesignIsWritten) {
     Design.DesignFileName = Path("plate.vrn");
-    EXPECT_TRUE(WriteDesign());
-    EXPECT_TRUE(SaveLastSession());
+    EXPECT_TRUE(WriteDesign(Design));
+    EXPECT_TRUE(SaveLastSession(Design));
     Design.DesignFileName = "/dev/full";
-    EXPECT_FALSE(WriteDesign());
+    EXPECT_FALSE(WriteDesign(Design));
     Host.besideProgram = [](const std::string&) { return "/dev/full"; };
-    EXPECT_FALSE(SaveLastSession());
+    EXPECT_FALSE(SaveLastSession(Design));
 }
 
 // For the next start it does not matter where the next session will be kept.
 TEST_F(ReadWriteTest, TheLastSessionIsReadWhereItIsNewest) {
     Host.newestBesideProgram = [this](const std::string& name) { return Path("newest-" + name); };
     EXPECT_EQ(LastSessionName(), Path("newest-LASTSESSION.VRN"));
-    SaveLastSession();
+    SaveLastSession(Design);
     EXPECT_EQ(Design.DesignFileName, Path("LASTSESSION.VRN"));
 }
 
@@ -130,13 +130,13 @@ TEST_F(ReadWriteTest, ASessionIsKeptWithoutAWordAndWithNothingChanged) {
     Design.PlateWidth = 61.5F;
     Design.DrawGraphic = "N";
     Design.GraphicFileName = "/pictures/logo.bmp";
-    EXPECT_TRUE(KeepLastSession());
+    EXPECT_TRUE(KeepLastSession(Design));
     EXPECT_NE(ReadFile("LASTSESSION.VRN").find("Plate width: 61.5\r\n"), std::string::npos);
     EXPECT_EQ(ReadFile("LASTSESSION.VRN").find("Filename: " + Path("LASTSESSION.VRN")), 0U);
     EXPECT_EQ(Design.DesignFileName, Path("plate.vrn"));
     EXPECT_EQ(Design.GraphicFileName, "/pictures/logo.bmp") << "which writing empties";
     Host.besideProgram = [](const std::string&) { return "/dev/full"; };
-    EXPECT_FALSE(KeepLastSession());
+    EXPECT_FALSE(KeepLastSession(Design));
     EXPECT_EQ(Design.DesignFileName, Path("plate.vrn"));
     EXPECT_TRUE(said.empty());
 }
@@ -155,7 +155,7 @@ TEST_F(ReadWriteTest, TheCalibrationIsNotWrittenOverByAnyName) {
           std::string("Calibrate.txt"), std::string("./shipped.txt")}) {
         said.clear();
         Design.DesignFileName = name;
-        EXPECT_FALSE(WriteDesign());
+        EXPECT_FALSE(WriteDesign(Design));
         EXPECT_EQ(said, kNotWritten) << name;
         EXPECT_EQ(ReadFile("Calibrate.txt"), "factors") << name;
         EXPECT_EQ(ReadFile("shipped.txt"), "factors") << name;
@@ -163,7 +163,7 @@ TEST_F(ReadWriteTest, TheCalibrationIsNotWrittenOverByAnyName) {
     }
     std::filesystem::remove(own);
     Design.DesignFileName = "Calibrate.txt";
-    EXPECT_FALSE(WriteDesign()) << "nor is one made of a design";
+    EXPECT_FALSE(WriteDesign(Design)) << "nor is one made of a design";
     EXPECT_FALSE(Exists("Calibrate.txt"));
     std::filesystem::current_path(before);
 }
@@ -174,7 +174,7 @@ TEST_F(ReadWriteTest, TheBareNameThatACalibrationLeavesIsAFileOfTheWorkingFolder
     const std::filesystem::path before = std::filesystem::current_path();
     std::filesystem::current_path(Path("work"));
     Design.DesignFileName = "Calibrate.txt";
-    EXPECT_TRUE(WriteDesign());
+    EXPECT_TRUE(WriteDesign(Design));
     std::filesystem::current_path(before);
     EXPECT_EQ(ReadFile("work/Calibrate.txt").find("Filename: Calibrate.txt\r\n"), 0U);
     EXPECT_EQ(ReadFile("Calibrate.txt"), "factors");
@@ -183,7 +183,7 @@ TEST_F(ReadWriteTest, TheBareNameThatACalibrationLeavesIsAFileOfTheWorkingFolder
 
 TEST_F(ReadWriteTest, APipeIsADesignThatCannotBeOpened) {
     ASSERT_EQ(mkfifo(Path("plate.vrn").c_str(), 0600), 0);
-    ReadDesign(Path("plate.vrn"));
+    ReadDesign(Design, Path("plate.vrn"));
     ASSERT_EQ(said.size(), 2U);
     EXPECT_TRUE(said[1].ends_with("ReadWrite 407")) << said[1];
 }
@@ -192,7 +192,7 @@ TEST_F(ReadWriteTest, ReportsASizeLimit) {
     Design.DesignFileName = Path("plate.vrn");
     {
         const FileSizeLimit limit(1024);
-        WriteDesign();
+        WriteDesign(Design);
     }
     EXPECT_EQ(said, kNotWritten);
     EXPECT_EQ(ReadFile("plate.vrn").size(), 1024U);
@@ -239,7 +239,7 @@ TEST_F(ReadWriteTest, ReportsWhatItCannotGoThrough) {
         ResetDesign(Design);
         Design.DesignFileName = Path("plate.vrn");
         row.make();
-        WriteDesign();
+        WriteDesign(Design);
         EXPECT_EQ(said, kNotWritten);
         EXPECT_TRUE(ReadFile("plate.vrn").ends_with(row.lastLine));
         Design = DesignRecord{};
@@ -249,7 +249,7 @@ TEST_F(ReadWriteTest, ReportsWhatItCannotGoThrough) {
 TEST_F(ReadWriteTest, ReportsAFailureAmongTheLinesOnceThoughTheDiskIsFull) {
     Design.NumberOfTexts = 11;
     Design.DesignFileName = "/dev/full";
-    WriteDesign();
+    WriteDesign(Design);
     EXPECT_EQ(said, kNotWritten);
 }
 
@@ -258,7 +258,7 @@ TEST_F(ReadWriteTest, AMissingFileIsReportedWithTheStageOfItsOpening) {
                              "Default values for all items have been put in place.\n\n"
                              "ReadWrite 407";
     Design.PlateWidth = 61.5F;
-    ReadDesign(Path("none.vrn"));
+    ReadDesign(Design, Path("none.vrn"));
     EXPECT_EQ(said, (std::vector<std::string>{"beep", text}));
     EXPECT_EQ(Design.PlateWidth, 75);
     EXPECT_EQ(Design.ScaleTitle[1], "Default Scale 1");
@@ -270,7 +270,7 @@ TEST_F(ReadWriteTest, WhatCannotBeReadIsReportedAlike) {
     for (const std::string& name : {Path("none/plate.vrn"), Path(""), Path("large.vrn")}) {
         said.clear();
         Design.PlateWidth = 61.5F;
-        ReadDesign(name);
+        ReadDesign(Design, name);
         ASSERT_EQ(said.size(), 2U) << name;
         EXPECT_TRUE(said[1].ends_with("\n\nReadWrite 407")) << said[1];
         EXPECT_EQ(Design.PlateWidth, 75) << name;
@@ -283,15 +283,15 @@ TEST_F(ReadWriteTest, AFileThatMayNotBeReadIsReportedAlike) {
     }
     const std::string name = WriteFile("plate.vrn", DesignFile().Text());
     std::filesystem::permissions(name, std::filesystem::perms::none);
-    ReadDesign(name);
+    ReadDesign(Design, name);
     ASSERT_EQ(said.size(), 2U);
     EXPECT_TRUE(said[1].ends_with("\n\nReadWrite 407")) << said[1];
 }
 
 TEST_F(ReadWriteTest, TheBodyIsTheSameWhateverTheName) {
     Design.DesignFileName = Path("plate.vrn");
-    WriteDesign();
-    SaveLastSession();
+    WriteDesign(Design);
+    SaveLastSession(Design);
     EXPECT_EQ(Body("plate.vrn"), Body("LASTSESSION.VRN"));
     EXPECT_NE(Body("plate.vrn"), "");
 }

@@ -117,8 +117,8 @@ std::string Remembered() {
         d.ArcWidth, d.MessageLevel, d.NumberOfTexts, d.NumberOfHighlights, d.PlateBackground,
         d.AspectRatio, d.NumberOfCorrectionPoints, d.DrawHighlights, d.PlateOutlineCircular,
         d.CalibrationX, d.CalibrationY, d.CurrentScale, d.ActiveScale, d.HelpTopic, d.ProgramName,
-        d.VersionText, d.ScreenScaleX, d.ScreenScaleY, d.ScratchText, LastStepTrace.Text(),
-        d.SharedIndex, d.SharedIndex2, d.ScaleLoop, d.TicLoop);
+        d.VersionText, d.ScreenScaleX, d.ScreenScaleY, LastStepTrace.Text(), d.SharedIndex2,
+        d.TicLoop);
     for (int scale = 0; scale <= kLastScale; ++scale) {
         put(d.ScaleColor[scale], d.ScaleLeftEnd[scale], d.ScaleLengthUnits[scale],
             d.BottomToTitle[scale], d.BottomToScaleCeiling[scale], d.ScaleTitle[scale],
