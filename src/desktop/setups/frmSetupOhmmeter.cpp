@@ -174,7 +174,7 @@ void frmSetupOhmmeter::ReadBack() {
     Design.LinearityExponent[scale] = 1;
     ListCount_ = std::clamp<std::int16_t>(Design.SpecialNrOfTicmarks[scale], -1, kLastRow);
     for (int row = 0; row <= ListCount_; ++row) {
-        MendEmptyLabel(scale, row);
+        MendEmptyLabel(Design, scale, row);
         const bool major = Design.TicMajorYN[scale][row] == "Y";
         Row(row).Write({.deflection = EntryTextOf(Design.TicDeflection[scale][row]),
                         .label = Design.TicLabelText[scale][row],
@@ -211,7 +211,7 @@ void frmSetupOhmmeter::StoreResistanceList() {
     for (int row = 0; row <= ListCount_; ++row) {
         rows.push_back(Row(row).Contents());
     }
-    vernacle::StoreResistanceList(Scale(), rows);
+    vernacle::StoreResistanceList(Design, Scale(), rows);
 }
 
 void frmSetupOhmmeter::txtEnterMidscaleChanged() {

@@ -25,7 +25,7 @@ frmSetupSmeter::frmSetupSmeter() : PicturedSetupPage(kTraits) {
 
 void frmSetupSmeter::ComputeTics(int option, float exponent) {
     setup_.ScaleType = static_cast<std::int16_t>(option);
-    ComputeSmeterTics(Scale(), exponent, setup_);
+    ComputeSmeterTics(Design, Scale(), exponent, setup_);
 }
 
 } // namespace vernacle

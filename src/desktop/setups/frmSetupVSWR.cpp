@@ -39,7 +39,7 @@ void frmSetupVSWR::AcceptSetup() {
 
 void frmSetupVSWR::ComputeTics(int option, float exponent) {
     setup_.StepSize = kSteps.at(static_cast<std::size_t>(option) - 1).step;
-    ComputeVSWRTics(Scale(), exponent, setup_);
+    ComputeVSWRTics(Design, Scale(), exponent, setup_);
 }
 
 } // namespace vernacle

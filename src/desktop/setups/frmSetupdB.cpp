@@ -173,7 +173,7 @@ void frmSetupdB::ReadBack() {
 
 void frmSetupdB::ComputeDecibelTics() {
     ReadEntries();
-    vernacle::ComputeDecibelTics(Scale(), entries_);
+    vernacle::ComputeDecibelTics(Design, Scale(), entries_);
     ShowEntries();
     ShowRows();
 }

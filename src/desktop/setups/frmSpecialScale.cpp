@@ -100,7 +100,7 @@ void frmSpecialScale::ReadBack() {
     for (int tic = 0; tic <= last; ++tic) {
         const TicRow& row = Row(tic);
         row.major.Show(AnswerIf(Design.TicMajorYN[scale][tic] == "Y"));
-        MendEmptyLabel(scale, tic);
+        MendEmptyLabel(Design, scale, tic);
         row.label->Write(Design.TicLabelText[scale][tic]);
         row.deflection->Write(PlainNumber(Design.TicDeflection[scale][tic]));
     }
@@ -114,7 +114,7 @@ void frmSpecialScale::ShowStored() {
 void frmSpecialScale::CheckEntries(SetupMoment moment) {
     for (int tic = 0; tic <= Design.SpecialNrOfTicmarks[Scale()]; ++tic) {
         std::string text = Row(tic).deflection->Text();
-        const DeflectionFault fault = CheckDeflection(Scale(), tic, text);
+        const DeflectionFault fault = CheckDeflection(Design, Scale(), tic, text);
         Row(tic).deflection->Write(text);
         if (fault != DeflectionFault::None) {
             Host.informationBox(MessageOf(fault, moment));
@@ -131,7 +131,7 @@ void frmSpecialScale::ApplySpecialTable() {
                           .label = row.label->Text(),
                           .major = row.major.Chosen()};
     });
-    vernacle::ApplySpecialTable(Scale(), ticmarks_, rows);
+    vernacle::ApplySpecialTable(Design, Scale(), ticmarks_, rows);
     FormatByMagnitude(double{ticmarks_}, text);
     txtNrOfTicmarks_->Write(text);
     ShowRows();

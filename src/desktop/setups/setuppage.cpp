@@ -58,7 +58,7 @@ void SetupPage::ShowSetupPreview() {
 void SetupPage::AcceptSetup() {
     CheckEntries(kAtAccept);
     if (traits_.marking == Marking::ByAccept) {
-        MarkSpecial(Scale());
+        MarkSpecial(Design, Scale());
     }
     if ((traits_.computes & kAtAccept) != 0) {
         Compute();

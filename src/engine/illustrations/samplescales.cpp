@@ -55,7 +55,7 @@ void SetUpSampleOhmmeter(int scale) {
                         .ticClass = *ohms.label == '\0' ? TicClass::Minor : TicClass::Major});
     }
     rows.push_back({.deflection = "0", .label = "\u221E", .ticClass = TicClass::Major});
-    StoreResistanceList(scale, rows);
+    StoreResistanceList(Design, scale, rows);
 }
 
 void SetUpSampleArbitrary(int scale) {
@@ -64,20 +64,20 @@ void SetUpSampleArbitrary(int scale) {
         return SpecialRow{.deflection = mark.deflection, .label = mark.label, .major = mark.major};
     });
     float last = std::size(kFuel) - 1;
-    ApplySpecialTable(scale, last, rows);
-    MarkSpecial(scale);
+    ApplySpecialTable(Design, scale, last, rows);
+    MarkSpecial(Design, scale);
 }
 
 void SetUpSampleSmeter(int scale) {
     SmeterSetup setup{.ScaleType = 4};
-    ComputeSmeterTics(scale, 1, setup);
-    MarkSpecial(scale);
+    ComputeSmeterTics(Design, scale, 1, setup);
+    MarkSpecial(Design, scale);
 }
 
 void SetUpSampleVswr(int scale) {
     VswrSetup setup{.StepSize = 0.5F};
-    ComputeVSWRTics(scale, 1, setup);
-    MarkSpecial(scale);
+    ComputeVSWRTics(Design, scale, 1, setup);
+    MarkSpecial(Design, scale);
 }
 
 void SetUpSampleDecibel(int scale) {
@@ -90,8 +90,8 @@ void SetUpSampleDecibel(int scale) {
         entries.tics.at(static_cast<std::size_t>(tic)).labelled = Answer::Yes;
         entries.tics.at(static_cast<std::size_t>(tic)).major = Answer::Yes;
     }
-    ComputeDecibelTics(scale, entries);
-    MarkSpecial(scale);
+    ComputeDecibelTics(Design, scale, entries);
+    MarkSpecial(Design, scale);
 }
 
 } // namespace vernacle

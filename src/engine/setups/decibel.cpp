@@ -4,7 +4,6 @@
 #include <cstdlib>
 
 #include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 
 namespace vernacle {
 
@@ -19,19 +18,19 @@ void Hold(DecibelEntries& entries) {
     entries.multiplier = kMultiplierLimits.Held(entries.multiplier);
 }
 
-void StoreNumbers(int scale, const DecibelEntries& entries) {
-    Design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(entries.ticmarks);
-    Design.LinearityExponent[scale] = entries.exponent;
-    Design.FullscaleMultiplier[scale] = entries.multiplier;
+void StoreNumbers(DesignRecord& design, int scale, const DecibelEntries& entries) {
+    design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(entries.ticmarks);
+    design.LinearityExponent[scale] = entries.exponent;
+    design.FullscaleMultiplier[scale] = entries.multiplier;
 }
 
 // Major tics and labels keep what they hold behind the last tic.
-void ClearTics(int scale) {
+void ClearTics(DesignRecord& design, int scale) {
     for (int tic = 0; tic <= kLastTic; ++tic) {
-        Design.TicDeflection[scale][tic] = 0;
-        Design.StandardLabel[scale][tic].clear();
-        Design.TicPrintYN[scale][tic] = "N";
-        Design.TicLabelYN[scale][tic] = "N";
+        design.TicDeflection[scale][tic] = 0;
+        design.StandardLabel[scale][tic].clear();
+        design.TicPrintYN[scale][tic] = "N";
+        design.TicLabelYN[scale][tic] = "N";
     }
 }
 
@@ -47,31 +46,31 @@ std::string LabelOf(int tic, const DecibelEntries& entries) {
     return (plus ? "+" : "") + PlainNumber(decibels);
 }
 
-void AddBottomTic(int scale, int tic, Answer major) {
-    Design.TicDeflection[scale][tic] = 0;
-    Design.TicPrintYN[scale][tic] = "Y";
-    Design.TicMajorYN[scale][tic] = FlagOf(major);
+void AddBottomTic(DesignRecord& design, int scale, int tic, Answer major) {
+    design.TicDeflection[scale][tic] = 0;
+    design.TicPrintYN[scale][tic] = "Y";
+    design.TicMajorYN[scale][tic] = FlagOf(major);
 }
 
 } // namespace
 
-void ComputeDecibelTics(int scale, DecibelEntries& entries) {
+void ComputeDecibelTics(DesignRecord& design, int scale, DecibelEntries& entries) {
     Hold(entries);
-    StoreNumbers(scale, entries);
-    ClearTics(scale);
-    const int last = Design.SpecialNrOfTicmarks[scale];
+    StoreNumbers(design, scale, entries);
+    ClearTics(design, scale);
+    const int last = design.SpecialNrOfTicmarks[scale];
     for (int tic = 0; tic < last; ++tic) {
         const DecibelTic& choice = entries.tics.at(static_cast<std::size_t>(tic));
-        StoreTic(scale, tic,
+        StoreTic(design, scale, tic,
                  {.deflection = DeflectionOf(tic, entries),
                   .label = LabelOf(tic, entries),
                   .printed = choice.printed,
                   .labelled = choice.labelled,
                   .major = choice.major});
     }
-    Design.UnlabelledBottomTic[scale] = FlagOf(entries.unlabelledBottomTic);
+    design.UnlabelledBottomTic[scale] = FlagOf(entries.unlabelledBottomTic);
     if (entries.unlabelledBottomTic == Answer::Yes) {
-        AddBottomTic(scale, last, entries.tics.at(static_cast<std::size_t>(last)).major);
+        AddBottomTic(design, scale, last, entries.tics.at(static_cast<std::size_t>(last)).major);
     }
 }
 

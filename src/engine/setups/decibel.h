@@ -37,6 +37,6 @@ struct DecibelEntries {
 
 // Holds the four numbers to their limits, the first two to whole numbers, and writes the scale's
 // tables. The bottom tic stands behind the last computed one, at the index SpecialNrOfTicmarks.
-void ComputeDecibelTics(int scale, DecibelEntries& entries);
+void ComputeDecibelTics(DesignRecord& design, int scale, DecibelEntries& entries);
 
 } // namespace vernacle

@@ -1,6 +1,5 @@
 #include "engine/setups/ohmmeter.h"
 
-#include "engine/core/design.h"
 #include "engine/core/entry.h"
 #include "engine/setups/setup.h"
 
@@ -8,15 +7,15 @@ namespace vernacle {
 
 namespace {
 
-void StoreRow(int scale, int tic, const ResistanceRow& row) {
-    Design.TicPrintYN[scale][tic] = "Y";
-    Design.TicLabelYN[scale][tic] = "Y";
+void StoreRow(DesignRecord& design, int scale, int tic, const ResistanceRow& row) {
+    design.TicPrintYN[scale][tic] = "Y";
+    design.TicLabelYN[scale][tic] = "Y";
     std::string deflection = row.deflection;
-    ParseEntry(deflection, Design.TicDeflection[scale][tic]);
+    ParseEntry(deflection, design.TicDeflection[scale][tic]);
     if (row.ticClass != TicClass::Undecided) {
-        Design.TicMajorYN[scale][tic] = FlagOf(AnswerIf(row.ticClass == TicClass::Major));
+        design.TicMajorYN[scale][tic] = FlagOf(AnswerIf(row.ticClass == TicClass::Major));
     }
-    Design.TicLabelText[scale][tic] = row.label;
+    design.TicLabelText[scale][tic] = row.label;
 }
 
 } // namespace
@@ -35,12 +34,12 @@ float ComputeResistanceDeflection(float midscale, float resistance) {
     return static_cast<float>(1 / sum);
 }
 
-void StoreResistanceList(int scale, const std::vector<ResistanceRow>& rows) {
-    MarkSpecial(scale);
+void StoreResistanceList(DesignRecord& design, int scale, const std::vector<ResistanceRow>& rows) {
+    MarkSpecial(design, scale);
     const int count = static_cast<int>(rows.size());
-    Design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(count - 1);
+    design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(count - 1);
     for (int tic = 0; tic < count; ++tic) {
-        StoreRow(scale, tic, rows[static_cast<std::size_t>(tic)]);
+        StoreRow(design, scale, tic, rows[static_cast<std::size_t>(tic)]);
     }
 }
 

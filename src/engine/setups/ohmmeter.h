@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "engine/core/design.h"
+
 namespace vernacle {
 
 // The deflection of a resistance. A midscale of 0, and a resistance of minus the midscale, are an
@@ -26,6 +28,6 @@ struct ResistanceRow {
 
 // Marks the scale special and writes the rows into its tables; entries behind the last row stay.
 // SpecialNrOfTicmarks is the last row's number, -1 for none.
-void StoreResistanceList(int scale, const std::vector<ResistanceRow>& rows);
+void StoreResistanceList(DesignRecord& design, int scale, const std::vector<ResistanceRow>& rows);
 
 } // namespace vernacle

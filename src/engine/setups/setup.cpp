@@ -5,12 +5,11 @@
 
 #include "engine/base/runtimeerror.h"
 #include "engine/base/text.h"
-#include "engine/core/design.h"
 
 namespace vernacle {
 
-void MarkSpecial(int scale) {
-    std::int32_t& colour = Design.ScaleColor[scale];
+void MarkSpecial(DesignRecord& design, int scale) {
+    std::int32_t& colour = design.ScaleColor[scale];
     if (colour == 0) {
         colour = 1;
     }
@@ -37,16 +36,16 @@ std::string FlagOf(Answer answer) {
     return answer == Answer::Yes ? "Y" : "N";
 }
 
-void StoreTic(int scale, int tic, const TicEntry& entry) {
-    Design.TicDeflection[scale][tic] = entry.deflection;
-    Design.TicLabelText[scale][tic] = entry.label;
-    Design.TicPrintYN[scale][tic] = FlagOf(entry.printed);
-    Design.TicLabelYN[scale][tic] = FlagOf(entry.labelled);
-    Design.TicMajorYN[scale][tic] = FlagOf(entry.major);
+void StoreTic(DesignRecord& design, int scale, int tic, const TicEntry& entry) {
+    design.TicDeflection[scale][tic] = entry.deflection;
+    design.TicLabelText[scale][tic] = entry.label;
+    design.TicPrintYN[scale][tic] = FlagOf(entry.printed);
+    design.TicLabelYN[scale][tic] = FlagOf(entry.labelled);
+    design.TicMajorYN[scale][tic] = FlagOf(entry.major);
 }
 
-void MendEmptyLabel(int scale, int tic) {
-    std::string& label = Design.TicLabelText[scale][tic];
+void MendEmptyLabel(DesignRecord& design, int scale, int tic) {
+    std::string& label = design.TicLabelText[scale][tic];
     if (Trimmed(label) == "/") {
         label = " ";
     }

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "engine/core/design.h"
 #include "engine/core/entry.h"
 
 namespace vernacle {
@@ -18,7 +19,7 @@ public:
 
 // Makes the scale special: its colour becomes negative, and black, which has no sign, becomes 1
 // before.
-void MarkSpecial(int scale);
+void MarkSpecial(DesignRecord& design, int scale);
 
 // What the setups hold a linearity exponent to.
 constexpr EntryLimits kExponentLimits{-4, 4};
@@ -42,10 +43,10 @@ struct TicEntry {
     Answer major = Answer::Yes;
 };
 
-void StoreTic(int scale, int tic, const TicEntry& entry);
+void StoreTic(DesignRecord& design, int scale, int tic, const TicEntry& entry);
 
 // A design file writes "/" for an empty label: such a label becomes a blank.
-void MendEmptyLabel(int scale, int tic);
+void MendEmptyLabel(DesignRecord& design, int scale, int tic);
 
 // A number from 0 up, with one place behind the point unless that is 0: "2", "1.5", and "10" for
 // 9.99.

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 #include "engine/setups/setup.h"
 
 namespace vernacle {
@@ -30,17 +29,17 @@ constexpr std::array<SmeterType, 4> kTypes = {{
     {114, Counts::Decibels},
 }};
 
-void ClearScales(int ownScale, int lastTic) {
+void ClearScales(DesignRecord& design, int ownScale, int lastTic) {
     for (int scale = 1; scale <= kClearedScales; ++scale) {
         for (int tic = 0; tic <= kLastTic; ++tic) {
-            Design.TicPrintYN[scale][tic] = "N";
-            Design.TicLabelText[scale][tic].clear();
-            Design.TicLabelYN[scale][tic] = "N";
-            Design.TicMajorYN[scale][tic] = "N";
+            design.TicPrintYN[scale][tic] = "N";
+            design.TicLabelText[scale][tic].clear();
+            design.TicLabelYN[scale][tic] = "N";
+            design.TicMajorYN[scale][tic] = "N";
         }
     }
     if (lastTic >= 0) { // none was made where the computation before failed
-        Design.TicDeflection[ownScale][lastTic] = 0;
+        design.TicDeflection[ownScale][lastTic] = 0;
     }
 }
 
@@ -64,10 +63,10 @@ std::string LabelOf(const SmeterType& type, int step) {
 
 } // namespace
 
-void ComputeSmeterTics(int scale, float exponent, SmeterSetup& setup) {
+void ComputeSmeterTics(DesignRecord& design, int scale, float exponent, SmeterSetup& setup) {
     exponent = HeldExponent(exponent);
-    Design.LinearityExponent[scale] = exponent;
-    ClearScales(scale, setup.LastTic);
+    design.LinearityExponent[scale] = exponent;
+    ClearScales(design, scale, setup.LastTic);
     setup.LastTic = -1;
     if (setup.ScaleType < 1 || setup.ScaleType > static_cast<int>(kTypes.size())) {
         return;
@@ -79,13 +78,13 @@ void ComputeSmeterTics(int scale, float exponent, SmeterSetup& setup) {
         const std::string label = LabelOf(type, setup.TicStep);
         ++setup.LastTic;
         if (label.empty()) { // stays as it was wiped, or not, on a scale above those
-            Design.TicDeflection[scale][setup.LastTic] = deflection;
+            design.TicDeflection[scale][setup.LastTic] = deflection;
         } else {
-            StoreTic(scale, setup.LastTic, {.deflection = deflection, .label = label});
+            StoreTic(design, scale, setup.LastTic, {.deflection = deflection, .label = label});
         }
     }
-    Design.TicMajorYN[scale][0] = "Y";
-    Design.SpecialNrOfTicmarks[scale] = setup.LastTic;
+    design.TicMajorYN[scale][0] = "Y";
+    design.SpecialNrOfTicmarks[scale] = setup.LastTic;
 }
 
 } // namespace vernacle

@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+#include "engine/core/design.h"
+
 namespace vernacle {
 
 // What the page keeps from one computation to the next.
@@ -20,6 +22,6 @@ struct SmeterSetup {
 // Stores the exponent, held to -4 .. 4, empties the labels and flags of scales 1 to 4, and writes
 // the tables of this scale; no type ends it there. A negative exponent is an ImpossibleEntry behind
 // the emptying.
-void ComputeSmeterTics(int scale, float exponent, SmeterSetup& setup);
+void ComputeSmeterTics(DesignRecord& design, int scale, float exponent, SmeterSetup& setup);
 
 } // namespace vernacle

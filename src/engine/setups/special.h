@@ -21,13 +21,13 @@ struct SpecialRow {
 
 // Holds the number of the last row to 1 .. 30, whole and without its sign, and writes the rows up
 // to it into the scale's tables, printed and labelled all; the others of the 31 are emptied.
-void ApplySpecialTable(int scale, float& ticmarks,
+void ApplySpecialTable(DesignRecord& design, int scale, float& ticmarks,
                        const std::array<SpecialRow, kSpecialRows>& rows);
 
 enum class DeflectionFault { None, Below, Above };
 
 // Reads the text into that tic's TicDeflection, holds it to 0 .. 1, and makes the text show it.
 // Tells which limit it broke.
-DeflectionFault CheckDeflection(int scale, int tic, std::string& text);
+DeflectionFault CheckDeflection(DesignRecord& design, int scale, int tic, std::string& text);
 
 } // namespace vernacle

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 #include "engine/setups/setup.h"
 
 namespace vernacle {
@@ -85,9 +84,9 @@ constexpr TicEntry FullReflection() {
 
 } // namespace
 
-void ComputeVSWRTics(int scale, float exponent, VswrSetup& setup) {
+void ComputeVSWRTics(DesignRecord& design, int scale, float exponent, VswrSetup& setup) {
     exponent = HeldExponent(exponent);
-    Design.LinearityExponent[scale] = exponent;
+    design.LinearityExponent[scale] = exponent;
     setup.LastTic = -1;
     const auto* rule = std::ranges::find(kRules, setup.StepSize, &StepRule::step);
     if (rule == std::end(kRules)) {
@@ -97,12 +96,12 @@ void ComputeVSWRTics(int scale, float exponent, VswrSetup& setup) {
          setup.CurrentRatio += setup.StepSize) {
         const TicEntry entry = EntryOf(*rule, setup.CurrentRatio, exponent);
         ++setup.LastTic;
-        StoreTic(scale, setup.LastTic, entry);
+        StoreTic(design, scale, setup.LastTic, entry);
     }
-    Design.TicMajorYN[scale][0] = "Y";
+    design.TicMajorYN[scale][0] = "Y";
     ++setup.LastTic;
-    StoreTic(scale, setup.LastTic, FullReflection());
-    Design.SpecialNrOfTicmarks[scale] = setup.LastTic;
+    StoreTic(design, scale, setup.LastTic, FullReflection());
+    design.SpecialNrOfTicmarks[scale] = setup.LastTic;
 }
 
 } // namespace vernacle

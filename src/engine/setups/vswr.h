@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+#include "engine/core/design.h"
+
 namespace vernacle {
 
 // What the page keeps from one computation to the next.
@@ -19,6 +21,6 @@ struct VswrSetup {
 
 // Stores the exponent, held to -4 .. 4, and writes the scale's tables; entries behind the last tic
 // stay. Another step ends it there, and so does a negative exponent, as an ImpossibleEntry.
-void ComputeVSWRTics(int scale, float exponent, VswrSetup& setup);
+void ComputeVSWRTics(DesignRecord& design, int scale, float exponent, VswrSetup& setup);
 
 } // namespace vernacle

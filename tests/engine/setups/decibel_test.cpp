@@ -30,7 +30,7 @@ protected:
 };
 
 TEST_F(DecibelTest, ANewScaleGoesDownFromZero) {
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 11);
     EXPECT_EQ(Labels(), (std::vector<std::string>{"0", "-1", "-2", "-3", "-4", "-5", "-6", "-7",
                                                   "-8", "-9", "-10"}));
@@ -66,7 +66,7 @@ TEST_F(DecibelTest, DeflectionsAreRoundedStepByStep) {
         entries.ticmarks = row.ticmarks;
         entries.exponent = row.exponent;
         entries.multiplier = row.multiplier;
-        ComputeDecibelTics(1, entries);
+        ComputeDecibelTics(Design, 1, entries);
         EXPECT_EQ(DeflectionsOf(1, Design.SpecialNrOfTicmarks[1] - 1), row.deflections);
         EXPECT_EQ(Design.LinearityExponent[1], row.exponent);
         EXPECT_EQ(Design.FullscaleMultiplier[1], row.multiplier);
@@ -74,10 +74,10 @@ TEST_F(DecibelTest, DeflectionsAreRoundedStepByStep) {
 }
 
 TEST_F(DecibelTest, LabelsDoNotMoveTheTics) {
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     const std::vector<float> before = DeflectionsOf(1, 11);
     entries.fullScale = 20;
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(DeflectionsOf(1, 11), before);
     EXPECT_EQ(Design.TicLabelText[1][0], "+20");
 }
@@ -85,10 +85,10 @@ TEST_F(DecibelTest, LabelsDoNotMoveTheTics) {
 TEST_F(DecibelTest, PositiveLabelsHaveAPlusWhereAskedFor) {
     entries.fullScale = 3;
     entries.ticmarks = 5;
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(Labels(), (std::vector<std::string>{"+3", "+2", "+1", "0", "-1"}));
     entries.plusSigns = Answer::No;
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(Labels(), (std::vector<std::string>{"3", "2", "1", "0", "-1"}));
 }
 
@@ -106,24 +106,24 @@ TEST_F(DecibelTest, NumbersAreHeldToTheirLimits) {
                                 {200.5F, 200},
                                 {1e9F, 200}}) {
         entries.fullScale = row.entered;
-        ComputeDecibelTics(1, entries);
+        ComputeDecibelTics(Design, 1, entries);
         EXPECT_EQ(entries.fullScale, row.held) << row.entered;
     }
     for (const LimitRow& row :
          {LimitRow{30, 24}, {-30, 24}, {24, 24}, {-5, 5}, {2.7F, 2}, {0.9F, 0}, {0, 0}}) {
         entries.ticmarks = row.entered;
-        ComputeDecibelTics(1, entries);
+        ComputeDecibelTics(Design, 1, entries);
         EXPECT_EQ(entries.ticmarks, row.held) << row.entered;
         EXPECT_EQ(Design.SpecialNrOfTicmarks[1], static_cast<std::int16_t>(row.held));
     }
     for (const LimitRow& row : {LimitRow{-5, -4}, {-4, -4}, {1.5F, 1.5F}, {9, 4}}) {
         entries.exponent = row.entered;
-        ComputeDecibelTics(1, entries);
+        ComputeDecibelTics(Design, 1, entries);
         EXPECT_EQ(Design.LinearityExponent[1], row.held) << row.entered;
     }
     for (const LimitRow& row : {LimitRow{0, 0.7F}, {0.7F, 0.7F}, {1, 1}, {1.1F, 1.1F}, {2, 1.1F}}) {
         entries.multiplier = row.entered;
-        ComputeDecibelTics(1, entries);
+        ComputeDecibelTics(Design, 1, entries);
         EXPECT_EQ(entries.multiplier, row.held) << row.entered;
         EXPECT_EQ(Design.FullscaleMultiplier[1], row.held);
     }
@@ -134,7 +134,7 @@ TEST_F(DecibelTest, ChoicesOfEachTicAreStored) {
     entries.tics[0] = {Answer::No, Answer::No, Answer::Yes};
     entries.tics[1] = {Answer::Yes, Answer::Yes, Answer::Yes};
     entries.tics[2] = {Answer::No, Answer::Yes, Answer::No};
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(TicsInWords(1, 2),
               (std::vector<std::string>{"[0] label", "[-1] print label major", "[-2] major"}));
 }
@@ -143,26 +143,26 @@ TEST_F(DecibelTest, BottomTicStandsBehindTheLastAndIsNotCounted) {
     SpoilTables(1);
     entries.ticmarks = 24;
     entries.tics[24].major = Answer::Yes;
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 24);
     EXPECT_EQ(Design.TicDeflection[1][23], 0.0707945749F);
     EXPECT_EQ(Design.TicDeflection[1][24], 0);
     EXPECT_EQ(TicInWords(1, 24), "[old] print major") << "its label keeps what it held";
     entries.tics[24].major = Answer::No;
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(TicInWords(1, 24), "[old] print");
 }
 
 TEST_F(DecibelTest, WithoutTheBottomTicNothingStandsThere) {
     entries.unlabelledBottomTic = Answer::No;
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(Design.UnlabelledBottomTic[1], "N");
     EXPECT_EQ(Design.TicPrintYN[1][11], "N");
 }
 
 TEST_F(DecibelTest, NoTicsLeaveTheBottomTicAlone) {
     entries.ticmarks = 0;
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 0);
     EXPECT_EQ(Design.TicDeflection[1][0], 0);
     EXPECT_EQ(Design.TicPrintYN[1][0], "Y");
@@ -172,7 +172,7 @@ TEST_F(DecibelTest, AllTicsAreClearedBefore) {
     SpoilTables(1);
     SpoilTables(2);
     entries.ticmarks = 2;
-    ComputeDecibelTics(1, entries);
+    ComputeDecibelTics(Design, 1, entries);
     for (const int tic : {3, 100, kLastTic}) {
         EXPECT_EQ(Design.TicDeflection[1][tic], 0);
         EXPECT_EQ(TicInWords(1, tic), "[old] major") << "labels and classes are not";

@@ -58,10 +58,11 @@ TEST_F(OhmmeterTest, ImpossibleResistancesSayWhatIsWrong) {
 
 TEST_F(OhmmeterTest, ListIsStoredByWhatItsTextsSay) {
     SpoilTables(2);
-    StoreResistanceList(2, {{"1", "0", TicClass::Major},
-                            {".25", "300 k", TicClass::Minor},
-                            {" .5 ", "", TicClass::Undecided},
-                            {"0", "\u221E", TicClass::Minor}});
+    StoreResistanceList(Design, 2,
+                        {{"1", "0", TicClass::Major},
+                         {".25", "300 k", TicClass::Minor},
+                         {" .5 ", "", TicClass::Undecided},
+                         {"0", "\u221E", TicClass::Minor}});
     EXPECT_EQ(Design.ScaleColor[2], -1) << "marked with it";
     EXPECT_EQ(Design.SpecialNrOfTicmarks[2], 3) << "the last tic's number";
     EXPECT_EQ(DeflectionsOf(2, 4), (std::vector<float>{1, 0.25F, 0.5F, 0, 7}));
@@ -75,12 +76,13 @@ TEST_F(OhmmeterTest, ListIsStoredByWhatItsTextsSay) {
 TEST_F(OhmmeterTest, TextsThatAreNoEntriesKeepTheDeflection) {
     Design.TicDeflection[1][0] = 9.090909E-02F;
     Design.TicDeflection[1][1] = 0.3F;
-    StoreResistanceList(1, {{"9.090909E-02", "x", TicClass::Minor}, {"", "y", TicClass::Minor}});
+    StoreResistanceList(Design, 1,
+                        {{"9.090909E-02", "x", TicClass::Minor}, {"", "y", TicClass::Minor}});
     EXPECT_EQ(DeflectionsOf(1, 1), (std::vector<float>{9.090909E-02F, 0}));
 }
 
 TEST_F(OhmmeterTest, AnEmptyListStoresMinusOne) {
-    StoreResistanceList(1, {});
+    StoreResistanceList(Design, 1, {});
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], -1);
     EXPECT_EQ(Design.ScaleColor[1], -1);
 }

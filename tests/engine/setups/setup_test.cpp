@@ -14,7 +14,7 @@ TEST_F(SetupTest, MarkingMakesTheColourNegative) {
         {0, -1}, {1, -1}, {-1, -1}, {0x804020, -0x804020}, {-0x804020, -0x804020}};
     for (const auto& [before, after] : rows) {
         Design.ScaleColor[3] = before;
-        MarkSpecial(3);
+        MarkSpecial(Design, 3);
         EXPECT_EQ(Design.ScaleColor[3], after);
     }
     EXPECT_GE(Design.ScaleColor[2], 0) << "no other scale";
@@ -66,13 +66,13 @@ TEST_F(SetupTest, MarksOfEmptyLabelsBecomeABlank) {
                                                         {"a/b", "a/b"}, {"", ""},     {" ", " "}};
     for (const auto& [before, after] : rows) {
         Design.TicLabelText[2][5] = before;
-        MendEmptyLabel(2, 5);
+        MendEmptyLabel(Design, 2, 5);
         EXPECT_EQ(Design.TicLabelText[2][5], after);
     }
 }
 
 TEST_F(SetupTest, AnEntryIsStoredInAllItsTables) {
-    StoreTic(4, 9, {.deflection = 0.5F, .label = "x", .labelled = Answer::No});
+    StoreTic(Design, 4, 9, {.deflection = 0.5F, .label = "x", .labelled = Answer::No});
     EXPECT_EQ(Design.TicDeflection[4][9], 0.5F);
     EXPECT_EQ(TicInWords(4, 9), "[x] print major");
     EXPECT_EQ(Design.TicLabelYN[4][9], "N");

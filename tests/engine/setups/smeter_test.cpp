@@ -10,7 +10,7 @@ class SmeterTest : public SetupTablesTest {
 protected:
     void Compute(int type, float exponent, int scale = 1) {
         setup.ScaleType = static_cast<std::int16_t>(type);
-        ComputeSmeterTics(scale, exponent, setup);
+        ComputeSmeterTics(Design, scale, exponent, setup);
     }
 
     // Labels of the printed tics with their table entries.

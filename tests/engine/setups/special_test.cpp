@@ -8,7 +8,7 @@ namespace {
 class SpecialTableTest : public SetupTablesTest {
 protected:
     float Apply(float ticmarks) {
-        ApplySpecialTable(1, ticmarks, rows);
+        ApplySpecialTable(Design, 1, ticmarks, rows);
         return ticmarks;
     }
 
@@ -88,7 +88,7 @@ TEST_F(SpecialTableTest, DeflectionsAreCheckedIntoTheirTic) {
     };
     for (const CheckRow& row : checks) {
         std::string text = row.text;
-        EXPECT_EQ(CheckDeflection(1, 3, text), row.fault) << row.text;
+        EXPECT_EQ(CheckDeflection(Design, 1, 3, text), row.fault) << row.text;
         EXPECT_EQ(text, row.shown);
         EXPECT_EQ(Design.TicDeflection[1][3], row.stored);
     }
@@ -97,7 +97,7 @@ TEST_F(SpecialTableTest, DeflectionsAreCheckedIntoTheirTic) {
 TEST_F(SpecialTableTest, LongTextsAreIgnoredByTheCheck) {
     Design.TicDeflection[1][3] = 9.090909E-02F;
     std::string text = "0.12345678901";
-    EXPECT_EQ(CheckDeflection(1, 3, text), DeflectionFault::None);
+    EXPECT_EQ(CheckDeflection(Design, 1, 3, text), DeflectionFault::None);
     EXPECT_EQ(text, "9.090909E-02") << "what the tic holds";
 }
 

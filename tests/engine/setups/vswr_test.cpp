@@ -12,7 +12,7 @@ class VswrTest : public SetupTablesTest {
 protected:
     void Compute(float step, float exponent = 1) {
         setup.StepSize = step;
-        ComputeVSWRTics(1, exponent, setup);
+        ComputeVSWRTics(Design, 1, exponent, setup);
     }
 
     // Labels of the tics that have that flag switched on.
