@@ -110,19 +110,19 @@ void frmWizard::ShowPrompt() {
         return;
     }
     DrawSchematic(schematic_->Surface(), Design.HelpTopic, kWizardLook);
-    Label1_->setText(QString::fromStdString(WizardPrompt(Design.HelpTopic)));
+    Label1_->setText(QString::fromStdString(WizardPrompt(Design, Design.HelpTopic)));
 }
 
 void frmWizard::EnterClicked(int step) {
     const WizardStep& row = StepAt(step);
     EntryBox& box = BoxOf(step);
-    if (const auto refusal = EnterWizardStep(row, box.Text())) {
+    if (const auto refusal = EnterWizardStep(Design, row, box.Text())) {
         Host.informationBox(*refusal);
         box.Write({});
         box.setFocus();
         return;
     }
-    box.Write(WizardValue(row));
+    box.Write(WizardValue(Design, row));
     if (step + 1 == StepCount()) {
         Label2_->show();
     } else {
@@ -138,9 +138,9 @@ void frmWizard::EnterClicked(int step) {
 
 void frmWizard::cmdAcceptClicked() {
     for (const int step : WizardReadingOrder()) {
-        ReadWizardStep(StepAt(step), BoxOf(step).Text());
+        ReadWizardStep(Design, StepAt(step), BoxOf(step).Text());
     }
-    RepairWizardDesign();
+    RepairWizardDesign(Design);
     GoToPage("frmWizardPart2");
 }
 
@@ -157,7 +157,7 @@ void frmWizard::ShowStep(int step) {
     const StepRow& row = rows_.at(static_cast<std::size_t>(step));
     row.label->show();
     row.enter->show();
-    row.box->TellRange(WizardRange(StepAt(step))); // which earlier steps may decide
+    row.box->TellRange(WizardRange(Design, StepAt(step))); // which earlier steps may decide
     row.box->show();
 }
 

@@ -69,7 +69,7 @@ void frmWizardPart2::Build() {
 void frmWizardPart2::AddNudge(const Nudge& nudge, QGridLayout& grid, int row) {
     const QString caption = QString::fromUtf8(nudge.caption);
     const std::string captionName = std::string(nudge.label) + "Caption";
-    QLabel* number = MakeLabel(nudge.label, QString::fromStdString(NudgeValue(nudge)));
+    QLabel* number = MakeLabel(nudge.label, QString::fromStdString(NudgeValue(Design, nudge)));
     number->setMinimumWidth(kNumberCharacters * number->fontMetrics().averageCharWidth());
     SpeakNumber(*number, caption);
     auto* arrows = new UpDown(nudge.upDown, caption);
@@ -100,9 +100,9 @@ void frmWizardPart2::Step(const Nudge& nudge, QLabel& number, double by) {
     const double from = NumericValue(number.text().toStdString());
     const double to = std::clamp(from + by, nudge.stepsLowest, nudge.stepsHighest);
     number.setText(QString::fromStdString(PlainNumber(static_cast<float>(to))));
-    const NudgeResult result = ApplyNudge(nudge, number.text().toStdString());
+    const NudgeResult result = ApplyNudge(Design, nudge, number.text().toStdString());
     if (result == NudgeResult::Corrected) {
-        number.setText(QString::fromStdString(NudgeValue(nudge)));
+        number.setText(QString::fromStdString(NudgeValue(Design, nudge)));
     }
     SpeakNumber(number, QString::fromUtf8(nudge.caption));
     if (result == NudgeResult::Accepted) {

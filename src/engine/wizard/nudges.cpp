@@ -1,7 +1,6 @@
 #include "engine/wizard/nudges.h"
 
 #include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 #include "engine/core/entry.h"
 
 namespace vernacle {
@@ -14,37 +13,37 @@ constexpr int kScale = 1;
 constexpr double kNoLimit = 1e30;
 
 template <int Number>
-double Is() {
+double Is(const DesignRecord& /*design*/) {
     return Number;
 }
 
-double NoLimit() {
+double NoLimit(const DesignRecord& /*design*/) {
     return kNoLimit;
 }
 
-double AboveBearing() {
-    return double{Design.BottomToBearing} + 1;
+double AboveBearing(const DesignRecord& design) {
+    return double{design.BottomToBearing} + 1;
 }
-double HighestCeiling() {
-    return 1.5 * double{Design.PlateHeight};
+double HighestCeiling(const DesignRecord& design) {
+    return 1.5 * double{design.PlateHeight};
 }
-double HighestTitle() {
-    return double{Design.PlateHeight} + 10;
+double HighestTitle(const DesignRecord& design) {
+    return double{design.PlateHeight} + 10;
 }
-double MinorLength() {
-    return double{Design.MinorTicLength};
+double MinorLength(const DesignRecord& design) {
+    return double{design.MinorTicLength};
 }
-double MajorLength() {
-    return double{Design.MajorTicLength};
+double MajorLength(const DesignRecord& design) {
+    return double{design.MajorTicLength};
 }
-double MinorWidth() {
-    return double{Design.MinorTicWidth};
+double MinorWidth(const DesignRecord& design) {
+    return double{design.MinorTicWidth};
 }
-double MajorWidth() {
-    return double{Design.MajorTicWidth};
+double MajorWidth(const DesignRecord& design) {
+    return double{design.MajorTicWidth};
 }
-double Tics() {
-    return Design.NrOfTicmarks[kScale];
+double Tics(const DesignRecord& design) {
+    return design.NrOfTicmarks[kScale];
 }
 
 // clang-format off
@@ -63,15 +62,15 @@ constexpr Nudge kNudges[] = {
 };
 // clang-format on
 
-double NumberOfNudge(const Nudge& nudge) {
-    return NumberIn(nudge.field.In(Design, kScale));
+double NumberOfNudge(const DesignRecord& design, const Nudge& nudge) {
+    return NumberIn(nudge.field.In(design, kScale));
 }
 
-NudgeResult Correct(const Nudge& nudge, double value) {
+NudgeResult Correct(DesignRecord& design, const Nudge& nudge, double value) {
     if (!nudge.corrected) {
         return NudgeResult::Ignored;
     }
-    StoreIn(nudge.field.In(Design, kScale), value);
+    StoreIn(nudge.field.In(design, kScale), value);
     return NudgeResult::Corrected;
 }
 
@@ -81,25 +80,25 @@ std::span<const Nudge> Nudges() {
     return kNudges;
 }
 
-std::string NudgeValue(const Nudge& nudge) {
-    return SignedNumber(static_cast<float>(NumberOfNudge(nudge)));
+std::string NudgeValue(const DesignRecord& design, const Nudge& nudge) {
+    return SignedNumber(static_cast<float>(NumberOfNudge(design, nudge)));
 }
 
-NudgeResult ApplyNudge(const Nudge& nudge, const std::string& text) {
+NudgeResult ApplyNudge(DesignRecord& design, const Nudge& nudge, const std::string& text) {
     std::string entered = text;
-    const FieldPointer field = nudge.field.In(Design, kScale);
+    const FieldPointer field = nudge.field.In(design, kScale);
     if (auto* const* number = std::get_if<float*>(&field)) {
         ParseEntry(entered, **number);
     } else if (auto* const* count = std::get_if<std::int16_t*>(&field)) {
         ParseEntry(entered, **count);
     }
-    const double value = NumberOfNudge(nudge);
-    const double lowest = nudge.lowest();
+    const double value = NumberOfNudge(design, nudge);
+    const double lowest = nudge.lowest(design);
     if (nudge.lowestIsOpen ? value <= lowest : value < lowest) {
-        return Correct(nudge, lowest);
+        return Correct(design, nudge, lowest);
     }
-    if (value > nudge.highest()) {
-        return Correct(nudge, nudge.highest());
+    if (value > nudge.highest(design)) {
+        return Correct(design, nudge, nudge.highest(design));
     }
     return NudgeResult::Accepted;
 }

@@ -18,8 +18,8 @@ struct Nudge {
     double stepsLowest = 0; // of the control
     double stepsHighest = 0;
     // What is accepted, both ends included but for an open lower one.
-    double (*lowest)() = nullptr;
-    double (*highest)() = nullptr;
+    double (*lowest)(const DesignRecord& design) = nullptr;
+    double (*highest)(const DesignRecord& design) = nullptr;
     bool lowestIsOpen = false;
     bool corrected = false; // else a value that is not accepted just stays
 };
@@ -27,7 +27,7 @@ struct Nudge {
 std::span<const Nudge> Nudges();
 
 // The number as its label shows it, with its leading blank.
-std::string NudgeValue(const Nudge& nudge);
+std::string NudgeValue(const DesignRecord& design, const Nudge& nudge);
 
 enum class NudgeResult {
     Accepted,  // the design is to be drawn
@@ -36,6 +36,6 @@ enum class NudgeResult {
 };
 
 // Reads the label's text into the field.
-NudgeResult ApplyNudge(const Nudge& nudge, const std::string& text);
+NudgeResult ApplyNudge(DesignRecord& design, const Nudge& nudge, const std::string& text);
 
 } // namespace vernacle

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 #include "engine/core/entry.h"
 
 namespace vernacle {
@@ -26,12 +25,12 @@ float workingValue = 0;
 constexpr FieldPlace WorkingValue = {[](DesignRecord& /*design*/, int /*outer*/,
                                         int /*inner*/) -> FieldPointer { return &workingValue; }};
 
-double NumberAt(FieldPlace field) {
-    return NumberIn(field.In(Design, kScale));
+double NumberAt(const DesignRecord& design, FieldPlace field) {
+    return NumberIn(field.In(design, kScale));
 }
 
-void NameScale() {
-    Design.ScaleTitle[kScale] = "Simple Scale";
+void NameScale(DesignRecord& design) {
+    design.ScaleTitle[kScale] = "Simple Scale";
 }
 
 std::int16_t NearestCount() {
@@ -41,15 +40,15 @@ std::int16_t NearestCount() {
 }
 
 // The scale counts from zero in ones.
-void CountTics() {
-    Design.NrOfTicmarks[kScale] = NearestCount();
-    Design.ScaleLeftEnd[kScale] = 0;
-    Design.ScaleLengthUnits[kScale] = Design.NrOfTicmarks[kScale];
+void CountTics(DesignRecord& design) {
+    design.NrOfTicmarks[kScale] = NearestCount();
+    design.ScaleLeftEnd[kScale] = 0;
+    design.ScaleLengthUnits[kScale] = design.NrOfTicmarks[kScale];
 }
 
-void CountMajors() {
-    Design.MajorEveryHowMany[kScale] = NearestCount();
-    Design.LabelsEveryHowMany[kScale] = Design.MajorEveryHowMany[kScale];
+void CountMajors(DesignRecord& design) {
+    design.MajorEveryHowMany[kScale] = NearestCount();
+    design.LabelsEveryHowMany[kScale] = design.MajorEveryHowMany[kScale];
 }
 
 constexpr WizardLimit From(double number) {
@@ -201,11 +200,12 @@ bool Applies(When when, double number, double bound) {
     return true;
 }
 
-void Repair(const RepairRow& row) {
-    const double bound = row.boundField ? NumberAt(row.boundField) : row.bound;
-    if (Applies(row.when, NumberAt(row.field), bound)) {
-        const double value = row.valueField ? NumberAt(row.valueField) + row.value : row.value;
-        StoreIn(row.field.In(Design, kScale), value);
+void Repair(DesignRecord& design, const RepairRow& row) {
+    const double bound = row.boundField ? NumberAt(design, row.boundField) : row.bound;
+    if (Applies(row.when, NumberAt(design, row.field), bound)) {
+        const double value =
+            row.valueField ? NumberAt(design, row.valueField) + row.value : row.value;
+        StoreIn(row.field.In(design, kScale), value);
     }
 }
 
@@ -217,9 +217,9 @@ void Parse(const FieldPointer& field, std::string text) {
     }
 }
 
-bool IsAccepted(const WizardStep& step, double value) {
-    const double lowest = step.lowest.Value();
-    const double highest = step.highest.Value();
+bool IsAccepted(const DesignRecord& design, const WizardStep& step, double value) {
+    const double lowest = step.lowest.Value(design);
+    const double highest = step.highest.Value(design);
     const bool highEnough = step.lowest.open ? value > lowest : value >= lowest;
     const bool lowEnough = step.highest.open ? value < highest : value <= highest;
     return highEnough && lowEnough;
@@ -231,52 +231,54 @@ std::string Plain(double number) {
 
 } // namespace
 
-double WizardLimit::Value() const {
-    return field ? NumberAt(field) : number;
+double WizardLimit::Value(const DesignRecord& design) const {
+    return field ? NumberAt(design, field) : number;
 }
 
 std::span<const WizardStep> WizardSteps() {
     return kSteps;
 }
 
-std::optional<std::string> EnterWizardStep(const WizardStep& step, const std::string& text) {
-    Parse(step.field.In(Design, kScale), text);
-    if (IsAccepted(step, NumberAt(step.field))) {
+std::optional<std::string> EnterWizardStep(DesignRecord& design, const WizardStep& step,
+                                           const std::string& text) {
+    Parse(step.field.In(design, kScale), text);
+    if (IsAccepted(design, step, NumberAt(design, step.field))) {
         if (step.accepted) {
-            step.accepted();
+            step.accepted(design);
         }
         return std::nullopt;
     }
     const WizardRefusal& refusal = step.refusal;
     const std::string number =
-        refusal.field ? SignedNumber(static_cast<float>(NumberAt(refusal.field))) : std::string();
+        refusal.field ? SignedNumber(static_cast<float>(NumberAt(design, refusal.field)))
+                      : std::string();
     return refusal.before + number + refusal.after;
 }
 
-std::string WizardValue(const WizardStep& step) {
-    return SignedNumber(static_cast<float>(NumberAt(step.field)));
+std::string WizardValue(const DesignRecord& design, const WizardStep& step) {
+    return SignedNumber(static_cast<float>(NumberAt(design, step.field)));
 }
 
-std::string WizardRange(const WizardStep& step) {
-    return RangeText({.lowest = step.lowest.Value(),
-                      .highest = step.highest.Value(),
+std::string WizardRange(const DesignRecord& design, const WizardStep& step) {
+    return RangeText({.lowest = step.lowest.Value(design),
+                      .highest = step.highest.Value(design),
                       .lowestIsOpen = step.lowest.open,
                       .highestIsOpen = step.highest.open},
                      step.unit);
 }
 
-std::string WizardPrompt(int topic) {
+std::string WizardPrompt(const DesignRecord& design, int topic) {
     const auto* row = std::ranges::find(kPrompts, topic, &Prompt::topic);
     if (row == std::end(kPrompts)) {
         return {};
     }
     std::string prompt = row->text;
     if (row->field) {
-        prompt += Plain(NumberAt(row->field));
+        prompt += Plain(NumberAt(design, row->field));
     }
     prompt += row->between;
     if (row->tenthsOfHeight != 0) {
-        prompt += Plain(std::floor(row->tenthsOfHeight * double{Design.PlateHeight} / 10));
+        prompt += Plain(std::floor(row->tenthsOfHeight * double{design.PlateHeight} / 10));
     }
     return prompt + row->after;
 }
@@ -285,19 +287,19 @@ std::span<const int> WizardReadingOrder() {
     return kReadingOrder;
 }
 
-void ReadWizardStep(const WizardStep& step, const std::string& text) {
+void ReadWizardStep(DesignRecord& design, const WizardStep& step, const std::string& text) {
     const FieldPlace field = step.count ? step.count : step.field;
-    Parse(field.In(Design, kScale), text);
+    Parse(field.In(design, kScale), text);
 }
 
-void RepairWizardDesign() {
+void RepairWizardDesign(DesignRecord& design) {
     for (const RepairRow& row : kRepairs) {
-        Repair(row);
+        Repair(design, row);
     }
-    Design.DrawArcs = "Y";
-    Design.PrintText = "Y";
-    Design.LabelRotation = "H";
-    Design.ScaleTitle[kScale] = "Wizard Title";
+    design.DrawArcs = "Y";
+    design.PrintText = "Y";
+    design.LabelRotation = "H";
+    design.ScaleTitle[kScale] = "Wizard Title";
 }
 
 } // namespace vernacle

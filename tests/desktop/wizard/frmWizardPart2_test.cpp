@@ -60,7 +60,7 @@ TEST_F(WizardPart2Test, CaptionsTipsAndNumbers) {
         EXPECT_STREQ(nudge.upDown, arrows);
         EXPECT_EQ(Find<UpDown>(arrows).toolTip(), QLatin1String(tip));
         EXPECT_EQ(Shown(std::string(nudge.label) + "Caption"), caption);
-        EXPECT_EQ(Shown(nudge.label), NudgeValue(nudge));
+        EXPECT_EQ(Shown(nudge.label), NudgeValue(Design, nudge));
     }
 }
 
@@ -73,7 +73,8 @@ TEST_F(WizardPart2Test, NumbersAreSpokenBehindTheirCaptions) {
             .toStdString();
     };
     for (const Nudge& nudge : Nudges()) {
-        EXPECT_EQ(spoken(nudge.label), nudge.caption + std::string(Trimmed(NudgeValue(nudge))));
+        EXPECT_EQ(spoken(nudge.label),
+                  nudge.caption + std::string(Trimmed(NudgeValue(Design, nudge))));
     }
     const Nudge& ceiling = Nudges()[0];
     Find<QLabel>(ceiling.label).setText(QStringLiteral("12"));

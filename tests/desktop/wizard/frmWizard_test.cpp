@@ -66,7 +66,7 @@ TEST_F(WizardTest, StartsWithTheFirstStep) {
     EXPECT_EQ(Find<QPushButton>("cmdAccept").text(), QLatin1String("Accept and go to Part 2"));
     EXPECT_EQ(Find<QPushButton>("cmdExit").text(), QLatin1String("Restart program"));
     EXPECT_EQ(Design.HelpTopic, 1);
-    EXPECT_EQ(Shown("Label1"), WizardPrompt(1));
+    EXPECT_EQ(Shown("Label1"), WizardPrompt(Design, 1));
     EXPECT_FALSE(Find("Label2").isVisible());
     EXPECT_EQ(TextsOf("picSchematic").back(), TopicCaption(1));
 }
@@ -83,7 +83,7 @@ TEST_F(WizardTest, AcceptedStepsLeadToTheNext) {
                   " " + std::string(step == 9 || step == 11 ? "2.5" : kTexts[step - 1]));
         const int topic = WizardSteps()[static_cast<std::size_t>(step - 1)].nextTopic;
         EXPECT_EQ(Design.HelpTopic, topic);
-        EXPECT_EQ(Shown("Label1"), WizardPrompt(topic));
+        EXPECT_EQ(Shown("Label1"), WizardPrompt(Design, topic));
         EXPECT_EQ(CallsOf("picSchematic").empty(), false);
         if (topic != 0) {
             EXPECT_EQ(TextsOf("picSchematic").back(), TopicCaption(topic));

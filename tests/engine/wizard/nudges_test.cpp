@@ -50,14 +50,15 @@ TEST_F(NudgesTest, EachAcceptsItsRange) {
         {11, "41", kCorrected, " 40"},
     };
     for (const NudgeRow& row : rows) {
-        EXPECT_EQ(ApplyNudge(At(row.nudge), row.text), row.result) << row.nudge << " " << row.text;
-        EXPECT_EQ(NudgeValue(At(row.nudge)), row.value) << row.nudge << " " << row.text;
+        EXPECT_EQ(ApplyNudge(Design, At(row.nudge), row.text), row.result)
+            << row.nudge << " " << row.text;
+        EXPECT_EQ(NudgeValue(Design, At(row.nudge)), row.value) << row.nudge << " " << row.text;
     }
 }
 
 TEST_F(NudgesTest, OneTicLeavesOne) {
     Design.NrOfTicmarks[1] = 1;
-    EXPECT_EQ(ApplyNudge(At(10), "3"), kCorrected);
+    EXPECT_EQ(ApplyNudge(Design, At(10), "3"), kCorrected);
     EXPECT_EQ(Design.MajorEveryHowMany[1], 1);
 }
 

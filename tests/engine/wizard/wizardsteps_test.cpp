@@ -21,7 +21,7 @@ protected:
         return WizardSteps()[static_cast<std::size_t>(number - 1)];
     }
     static std::string Enter(int number, const std::string& text) {
-        return EnterWizardStep(Step(number), text).value_or("accepted");
+        return EnterWizardStep(Design, Step(number), text).value_or("accepted");
     }
 };
 
@@ -184,7 +184,7 @@ TEST_F(WizardStepsTest, ValuesGoIntoTheirFields) {
     for (const auto& [step, field] : rows) {
         Enter(step, "25.5");
         EXPECT_EQ(*field, 25.5F) << step;
-        EXPECT_EQ(WizardValue(Step(step)), " 25.5");
+        EXPECT_EQ(WizardValue(Design, Step(step)), " 25.5");
     }
 }
 
@@ -203,40 +203,43 @@ TEST_F(WizardStepsTest, SomeStepsSetMore) {
 }
 
 TEST_F(WizardStepsTest, PromptsFollowTheTopicAndThePlate) {
-    EXPECT_EQ(WizardPrompt(1),
+    EXPECT_EQ(WizardPrompt(Design, 1),
               "Measure and enter the plate width in mm; 20 minimum to 180 maximum.");
-    EXPECT_EQ(WizardPrompt(3), "Measure and enter the distance from  the plate bottom  up to  the "
-                               "bearing, in mm; -1000 minimum to 1000 maximum.");
-    EXPECT_EQ(WizardPrompt(5), "Measure and enter the mounting hole separation, in mm, typically "
-                               "20 to plate width (100) max.");
+    EXPECT_EQ(WizardPrompt(Design, 3),
+              "Measure and enter the distance from  the plate bottom  up to  the "
+              "bearing, in mm; -1000 minimum to 1000 maximum.");
+    EXPECT_EQ(WizardPrompt(Design, 5),
+              "Measure and enter the mounting hole separation, in mm, typically "
+              "20 to plate width (100) max.");
     Design.PlateHeight = 61;
-    EXPECT_TRUE(WizardPrompt(7).ends_with("half the plate height (i.e., 30)."));
-    EXPECT_TRUE(WizardPrompt(10).ends_with("A suggested value is  3"));
-    EXPECT_TRUE(WizardPrompt(13).ends_with("maximum.  A suggested value is  8."));
-    EXPECT_EQ(WizardPrompt(23),
+    EXPECT_TRUE(WizardPrompt(Design, 7).ends_with("half the plate height (i.e., 30)."));
+    EXPECT_TRUE(WizardPrompt(Design, 10).ends_with("A suggested value is  3"));
+    EXPECT_TRUE(WizardPrompt(Design, 13).ends_with("maximum.  A suggested value is  8."));
+    EXPECT_EQ(WizardPrompt(Design, 23),
               "Enter a value for the distance from the plate bottom to the top of the scale title, "
               "in mm, 0 to 61 maximum. A typical value would be about .5 times scale height i.e., "
               "30 mm");
-    EXPECT_EQ(WizardPrompt(24),
+    EXPECT_EQ(WizardPrompt(Design, 24),
               "Enter a value for the distance from the plate bottom to the top of the scale arc "
               "(the 'ceiling') in mm, 0 minimum to 61 maximum.  A typical value would be about .7 "
               "times scale height i.e., 42 mm");
     Design.PlateHeight = 90;
-    EXPECT_TRUE(WizardPrompt(24).ends_with("i.e., 63 mm"));
-    EXPECT_EQ(WizardPrompt(25), "Enter a value for the thickness of the arc, in tenths of a mm, .5 "
-                                "minimum to 20 maximum. A suggested is a value of 2.");
-    EXPECT_EQ(WizardPrompt(14),
+    EXPECT_TRUE(WizardPrompt(Design, 24).ends_with("i.e., 63 mm"));
+    EXPECT_EQ(WizardPrompt(Design, 25),
+              "Enter a value for the thickness of the arc, in tenths of a mm, .5 "
+              "minimum to 20 maximum. A suggested is a value of 2.");
+    EXPECT_EQ(WizardPrompt(Design, 14),
               "Enter a value for the spacing between the arc and the top of the ticmark labels, in "
               "mm, 0 minimum to 200 maximum. A suggested value is 6.");
     EXPECT_EQ(
-        WizardPrompt(9),
+        WizardPrompt(Design, 9),
         "Enter a value for the Minor tic length, in mm, .5 minimum to 20 maximum. A suggested "
         "value is 2. This cannot be greater than the major tic length.");
     for (const int topic : {0, 8, 15, 22, 26, -1}) {
-        EXPECT_EQ(WizardPrompt(topic), "") << topic;
+        EXPECT_EQ(WizardPrompt(Design, topic), "") << topic;
     }
     for (const int topic : {2, 4, 6, 9, 11, 12, 14, 25}) {
-        EXPECT_FALSE(WizardPrompt(topic).empty()) << topic;
+        EXPECT_FALSE(WizardPrompt(Design, topic).empty()) << topic;
     }
 }
 
@@ -252,20 +255,20 @@ TEST_F(WizardStepsTest, ReadingOrderVisitsEveryBoxOnce) {
 }
 
 TEST_F(WizardStepsTest, RereadCountsGoStraightIntoTheDesign) {
-    ReadWizardStep(Step(17), "200");
+    ReadWizardStep(Design, Step(17), "200");
     EXPECT_EQ(Design.NrOfTicmarks[1], 200);
-    ReadWizardStep(Step(18), "");
+    ReadWizardStep(Design, Step(18), "");
     EXPECT_EQ(Design.MajorEveryHowMany[1], 0);
-    ReadWizardStep(Step(2), "");
+    ReadWizardStep(Design, Step(2), "");
     EXPECT_EQ(Design.PlateHeight, 0);
 }
 
 TEST_F(WizardStepsTest, RepairsFillWhatIsMissing) {
     for (const WizardStep& step : WizardSteps()) {
-        ReadWizardStep(step, "");
+        ReadWizardStep(Design, step, "");
     }
     Design.AspectRatio = 0;
-    RepairWizardDesign();
+    RepairWizardDesign(Design);
     EXPECT_EQ(Design.PlateWidth, 75);
     EXPECT_EQ(Design.PlateHeight, 50);
     EXPECT_EQ(Design.ArcWidth, 1);
@@ -307,7 +310,7 @@ TEST_F(WizardStepsTest, RepairsLeaveWhatIsThere) {
     Design.PlateStyle = 1;
     Design.LabelRotation = "B";
     Design.AspectRatio = 0.9F;
-    RepairWizardDesign();
+    RepairWizardDesign(Design);
     EXPECT_EQ(Design.HoleSeparation, 80);
     EXPECT_EQ(Design.MinorTicLength, 1) << "held to the major ones";
     EXPECT_EQ(Design.MinorTicWidth, 3);
@@ -325,7 +328,7 @@ TEST_F(WizardStepsTest, RepairsLeaveSmallSizes) {
     Design.PlateWidth = 0.5F;
     Design.ArcWidth = 0.25F;
     Design.FontSize = 0.125F;
-    RepairWizardDesign();
+    RepairWizardDesign(Design);
     EXPECT_EQ(Design.PlateWidth, 0.5F);
     EXPECT_EQ(Design.ArcWidth, 0.25F);
     EXPECT_EQ(Design.FontSize, 0.125F);
