@@ -103,7 +103,7 @@ bool Load(const std::string& file) {
     Design.CalibrationX = Design.CalibrationY = 1;
     try {
         NormalizeDesign(Design);
-        HoldAspectRatio();
+        HoldAspectRatio(Design);
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);
         return true;
@@ -132,7 +132,7 @@ void DrawOnScreen(benchmark::State& state, const std::string& file, QSize size) 
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
         PainterSurface surface(painter, DeviceMap::OfScreen(size.width(), size.height()));
-        DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
+        DrawPage(Design, surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing}, Drawing);
     }
     NotePeak(state);
 }
@@ -142,8 +142,8 @@ void PrintOnPaper(benchmark::State& state, const std::string& file) {
         state.SkipWithError("no scale");
     }
     for ([[maybe_unused]] auto _ : state) {
-        benchmark::DoNotOptimize(
-            MakePdf(kSheets[0], "", "", [](PrinterSurface& printer) { PrintDesign(printer); }));
+        benchmark::DoNotOptimize(MakePdf(
+            kSheets[0], "", "", [](PrinterSurface& printer) { PrintPlate(Design, printer); }));
     }
     NotePeak(state);
 }

@@ -23,7 +23,7 @@ void Record(const std::string& path) {
     bench::PrimitiveDevice device(4961, 7016, 600);
     {
         PaperSurface paper(device, kPrinterDpi, kSheets[0]);
-        PrintDesign(paper);
+        PrintPlate(Design, paper);
     }
     bench::Save(device.primitives, path);
 }

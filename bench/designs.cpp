@@ -12,7 +12,7 @@ void LoadDense() {
     SetOpeningValues(Design);
     ReadDesign(Design, VERNACLE_EXAMPLES "/DEGREES-0-360.VRN");
     NormalizeDesign(Design);
-    HoldAspectRatio();
+    HoldAspectRatio(Design);
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
     Design.CalibrationX = Design.CalibrationY = 1;

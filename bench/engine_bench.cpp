@@ -45,7 +45,7 @@ void HpglOfDense(benchmark::State& state) {
     LoadDense();
     for ([[maybe_unused]] auto _ : state) {
         CountingSink sink;
-        WriteHpglStream(sink, HpglMode::File);
+        WriteHpglStream(Design, sink, HpglMode::File);
         benchmark::DoNotOptimize(sink.count);
     }
 }

@@ -25,7 +25,7 @@ void RedrawOn(QPaintDevice& device) {
     PainterSurface surface(painter, DeviceMap::OfScreen(kWidth, kHeight));
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
-    DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
+    DrawPage(Design, surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing}, Drawing);
 }
 
 // steps; labels turned along the bearing's radius or upright

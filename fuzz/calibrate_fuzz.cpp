@@ -6,7 +6,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vernacle;
     fuzz::ServeAsFile(data, size);
-    ReadCalibrate();
-    HoldCalibration();
+    ReadCalibrate(Design);
+    HoldCalibration(Design);
     return 0;
 }

@@ -153,7 +153,7 @@ LineReport SayingFor(const std::string& file, bool& happened) {
 bool ReadInputs(const Arguments& arguments, Progress& progress) {
     Design.CalibrationX = Design.CalibrationY = 1;
     if (arguments.calibration) {
-        ReadCalibration(*arguments.calibration,
+        ReadCalibration(Design, *arguments.calibration,
                         SayingFor(*arguments.calibration, progress.doubted));
     }
     Design.DesignFileName = arguments.design;

@@ -11,6 +11,7 @@
 #include "engine/output/hpgl.h"
 #include "engine/output/print.h"
 #include "engine/render/drawing.h"
+#include "engine/render/drawingsteps.h"
 #include "engine/scale/scale.h"
 #include "export/tictable.h"
 #include "surfaces/documents.h"
@@ -26,7 +27,7 @@ void WriteBytes(const std::string& path, const std::string& bytes) {
 }
 
 void WriteHpglFile(const std::string& path, const Arguments& /*arguments*/) {
-    WriteHpgl(path, HpglMode::File);
+    WriteHpgl(Design, path, HpglMode::File);
 }
 
 // The routine names the port itself; here the port is the output.
@@ -45,12 +46,12 @@ private:
 
 void WritePclFile(const std::string& path, const Arguments& /*arguments*/) {
     const PortIs port(path);
-    WriteHpgl("", HpglMode::PclPrinter);
+    WriteHpgl(Design, "", HpglMode::PclPrinter);
 }
 
 // Prints; throws where the print has failed and been reported.
 void Print(PrinterSurface& printer) {
-    if (!PrintDesign(printer)) {
+    if (!PrintPlate(Design, printer)) {
         throw RunTimeError("not printed");
     }
 }
@@ -66,7 +67,8 @@ void WriteSvg(const std::string& path, const Arguments& arguments) {
 void WritePng(const std::string& path, const Arguments& arguments) {
     WriteBytes(path,
                MakePng(arguments.widthPixels, arguments.heightPixels, [](DrawingSurface& surface) {
-                   DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
+                   DrawPage(Design, surface, PreviewTraits(),
+                            {Design.FontSize, Design.LabelSpacing}, Drawing);
                }));
 }
 
@@ -76,7 +78,7 @@ void WriteVrn(const std::string& path, const Arguments& /*arguments*/) {
 }
 
 void WriteCsv(const std::string& path, const Arguments& /*arguments*/) {
-    WriteBytes(path, TicTableText());
+    WriteBytes(path, TicTableText(Design));
 }
 
 constexpr OutputForm kForms[] = {
@@ -103,8 +105,8 @@ const OutputForm* FindForm(const std::string& path) {
 
 void MakeReady() {
     NormalizeDesign(Design);
-    RaiseAspectRatio();
-    HoldAspectRatio();
+    RaiseAspectRatio(Design);
+    HoldAspectRatio(Design);
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
 }

@@ -46,10 +46,10 @@ std::string Quoted(const std::string& text) {
 
 using Labels = std::map<int, std::string>; // by tic
 
-Labels PrintedLabels(int scale) {
+Labels PrintedLabels(const DesignRecord& design, int scale) {
     Labels labels;
-    if (Design.PrintText == "Y") {
-        WalkLabels(Design, scale, PrintTraits().labelFlags, [&labels](const TicLabel& label) {
+    if (design.PrintText == "Y") {
+        WalkLabels(design, scale, PrintTraits().labelFlags, [&labels](const TicLabel& label) {
             const std::string text = PrintedLabel(label);
             if (!Trimmed(text).empty()) {
                 labels[label.number] = text;
@@ -59,13 +59,13 @@ Labels PrintedLabels(int scale) {
     return labels;
 }
 
-std::string Row(const Tic& tic, const Labels& labels) {
-    const PlateFrame frame = MillimetreFrame();
-    const ArcPlace place = PlaceTic(frame, Correction::Applied, tic.scale, tic.deflection);
-    const SurfacePoint end = AlongPointer(frame, place.point, place.pointerAngleRad, TicLength(tic),
-                                          DirectionOf(tic.scale));
+std::string Row(const DesignRecord& design, const Tic& tic, const Labels& labels) {
+    const PlateFrame frame = MillimetreFrame(design);
+    const ArcPlace place = PlaceTic(design, frame, Correction::Applied, tic.scale, tic.deflection);
+    const SurfacePoint end = AlongPointer(frame, place.point, place.pointerAngleRad,
+                                          TicLength(design, tic), DirectionOf(tic.scale));
     float limited = tic.deflection;
-    const float corrected = CorrectDeflection(Design, limited);
+    const float corrected = CorrectDeflection(design, limited);
     const auto label = labels.find(tic.number);
     const bool labelled = label != labels.end();
     std::string row = std::to_string(tic.scale) + "," + std::to_string(tic.number);
@@ -81,16 +81,15 @@ std::string Row(const Tic& tic, const Labels& labels) {
 
 } // namespace
 
-std::string TicTableText() {
+std::string TicTableText(const DesignRecord& design) {
     std::string table = kHeader;
-    for (int scale = 1; scale <= Design.NumberOfScales; ++scale) {
-        if (NumberOf(Design.PrintTicsAndArcs[scale]) != 0) {
+    for (int scale = 1; scale <= design.NumberOfScales; ++scale) {
+        if (NumberOf(design.PrintTicsAndArcs[scale]) != 0) {
             continue;
         }
-        RelativeSizeOf(scale);
-        const Labels labels = PrintedLabels(scale);
-        WalkTics(Design, scale, PrintTraits().ticFlags,
-                 [&](const Tic& tic) { table += Row(tic, labels); });
+        const Labels labels = PrintedLabels(design, scale);
+        WalkTics(design, scale, PrintTraits().ticFlags,
+                 [&](const Tic& tic) { table += Row(design, tic, labels); });
     }
     return table;
 }

@@ -6,8 +6,10 @@
 
 namespace vernacle::exporter {
 
+struct DesignRecord;
+
 // The table as RFC 4180 text, its header first. Places are millimetres from the plate's left and
 // bottom edges.
-std::string TicTableText();
+std::string TicTableText(const DesignRecord& design);
 
 } // namespace vernacle::exporter

@@ -56,7 +56,7 @@ void ComputeScales() {
 void Prepare(const Arguments& arguments) {
     SetVersionAndScreenScale(Design);
     SetOpeningValues(Design);
-    ReadCalibrate();
+    ReadCalibrate(Design);
     ResetDesign(Design);
     Design.ActiveScale = 1;
     if (!arguments.design.empty()) {

@@ -75,8 +75,9 @@ float PaperSurface::TwipsPerPixelY() const {
 }
 
 void PaperSurface::TextOutA(int xPixels, int yPixels, const std::string& text) {
-    page_.WriteAt({page_.Map().originX + xPixels * page_.Map().perPixel, page_.Map().originY + yPixels * page_.Map().perPixel},
-            text);
+    page_.WriteAt({page_.Map().originX + xPixels * page_.Map().perPixel,
+                   page_.Map().originY + yPixels * page_.Map().perPixel},
+                  text);
 }
 
 } // namespace vernacle

@@ -210,7 +210,7 @@ TEST_F(TicTableTest, ASpecialScaleOfAFileIsPrintedAsAStandardOne) {
 
 TEST_F(TicTableTest, AFieldThatNeedsQuotesHasThem) {
     GiveSpecialScale("6\" pipe", "\"", "two\r\nlines");
-    const std::string table = TicTableText();
+    const std::string table = TicTableText(Design);
     EXPECT_NE(table.find("\r\n1,0,N,Y,\"6\"\" pipe\",0,"), std::string::npos) << table;
     EXPECT_NE(table.find("\r\n1,1,N,Y,\"\"\"\",0.25,"), std::string::npos) << table;
     const std::vector<CsvRow> rows = RowsOf(table);
@@ -226,7 +226,7 @@ TEST_F(TicTableTest, LabelsAreThoseOfThePlate) {
         SCOPED_TRACE(rotation);
         GiveSpecialScale("1,5", "/", "");
         Design.LabelRotation = rotation;
-        const std::vector<CsvRow> rows = RowsOf(TicTableText());
+        const std::vector<CsvRow> rows = RowsOf(TicTableText(Design));
         ASSERT_EQ(rows.size(), 3U);
         EXPECT_EQ(rows[0][kLabelled] + rows[0][kLabel], "Y1.5");
         EXPECT_EQ(rows[1][kLabelled] + rows[1][kLabel], "N");
@@ -239,7 +239,7 @@ TEST_F(TicTableTest, SpecialTicsFollowTheirOwnFlags) {
     Design.TicPrintYN[1][1] = "N";
     Design.TicMajorYN[1][2] = "Y";
     Design.TicLabelYN[1][2] = "N";
-    const std::vector<CsvRow> rows = RowsOf(TicTableText());
+    const std::vector<CsvRow> rows = RowsOf(TicTableText(Design));
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_EQ(rows[0][kTic] + rows[0][kMajor] + rows[0][kLabelled], "0NY");
     EXPECT_EQ(rows[1][kTic] + rows[1][kMajor] + rows[1][kLabelled], "2YN");
@@ -253,7 +253,7 @@ TEST_F(TicTableTest, ScalesThatPrintNoTicsAreLeftOut) {
         Design.SpecialNrOfTicmarks[scale] = 0;
     }
     Design.PrintTicsAndArcs[1] = std::int16_t{1};
-    const std::vector<CsvRow> rows = RowsOf(TicTableText());
+    const std::vector<CsvRow> rows = RowsOf(TicTableText(Design));
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_EQ(rows[0][kScale], "2");
     EXPECT_EQ(rows[1][kScale], "3");
@@ -267,7 +267,7 @@ TEST_F(TicTableTest, EvenScalesPointInward) {
     Design.SpecialNrOfTicmarks[2] = 0;
     Design.TicDeflection[2][0] = 0.5F;
     Design.RelativeFontSize[2] = 2;
-    const std::vector<CsvRow> rows = RowsOf(TicTableText());
+    const std::vector<CsvRow> rows = RowsOf(TicTableText(Design));
     ASSERT_EQ(rows.size(), 4U);
     const double length = double{Design.MinorTicLength};
     EXPECT_NEAR(Number(rows[2][kEndY]) - Number(rows[2][kY]), length, 1e-5);
@@ -279,7 +279,7 @@ TEST_F(TicTableTest, TheMovementsCurveShowsInTheCorrectedColumn) {
     Design.CorrectionPair[5] = 0.3F; // the third point: three tenths of the current move it four
     Design.CorrectionPair[6] = 0.4F;
     Design.CorrectionSlope[2] = (0.4F - 0.15F) / (0.3F - 0.15F);
-    const std::vector<CsvRow> rows = RowsOf(TicTableText());
+    const std::vector<CsvRow> rows = RowsOf(TicTableText(Design));
     ASSERT_EQ(rows.size(), 3U);
     const double corrected = 0.15 + (0.25 - 0.15) * 0.25 / 0.15;
     EXPECT_EQ(rows[1][kDeflection], "0.25");

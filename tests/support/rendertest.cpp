@@ -99,7 +99,7 @@ RenderTest::RenderTest() {
 }
 
 void RenderTest::Draw(const DrawingTraits& traits) {
-    DrawDesign(surface, traits, {Design.FontSize, Design.LabelSpacing});
+    DrawPage(Design, surface, traits, {Design.FontSize, Design.LabelSpacing}, Drawing);
 }
 
 void RenderTest::DrawStages(std::initializer_list<DrawingStage> stages, DrawingTraits traits) {

@@ -224,7 +224,7 @@ QImage DrawDesignWith(float ticMm, const char* rotation, Sight sight) {
         painter.setViewport(all);
     }
     PainterSurface surface(painter, DeviceMap::OfScreen(800, 450));
-    DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
+    DrawPage(Design, surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing}, Drawing);
     surface.Flush();
     return picture;
 }

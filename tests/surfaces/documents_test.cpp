@@ -34,7 +34,7 @@ protected:
 };
 
 void PrintPlate(PrinterSurface& printer) {
-    EXPECT_TRUE(PrintDesign(printer));
+    EXPECT_TRUE(PrintPlate(Design, printer));
 }
 
 void PrintNothing(PrinterSurface& printer) {
@@ -188,7 +188,7 @@ TEST_F(DocumentsTest, AWideCircularPlateKeepsItsOutlineOnTheSheet) {
 TEST_F(DocumentsTest, ATestSquareOfLargeFactorsStaysOnTheSheet) {
     Design.CalibrationX = Design.CalibrationY = 1.9F;
     WriteFile("square.pdf", MakePdf(kSheets[1], "", "", [](PrinterSurface& printer) {
-                  EXPECT_TRUE(PrintTestSquare(printer));
+                  EXPECT_TRUE(PrintTestSquare(Design, printer));
               }));
     const SvgPicture page = ReadPdf(Path("square.pdf"));
     ASSERT_EQ(page.shapes.size(), 1U);
@@ -282,7 +282,7 @@ TEST_F(DocumentsTest, TheTestSquareIsTrueToSize) {
         for (const Sheet& sheet : kSheets) {
             SCOPED_TRACE(std::string(row.name) + " on " + sheet.name);
             const auto print = [](PrinterSurface& printer) {
-                EXPECT_TRUE(PrintTestSquare(printer));
+                EXPECT_TRUE(PrintTestSquare(Design, printer));
             };
             Design.CalibrationX = row.x;
             Design.CalibrationY = row.y;
@@ -312,7 +312,7 @@ TEST_F(DocumentsTest, AMeasuredPrinterPrintsTheSquareInItsSize) {
     Recalibrate(Design.CalibrationX, 100 * kStretch);
     Design.CalibrationY = 1;
     WriteFile("square.pdf", MakePdf(kSheets[0], "", "", [](PrinterSurface& printer) {
-                  EXPECT_TRUE(PrintTestSquare(printer));
+                  EXPECT_TRUE(PrintTestSquare(Design, printer));
               }));
     const SvgPicture page = ReadPdf(Path("square.pdf"));
     ASSERT_EQ(page.shapes.size(), 1U);

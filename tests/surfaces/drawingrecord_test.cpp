@@ -118,10 +118,11 @@ TEST_F(DrawingRecordTest, ARecordedDesignPaintsTheSamePicture) {
     };
     const PageCopies sizes{Design.FontSize, Design.LabelSpacing};
     DrawingRecord kept(DeviceMap::OfScreen(1600, 900), [] {});
-    DrawDesign(kept, ScalesTraits(), sizes);
+    DrawPage(Design, kept, ScalesTraits(), sizes, Drawing);
     const QImage replayed = paint([&](DrawingSurface& surface) { kept.Replay(surface); });
-    const QImage direct =
-        paint([&](DrawingSurface& surface) { DrawDesign(surface, ScalesTraits(), sizes); });
+    const QImage direct = paint([&](DrawingSurface& surface) {
+        DrawPage(Design, surface, ScalesTraits(), sizes, Drawing);
+    });
     EXPECT_EQ(replayed, direct);
 }
 

@@ -83,7 +83,7 @@ frmOpening::frmOpening() {
     if (!CurrentPage()) { // the program starts: who comes back from the wizard keeps the design
         SetOpeningValues(Design);
     }
-    ReadCalibrate();
+    ReadCalibrate(Design);
 }
 
 void frmOpening::Build() {

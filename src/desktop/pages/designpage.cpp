@@ -117,7 +117,7 @@ void DesignPage::SaveClicked() {
 
 void DesignPage::PrintClicked() {
     if (traits_.printing != Printing::GreyedAndDead) {
-        AskForPrinterAndPrint(this, [](PrinterSurface& printer) { PrintDesign(printer); });
+        AskForPrinterAndPrint(this, [](PrinterSurface& printer) { PrintPlate(Design, printer); });
     }
 }
 

@@ -36,7 +36,7 @@ void DrawingPage::TakeSizes() {
 }
 
 void DrawingPage::Redraw() {
-    DrawDesign(plate_->Surface(), drawing_, copies_);
+    DrawPage(Design, plate_->Surface(), drawing_, copies_, Drawing);
 }
 
 void DrawingPage::Illustrate(std::int16_t topic) {
@@ -60,12 +60,12 @@ void DrawingPage::SetEnabled(std::initializer_list<const char*> controls, bool e
 
 void TextKeepingPage::TakeCopies() {
     TakeSizes();
-    texts_ = CopyOfTexts();
+    texts_ = CopyOfTexts(Design);
     copies_.texts = &texts_;
 }
 
 void TextKeepingPage::BeforeKey() {
-    StoreTexts(texts_);
+    StoreTexts(Design, texts_);
 }
 
 } // namespace vernacle

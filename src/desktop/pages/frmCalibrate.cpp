@@ -88,7 +88,7 @@ void frmCalibrate::cmdPrintClicked() {
     AskForPrinterAndPrint(
         this,
         [this](PrinterSurface& printer) {
-            if (PrintTestSquare(printer)) {
+            if (PrintTestSquare(Design, printer)) {
                 ShowNextSteps();
             }
         },
@@ -105,7 +105,7 @@ void frmCalibrate::ShowNextSteps() {
 void frmCalibrate::cmdReturnClicked() {
     Recalibrate(Design.CalibrationX, Measured(*txtActualWidth_));
     Recalibrate(Design.CalibrationY, Measured(*txtActualHeight_));
-    WriteCalibrate();
+    WriteCalibrate(Design);
     accept();
 }
 

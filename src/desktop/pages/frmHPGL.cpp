@@ -5,6 +5,7 @@
 #include "desktop/kit/formkit.h"
 #include "desktop/system/printqueues.h"
 #include "desktop/system/programfiles.h"
+#include "engine/core/design.h"
 #include "engine/output/hpgl.h"
 
 namespace vernacle {
@@ -47,7 +48,7 @@ frmHPGL::frmHPGL() : ModalForm("frmHPGL", QStringLiteral("Vernacle - HP-GL outpu
 }
 
 void frmHPGL::cmdHPGLClicked() {
-    WriteHpgl(PlotterFileName(), HpglMode::File);
+    WriteHpgl(Design, PlotterFileName(), HpglMode::File);
 }
 
 void frmHPGL::cmdPCLClicked() {
@@ -56,7 +57,7 @@ void frmHPGL::cmdPCLClicked() {
         return;
     }
     const PrintTargetUse use(*target);
-    WriteHpgl({}, HpglMode::PclPrinter);
+    WriteHpgl(Design, {}, HpglMode::PclPrinter);
 }
 
 } // namespace vernacle

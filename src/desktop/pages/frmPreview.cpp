@@ -15,6 +15,7 @@
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/render/drawingsteps.h"
 #include "engine/render/overlays.h"
 #include "engine/scale/scale.h"
 
@@ -150,7 +151,7 @@ void frmPreview::Load() {
     Design.FontName = "Arial";
     Design.NumberOfScales = 1;
     Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
-    FrameOf(PreviewTraits()); // raises the aspect too
+    RaiseAspectRatio(Design);
     ShowAspect();
     ShowPercent();
     ShowFlags();
@@ -175,7 +176,7 @@ void frmPreview::CopyTexts() {
 }
 
 void frmPreview::Draw() {
-    DrawDesign(plate_->Surface(), PreviewTraits(), sizes_);
+    DrawPage(Design, plate_->Surface(), PreviewTraits(), sizes_, Drawing);
 }
 
 void frmPreview::ShowAspect() {
@@ -189,7 +190,7 @@ void frmPreview::ShowPercent() {
 void frmPreview::txtAspectChanged() {
     std::string text = txtAspect_->Text();
     ParseEntry(text, Design.AspectRatio);
-    HoldAspectRatio();
+    HoldAspectRatio(Design);
     ShowPercent();
     Draw();
 }
@@ -209,7 +210,8 @@ void frmPreview::UpDown1Stepped(int by) {
 
 void frmPreview::cmdCircleClicked() {
     if (Toggle(CircleFlag())) {
-        DrawOutline(plate_->Surface(), FrameOf(PreviewTraits()), OutlineStart::Moved, kBlueInk);
+        DrawOutline(plate_->Surface(), FrameOf(Design, PreviewTraits()), OutlineStart::Moved,
+                    kBlueInk);
         ShowFlags();
     } else {
         Load();
@@ -218,7 +220,7 @@ void frmPreview::cmdCircleClicked() {
 
 void frmPreview::cmdGridClicked() {
     if (Toggle(GridFlag())) {
-        DrawGrid(plate_->Surface(), FrameOf(PreviewTraits()));
+        DrawGrid(plate_->Surface(), FrameOf(Design, PreviewTraits()));
         ShowFlags();
     } else {
         Load();
@@ -227,7 +229,7 @@ void frmPreview::cmdGridClicked() {
 
 void frmPreview::cmdPointerClicked() {
     if (Toggle(PointerFlag())) {
-        DrawPointer(plate_->Surface(), FrameOf(PreviewTraits()), Drawing);
+        DrawPointer(plate_->Surface(), FrameOf(Design, PreviewTraits()), Drawing);
         ShowFlags();
     } else {
         Load();

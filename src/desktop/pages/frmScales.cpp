@@ -85,7 +85,7 @@ void frmScales::Load() {
 
 void frmScales::ShowScaleOptions() {
     for (int scale = 1; scale <= kScales; ++scale) {
-        OptionNumber(scale).SetInk(ToQColor(InkOf(scale)));
+        OptionNumber(scale).SetInk(ToQColor(InkOf(Design, scale)));
         OptionNumber(scale).setEnabled(scale <= Design.NumberOfScales);
     }
     if (Design.ActiveScale <= kScales) {
@@ -185,7 +185,7 @@ void frmScales::ScaleClicked(int scale) {
         FillPartner();
     }
     EnableStandardEntries();
-    OptionNumber(scale).SetInk(ToQColor(InkOf(scale)));
+    OptionNumber(scale).SetInk(ToQColor(InkOf(Design, scale)));
     OptionNumber(scale).SetGround(ToQColor(Design.PlateBackground));
     for (const char* box :
          {"txtScaleLeftEnd", "txtScaleLength", "txtBottomToTitle", "txtBottomToScaleCeiling",
@@ -223,13 +223,13 @@ void frmScales::cmdGetColorClicked() {
         Design.ActiveScale = 1;
     }
     std::int32_t& colour = Design.ScaleColor[Design.ActiveScale];
-    colour = AskForColour(this, "Get scale color", InkOf(Design.ActiveScale));
+    colour = AskForColour(this, "Get scale color", InkOf(Design, Design.ActiveScale));
     if (colour == 0) {
         colour = 1; // so that black can carry a sign
     }
     colour *= sign;
     if (Design.ActiveScale <= kScales) {
-        OptionNumber(Design.ActiveScale).SetInk(ToQColor(InkOf(Design.ActiveScale)));
+        OptionNumber(Design.ActiveScale).SetInk(ToQColor(InkOf(Design, Design.ActiveScale)));
     }
     Redraw();
 }

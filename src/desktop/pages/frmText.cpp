@@ -173,7 +173,7 @@ void frmText::cmdCenterTextClicked() {
 
 // Starts from the colour of the scale of that number, of which there are fewer than texts.
 void frmText::cmdGetColorClicked() {
-    const Colour start = InkOf(CurrentTextEntry_);
+    const Colour start = InkOf(Design, CurrentTextEntry_);
     std::int32_t& colour = texts_.TextColor[CurrentTextEntry_];
     colour = AskForColour(this, "Get text color", start);
     if (colour == 0) {

@@ -21,7 +21,7 @@ SetupPicture::SetupPicture()
 
 void SetupPicture::DrawScale() {
     try {
-        DrawSetup(Surface(), sizes_);
+        DrawSetup(Design, Surface(), sizes_, Drawing);
     } catch (const RunTimeError&) {
         Host.failureBox("We have a problem.\n\nWe are at SetupPreview errorhandler 337\n" +
                         LastStepTrace.Text());

@@ -124,7 +124,7 @@ void frmWizardPart2::TakeSize(const Nudge& nudge) {
 // What was overtyped on the page before need be no scale.
 void frmWizardPart2::Redraw() {
     try {
-        DrawDesign(plate_->Surface(), WizardTraits(), copies_);
+        DrawPage(Design, plate_->Surface(), WizardTraits(), copies_, Drawing);
     } catch (const RunTimeError&) {
         ReportFailure("The scale cannot be drawn: it has more ticmarks than a scale can hold, or a "
                       "plate without a height.");

@@ -17,15 +17,15 @@ void CopyEntries(const From& from, To& to) {
 
 } // namespace
 
-FreeTexts CopyOfTexts() {
+FreeTexts CopyOfTexts(const DesignRecord& design) {
     FreeTexts texts;
-    CopyEntries(Design, texts);
+    CopyEntries(design, texts);
     return texts;
 }
 
-void StoreTexts(const FreeTexts& texts) {
-    CopyEntries(texts, Design);
-    Design.NumberOfTexts = CountTexts(texts);
+void StoreTexts(DesignRecord& design, const FreeTexts& texts) {
+    CopyEntries(texts, design);
+    design.NumberOfTexts = CountTexts(texts);
 }
 
 std::int16_t CountTexts(const FreeTexts& texts) {

@@ -14,10 +14,10 @@ struct FreeTexts {
 };
 
 // A copy of entries 1 to 10.
-FreeTexts CopyOfTexts();
+FreeTexts CopyOfTexts(const DesignRecord& design);
 
 // Puts entries 1 to 10 into the design and counts NumberOfTexts anew.
-void StoreTexts(const FreeTexts& texts);
+void StoreTexts(DesignRecord& design, const FreeTexts& texts);
 
 // How many are not empty.
 std::int16_t CountTexts(const FreeTexts& texts);

@@ -18,26 +18,26 @@ float ComputeDegreesPerRadian() {
     return static_cast<float>(45 / std::atan(1.0));
 }
 
-PlateFrame FrameOfDesign(double plateScale, SurfacePoint centre) {
+PlateFrame FrameOfDesign(const DesignRecord& design, double plateScale, SurfacePoint centre) {
     return PlateFrame{
         .plateScale = plateScale,
         .upPerHalfMm = plateScale,
         .centreX = centre.x,
         .centreY = centre.y,
-        .widthMm = double{Design.PlateWidth},
-        .heightMm = double{Design.PlateHeight},
-        .bearingMm = double{Design.BottomToBearing},
-        .offsetMm = double{Design.ActualVirtualOffset},
-        .swingDeg = double{Design.PointerDeflection},
-        .quadrant = Design.PlateStyle == 1,
+        .widthMm = double{design.PlateWidth},
+        .heightMm = double{design.PlateHeight},
+        .bearingMm = double{design.BottomToBearing},
+        .offsetMm = double{design.ActualVirtualOffset},
+        .swingDeg = double{design.PointerDeflection},
+        .quadrant = design.PlateStyle == 1,
         .degreesPerRadian = double{ComputeDegreesPerRadian()},
     };
 }
 
-PlateFrame MillimetreFrame() {
+PlateFrame MillimetreFrame(const DesignRecord& design) {
     const double half = 0.5;
-    return FrameOfDesign(half,
-                         {half * double{Design.PlateWidth}, -half * double{Design.PlateHeight}});
+    return FrameOfDesign(design, half,
+                         {half * double{design.PlateWidth}, -half * double{design.PlateHeight}});
 }
 
 Direction DirectionOf(int scale) {

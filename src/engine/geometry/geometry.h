@@ -10,6 +10,8 @@
 
 namespace vernacle {
 
+struct DesignRecord;
+
 constexpr double kRightAngle = 1.5707963267948966; // 2 arctan(1), radians
 constexpr int kArcChords = 100;                    // an arc is a polygon of so many chords
 constexpr double kLongestRulerMm = 180;
@@ -45,11 +47,11 @@ struct SurfacePoint {
     double y = 0;
 };
 
-// The measures of Design around that centre, with the same unit across and up.
-PlateFrame FrameOfDesign(double plateScale, SurfacePoint centre);
+// The measures of the design around that centre, with the same unit across and up.
+PlateFrame FrameOfDesign(const DesignRecord& design, double plateScale, SurfacePoint centre);
 
 // The same in millimetres: the left edge and the bottom edge at 0, a height above the bottom at -y.
-PlateFrame MillimetreFrame();
+PlateFrame MillimetreFrame(const DesignRecord& design);
 
 // A place on a scale's arc.
 struct ArcPlace {

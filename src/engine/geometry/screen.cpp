@@ -18,9 +18,9 @@ double ScreenMagnification(double widthPixels) {
     return std::max(widthPixels / kWidestScreen, 1.);
 }
 
-ScreenFactors DrawnScreen() {
-    const double x = double{Design.ScreenScaleX};
-    const double y = double{Design.ScreenScaleY};
+ScreenFactors DrawnScreen(const DesignRecord& design) {
+    const double x = double{design.ScreenScaleX};
+    const double y = double{design.ScreenScaleY};
     const double magnification = std::max(x / double{kWidestScale}, 1.);
     return {x / magnification, y / magnification};
 }

@@ -6,6 +6,8 @@
 
 namespace vernacle {
 
+struct DesignRecord;
+
 constexpr double kWidestScreen = 1920; // pixels
 
 // A screen of square units, for pictures that are the same on every real one.
@@ -23,6 +25,6 @@ struct ScreenFactors {
 };
 
 // From those of the real screen, as the design holds them.
-ScreenFactors DrawnScreen();
+ScreenFactors DrawnScreen(const DesignRecord& design);
 
 } // namespace vernacle

@@ -150,6 +150,7 @@ public:
     ~BorrowedDesign() {
         Design = std::move(*design_);
         Drawing = std::move(drawing_);
+        LastStepTrace = trace_;
     }
     BorrowedDesign(const BorrowedDesign&) = delete;
     BorrowedDesign& operator=(const BorrowedDesign&) = delete;
@@ -157,6 +158,7 @@ public:
 private:
     std::unique_ptr<DesignRecord> design_;
     DrawingState drawing_;
+    StepTrace trace_ = LastStepTrace;
 };
 
 // The default design, on a screen of square units that is no real one.
@@ -234,8 +236,8 @@ void DrawSample(DrawingSurface& surface, Sample sample) {
     SetDefaults();
     SetPlate(row.plate);
     SetScales(row.scales);
-    DrawDesign(surface, SampleTraits(),
-               {.fontSize = Design.FontSize, .labelSpacing = Design.LabelSpacing});
+    DrawPage(Design, surface, SampleTraits(),
+             {.fontSize = Design.FontSize, .labelSpacing = Design.LabelSpacing}, Drawing);
 }
 
 LogicalArea SampleArea(Sample sample) {

@@ -28,15 +28,15 @@ void RaiseFactor(float& factor) {
     }
 }
 
-std::string CalibrationText() {
+std::string CalibrationText(const DesignRecord& design) {
     return std::string(kHeader) + "\r\n\r\n#" + Host.isoDateTime() + "#\r\n\r\n" +
-           PlainNumber(Design.CalibrationX) + "\r\n" + PlainNumber(Design.CalibrationY) +
+           PlainNumber(design.CalibrationX) + "\r\n" + PlainNumber(design.CalibrationY) +
            "\r\n\r\n";
 }
 
-void PrintSquare(PrinterSurface& printer) {
-    const double halfX = kSquareMm * double{Design.CalibrationX} * kSheetUnitsPerHalfMm;
-    const double halfY = kSquareMm * double{Design.CalibrationY} * kSheetUnitsPerHalfMm;
+void PrintSquare(const DesignRecord& design, PrinterSurface& printer) {
+    const double halfX = kSquareMm * double{design.CalibrationX} * kSheetUnitsPerHalfMm;
+    const double halfY = kSquareMm * double{design.CalibrationY} * kSheetUnitsPerHalfMm;
     printer.KeepOnSheet(F(kSheetCentre.y - halfY), F(kSheetCentre.y + halfY));
     printer.StartSheet();
     printer.SetLineWidth(1);
@@ -47,7 +47,7 @@ void PrintSquare(PrinterSurface& printer) {
 
 } // namespace
 
-void ReadCalibration(const std::string& name, const LineReport& doubt) {
+void ReadCalibration(DesignRecord& design, const std::string& name, const LineReport& doubt) {
     LineReader lines(Host.readFile(name));
     const auto doubtUnless = [&](bool isRight, const char* reason) {
         if (!isRight && doubt) {
@@ -57,7 +57,7 @@ void ReadCalibration(const std::string& name, const LineReport& doubt) {
     try {
         doubtUnless(Trimmed(lines.NextValue()) == kHeader, "does not begin as a calibration");
         lines.NextValue(); // the date
-        for (float* factor : {&Design.CalibrationX, &Design.CalibrationY}) {
+        for (float* factor : {&design.CalibrationX, &design.CalibrationY}) {
             const std::string_view value = lines.NextValue();
             doubtUnless(HasDigit(value), "no number");
             StoreNumber(NumericValue(value), *factor);
@@ -67,10 +67,10 @@ void ReadCalibration(const std::string& name, const LineReport& doubt) {
     }
 }
 
-void ReadCalibrate() {
+void ReadCalibrate(DesignRecord& design) {
     for (const std::string& file : Host.calibrationsToRead()) {
         try {
-            ReadCalibration(file);
+            ReadCalibration(design, file);
             return;
         } catch (const RunTimeError&) {
             // The next one. Printing raises a factor that was never read, which shows on paper.
@@ -78,25 +78,25 @@ void ReadCalibrate() {
     }
 }
 
-void WriteCalibrate() {
-    Design.DesignFileName = kCalibrationFile;
+void WriteCalibrate(DesignRecord& design) {
+    design.DesignFileName = kCalibrationFile;
     try {
         const auto sink = Host.openForOutput(Host.calibrationToWrite());
-        sink->Write(CalibrationText());
+        sink->Write(CalibrationText(design));
         sink->Close();
     } catch (const RunTimeError&) {
         // The factors still hold for this session.
     }
 }
 
-bool PrintTestSquare(PrinterSurface& printer) {
-    RaiseFactor(Design.CalibrationX);
-    RaiseFactor(Design.CalibrationY);
+bool PrintTestSquare(DesignRecord& design, PrinterSurface& printer) {
+    RaiseFactor(design.CalibrationX);
+    RaiseFactor(design.CalibrationY);
     try {
-        PrintSquare(printer);
+        PrintSquare(design, printer);
         return true;
     } catch (const RunTimeError& failure) {
-        if (Design.MessageLevel > 0) {
+        if (design.MessageLevel > 0) {
             Host.playSound("warningprinter.wav");
         }
         ReportFailure({"We had a problem driving the printer.", failure.what()});
@@ -120,8 +120,8 @@ EntryLimits MeasureLimits(float factor) {
     return {tenths(kLargestFactor), tenths(kSmallestFactor)};
 }
 
-void HoldCalibration() {
-    for (float* factor : {&Design.CalibrationX, &Design.CalibrationY}) {
+void HoldCalibration(DesignRecord& design) {
+    for (float* factor : {&design.CalibrationX, &design.CalibrationY}) {
         *factor = std::clamp(*factor, kSmallestFactor, kLargestFactor);
     }
 }

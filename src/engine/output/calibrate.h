@@ -10,21 +10,22 @@
 namespace vernacle {
 
 class PrinterSurface;
+struct DesignRecord;
 
 // Reads the two factors from the first of the calibration's files that has both. That there is none
 // is not reported; it leaves the factors that were not reached as they are.
-void ReadCalibrate();
+void ReadCalibrate(DesignRecord& design);
 
 // The same from a file of that name; throws the failure. What looks like a mistake goes to doubt.
-void ReadCalibration(const std::string& name, const LineReport& doubt = {});
+void ReadCalibration(DesignRecord& design, const std::string& name, const LineReport& doubt = {});
 
 // Writes the calibration's file anew and leaves its bare name, "Calibrate.txt", in DesignFileName.
 // A failure is not reported.
-void WriteCalibrate();
+void WriteCalibrate(DesignRecord& design);
 
 // Prints a square of 100 mm by the factors as they stand, a factor of 0 becoming 1. A failure is
 // reported, with the warning sound before it if MessageLevel is above 0; false then.
-bool PrintTestSquare(PrinterSurface& printer);
+bool PrintTestSquare(DesignRecord& design, PrinterSurface& printer);
 
 // A measured side of the test square corrects the factor of its axis, held to 0.5 .. 2; a factor of
 // 0 becomes 1 first, and a side that is not above 0 mm leaves it at that.
@@ -34,6 +35,6 @@ void Recalibrate(float& factor, double measuredMm);
 EntryLimits MeasureLimits(float factor);
 
 // Holds both factors to 0.5 .. 2.
-void HoldCalibration();
+void HoldCalibration(DesignRecord& design);
 
 } // namespace vernacle

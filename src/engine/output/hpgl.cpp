@@ -56,6 +56,12 @@ std::int16_t Corner(double value) {
     return corner;
 }
 
+// Of the plate, lower left: whole units, on paper that is wider and higher than most plates.
+Point CornerOf(const DesignRecord& design) {
+    return {static_cast<double>(Corner(4100 - kUnitsPerMm / 2 * double{design.PlateWidth})),
+            static_cast<double>(Corner(8500 - 32 * double{design.PlateHeight}))};
+}
+
 // Inside a label a control character is a command to the plotter, and an escape one to the printer:
 // a design that is passed on must not be able to give any.
 std::string WithoutControls(std::string bytes) {
@@ -65,9 +71,11 @@ std::string WithoutControls(std::string bytes) {
 
 class Plotter {
 public:
-    explicit Plotter(ByteSink& sink) : sink_(sink) {}
+    Plotter(const DesignRecord& design, ByteSink& sink) : design_(design), sink_(sink) {}
 
-    void WriteAll(HpglMode mode);
+    void WritePlateAndScales(HpglMode mode);
+    void PlotFreeTexts();
+    void WriteRest(HpglMode mode);
 
 private:
     void Statement(const std::string& text) { sink_.Write(std::string(text).append(kLineEnd)); }
@@ -95,50 +103,29 @@ private:
     void PlotCutLines();
     void PlotMarks();
     void PlotScale(int scale);
-    void PlotTic(int scale, int tic);
+    void PlotTic(int scale);
     void PlotArc(int scale);
-    void PlotFreeTexts();
     void PlotRuler();
     void PlotNotes(double rulerMm);
 
+    ArcPlace PlaceOnScale(int scale, double fraction) const {
+        return PlaceOnArc(frame_, PointerAngle(frame_, fraction),
+                          ScaleRadius(frame_, double{design_.BottomToScaleCeiling[scale]}));
+    }
     Point AtMm(double fromLeftMm, double fromBottomMm) const {
         return {corner_.x + kUnitsPerMm * fromLeftMm, corner_.y + kUnitsPerMm * fromBottomMm};
     }
 
+    const DesignRecord& design_;
     ByteSink& sink_;
-    Point corner_; // of the plate, lower left
+    Point corner_ = CornerOf(design_);
+    PlateFrame frame_ = PlotterFrame(design_);
+    int tic_ = 0; // that is being plotted, and one more behind the last of a scale
 };
 
-double PointerAngleOf(double fraction) {
-    const double degreesPerRadian = double{ComputeDegreesPerRadian()};
-    const double swing = double{Design.PointerDeflection};
-    return (90 - swing * 0.5) / degreesPerRadian + swing * fraction / degreesPerRadian;
-}
-
-// From the plate's corner to where the pointer crosses the scale's arc, plotter units.
-Point BasePoint(int scale, double pointerAngle) {
-    const double bearing = kUnitsPerMm * double{Design.BottomToBearing};
-    const double offset = kUnitsPerMm * double{Design.ActualVirtualOffset};
-    const double radius =
-        kUnitsPerMm * double{Design.BottomToScaleCeiling[scale]} - bearing + offset;
-    double sine = CheckedDivide(offset * std::sin(pointerAngle + kRightAngle), radius);
-    const double p = pointerAngle + ArcSin(sine);
-    return {-radius * std::cos(p) + kUnitsPerMm / 2 * double{Design.PlateWidth},
-            radius * std::sin(p) - offset + bearing};
-}
-
-Point Along(Point from, double pointerAngle, double lengthMm, Direction direction) {
-    const double length = kUnitsPerMm * (direction == Direction::Outward ? lengthMm : -lengthMm);
-    return {from.x - length * std::cos(pointerAngle), from.y + length * std::sin(pointerAngle)};
-}
-
-Point operator+(Point a, Point b) {
-    return {a.x + b.x, a.y + b.y};
-}
-
 // On a full circle of one scale, text at the first tic would stand on that of the last.
-bool IsFullCircle() {
-    return Design.NumberOfScales == 1 && Design.PointerDeflection == 360;
+bool IsFullCircle(const DesignRecord& design) {
+    return design.NumberOfScales == 1 && design.PointerDeflection == 360;
 }
 
 double ZeroIfTiny(double value) {
@@ -164,11 +151,11 @@ void Plotter::PlotText(Point at, const std::string& text) {
 }
 
 void Plotter::PlotRotatedText(double angle, Point at, const std::string& text) {
-    if (Design.PrintText != "Y") {
+    if (design_.PrintText != "Y") {
         return;
     }
     PenUp(at);
-    if (IsFullCircle() && Design.TicLoop == 0) {
+    if (IsFullCircle(design_) && tic_ == 0) {
         Statement("DI -1 0");
     } else {
         Command("DI", {ZeroIfTiny(std::cos(angle)), ZeroIfTiny(std::sin(angle))});
@@ -185,7 +172,7 @@ void Plotter::WriteHeader(HpglMode mode) {
     for (const char* command : {"IN", "SP1", "LT"}) {
         Statement(command);
     }
-    const double size = double{Design.FontSize};
+    const double size = double{design_.FontSize};
     CharacterSize(PlotterDigits(size / 60), PlotterDigits(size / 40));
 }
 
@@ -194,7 +181,7 @@ void Plotter::PlotCutLines() {
     constexpr double kOutside = 30;
     constexpr double kPast = 100;
     const Point low = corner_;
-    const Point high = AtMm(double{Design.PlateWidth}, double{Design.PlateHeight});
+    const Point high = AtMm(double{design_.PlateWidth}, double{design_.PlateHeight});
     PlotLine({low.x - kOutside, low.y - kPast}, {low.x - kOutside, high.y + kPast});
     PlotLine({low.x - kPast, high.y + kOutside}, {high.x + kPast, high.y + kOutside});
     PlotLine({high.x + kOutside, high.y + kPast}, {high.x + kOutside, low.y - kPast});
@@ -203,92 +190,83 @@ void Plotter::PlotCutLines() {
 
 void Plotter::PlotMarks() {
     constexpr double kRadius = 30;
-    const double middle = double{Design.PlateWidth} / 2;
-    const double apart = double{Design.HoleSeparation} / 2;
-    const double bearing = double{Design.BottomToBearing};
-    PlotMark(kRadius, AtMm(middle - apart, double{Design.BottomToHoles}));
-    PlotMark(kRadius, AtMm(middle + apart, double{Design.BottomToHoles}));
+    const double middle = double{design_.PlateWidth} / 2;
+    const double apart = double{design_.HoleSeparation} / 2;
+    const double bearing = double{design_.BottomToBearing};
+    PlotMark(kRadius, AtMm(middle - apart, double{design_.BottomToHoles}));
+    PlotMark(kRadius, AtMm(middle + apart, double{design_.BottomToHoles}));
     PlotMark(kRadius, AtMm(middle, bearing));
-    PlotMark(kRadius, AtMm(middle, bearing - double{Design.ActualVirtualOffset}));
+    PlotMark(kRadius, AtMm(middle, bearing - double{design_.ActualVirtualOffset}));
 }
 
-void Plotter::PlotTic(int scale, int tic) {
-    const bool isMajor = IsMultiple(tic, Design.MajorEveryHowMany[scale]);
-    const bool isLabelled = IsMultiple(tic, Design.LabelsEveryHowMany[scale]);
+void Plotter::PlotTic(int scale) {
+    const bool isMajor = IsMultiple(tic_, design_.MajorEveryHowMany[scale]);
+    const bool isLabelled = IsMultiple(tic_, design_.LabelsEveryHowMany[scale]);
     for (const bool wide : {isMajor, isLabelled}) {
         if (wide) {
-            Command("PW", double{Design.MajorTicWidth} * 0.2);
+            Command("PW", double{design_.MajorTicWidth} * 0.2);
         }
     }
-    const float length = isMajor || isLabelled ? Design.MajorTicLength : Design.MinorTicLength;
-    if (length == Design.MinorTicLength) {
-        Command("PW", double{Design.MinorTicWidth} * 0.1);
-    } else if (length == Design.MajorTicLength) {
-        Command("PW", double{Design.MajorTicWidth} * 0.1);
+    const float length = isMajor || isLabelled ? design_.MajorTicLength : design_.MinorTicLength;
+    if (length == design_.MinorTicLength) {
+        Command("PW", double{design_.MinorTicWidth} * 0.1);
+    } else if (length == design_.MajorTicLength) {
+        Command("PW", double{design_.MajorTicWidth} * 0.1);
     }
-    const double angle = PointerAngleOf(double{Design.StandardDeflection[scale][tic]});
-    const Point base = corner_ + BasePoint(scale, angle);
-    PlotLine(Along(base, angle, double{length}, DirectionOf(scale)), base);
+    const ArcPlace place = PlaceOnScale(scale, double{design_.StandardDeflection[scale][tic_]});
+    const auto at = [&](float mm) {
+        return AlongPointer(frame_, place.point, place.pointerAngleRad, double{mm},
+                            DirectionOf(scale));
+    };
+    PlotLine(at(length), place.point);
     Statement("LO5");
-    if (isLabelled && !(IsFullCircle() && tic == 0)) {
-        PlotRotatedText(0, Along(base, angle, double{Design.LabelSpacing}, DirectionOf(scale)),
-                        Design.StandardLabel[scale][tic]);
+    if (isLabelled && !(IsFullCircle(design_) && tic_ == 0)) {
+        PlotRotatedText(0, at(design_.LabelSpacing), design_.StandardLabel[scale][tic_]);
     }
 }
 
 void Plotter::PlotArc(int scale) {
     Statement("DI");
-    Command("PW", double{Design.ArcWidth} * 0.1);
-    if (Design.DrawArcs != "Y") {
+    Command("PW", double{design_.ArcWidth} * 0.1);
+    if (design_.DrawArcs != "Y") {
         return;
     }
     for (int chord = 0; chord <= kArcChords; ++chord) {
-        const Point point = corner_ + BasePoint(scale, PointerAngleOf(chord / double{kArcChords}));
+        const Point point = PlaceOnScale(scale, chord / double{kArcChords}).point;
         Command(chord == 0 ? "PU" : "PD", Nearest(point));
     }
 }
 
 void Plotter::PlotScale(int scale) {
-    const int last = Design.NrOfTicmarks[scale];
-    for (Design.TicLoop = 0; Design.TicLoop <= static_cast<float>(last); ++Design.TicLoop) {
-        PlotTic(scale, CurrentTic(Design));
+    for (tic_ = 0; tic_ <= design_.NrOfTicmarks[scale]; ++tic_) {
+        PlotTic(scale);
     }
     PlotArc(scale);
     Statement("LO6");
-    PlotRotatedText(0, AtMm(double{Design.PlateWidth} / 2, double{Design.BottomToTitle[scale]}),
-                    Design.ScaleTitle[scale]);
+    PlotRotatedText(0, AtMm(double{design_.PlateWidth} / 2, double{design_.BottomToTitle[scale]}),
+                    design_.ScaleTitle[scale]);
 }
 
-// Only the first five are counted, and as many of the list are then plotted: a gap cuts off texts
-// at its end.
+// As many of the list as the design counts: a gap cuts off texts at its end.
 void Plotter::PlotFreeTexts() {
-    if (Design.PrintText != "Y") {
-        return;
-    }
-    Design.NumberOfTexts = 0;
-    for (int text = 1; text <= kPlottedTexts; ++text) {
-        if (!Design.TextString[text].empty()) {
-            ++Design.NumberOfTexts;
-        }
-    }
-    for (int text = 1; text <= Design.NumberOfTexts; ++text) {
-        if (Design.TextString[text].empty()) {
+    for (int text = 1; text <= design_.NumberOfTexts; ++text) {
+        if (design_.TextString[text].empty()) {
             continue;
         }
         std::string width;
         std::string height;
-        FormatByMagnitude(double{Design.TextRelativeSize[text]} / 6.4, width);
-        FormatByMagnitude(double{Design.TextRelativeSize[text]} / 4.8, height);
+        FormatByMagnitude(double{design_.TextRelativeSize[text]} / 6.4, width);
+        FormatByMagnitude(double{design_.TextRelativeSize[text]} / 4.8, height);
         Statement("LO3");
         CharacterSize(width, height);
-        PlotText(AtMm(double{Design.LeftToText[text]}, double{Design.BottomToText[text]}),
-                 std::string(Trimmed(Design.TextString[text])));
+        PlotText(AtMm(double{design_.LeftToText[text]}, double{design_.BottomToText[text]}),
+                 std::string(Trimmed(design_.TextString[text])));
     }
 }
 
 // The ruler's coordinates are cut to whole units, not rounded.
 void Plotter::PlotRuler() {
-    const double length = std::min(double{Design.PlateWidth}, kLongestRulerMm);
+    const double length = std::min(double{design_.PlateWidth}, kLongestRulerMm);
     const auto at = [this](double mm, double below) {
         return Below({corner_.x + kUnitsPerMm * mm, corner_.y - below});
     };
@@ -319,22 +297,21 @@ void Plotter::PlotNotes(double rulerMm) {
     Statement("LO");
     Label("mm");
     Statement("SI .15 .2");
-    PlotRotatedText(0, {800, corner_.y - 800}, "Filename: " + Design.DesignFileName);
+    PlotRotatedText(0, {800, corner_.y - 800}, "Filename: " + design_.DesignFileName);
     PlotRotatedText(0, {800, corner_.y - 1000}, "Time/date: " + Host.localDateTime());
 }
 
-void Plotter::WriteAll(HpglMode mode) {
-    corner_.x = Corner(4100 - 20 * double{Design.PlateWidth});
-    corner_.y = Corner(8500 - 32 * double{Design.PlateHeight});
+void Plotter::WritePlateAndScales(HpglMode mode) {
     WriteHeader(mode);
     PlotCutLines();
     PlotMarks();
     Statement("SD 1,21 2,1 7,4");
-    for (Design.CurrentScale = 1; Design.CurrentScale <= Design.NumberOfScales;
-         ++Design.CurrentScale) {
-        PlotScale(Design.CurrentScale);
+    for (int scale = 1; scale <= design_.NumberOfScales; ++scale) {
+        PlotScale(scale);
     }
-    PlotFreeTexts();
+}
+
+void Plotter::WriteRest(HpglMode mode) {
     PlotRuler();
     Statement("PUSP0PG;");
     if (mode == HpglMode::PclPrinter) {
@@ -345,15 +322,41 @@ void Plotter::WriteAll(HpglMode mode) {
 
 } // namespace
 
-void WriteHpglStream(ByteSink& sink, HpglMode mode) {
-    Plotter(sink).WriteAll(mode);
+PlateFrame PlotterFrame(const DesignRecord& design) {
+    constexpr double kUnitsPerHalfMm = kUnitsPerMm / 2;
+    const Point corner = CornerOf(design);
+    PlateFrame frame = FrameOfDesign(design, kUnitsPerHalfMm,
+                                     {corner.x + kUnitsPerHalfMm * double{design.PlateWidth},
+                                      corner.y + kUnitsPerHalfMm * double{design.PlateHeight}});
+    frame.upPerHalfMm = -kUnitsPerHalfMm;
+    frame.quadrant = false;
+    return frame;
 }
 
-void WriteHpgl(const std::string& path, HpglMode mode) {
+void CountPlottedTexts(DesignRecord& design) {
+    design.NumberOfTexts = 0;
+    for (int text = 1; text <= kPlottedTexts; ++text) {
+        if (!design.TextString[text].empty()) {
+            ++design.NumberOfTexts;
+        }
+    }
+}
+
+void WriteHpglStream(DesignRecord& design, ByteSink& sink, HpglMode mode) {
+    Plotter plotter(design, sink);
+    plotter.WritePlateAndScales(mode);
+    if (design.PrintText == "Y") {
+        CountPlottedTexts(design);
+        plotter.PlotFreeTexts();
+    }
+    plotter.WriteRest(mode);
+}
+
+void WriteHpgl(DesignRecord& design, const std::string& path, HpglMode mode) {
     const std::string target = mode == HpglMode::File ? path : "LPT1";
     try {
         const auto sink = Host.openForOutput(target);
-        WriteHpglStream(*sink, mode);
+        WriteHpglStream(design, *sink, mode);
         sink->Close();
     } catch (const RunTimeError& failure) {
         ReportFailure({"The HPGL file was not written correctly.", failure.what()});

@@ -4,9 +4,12 @@
 
 #include <string>
 
+#include "engine/geometry/geometry.h"
+
 namespace vernacle {
 
 class ByteSink;
+struct DesignRecord;
 
 enum class HpglMode {
     File = 1,       // the stream alone
@@ -15,9 +18,18 @@ enum class HpglMode {
 
 // Writes the design to the file of that path, or in mode 2, whatever the path, to the printer's
 // port. Success and failure are both shown in a message box.
-void WriteHpgl(const std::string& path, HpglMode mode);
+void WriteHpgl(DesignRecord& design, const std::string& path, HpglMode mode);
 
-// Writes the whole stream; throws the failure. Counts NumberOfTexts into the design.
-void WriteHpglStream(ByteSink& sink, HpglMode mode);
+// Writes the whole stream; throws the failure. Behind the scales, where texts are printed at all,
+// the texts are counted into the design.
+void WriteHpglStream(DesignRecord& design, ByteSink& sink, HpglMode mode);
+
+// NumberOfTexts becomes the count of the first five texts that are not empty: so many of the list
+// are plotted.
+void CountPlottedTexts(DesignRecord& design);
+
+// The plate in plotter units, y upward. A quadrant plate is plotted like any other. A run-time
+// error if the plate is too large for the corner to be a 16-bit number.
+PlateFrame PlotterFrame(const DesignRecord& design);
 
 } // namespace vernacle

@@ -25,22 +25,10 @@ constexpr double kFooterPoints = 6; // at which lines 150 units apart do not tou
 constexpr const char* kWebAddress = "https://harrowgate.example/vernacle";
 
 struct PrintRun {
+    const DesignRecord& design;
     DrawingRun drawing;
     PrinterSurface& printer;
-};
-
-// Takes the sizes of the design and puts them back, whatever becomes of the print.
-class SizesKeeper {
-public:
-    SizesKeeper() : kept{Design.FontSize, Design.LabelSpacing} {}
-    ~SizesKeeper() {
-        Design.FontSize = kept.fontSize;
-        Design.LabelSpacing = kept.labelSpacing;
-    }
-    SizesKeeper(const SizesKeeper&) = delete;
-    SizesKeeper& operator=(const SizesKeeper&) = delete;
-
-    const PageCopies kept;
+    PageCopies ofScale; // the sizes at the relative size of the scale that is being printed
 };
 
 void PrintAt(PrinterSurface& printer, double x, double y, const std::string& text) {
@@ -53,24 +41,25 @@ void PrintBackground(PrintRun& run) {
     const PlateFrame& frame = run.drawing.frame;
     run.printer.FilledBox(F(frame.Left() - kBleed), F(frame.Top() - kBleed),
                           F(frame.Right() + kBleed), F(frame.Bottom() + kBleed),
-                          Design.PlateBackground);
+                          run.design.PlateBackground);
 }
 
 void PrintOutline(PrintRun& run) {
-    if (Design.PlateOutlineCircular == 1) {
+    if (run.design.PlateOutlineCircular == 1) {
         DrawOutline(run.printer, run.drawing.frame, OutlineStart::Dotted, kBlackInk);
     }
 }
 
-// Sets the sizes and the ink of a scale's labels, in the design too: they are put back at the end.
-// The run's own sizes are those that the design came with.
+// Sets the sizes and the ink of a scale's labels.
 void SelectScale(PrintRun& run, int scale) {
-    const double relative = RelativeSizeOf(scale);
-    Design.FontSize = F(double{run.drawing.sizes.fontSize} * relative);
-    Design.LabelSpacing = F(double{run.drawing.sizes.labelSpacing} * relative);
-    run.printer.SetFontName(Design.FontName);
-    run.printer.SetFontSize(double{Design.FontSize});
-    run.printer.SetForeColor(InkOf(scale));
+    const DrawingRun& drawing = run.drawing;
+    drawing.steps.RaiseRelativeSize(scale);
+    const double relative = RelativeSizeOf(drawing.design, scale);
+    run.ofScale.fontSize = F(double{drawing.sizes.fontSize} * relative);
+    run.ofScale.labelSpacing = F(double{drawing.sizes.labelSpacing} * relative);
+    run.printer.SetFontName(drawing.design.FontName);
+    run.printer.SetFontSize(double{run.ofScale.fontSize});
+    run.printer.SetForeColor(InkOf(drawing.design, scale));
 }
 
 double Sign(Direction direction) {
@@ -84,30 +73,30 @@ void PrintTurnedLabel(PrintRun& run, const TicLabel& label) {
     const PlateFrame& frame = run.drawing.frame;
     printer.PrintText(" "); // so that the page has begun and its device can be drawn on
     const ArcPlace place =
-        PlaceTic(frame, run.drawing.traits.correction, label.scale, label.deflection);
+        PlaceTic(run.design, frame, run.drawing.traits.correction, label.scale, label.deflection);
     const double t = place.pointerAngleRad;
     const double p = place.arcAngleRad;
-    const double radius = ScaleRadius(frame, double{Design.BottomToScaleCeiling[label.scale]});
+    const double radius = ScaleRadius(frame, double{run.design.BottomToScaleCeiling[label.scale]});
     const double across = 2 / double{printer.TwipsPerPixelX()} * frame.plateScale;
     const double up = 2.04 / double{printer.TwipsPerPixelY()} * frame.upPerHalfMm;
     double x = across * radius * -std::cos(p) + 2500;
     double y = up * 0.5 * frame.heightMm + 1675 -
                up * (radius * std::sin(p) - frame.offsetMm + frame.bearingMm);
-    const double spacing = Sign(DirectionOf(label.scale)) * double{Design.LabelSpacing};
+    const double spacing = Sign(DirectionOf(label.scale)) * double{run.ofScale.labelSpacing};
     x += across * spacing * std::cos(t);
     y += up * spacing * std::sin(t);
 
     const std::string text = PrintedLabel(label);
-    const double turn = Design.LabelRotation == "V" ? p : t;
+    const double turn = run.design.LabelRotation == "V" ? p : t;
     const double width = double{printer.TextWidth(text)};
     const double height = double{printer.TextHeight(text)};
-    const double points = double{Design.FontSize};
+    const double points = double{run.ofScale.fontSize};
     x -= 0.06 / double{printer.TwipsPerPixelX()} * points *
          (width * std::sin(turn) + height * std::cos(turn));
     y += 0.06 / double{printer.TwipsPerPixelY()} * points *
          (width * std::cos(turn) - height * std::sin(turn));
     const double em = points * 20 / double{printer.TwipsPerPixelY()}; // 20 twips to the point
-    printer.BeginFont(-RoundToInt(em), 0, LabelEscapement(frame, place),
+    printer.BeginFont(-RoundToInt(em), 0, LabelEscapement(run.design, frame, place),
                       run.drawing.state.LabelFontFace);
     printer.TextOutA(RoundToInt(x), RoundToInt(y), text);
     printer.EndFont();
@@ -116,24 +105,25 @@ void PrintTurnedLabel(PrintRun& run, const TicLabel& label) {
 void PrintUprightLabel(PrintRun& run, const TicLabel& label) {
     const PlateFrame& frame = run.drawing.frame;
     const ArcPlace place =
-        PlaceTic(frame, run.drawing.traits.correction, label.scale, label.deflection);
+        PlaceTic(run.design, frame, run.drawing.traits.correction, label.scale, label.deflection);
     // Coordinates are 32-bit floats before they are cut: a label at mid-scale, a hair off the
     // centre line in double precision, would else lose a unit.
     const SurfacePoint whole = {std::trunc(F(place.point.x)), std::trunc(F(place.point.y))};
-    const SurfacePoint anchor = AlongPointer(frame, whole, place.pointerAngleRad,
-                                             double{Design.LabelSpacing}, DirectionOf(label.scale));
+    const SurfacePoint anchor =
+        AlongPointer(frame, whole, place.pointerAngleRad, double{run.ofScale.labelSpacing},
+                     DirectionOf(label.scale));
     const std::string text = PrintedLabel(label);
     PrintAt(run.printer, std::floor(F(anchor.x - 0.5 * double{run.printer.TextWidth(text)})),
             std::floor(F(anchor.y - 0.5 * double{run.printer.TextHeight(text)})), text);
 }
 
 void PrintLabels(PrintRun& run) {
-    const bool turned = Design.LabelRotation == "B" || Design.LabelRotation == "V";
-    ForEachScaleUpward([&](int scale) {
+    const bool turned = run.design.LabelRotation == "B" || run.design.LabelRotation == "V";
+    ForEachScaleUpward(run.drawing, [&](int scale) {
         SelectScale(run, scale);
         run.drawing.state.WhereMarker =
-            IsSpecial(Design, scale) ? kMarkSpecialLabels : kMarkStandardLabels;
-        WalkLabels(Design, scale, run.drawing.traits.labelFlags, [&](const TicLabel& label) {
+            IsSpecial(run.design, scale) ? kMarkSpecialLabels : kMarkStandardLabels;
+        WalkLabels(run.design, scale, run.drawing.traits.labelFlags, [&](const TicLabel& label) {
             if (turned) {
                 PrintTurnedLabel(run, label);
             } else {
@@ -147,12 +137,12 @@ void PrintLabels(PrintRun& run) {
 void PrintTitle(PrintRun& run, int scale) {
     SelectScale(run, scale);
     const PlateFrame& frame = run.drawing.frame;
-    const std::string& title = Design.ScaleTitle[scale];
+    const std::string& title = run.design.ScaleTitle[scale];
     const double width = double{run.printer.TextWidth(title)};
-    const double x =
-        QuadrantTitleX(frame, scale).value_or(kSheetCentre.x - width * frame.plateScale * 0.018);
+    const double x = QuadrantTitleX(run.design, frame, scale)
+                         .value_or(kSheetCentre.x - width * frame.plateScale * 0.018);
     const double y =
-        (frame.heightMm - 2 * double{Design.BottomToTitle[scale]}) * frame.upPerHalfMm +
+        (frame.heightMm - 2 * double{run.design.BottomToTitle[scale]}) * frame.upPerHalfMm +
         kSheetCentre.y;
     PrintAt(run.printer, std::trunc(std::clamp(x, 300.0, 11200.0)),
             std::trunc(std::clamp(y, 300.0, 14900.0)), title);
@@ -160,11 +150,11 @@ void PrintTitle(PrintRun& run, int scale) {
 
 void PrintTitles(PrintRun& run) {
     run.drawing.state.WhereMarker = kMarkTitles;
-    ForEachScaleUpward([&run](int scale) { PrintTitle(run, scale); });
+    ForEachScaleUpward(run.drawing, [&run](int scale) { PrintTitle(run, scale); });
 }
 
 void PrintRuler(PrintRun& run) {
-    DrawRuler(run.drawing, {.lengthMm = double{Design.PlateWidth},
+    DrawRuler(run.drawing, {.lengthMm = double{run.design.PlateWidth},
                             .belowPlate = 400,
                             .fineWidth = 5,
                             .coarseWidth = 10,
@@ -177,7 +167,7 @@ void PrintFooter(PrintRun& run) {
     const double x = run.drawing.frame.Left();
     const double bottom = run.drawing.frame.Bottom();
     run.printer.SetFontSize(kFooterPoints);
-    PrintAt(run.printer, x, bottom + 1000, Design.DesignFileName);
+    PrintAt(run.printer, x, bottom + 1000, run.design.DesignFileName);
     PrintAt(run.printer, x, bottom + 1150, "Printed by Vernacle from Harrowgate Software");
     PrintAt(run.printer, x, bottom + 1300, kWebAddress);
     PrintAt(run.printer, x, bottom + 1450, Host.localDateTime());
@@ -187,7 +177,8 @@ void PrintFooter(PrintRun& run) {
 // higher than the plate.
 void KeepPlateOnSheet(PrintRun& run) {
     const PlateFrame& frame = run.drawing.frame;
-    const double outline = Design.PlateOutlineCircular == 1 ? frame.plateScale * frame.widthMm : 0;
+    const double outline =
+        run.design.PlateOutlineCircular == 1 ? frame.plateScale * frame.widthMm : 0;
     const double top = std::min(frame.Top() - kMarksReach, kSheetCentre.y - outline);
     const double bottom = std::max(frame.Bottom() + kMarksReach, kSheetCentre.y + outline);
     run.printer.KeepOnSheet(F(top), F(bottom));
@@ -201,7 +192,7 @@ void PrintPage(PrintRun& run) {
     for (const DrawingStage stage : run.drawing.traits.stages) {
         stage(run.drawing);
     }
-    if (Design.PrintText == "Y") {
+    if (run.design.PrintText == "Y") {
         PrintLabels(run);
         PrintTitles(run);
     }
@@ -233,10 +224,10 @@ DrawingTraits PrintTraits() {
             .stages = kPrintStages};
 }
 
-PlateFrame PrintFrame() {
+PlateFrame PrintFrame(const DesignRecord& design) {
     PlateFrame frame =
-        FrameOfDesign(double{Design.CalibrationX} * kSheetUnitsPerHalfMm, kSheetCentre);
-    frame.upPerHalfMm = double{Design.CalibrationY} * kSheetUnitsPerHalfMm;
+        FrameOfDesign(design, double{design.CalibrationX} * kSheetUnitsPerHalfMm, kSheetCentre);
+    frame.upPerHalfMm = double{design.CalibrationY} * kSheetUnitsPerHalfMm;
     return frame;
 }
 
@@ -244,14 +235,16 @@ std::string PrintedLabel(const TicLabel& label) {
     return label.text == "/" ? " " : label.text;
 }
 
-bool PrintDesign(PrinterSurface& printer) {
-    const SizesKeeper keeper;
+bool PrintDesign(const DesignRecord& design, PrinterSurface& printer, const DrawingSteps& steps) {
     const DrawingTraits traits = PrintTraits();
     DrawingState state;
     state.WhereMarker = kMarkStart;
     try {
-        HoldCalibration();
-        PrintRun run{{printer, traits, state, keeper.kept, PrintFrame()}, printer};
+        const PageCopies sizes{design.FontSize, design.LabelSpacing};
+        PrintRun run{design,
+                     {design, printer, traits, state, steps, sizes, PrintFrame(design)},
+                     printer,
+                     sizes};
         PrintPage(run);
         return true;
     } catch (const RunTimeError& failure) {
@@ -261,6 +254,11 @@ bool PrintDesign(PrinterSurface& printer) {
                          failure.what()});
         return false;
     }
+}
+
+bool PrintPlate(DesignRecord& design, PrinterSurface& printer) {
+    HoldCalibration(design);
+    return PrintDesign(design, printer, StepsOn(design));
 }
 
 } // namespace vernacle

@@ -8,13 +8,16 @@ namespace vernacle {
 
 class PrinterSurface;
 
-// Prints the design by the calibration factors, which are first held to 0.5 .. 2. Returns whether
-// the document was sent; a failure ends the document and is reported without a sound.
-// Design.FontSize and Design.LabelSpacing are put back either way.
-bool PrintDesign(PrinterSurface& printer);
+// Prints the design by the calibration factors as they stand. Returns whether the document was
+// sent; a failure ends the document and is reported without a sound.
+bool PrintDesign(const DesignRecord& design, PrinterSurface& printer, const DrawingSteps& steps);
+
+// The print of a design by its owner: the calibration factors are first held to 0.5 .. 2, and it
+// takes all the steps.
+bool PrintPlate(DesignRecord& design, PrinterSurface& printer);
 
 // The printed plate's frame: one factor for each axis, no aspect.
-PlateFrame PrintFrame();
+PlateFrame PrintFrame(const DesignRecord& design);
 
 // The traits by which a plate is printed, for whoever must know which tics and labels that shows.
 DrawingTraits PrintTraits();

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "engine/core/design.h"
+#include "engine/render/drawingsteps.h"
 #include "engine/render/stages.h"
 #include "engine/scale/scale.h"
 
@@ -28,27 +29,41 @@ constexpr DrawingStage kPageStages[] = {
     PointerLengthStage, ArcsStage,  FontStage,      LabelsStage, TitlesStage,   EndStage,
 };
 
-void CountHighlights() {
-    Design.NumberOfHighlights = 0;
+void CountHighlights(DesignRecord& design) {
+    design.NumberOfHighlights = 0;
     for (int slot = 1; slot <= kHighlights; ++slot) {
-        if (Design.HighlightStart[slot] > 0 && Design.HighlightStop[slot] > 0) {
-            ++Design.NumberOfHighlights;
+        if (design.HighlightStart[slot] > 0 && design.HighlightStop[slot] > 0) {
+            ++design.NumberOfHighlights;
         }
     }
 }
 
-void Prepare(Preparation preparation) {
+void Prepare(DesignRecord& design, Preparation preparation) {
     if (preparation == Preparation::None) {
         return;
     }
     if (preparation == Preparation::CountHighlightsAndRest) {
-        CountHighlights();
+        CountHighlights(design);
     }
-    Design.NumberOfScales = std::max<std::int16_t>(Design.NumberOfScales, 1);
-    Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
-    RaiseAspectRatio();
-    ComputeTicDeflections(Design);
-    ComputeTicLabels(Design);
+    design.NumberOfScales = std::max<std::int16_t>(design.NumberOfScales, 1);
+    design.CurrentScale = std::max<std::int16_t>(design.CurrentScale, 1);
+    RaiseAspectRatio(design);
+    ComputeTicDeflections(design);
+    ComputeTicLabels(design);
+}
+
+DrawingRun Begin(const DesignRecord& design, DrawingSurface& surface, const DrawingTraits& traits,
+                 const PageCopies& sizes, DrawingState& state, const DrawingSteps& steps) {
+    const PlateFrame frame = FrameOf(design, traits);
+    if (traits.aspect == Aspect::OfDesign) {
+        steps.RaiseAspect();
+    }
+    state.PlateScale = static_cast<float>(frame.plateScale);
+    state.PlateCentreX = static_cast<float>(frame.centreX);
+    state.PlateCentreY = static_cast<float>(frame.centreY);
+    state.DegreesPerRadian = static_cast<float>(frame.degreesPerRadian);
+    state.WhereMarker = kMarkStart;
+    return {design, surface, traits, state, steps, sizes, frame};
 }
 
 void RunStages(DrawingRun& run) {
@@ -57,16 +72,11 @@ void RunStages(DrawingRun& run) {
     }
 }
 
-// Keeps Design.CurrentScale, which the stages run over.
-class ScaleKeeper {
+// The scale that is being set up stays the current one.
+class SetupSteps : public StepsOn {
 public:
-    ScaleKeeper() = default;
-    ~ScaleKeeper() { Design.CurrentScale = kept_; }
-    ScaleKeeper(const ScaleKeeper&) = delete;
-    ScaleKeeper& operator=(const ScaleKeeper&) = delete;
-
-private:
-    const std::int16_t kept_ = Design.CurrentScale;
+    using StepsOn::StepsOn;
+    void ReachScale(int /*scale*/) const override {}
 };
 
 } // namespace
@@ -115,26 +125,21 @@ DrawingTraits SetupTraits() {
             .stages = kSetupStages};
 }
 
-PlateFrame FrameOf(const DrawingTraits& traits) {
-    const double width = double{Design.PlateWidth};
-    const double height = double{Design.PlateHeight};
+PlateFrame FrameOf(const DesignRecord& design, const DrawingTraits& traits) {
+    const double width = double{design.PlateWidth};
+    const double height = double{design.PlateHeight};
     const double larger = CheckedDivide(width, height) <= traits.square ? height : width;
-    Drawing.PlateScale = static_cast<float>(traits.extent / larger);
-    Drawing.PlateCentreX = static_cast<float>(traits.centre.x);
-    Drawing.PlateCentreY = static_cast<float>(traits.centre.y);
-    Drawing.DegreesPerRadian = ComputeDegreesPerRadian();
-    PlateFrame frame = FrameOfDesign(double{Drawing.PlateScale}, traits.centre);
+    const auto plateScale = static_cast<float>(traits.extent / larger);
+    PlateFrame frame = FrameOfDesign(design, double{plateScale}, traits.centre);
     if (traits.aspect == Aspect::OfDesign) {
-        RaiseAspectRatio();
-        frame.aspect = double{Design.AspectRatio};
+        frame.aspect = design.AspectRatio <= 0 ? 1 : double{design.AspectRatio};
     }
     return frame;
 }
 
-void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageCopies& sizes) {
-    Prepare(traits.preparation);
-    DrawingRun run{surface, traits, Drawing, sizes, FrameOf(traits)};
-    Drawing.WhereMarker = kMarkStart;
+void DrawDesign(const DesignRecord& design, DrawingSurface& surface, const DrawingTraits& traits,
+                const PageCopies& sizes, DrawingState& state, const DrawingSteps& steps) {
+    DrawingRun run = Begin(design, surface, traits, sizes, state, steps);
     try {
         RunStages(run);
     } catch (const RunTimeError&) {
@@ -142,11 +147,17 @@ void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const Page
     }
 }
 
-void DrawSetup(DrawingSurface& surface, const PageCopies& sizes) {
-    const ScaleKeeper keeper;
+void DrawPage(DesignRecord& design, DrawingSurface& surface, const DrawingTraits& traits,
+              const PageCopies& sizes, DrawingState& state) {
+    Prepare(design, traits.preparation);
+    DrawDesign(design, surface, traits, sizes, state, StepsOn(design));
+}
+
+void DrawSetup(DesignRecord& design, DrawingSurface& surface, const PageCopies& sizes,
+               DrawingState& state) {
     const DrawingTraits traits = SetupTraits();
-    DrawingRun run{surface, traits, Drawing, sizes, FrameOf(traits)};
-    Drawing.WhereMarker = kMarkStart;
+    const SetupSteps steps(design);
+    DrawingRun run = Begin(design, surface, traits, sizes, state, steps);
     RunStages(run);
 }
 
@@ -158,16 +169,10 @@ float HeldAspect(double aspect) {
     return static_cast<float>(kAspectLimits.Held(aspect));
 }
 
-void HoldAspectRatio() {
+void HoldAspectRatio(DesignRecord& design) {
     // The percent is rounded as it shows: .505, which a float holds a little low, is 50.5 percent.
-    const auto percent = static_cast<float>(double{HeldAspect(double{Design.AspectRatio})} * 100);
-    Design.AspectRatio = static_cast<float>(std::floor(double{percent} + 0.5) * 0.01);
-}
-
-void RaiseAspectRatio() {
-    if (Design.AspectRatio <= 0) {
-        Design.AspectRatio = 1;
-    }
+    const auto percent = static_cast<float>(double{HeldAspect(double{design.AspectRatio})} * 100);
+    design.AspectRatio = static_cast<float>(std::floor(double{percent} + 0.5) * 0.01);
 }
 
 } // namespace vernacle

@@ -13,6 +13,8 @@
 
 namespace vernacle {
 
+class DrawingSteps;
+
 // What a drawing works with and what it leaves for overlays and messages.
 struct DrawingState {
     float PlateScale = 0; // surface units per half millimetre
@@ -63,7 +65,7 @@ enum class LabelFitting {
 // Which tables the tics and labels are taken from.
 enum class Tables {
     ByColour,              // of each scale, standard or special as its colour says
-    SpecialOfCurrentScale, // of Design.CurrentScale alone, whatever its colour says
+    SpecialOfCurrentScale, // of the current scale alone, whatever its colour says
 };
 
 enum class Aspect {
@@ -103,34 +105,38 @@ DrawingTraits HighlightsTraits();
 DrawingTraits WizardTraits();
 DrawingTraits SetupTraits();
 
-// Draws the design. A run-time failure of a stage ends the drawing silently: what was drawn so far
-// stays, and Design.CurrentScale and Design.TicLoop stay where they stood. One on the way there, in
-// the scale tables or the frame, is not trapped.
-void DrawDesign(DrawingSurface& surface, const DrawingTraits& traits, const PageCopies& sizes);
+// Draws the design as it stands, but for the steps that are taken on the way. A run-time failure of
+// a stage ends the drawing silently: what was drawn so far stays. One on the way there, in the
+// frame, is not trapped.
+void DrawDesign(const DesignRecord& design, DrawingSurface& surface, const DrawingTraits& traits,
+                const PageCopies& sizes, DrawingState& state, const DrawingSteps& steps);
 
-// Draws the scale that is being set up, from the special tables of Design.CurrentScale, which stays
-// as it is. A run-time failure passes through; what was drawn so far stays.
-void DrawSetup(DrawingSurface& surface, const PageCopies& sizes);
+// A page's drawing of its design, which is first prepared and then takes all the steps. A failure
+// of the scale tables is not trapped.
+void DrawPage(DesignRecord& design, DrawingSurface& surface, const DrawingTraits& traits,
+              const PageCopies& sizes, DrawingState& state);
+
+// Draws the scale that is being set up, from the special tables of CurrentScale, which stays as it
+// is. A run-time failure passes through; what was drawn so far stays.
+void DrawSetup(DesignRecord& design, DrawingSurface& surface, const PageCopies& sizes,
+               DrawingState& state);
 
 // The width in mm of a free text of that size, from its width in average characters of its font, by
 // which a made font is asked for. Drawings round the font's width to whole pixels.
 double FreeTextWidthMm(double averageCharacters, double points);
 
 // The colour of a scale: the magnitude of ScaleColor.
-Colour InkOf(int scale);
+Colour InkOf(const DesignRecord& design, int scale);
 
-// The frame of a page, its numbers also kept in Drawing. An AspectRatio of 0 or less becomes 1
-// where it counts. A plate without height is a run-time error.
-PlateFrame FrameOf(const DrawingTraits& traits);
+// The frame of a page. An AspectRatio of 0 or less counts as 1. A plate without height is a
+// run-time error.
+PlateFrame FrameOf(const DesignRecord& design, const DrawingTraits& traits);
 
 // What an aspect ratio is held to.
 constexpr EntryLimits kAspectLimits{0.5, 1.15};
 float HeldAspect(double aspect);
 
 // Holds AspectRatio to those limits and rounds it to whole hundredths.
-void HoldAspectRatio();
-
-// An AspectRatio of 0 or less becomes 1.
-void RaiseAspectRatio();
+void HoldAspectRatio(DesignRecord& design);
 
 } // namespace vernacle

@@ -6,7 +6,6 @@
 #include "engine/geometry/primitives.h"
 #include "engine/render/stages.h"
 #include "engine/scale/scale.h"
-#include "engine/scale/ticrows.h"
 
 namespace vernacle {
 
@@ -74,11 +73,11 @@ SurfacePoint AlongRadius(SurfacePoint anchor, const LabelMeasure& m, double t) {
 SurfacePoint MeasuredCorner(const DrawingRun& run, const TicLabel& label, SurfacePoint anchor,
                             double t) {
     const double fontSize = double{run.sizes.fontSize};
-    const double points = fontSize * double{Design.RelativeFontSize[label.scale]};
-    if (Design.LabelRotation == "H") {
+    const double points = fontSize * RelativeSizeOf(run.design, label.scale);
+    if (run.design.LabelRotation == "H") {
         return Upright(anchor, MeasureLabel(run, label, points));
     }
-    if (Design.LabelRotation == "B") {
+    if (run.design.LabelRotation == "B") {
         // A special scale's turned labels take the plate's size alone.
         const double turned = label.special ? fontSize : points;
         return AlongRadius(anchor, MeasureLabel(run, label, turned), t);
@@ -88,13 +87,13 @@ SurfacePoint MeasuredCorner(const DrawingRun& run, const TicLabel& label, Surfac
 
 // The wizard's page: fitted to a sample text of 303 by 149 units at 16 points.
 SurfacePoint SampledCorner(const DrawingRun& run, int scale, SurfacePoint anchor, double t) {
-    const double points = double{run.sizes.fontSize} * double{Design.RelativeFontSize[scale]} / 16;
+    const double points = double{run.sizes.fontSize} * RelativeSizeOf(run.design, scale) / 16;
     const double across = run.frame.AcrossPerHalfMm() * run.screen.y * points;
     const double up = run.frame.upPerHalfMm * run.screen.y * points;
-    if (Design.LabelRotation == "H") {
+    if (run.design.LabelRotation == "H") {
         return Upright(anchor, {across * 0.014, up * 0.011, 303, 149});
     }
-    if (Design.LabelRotation == "B") {
+    if (run.design.LabelRotation == "B") {
         const double width = double{run.surface.TextWidth("jjj")};
         const double height = double{run.surface.TextHeight("jjjj")};
         return AlongRadius(anchor, {across * kOrdinarySize, across * kOrdinarySize, width, height},
@@ -105,8 +104,8 @@ SurfacePoint SampledCorner(const DrawingRun& run, int scale, SurfacePoint anchor
 
 void DrawLabel(DrawingRun& run, const TicLabel& label) {
     const ArcPlace place =
-        PlaceTic(run.frame, run.traits.correction, label.scale, label.deflection);
-    const double relative = double{Design.RelativeFontSize[label.scale]};
+        PlaceTic(run.design, run.frame, run.traits.correction, label.scale, label.deflection);
+    const double relative = RelativeSizeOf(run.design, label.scale);
     const double t = place.pointerAngleRad;
     const SurfacePoint anchor =
         AlongPointer(run.frame, place.point, t, double{run.sizes.labelSpacing} * relative,
@@ -117,29 +116,30 @@ void DrawLabel(DrawingRun& run, const TicLabel& label) {
     WriteText(run, corner, label.text,
               {.heightPerPoint = HeightPerPoint(run, kLabelHeight),
                .points = double{run.sizes.fontSize} * relative,
-               .escapement = LabelEscapement(run.frame, place)});
+               .escapement = LabelEscapement(run.design, run.frame, place)});
 }
 
 void DrawLabels(DrawingRun& run, int scale) {
-    const double points = double{Design.RelativeFontSize[scale]} * double{run.sizes.fontSize};
+    const double points = double{run.design.RelativeFontSize[scale]} * double{run.sizes.fontSize};
     run.surface.SetFontSize(run.frame.upPerHalfMm * kOrdinarySize * points * run.screen.y);
-    RelativeSizeOf(scale);
-    if (run.traits.labelFlags == LabelFlags::SetBack) {
-        Design.ScaleColor[scale] = 0;
+    run.steps.RaiseRelativeSize(scale);
+    const bool setsBack = run.traits.labelFlags == LabelFlags::SetBack;
+    if (setsBack) {
+        run.steps.ClearColour(scale);
     }
-    run.surface.SetForeColor(InkOf(scale));
+    run.surface.SetForeColor(InkOf(run.design, scale));
     const auto draw = [&run](const TicLabel& label) { DrawLabel(run, label); };
-    const auto setBack = [&run](int of, int tic) {
-        if (run.traits.labelFlags == LabelFlags::SetBack) {
-            LabelFlagOf(Design, of, tic) = "Y";
+    const auto setBack = [&run, setsBack](int of, int tic) {
+        if (setsBack) {
+            run.steps.SetBackLabel(of, tic);
         }
     };
     if (ShowsSpecial(run, scale)) {
         run.state.WhereMarker = kMarkSpecialLabels;
-        WalkSpecialLabels(Design, scale, run.traits.labelFlags, setBack, draw);
+        WalkSpecialLabels(run.design, scale, run.traits.labelFlags, setBack, draw);
     } else {
         run.state.WhereMarker = kMarkStandardLabels;
-        WalkStandardLabels(Design, scale, run.traits.labelFlags, setBack, draw);
+        WalkStandardLabels(run.design, scale, run.traits.labelFlags, setBack, draw);
     }
 }
 
@@ -147,19 +147,19 @@ void DrawLabels(DrawingRun& run, int scale) {
 constexpr std::array<double, 5> kQuadrantTitles = {0, 0.8, 0.4, 0.4, 0.2};
 
 double TitleX(const DrawingRun& run, int scale) {
-    const double width = double{run.surface.TextWidth(Design.ScaleTitle[scale])};
-    return QuadrantTitleX(run.frame, scale)
+    const double width = double{run.surface.TextWidth(run.design.ScaleTitle[scale])};
+    return QuadrantTitleX(run.design, run.frame, scale)
         .value_or(run.frame.centreX - run.frame.aspect * 0.59 * width);
 }
 
 void DrawTitle(DrawingRun& run, int scale) {
-    run.surface.SetForeColor(InkOf(scale));
+    run.surface.SetForeColor(InkOf(run.design, scale));
     const double y =
-        (run.frame.heightMm - 2 * double{Design.BottomToTitle[scale]}) * run.frame.upPerHalfMm +
+        (run.frame.heightMm - 2 * double{run.design.BottomToTitle[scale]}) * run.frame.upPerHalfMm +
         run.frame.centreY;
-    WriteText(run, {TitleX(run, scale), y}, Design.ScaleTitle[scale],
+    WriteText(run, {TitleX(run, scale), y}, run.design.ScaleTitle[scale],
               {.heightPerPoint = HeightPerPoint(run, kTitleHeight),
-               .points = double{run.sizes.fontSize} * double{Design.RelativeFontSize[scale]},
+               .points = double{run.sizes.fontSize} * RelativeSizeOf(run.design, scale),
                .escapement = 0});
 }
 
@@ -169,20 +169,21 @@ std::string FontFace(const std::string& name) {
     return std::string(Trimmed(name)) + '\0';
 }
 
-int LabelEscapement(const PlateFrame& frame, const ArcPlace& place) {
+int LabelEscapement(const DesignRecord& design, const PlateFrame& frame, const ArcPlace& place) {
     const double tenthsPerRadian = 10 * frame.degreesPerRadian;
-    if (Design.LabelRotation == "B") {
+    if (design.LabelRotation == "B") {
         return RoundToInt((kRightAngle - place.pointerAngleRad) * tenthsPerRadian);
     }
-    if (Design.LabelRotation == "V") {
+    if (design.LabelRotation == "V") {
         return RoundToInt((kRightAngle - place.arcAngleRad) * tenthsPerRadian);
     }
     return 0;
 }
 
-std::optional<double> QuadrantTitleX(const PlateFrame& frame, int scale) {
+std::optional<double> QuadrantTitleX(const DesignRecord& design, const PlateFrame& frame,
+                                     int scale) {
     const auto index = static_cast<std::size_t>(scale);
-    if (Design.PlateStyle != 1 || index >= kQuadrantTitles.size()) {
+    if (design.PlateStyle != 1 || index >= kQuadrantTitles.size()) {
         return std::nullopt;
     }
     return frame.centreX - kQuadrantTitles[index] * frame.AcrossPerHalfMm() * frame.widthMm;
@@ -190,31 +191,31 @@ std::optional<double> QuadrantTitleX(const PlateFrame& frame, int scale) {
 
 void FontStage(DrawingRun& run) {
     run.state.WhereMarker = kMarkFont;
-    const std::string name = run.traits.fontName ? run.traits.fontName : Design.FontName;
+    const std::string name = run.traits.fontName ? run.traits.fontName : run.design.FontName;
     run.state.LabelFontFace = FontFace(name);
     run.surface.SetFontName(name);
 }
 
 void LabelsStage(DrawingRun& run) {
-    if (Design.PrintText != "Y") {
+    if (run.design.PrintText != "Y") {
         return;
     }
     if (run.traits.tables == Tables::ByColour) {
-        ForEachScaleUpward([&run](int scale) { DrawLabels(run, scale); });
+        ForEachScaleUpward(run, [&run](int scale) { DrawLabels(run, scale); });
     } else {
-        DrawLabels(run, Design.CurrentScale);
+        DrawLabels(run, run.design.CurrentScale);
     }
 }
 
 void TitlesStage(DrawingRun& run) {
-    if (Design.PrintText == "Y") {
+    if (run.design.PrintText == "Y") {
         run.state.WhereMarker = kMarkTitles;
-        ForEachScaleUpward([&run](int scale) { DrawTitle(run, scale); });
+        ForEachScaleUpward(run, [&run](int scale) { DrawTitle(run, scale); });
     }
 }
 
 void FreeTextsStage(DrawingRun& run) {
-    const FreeTexts texts = run.sizes.texts ? *run.sizes.texts : CopyOfTexts();
+    const FreeTexts texts = run.sizes.texts ? *run.sizes.texts : CopyOfTexts(run.design);
     for (int text = 1; text <= kTexts; ++text) {
         if (texts.TextString[text].empty()) {
             continue;

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 #include "engine/geometry/primitives.h"
 
 namespace vernacle {

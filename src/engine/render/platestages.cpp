@@ -44,12 +44,13 @@ double BearingRadius(const PlateFrame& frame) {
 }
 
 // The left one first; a quadrant plate has none.
-std::vector<SurfacePoint> HolesOf(const PlateFrame& frame) {
-    if (Design.PlateStyle != 0) {
+std::vector<SurfacePoint> HolesOf(const DrawingRun& run) {
+    const PlateFrame& frame = run.frame;
+    if (run.design.PlateStyle != 0) {
         return {};
     }
-    const double apart = frame.AcrossPerHalfMm() * double{Design.HoleSeparation};
-    const double y = frame.Bottom() - 2 * frame.upPerHalfMm * double{Design.BottomToHoles};
+    const double apart = frame.AcrossPerHalfMm() * double{run.design.HoleSeparation};
+    const double y = frame.Bottom() - 2 * frame.upPerHalfMm * double{run.design.BottomToHoles};
     return {{frame.centreX - apart, y}, {frame.centreX + apart, y}};
 }
 
@@ -69,7 +70,7 @@ void ClearStage(DrawingRun& run) {
 void PlateStage(DrawingRun& run) {
     const PlateFrame& frame = run.frame;
     run.surface.FilledBox(F(frame.Left()), F(frame.Top()), F(frame.Right()), F(frame.Bottom()),
-                          Design.PlateBackground);
+                          run.design.PlateBackground);
     DrawPlateBox(run, 0, kWhiteInk);
     DrawPlateBox(run, kBorderOutside, kBlackInk);
 }
@@ -90,7 +91,7 @@ void TrimMarksStage(DrawingRun& run) {
 }
 
 void HolesStage(DrawingRun& run) {
-    const std::vector<SurfacePoint> holes = HolesOf(run.frame);
+    const std::vector<SurfacePoint> holes = HolesOf(run);
     if (holes.empty()) {
         return;
     }
@@ -116,17 +117,17 @@ void OutlineStage(DrawingRun& run) {
 }
 
 void SetupMarksStage(DrawingRun& run) {
-    for (const SurfacePoint hole : HolesOf(run.frame)) {
+    for (const SurfacePoint hole : HolesOf(run)) {
         DrawCircle(run, hole, HoleRadius(run.frame), kBlackInk);
-        DrawCross(run, hole, 130, Design.PlateBackground);
+        DrawCross(run, hole, 130, run.design.PlateBackground);
     }
     const SurfacePoint bearing = RealBearing(run.frame);
-    DrawCross(run, bearing, 100, Design.PlateBackground);
+    DrawCross(run, bearing, 100, run.design.PlateBackground);
     DrawCircle(run, bearing, BearingRadius(run.frame), kBlackInk);
 }
 
 void RulerStage(DrawingRun& run) {
-    const double rounded = std::nearbyint(double{Design.PlateWidth});
+    const double rounded = std::nearbyint(double{run.design.PlateWidth});
     DrawRuler(run, {.lengthMm = std::min(rounded, kLongestRulerMm),
                     .belowPlate = 500,
                     .fineWidth = 1,

@@ -10,20 +10,20 @@ namespace {
 
 constexpr double kHighlightStep = 0.0002; // of full deflection: closer than the lines are wide
 
-double CorrectedPercent(float percent) {
+double CorrectedPercent(const DesignRecord& design, float percent) {
     auto fraction = static_cast<float>(double{percent} * 0.01);
-    return double{CorrectDeflection(Design, fraction)};
+    return double{CorrectDeflection(design, fraction)};
 }
 
 void DrawHighlight(DrawingRun& run, int highlight) {
     const PlateFrame& frame = run.frame;
-    const double radius = ScaleRadius(frame, double{Design.HighlightCeiling[highlight]});
+    const double radius = ScaleRadius(frame, double{run.design.HighlightCeiling[highlight]});
     if (radius == 0) {
         return;
     }
-    const double length = double{Design.HighlightLength[highlight]};
-    const double stop = CorrectedPercent(Design.HighlightStop[highlight]);
-    const double start = CorrectedPercent(Design.HighlightStart[highlight]);
+    const double length = double{run.design.HighlightLength[highlight]};
+    const double stop = CorrectedPercent(run.design, run.design.HighlightStop[highlight]);
+    const double start = CorrectedPercent(run.design, run.design.HighlightStart[highlight]);
     for (int step = 0; start + step * kHighlightStep <= stop; ++step) {
         const double f = start + step * kHighlightStep;
         const ArcPlace place = PlaceOnArc(frame, PointerAngle(frame, f), radius);
@@ -32,7 +32,7 @@ void DrawHighlight(DrawingRun& run, int highlight) {
         square.upPerHalfMm = frame.AcrossPerHalfMm();
         const SurfacePoint end =
             AlongPointer(square, place.point, place.pointerAngleRad, length, Direction::Outward);
-        DrawLine(run.surface, place.point, end, Design.HighlightColor[highlight]);
+        DrawLine(run.surface, place.point, end, run.design.HighlightColor[highlight]);
     }
 }
 
@@ -41,23 +41,23 @@ void DrawHighlight(DrawingRun& run, int highlight) {
 void HighlightsStage(DrawingRun& run) {
     run.surface.SetLineWidth(1);
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
-        if (Design.HighlightStop[highlight] > 0) {
+        if (run.design.HighlightStop[highlight] > 0) {
             DrawHighlight(run, highlight);
         }
     }
 }
 
 void GraphicStage(DrawingRun& run) {
-    if (Design.DrawGraphic != "Y") {
+    if (run.design.DrawGraphic != "Y") {
         return;
     }
     const PlateFrame& frame = run.frame;
     const SurfacePoint corner =
-        PlatePoint(frame, double{Design.LeftToGraphic}, double{Design.BottomToGraphic});
-    const double width = 2 * frame.AcrossPerHalfMm() * double{Design.GraphicWidth};
-    const double height = 2 * frame.upPerHalfMm * double{Design.GraphicHeight};
+        PlatePoint(frame, double{run.design.LeftToGraphic}, double{run.design.BottomToGraphic});
+    const double width = 2 * frame.AcrossPerHalfMm() * double{run.design.GraphicWidth};
+    const double height = 2 * frame.upPerHalfMm * double{run.design.GraphicHeight};
     try {
-        run.surface.PaintPicture(Design.GraphicFileName, F(corner.x), F(corner.y), F(width),
+        run.surface.PaintPicture(run.design.GraphicFileName, F(corner.x), F(corner.y), F(width),
                                  F(height));
     } catch (const RunTimeError&) {
         // A picture that does not load is left out.
@@ -71,7 +71,7 @@ void OverlaysStage(DrawingRun& run) {
     if (run.state.PointerShown == 1) {
         DrawPointer(run.surface, run.frame, run.state);
     }
-    if (Design.PlateOutlineCircular == 1) {
+    if (run.design.PlateOutlineCircular == 1) {
         DrawOutline(run.surface, run.frame, OutlineStart::Moved, kBlueInk);
     }
 }

@@ -8,16 +8,19 @@
 #include "engine/core/design.h"
 #include "engine/geometry/screen.h"
 #include "engine/render/drawing.h"
+#include "engine/render/drawingsteps.h"
 
 namespace vernacle {
 
 struct DrawingRun {
+    const DesignRecord& design;
     DrawingSurface& surface;
     const DrawingTraits& traits;
     DrawingState& state;
+    const DrawingSteps& steps;
     PageCopies sizes;
     PlateFrame frame;
-    ScreenFactors screen = DrawnScreen();
+    ScreenFactors screen = DrawnScreen(design);
 };
 
 // How far a drawing came, for the message of one that fails.
@@ -75,29 +78,33 @@ void DrawRuler(DrawingRun& run, const Ruler& ruler);
 // Whether the scale's special tables are drawn.
 bool ShowsSpecial(const DrawingRun& run, int scale);
 
-// RelativeFontSize of the scale, made 1 in the design if it is 0 or less.
-double RelativeSizeOf(int scale);
+// RelativeFontSize of the scale; 0 or less counts as 1.
+double RelativeSizeOf(const DesignRecord& design, int scale);
 
 // The place on its scale's arc of a tic or label with that deflection.
-ArcPlace PlaceTic(const PlateFrame& frame, Correction correction, int scale, float deflection);
+ArcPlace PlaceTic(const DesignRecord& design, const PlateFrame& frame, Correction correction,
+                  int scale, float deflection);
 
 // The length of a tic in mm, by its class and its scale's relative size.
-double TicLength(const Tic& tic);
+double TicLength(const DesignRecord& design, const Tic& tic);
 
 // Where a quadrant plate puts the title of a scale across; none for other plates and for scales
 // above 4, whose titles are centred.
-std::optional<double> QuadrantTitleX(const PlateFrame& frame, int scale);
+std::optional<double> QuadrantTitleX(const DesignRecord& design, const PlateFrame& frame,
+                                     int scale);
 
 // The turn of a scale's labels by LabelRotation, in tenths of a degree; 0 unless it is "B" or "V".
-int LabelEscapement(const PlateFrame& frame, const ArcPlace& place);
+int LabelEscapement(const DesignRecord& design, const PlateFrame& frame, const ArcPlace& place);
 
-// Runs over the scales from 1 up, with Design.CurrentScale as the loop variable.
+// Runs over the scales from 1 up.
 template <typename Draw>
-void ForEachScaleUpward(Draw draw) {
-    for (Design.CurrentScale = 1; Design.CurrentScale <= Design.NumberOfScales;
-         ++Design.CurrentScale) {
-        draw(int{Design.CurrentScale});
+void ForEachScaleUpward(const DrawingRun& run, Draw draw) {
+    int scale = 1;
+    for (; scale <= run.design.NumberOfScales; ++scale) {
+        run.steps.ReachScale(scale);
+        draw(scale);
     }
+    run.steps.ReachScale(scale);
 }
 
 // A font's name without outer blanks and with one NUL behind it, as a font's record holds it.

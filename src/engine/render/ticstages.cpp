@@ -13,27 +13,28 @@ namespace vernacle {
 namespace {
 
 Colour TicInkOf(const DrawingRun& run, int scale) {
-    return run.traits.ticInk == TicInk::Black ? kBlackInk : InkOf(scale);
+    return run.traits.ticInk == TicInk::Black ? kBlackInk : InkOf(run.design, scale);
 }
 
 // Held to 1 .. 20 tenths of a millimetre; one of them is 0.7 pixel.
-int TicLineWidth(const Tic& tic) {
-    const double tenths = double{tic.major ? Design.MajorTicWidth : Design.MinorTicWidth};
+int TicLineWidth(const DesignRecord& design, const Tic& tic) {
+    const double tenths = double{tic.major ? design.MajorTicWidth : design.MinorTicWidth};
     return static_cast<int>(std::floor(std::clamp(tenths, 1.0, 20.0) * 0.7 + 0.5));
 }
 
 void DrawTic(DrawingRun& run, const Tic& tic) {
-    const ArcPlace place = PlaceTic(run.frame, run.traits.correction, tic.scale, tic.deflection);
+    const ArcPlace place =
+        PlaceTic(run.design, run.frame, run.traits.correction, tic.scale, tic.deflection);
     const SurfacePoint end = AlongPointer(run.frame, place.point, place.pointerAngleRad,
-                                          TicLength(tic), DirectionOf(tic.scale));
-    run.surface.SetLineWidth(TicLineWidth(tic));
+                                          TicLength(run.design, tic), DirectionOf(tic.scale));
+    run.surface.SetLineWidth(TicLineWidth(run.design, tic));
     DrawLine(run.surface, end, place.point, TicInkOf(run, tic.scale));
     run.state.LastArcPoint = place.point;
     run.state.LastTicEnd = end;
 }
 
 void DrawArc(DrawingRun& run, int scale) {
-    const double radius = ScaleRadius(run.frame, double{Design.BottomToScaleCeiling[scale]});
+    const double radius = ScaleRadius(run.frame, double{run.design.BottomToScaleCeiling[scale]});
     SurfacePoint previous;
     for (int chord = 0; chord <= kArcChords; ++chord) {
         const double angle = PointerAngle(run.frame, chord / double{kArcChords});
@@ -43,70 +44,69 @@ void DrawArc(DrawingRun& run, int scale) {
     }
 }
 
-bool IsDrawn(int scale) {
-    return NumberOf(Design.PrintTicsAndArcs[scale]) == 0;
+bool IsDrawn(const DesignRecord& design, int scale) {
+    return NumberOf(design.PrintTicsAndArcs[scale]) == 0;
 }
 
 void DrawTics(DrawingRun& run, int scale) {
-    RelativeSizeOf(scale);
+    run.steps.RaiseRelativeSize(scale);
     const auto draw = [&run](const Tic& tic) { DrawTic(run, tic); };
     if (ShowsSpecial(run, scale)) {
         run.state.WhereMarker = kMarkSpecialTics;
-        WalkSpecialTics(Design, scale, draw);
+        WalkSpecialTics(run.design, scale, draw);
     } else {
         run.state.WhereMarker = kMarkStandardTics;
-        WalkStandardTics(Design, scale, run.traits.ticFlags, draw);
+        WalkStandardTics(run.design, scale, run.traits.ticFlags, draw);
     }
 }
 
 // Runs over the scales from the highest number down, so that scale 1 is drawn last and on top.
 template <typename Draw>
-void ForEachDrawnScale(Draw draw) {
-    for (Design.CurrentScale = Design.NumberOfScales; Design.CurrentScale >= 1;
-         --Design.CurrentScale) {
-        const int scale = Design.CurrentScale;
-        if (IsDrawn(scale)) {
+void ForEachDrawnScale(const DrawingRun& run, Draw draw) {
+    int scale = run.design.NumberOfScales;
+    for (; scale >= 1; --scale) {
+        run.steps.ReachScale(scale);
+        if (IsDrawn(run.design, scale)) {
             draw(scale);
         }
     }
+    run.steps.ReachScale(scale);
 }
 
 } // namespace
 
-Colour InkOf(int scale) {
-    return static_cast<Colour>(std::abs(std::int64_t{Design.ScaleColor[scale]}));
+Colour InkOf(const DesignRecord& design, int scale) {
+    return static_cast<Colour>(std::abs(std::int64_t{design.ScaleColor[scale]}));
 }
 
 bool ShowsSpecial(const DrawingRun& run, int scale) {
-    return run.traits.tables == Tables::SpecialOfCurrentScale || IsSpecial(Design, scale);
+    return run.traits.tables == Tables::SpecialOfCurrentScale || IsSpecial(run.design, scale);
 }
 
-double RelativeSizeOf(int scale) {
-    float& relative = Design.RelativeFontSize[scale];
-    if (relative <= 0) {
-        relative = 1;
-    }
-    return double{relative};
+double RelativeSizeOf(const DesignRecord& design, int scale) {
+    const float relative = design.RelativeFontSize[scale];
+    return relative <= 0 ? 1 : double{relative};
 }
 
-ArcPlace PlaceTic(const PlateFrame& frame, Correction correction, int scale, float deflection) {
+ArcPlace PlaceTic(const DesignRecord& design, const PlateFrame& frame, Correction correction,
+                  int scale, float deflection) {
     if (correction == Correction::Applied) {
-        deflection = CorrectDeflection(Design, deflection);
+        deflection = CorrectDeflection(design, deflection);
     }
     return PlaceOnArc(frame, PointerAngle(frame, double{deflection}),
-                      ScaleRadius(frame, double{Design.BottomToScaleCeiling[scale]}));
+                      ScaleRadius(frame, double{design.BottomToScaleCeiling[scale]}));
 }
 
-double TicLength(const Tic& tic) {
-    const float length = tic.major ? Design.MajorTicLength : Design.MinorTicLength;
-    return double{length} * double{Design.RelativeFontSize[tic.scale]};
+double TicLength(const DesignRecord& design, const Tic& tic) {
+    const float length = tic.major ? design.MajorTicLength : design.MinorTicLength;
+    return double{length} * RelativeSizeOf(design, tic.scale);
 }
 
 void TicsStage(DrawingRun& run) {
     if (run.traits.tables == Tables::ByColour) {
-        ForEachDrawnScale([&run](int scale) { DrawTics(run, scale); });
-    } else if (IsDrawn(Design.CurrentScale)) {
-        DrawTics(run, Design.CurrentScale);
+        ForEachDrawnScale(run, [&run](int scale) { DrawTics(run, scale); });
+    } else if (IsDrawn(run.design, run.design.CurrentScale)) {
+        DrawTics(run, run.design.CurrentScale);
     }
 }
 
@@ -119,13 +119,13 @@ void PointerLengthStage(DrawingRun& run) {
 }
 
 void ArcsStage(DrawingRun& run) {
-    if (Design.DrawArcs != "Y") {
+    if (run.design.DrawArcs != "Y") {
         return;
     }
     run.state.WhereMarker = kMarkArcs;
-    const double width = (double{Design.ArcWidth} + 0.5) * run.traits.lineWidths.arcFactor;
+    const double width = (double{run.design.ArcWidth} + 0.5) * run.traits.lineWidths.arcFactor;
     run.surface.SetLineWidth(RoundToInt(std::floor(width)));
-    ForEachDrawnScale([&run](int scale) { DrawArc(run, scale); });
+    ForEachDrawnScale(run, [&run](int scale) { DrawArc(run, scale); });
     run.surface.SetLineWidth(1);
 }
 

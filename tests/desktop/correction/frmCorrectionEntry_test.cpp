@@ -478,11 +478,11 @@ TEST_F(CorrectionEntryTest, TabFollowsReadingOrder) {
 TEST_F(CorrectionEntryTest, CurveReachesPreviewAndPrintAlone) {
     const auto printed = [] {
         RecordingSurface printer;
-        PrintDesign(printer);
+        PrintPlate(Design, printer);
         return printer.CallsOf("Line");
     };
     const auto plotted = [this] {
-        WriteHpgl(Path("plot"), HpglMode::File);
+        WriteHpgl(Design, Path("plot"), HpglMode::File);
         std::string stream = ReadFile("plot");
         return stream;
     };
@@ -491,7 +491,7 @@ TEST_F(CorrectionEntryTest, CurveReachesPreviewAndPrintAlone) {
         Design.CurrentScale = 1;
         Design.SpecialNrOfTicmarks[1] = 2;
         Design.TicDeflection[1][1] = 0.5F;
-        DrawSetup(surface, {Design.FontSize, Design.LabelSpacing});
+        DrawSetup(Design, surface, {Design.FontSize, Design.LabelSpacing}, Drawing);
         return surface.CallsOf("Line");
     };
     OpenPage("frmPreview");

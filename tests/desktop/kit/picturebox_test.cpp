@@ -76,7 +76,8 @@ protected:
         Design.LabelsEveryHowMany[1] = 5;
         PictureBox picture("pic", kArea, UnitShape::OfScreen);
         picture.resize(size);
-        DrawDesign(picture.Surface(), TextTraits(), {Design.FontSize, Design.LabelSpacing});
+        DrawPage(Design, picture.Surface(), TextTraits(), {Design.FontSize, Design.LabelSpacing},
+                 Drawing);
         return picture.grab().toImage();
     }
 };

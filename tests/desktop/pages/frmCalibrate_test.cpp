@@ -284,7 +284,7 @@ TEST_F(CalibratePageTest, NextSaveWithoutANameDoesNotGoOverTheFactors) {
                                 "ReadWrite 364"}));
     EXPECT_EQ(ReadFile("Calibrate.txt"), factors);
     SetFactors(0, 0);
-    ReadCalibrate();
+    ReadCalibrate(Design);
     EXPECT_EQ(Design.CalibrationX, 1.25F);
     EXPECT_EQ(Design.CalibrationY, 0.8F);
 }

@@ -494,7 +494,8 @@ protected:
         traits.stages = stages;
         PictureBox picture("drawn", {0, 0, 12000, 9000}, UnitShape::OfScreen);
         picture.resize(kPixelsAcross, kPixelsAcross * 9 / 16);
-        DrawDesign(picture.Surface(), traits, {Design.FontSize, Design.LabelSpacing});
+        DrawPage(Design, picture.Surface(), traits, {Design.FontSize, Design.LabelSpacing},
+                 Drawing);
         return picture.grab().toImage();
     }
 
@@ -512,7 +513,7 @@ protected:
         }
         const double unit = image.width() / 12000.;
         const double unitDown = image.height() / 9000.;
-        const PlateFrame frame = FrameOf(TextTraits());
+        const PlateFrame frame = FrameOf(Design, TextTraits());
         const double across = 2 * frame.upPerHalfMm * frame.aspect;
         const double down = 2 * frame.upPerHalfMm;
         const double left = 3400 - across * double{Design.PlateWidth} / 2;

@@ -56,7 +56,7 @@ protected:
 
     static std::string Stream(HpglMode mode) {
         SinkScript expected;
-        WriteHpglStream(*OpenScriptedSink(expected), mode);
+        WriteHpglStream(Design, *OpenScriptedSink(expected), mode);
         return expected.bytes;
     }
 

@@ -508,10 +508,10 @@ TEST_F(HighlightsPageTest, EnteredBandStandsWhereItsEntriesSay) {
     DrawingTraits traits = HighlightsTraits();
     traits.stages = stages;
     RecordingSurface surface;
-    DrawDesign(surface, traits, {Design.FontSize, Design.LabelSpacing});
+    DrawPage(Design, surface, traits, {Design.FontSize, Design.LabelSpacing}, Drawing);
     const std::vector<std::string> lines = surface.CallsOf("Line");
     EXPECT_NEAR(static_cast<double>(lines.size()), 2001, 1); // 40 percent in steps of .02
-    const PlateFrame frame = FrameOf(traits);
+    const PlateFrame frame = FrameOf(Design, traits);
     const double radius = 30 - double{Design.BottomToBearing} + double{Design.ActualVirtualOffset};
     const SurfacePoint centre = VirtualBearing(frame);
     const auto expectLine = [&](const std::string& line, double fraction) {

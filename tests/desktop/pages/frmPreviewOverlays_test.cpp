@@ -44,7 +44,7 @@ protected:
 
     static Calls CallsOf(const Overlay& overlay) {
         RecordingSurface surface;
-        overlay.draw(surface, FrameOf(PreviewTraits()));
+        overlay.draw(surface, FrameOf(Design, PreviewTraits()));
         return surface.calls;
     }
 
@@ -148,8 +148,9 @@ TEST_F(OverlayTest, NewAspectDrawsWithoutThem) {
         Press(overlay);
         EXPECT_EQ(LinesOf(Shown()).size(), [&] {
             RecordingSurface surface;
-            DrawDesign(surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
-            overlay.draw(surface, FrameOf(PreviewTraits()));
+            DrawPage(Design, surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing},
+                     Drawing);
+            overlay.draw(surface, FrameOf(Design, PreviewTraits()));
             return LinesOf(surface.calls).size();
         }()) << "at the new aspect";
         overlay.flag() = 0;

@@ -449,7 +449,8 @@ protected:
         traits.stages = stages;
         PictureBox picture("drawn", {0, 0, 12000, 9000}, UnitShape::OfScreen);
         picture.resize(kPixelsAcross, kPixelsAcross * 9 / 16);
-        DrawDesign(picture.Surface(), traits, {Design.FontSize, Design.LabelSpacing});
+        DrawPage(Design, picture.Surface(), traits, {Design.FontSize, Design.LabelSpacing},
+                 Drawing);
         return OnThePlate(picture.grab().toImage());
     }
 
@@ -457,7 +458,7 @@ private:
     static Ink OnThePlate(const QImage& image) {
         const QRect ink = test::InkOf(image, 128);
         const double unitsPerPixel = 12000. / image.width();
-        const PlateFrame frame = FrameOf(TextTraits());
+        const PlateFrame frame = FrameOf(Design, TextTraits());
         const double unitsPerMm = 2 * frame.upPerHalfMm * frame.aspect;
         const double plateLeft = 3400 - unitsPerMm * double{Design.PlateWidth} / 2;
         return {(ink.left() * unitsPerPixel - plateLeft) / unitsPerMm,
@@ -639,7 +640,7 @@ TEST_F(TextColourTest, LastTwoEntriesHaveNoScaleAndFail) {
 
 TEST_F(TextPageTest, DrawingUsesThePagesTextsAndNotTheDesigns) {
     GiveText(1, "design", 10, 10, 1);
-    FreeTexts texts = CopyOfTexts();
+    FreeTexts texts = CopyOfTexts(Design);
     texts.TextString[1] = "page";
     texts.LeftToText[1] = 20;
     DrawingTraits traits = TextTraits();
@@ -647,11 +648,11 @@ TEST_F(TextPageTest, DrawingUsesThePagesTextsAndNotTheDesigns) {
     traits.stages = stages;
     PageCopies copies{Design.FontSize, Design.LabelSpacing, &texts};
     RecordingSurface ofPage;
-    DrawDesign(ofPage, traits, copies);
+    DrawPage(Design, ofPage, traits, copies, Drawing);
     EXPECT_EQ(ofPage.texts, std::vector<std::string>{"page"});
     RecordingSurface ofDesign;
     copies.texts = nullptr;
-    DrawDesign(ofDesign, traits, copies);
+    DrawPage(Design, ofDesign, traits, copies, Drawing);
     EXPECT_EQ(ofDesign.texts, std::vector<std::string>{"design"});
     EXPECT_NE(ofPage.CallsOf("SetCurrentX"), ofDesign.CallsOf("SetCurrentX"));
 }

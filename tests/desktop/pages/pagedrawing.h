@@ -21,7 +21,7 @@ namespace vernacle::test {
 inline std::vector<std::string> DrawnPlate(const DrawingTraits& traits, const PageCopies& copies) {
     const std::int16_t currentScale = Design.CurrentScale;
     PictureBox picture("expected", {0, 0, 12000, 9000}, UnitShape::OfScreen);
-    DrawDesign(picture.Surface(), traits, copies);
+    DrawPage(Design, picture.Surface(), traits, copies, Drawing);
     Design.CurrentScale = currentScale;
     RecordingSurface surface;
     picture.Record().Replay(surface);

@@ -39,7 +39,8 @@ protected:
     // their measures, which each surface has its own.)
     void ExpectPlainPicture() const {
         RecordingSurface expected;
-        DrawDesign(expected, PreviewTraits(), {Design.FontSize, Design.LabelSpacing});
+        DrawPage(Design, expected, PreviewTraits(), {Design.FontSize, Design.LabelSpacing},
+                 Drawing);
         EXPECT_EQ(LinesOf(Shown()), LinesOf(expected.calls));
         EXPECT_EQ(TextsOf("picPlate"), expected.texts);
     }

@@ -35,7 +35,8 @@ protected:
 
     static RecordingSurface Draw() {
         RecordingSurface surface;
-        DrawSetup(surface, {.fontSize = Design.FontSize, .labelSpacing = Design.LabelSpacing});
+        DrawSetup(Design, surface,
+                  {.fontSize = Design.FontSize, .labelSpacing = Design.LabelSpacing}, Drawing);
         return surface;
     }
 
@@ -110,7 +111,7 @@ TEST_F(SetupPreviewTest, PrintedTicsOfTheTablesAreDrawn) {
 TEST_F(SetupPreviewTest, TicsStandAtTheirDeflections) {
     for (const float aspect : {1.F, 0.6F}) {
         Design.AspectRatio = aspect;
-        const PlateFrame frame = FrameOfDesign(40, {6000, 4300});
+        const PlateFrame frame = FrameOfDesign(Design, 40, {6000, 4300});
         const double radius = ScaleRadius(frame, double{Design.BottomToScaleCeiling[1]});
         const double shares[] = {0, 0.25, 1};
         const std::vector<std::string> lines = TicLines();

@@ -133,7 +133,7 @@ User::Answer ChoosePaper(QPageSize::PageSizeId size, QPageLayout::Orientation or
 }
 
 void PrintSquare(PrinterSurface& printer) {
-    PrintTestSquare(printer);
+    PrintTestSquare(Design, printer);
 }
 
 class PrintersTest : public EngineTest {
@@ -332,7 +332,7 @@ TEST_F(PrintersTest, ADiskThatFillsUpIsReported) {
     const User user({PrintTo(Path("plate.pdf"))});
     AskForPrinterAndPrint(nullptr, [](PrinterSurface& printer) {
         const FileSizeLimit limit(200);
-        PrintTestSquare(printer);
+        PrintTestSquare(Design, printer);
     });
     EXPECT_EQ(said, (std::vector<std::string>{"beep", kSquareFailure}));
 }
@@ -340,8 +340,8 @@ TEST_F(PrintersTest, ADiskThatFillsUpIsReported) {
 TEST_F(PrintersTest, APlateOnAFullDiskIsReportedOnce) {
     ReadExample();
     const User user({PrintTo("/dev/full"), AnswerBox(QMessageBox::Yes)});
-    AskForPrinterAndPrint(nullptr,
-                          [](PrinterSurface& printer) { EXPECT_FALSE(PrintDesign(printer)); });
+    AskForPrinterAndPrint(
+        nullptr, [](PrinterSurface& printer) { EXPECT_FALSE(PrintPlate(Design, printer)); });
     ASSERT_EQ(said.size(), 1U);
     EXPECT_EQ(said[0].rfind(kSquareFailure, 0), 0U) << said[0];
 }
@@ -358,7 +358,7 @@ TEST_F(PrintersTest, AFolderThatIsGoneIsReported) {
     const User user({PrintTo(Path("going/plate.pdf"))});
     AskForPrinterAndPrint(nullptr, [this](PrinterSurface& printer) {
         std::filesystem::remove_all(Path("going"));
-        PrintTestSquare(printer);
+        PrintTestSquare(Design, printer);
     });
     EXPECT_EQ(said, (std::vector<std::string>{"beep", kSquareFailure}));
 }
@@ -373,8 +373,8 @@ TEST_F(PrintersTest, APrinterThatDoesNotStartIsReported) {
 TEST_F(PrintersTest, APlateIsPrintedWhole) {
     ReadExample();
     const User user({PrintTo(Path("plate.pdf"))});
-    AskForPrinterAndPrint(nullptr,
-                          [](PrinterSurface& printer) { EXPECT_TRUE(PrintDesign(printer)); });
+    AskForPrinterAndPrint(
+        nullptr, [](PrinterSurface& printer) { EXPECT_TRUE(PrintPlate(Design, printer)); });
     EXPECT_TRUE(said.empty());
     EXPECT_NE(About("plate.pdf").find("Pages:           1"), std::string::npos);
     EXPECT_NE(ReadFile("plate.pdf").find("/PrintScaling /None"), std::string::npos);

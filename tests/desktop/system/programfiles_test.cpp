@@ -216,7 +216,7 @@ protected:
 
     void ExpectRead(float x, float y) const {
         Design.CalibrationX = Design.CalibrationY = 0;
-        ReadCalibrate();
+        ReadCalibrate(Design);
         EXPECT_EQ(Design.CalibrationX, x);
         EXPECT_EQ(Design.CalibrationY, y);
     }
@@ -230,7 +230,7 @@ TEST_F(ShippedCalibrationTest, WhatTheUserMeasuredIsKeptInTheUsersFolder) {
     ExpectRead(1.25F, 0.75F);
     EXPECT_FALSE(Exists(own)) << "reading writes nothing";
     Design.CalibrationX = 1.5F;
-    WriteCalibrate();
+    WriteCalibrate(Design);
     ExpectRead(1.5F, 0.75F);
     EXPECT_EQ(ReadFile("share/Calibrate.txt"), kFactors);
 }
@@ -238,7 +238,7 @@ TEST_F(ShippedCalibrationTest, WhatTheUserMeasuredIsKeptInTheUsersFolder) {
 TEST_F(ShippedCalibrationTest, ItIsReadWhereTheUsersIsMissingOrCutShort) {
     const OrdinaryUser user;
     Design.CalibrationX = Design.CalibrationY = 1.5F;
-    WriteCalibrate();
+    WriteCalibrate(Design);
     ExpectRead(1.5F, 1.5F);
     const std::string whole = ReadFile(own);
     for (std::size_t size = 0; size + 10 < whole.size(); ++size) {

@@ -267,7 +267,7 @@ protected:
             EXPECT_EQ(name, "LPT1");
             return OpenPrinterPort(port);
         };
-        WriteHpgl("", HpglMode::PclPrinter);
+        WriteHpgl(Design, "", HpglMode::PclPrinter);
     }
 };
 

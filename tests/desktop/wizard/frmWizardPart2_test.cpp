@@ -166,7 +166,7 @@ TEST_F(WizardPart2Test, SpacingOutOfRangeIsKeptAndNotDrawn) {
     EXPECT_FALSE(WasRedrawn());
     StepUp("UpDown2");
     RecordingSurface expected;
-    DrawDesign(expected, WizardTraits(), {Design.FontSize, 50});
+    DrawPage(Design, expected, WizardTraits(), {Design.FontSize, 50}, Drawing);
     EXPECT_EQ(CallsOf("picPlate").size(), expected.calls.size());
     const auto firstLabel = [](const std::vector<std::string>& calls) {
         return *std::find_if(calls.begin(), calls.end(), [](const std::string& call) {

@@ -21,9 +21,9 @@ TEST_F(FreeTextsTest, CopyAndStoreCarryEveryEntryThere) {
     for (int text = 1; text <= kTexts; ++text) {
         GiveText(text, "text " + std::to_string(text));
     }
-    const FreeTexts copy = CopyOfTexts();
+    const FreeTexts copy = CopyOfTexts(Design);
     Design = DesignRecord{};
-    StoreTexts(copy);
+    StoreTexts(Design, copy);
     for (int text = 1; text <= kTexts; ++text) {
         const auto number = static_cast<float>(text);
         EXPECT_EQ(Design.TextString[text], "text " + std::to_string(text));
@@ -36,11 +36,11 @@ TEST_F(FreeTextsTest, CopyAndStoreCarryEveryEntryThere) {
 }
 
 TEST_F(FreeTextsTest, EntryZeroStaysTheDesigns) {
-    FreeTexts copy = CopyOfTexts();
+    FreeTexts copy = CopyOfTexts(Design);
     copy.TextString[0] = "copy";
     Design.TextString[0] = "design";
-    EXPECT_EQ(CopyOfTexts().TextString[0], "");
-    StoreTexts(copy);
+    EXPECT_EQ(CopyOfTexts(Design).TextString[0], "");
+    StoreTexts(Design, copy);
     EXPECT_EQ(Design.TextString[0], "design");
 }
 
@@ -50,12 +50,12 @@ TEST_F(FreeTextsTest, OnlyStringsCount) {
     for (int text = 1; text <= kTexts; ++text) {
         GiveText(text, "");
     }
-    EXPECT_EQ(CountTexts(CopyOfTexts()), 0);
-    StoreTexts(CopyOfTexts());
+    EXPECT_EQ(CountTexts(CopyOfTexts(Design)), 0);
+    StoreTexts(Design, CopyOfTexts(Design));
     EXPECT_EQ(Design.NumberOfTexts, 0);
     GiveText(10, "last");
     GiveText(3, " ");
-    EXPECT_EQ(CountTexts(CopyOfTexts()), 2) << "a blank is a string";
+    EXPECT_EQ(CountTexts(CopyOfTexts(Design)), 2) << "a blank is a string";
 }
 
 } // namespace

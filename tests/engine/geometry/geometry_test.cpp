@@ -178,7 +178,7 @@ using FrameTest = RenderTest;
 
 TEST_F(FrameTest, TakesTheMeasuresOfTheDesign) {
     Design.PlateStyle = 1;
-    const PlateFrame frame = FrameOfDesign(7, {50, 60});
+    const PlateFrame frame = FrameOfDesign(Design, 7, {50, 60});
     EXPECT_EQ(frame.plateScale, 7);
     EXPECT_EQ(frame.aspect, 1); // the screen's pages put their stretch in
     EXPECT_EQ(frame.upPerHalfMm, 7);
@@ -192,11 +192,11 @@ TEST_F(FrameTest, TakesTheMeasuresOfTheDesign) {
     EXPECT_TRUE(frame.quadrant);
     EXPECT_EQ(frame.degreesPerRadian, DegreesInRadian());
     Design.PlateStyle = 0;
-    EXPECT_FALSE(FrameOfDesign(7, {50, 60}).quadrant);
+    EXPECT_FALSE(FrameOfDesign(Design, 7, {50, 60}).quadrant);
 }
 
 TEST_F(FrameTest, MillimetresCountFromTheLowerLeftCorner) {
-    const PlateFrame frame = MillimetreFrame();
+    const PlateFrame frame = MillimetreFrame(Design);
     EXPECT_EQ(frame.Left(), 0);
     EXPECT_EQ(frame.Right(), 10);
     EXPECT_EQ(frame.Bottom(), 0);

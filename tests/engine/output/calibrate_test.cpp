@@ -25,7 +25,7 @@ protected:
 
 TEST_F(CalibrateTest, FileHasSevenLines) {
     SetFactors(1.02F, 0.985F);
-    WriteCalibrate();
+    WriteCalibrate(Design);
     EXPECT_EQ(ReadFile("Calibrate.txt"), "\"Vernacle calibration file\"\r\n"
                                          "\r\n"
                                          "#2026-11-21 10:08:00#\r\n"
@@ -37,15 +37,15 @@ TEST_F(CalibrateTest, FileHasSevenLines) {
 }
 
 TEST_F(CalibrateTest, WritingReplacesTheDesignsName) {
-    WriteCalibrate();
+    WriteCalibrate(Design);
     EXPECT_EQ(Design.DesignFileName, "Calibrate.txt");
 }
 
 TEST_F(CalibrateTest, WrittenFactorsAreReadBack) {
     SetFactors(1.234567F, 0.5F);
-    WriteCalibrate();
+    WriteCalibrate(Design);
     SetFactors(0, 0);
-    ReadCalibrate();
+    ReadCalibrate(Design);
     EXPECT_EQ(Design.CalibrationX, 1.234567F);
     EXPECT_EQ(Design.CalibrationY, 0.5F);
     EXPECT_EQ(Design.DesignFileName, "Calibrate.txt");
@@ -82,7 +82,7 @@ TEST_F(CalibrateTest, ReadingTakesTheThirdAndFourthDataLine) {
     for (const ReadRow& row : kFiles) {
         SetFactors(7, 7);
         WriteFile("Calibrate.txt", row.text);
-        ReadCalibrate();
+        ReadCalibrate(Design);
         EXPECT_EQ(Design.CalibrationX, row.x) << row.name;
         EXPECT_EQ(Design.CalibrationY, row.y) << row.name;
     }
@@ -91,7 +91,7 @@ TEST_F(CalibrateTest, ReadingTakesTheThirdAndFourthDataLine) {
 }
 
 TEST_F(CalibrateTest, MissingFileIsNotReported) {
-    ReadCalibrate();
+    ReadCalibrate(Design);
     EXPECT_EQ(Design.CalibrationX, 0);
     EXPECT_EQ(Design.CalibrationY, 0);
     EXPECT_TRUE(said.empty());
@@ -130,7 +130,7 @@ TEST_F(CalibrateTest, OneThatIsNotWholeIsReadFromTheNextPlace) {
         }
         Host.calibrationsToRead = [this] { return std::vector{Path("first"), Path("second")}; };
         SetFactors(0, 0);
-        ReadCalibrate();
+        ReadCalibrate(Design);
         EXPECT_EQ(Design.CalibrationX, row.x) << row.name;
         EXPECT_EQ(Design.CalibrationY, row.y) << row.name;
     }
@@ -142,13 +142,13 @@ TEST_F(CalibrateTest, APipeIsAFileThatCannotBeOpened) {
     WriteFile("second", kWhole);
     Host.calibrationsToRead = [this] { return std::vector{Path("first"), Path("second")}; };
     SetFactors(0, 0);
-    ReadCalibrate();
+    ReadCalibrate(Design);
     EXPECT_EQ(Design.CalibrationX, 1.25F);
 }
 
 TEST_F(CalibrateTest, ReadingByNamePassesTheFailureOn) {
-    EXPECT_THROW(ReadCalibration(Path("none.txt")), RunTimeError);
-    ReadCalibration(WriteFile("other.txt", "h\nd\n1.25\n1.5\n"));
+    EXPECT_THROW(ReadCalibration(Design, Path("none.txt")), RunTimeError);
+    ReadCalibration(Design, WriteFile("other.txt", "h\nd\n1.25\n1.5\n"));
     EXPECT_EQ(Design.CalibrationX, 1.25F);
     EXPECT_EQ(Design.CalibrationY, 1.5F);
 }
@@ -161,7 +161,7 @@ TEST_F(CalibrateTest, WriteFailureIsNotReported) {
             asked = name;
             return OpenFileSink(place);
         };
-        WriteCalibrate();
+        WriteCalibrate(Design);
         EXPECT_EQ(asked, Path("Calibrate.txt"));
         EXPECT_TRUE(said.empty());
         EXPECT_EQ(Design.DesignFileName, "Calibrate.txt");
@@ -171,18 +171,18 @@ TEST_F(CalibrateTest, WriteFailureIsNotReported) {
 TEST_F(CalibrateTest, EveryWriteIsCheckedToTheEnd) {
     SinkScript script;
     Host.openForOutput = [&script](const std::string&) { return OpenScriptedSink(script); };
-    WriteCalibrate();
+    WriteCalibrate(Design);
     EXPECT_EQ(script.closes, 1);
     const int writes = script.writes;
     for (int write = 1; write <= writes; ++write) {
         script = SinkScript();
         script.failAtWrite = write;
-        WriteCalibrate();
+        WriteCalibrate(Design);
         EXPECT_EQ(script.writes, write);
     }
     script = SinkScript();
     script.failAtClose = true;
-    WriteCalibrate();
+    WriteCalibrate(Design);
     EXPECT_EQ(script.closes, 1);
     EXPECT_EQ(script.open, 0);
     EXPECT_TRUE(said.empty());
@@ -222,11 +222,11 @@ TEST_F(CalibrateTest, FactorsAreHeldInTheDesign) {
                                {1.3F, 0, 1.3F}, {2, 0, 2},     {2.01F, 0, 2}};
     for (const MeasureRow& row : rows) {
         SetFactors(row.factor, 1);
-        HoldCalibration();
+        HoldCalibration(Design);
         EXPECT_EQ(Design.CalibrationX, row.after);
         EXPECT_EQ(Design.CalibrationY, 1);
         SetFactors(1, row.factor);
-        HoldCalibration();
+        HoldCalibration(Design);
         EXPECT_EQ(Design.CalibrationX, 1);
         EXPECT_EQ(Design.CalibrationY, row.after);
     }
@@ -249,7 +249,7 @@ TEST_F(CalibrateTest, TestSquareIs100MillimetresByTheFactors) {
     for (const SquareRow& row : rows) {
         SetFactors(row.x, row.y);
         surface = RecordingSurface();
-        EXPECT_TRUE(PrintTestSquare(surface));
+        EXPECT_TRUE(PrintTestSquare(Design, surface));
         EXPECT_TRUE(
             SameCalls(surface.calls, Calls{"StartSheet", "SetLineWidth 1", row.box, "EndDoc"}));
         EXPECT_EQ(Design.CalibrationX, row.x == 0 ? 1 : row.x);
@@ -267,7 +267,7 @@ TEST_F(CalibrateTest, FailedTestSquareIsReportedWithASoundIfSoundsAreOn) {
             surface = RecordingSurface();
             surface.failAt = call;
             said.clear();
-            EXPECT_FALSE(PrintTestSquare(surface));
+            EXPECT_FALSE(PrintTestSquare(Design, surface));
             std::vector<std::string> expected = report;
             if (sounds) {
                 expected.insert(expected.begin(), "sound: warningprinter.wav");

@@ -153,7 +153,6 @@ TEST_F(HpglStreamTest, StreamOfASmallPlate) {
     GiveFreeText();
     EXPECT_EQ(Stream(), SmallPlateStream());
     EXPECT_EQ(Design.NumberOfTexts, 1);
-    EXPECT_EQ(Design.CurrentScale, 2);
 }
 
 TEST_F(HpglStreamTest, PrintersGetTheStreamWrappedInEscapes) {
@@ -179,7 +178,7 @@ const std::vector<std::string> kFailure = {"beep",
                                            "failure: The HPGL file was not written correctly."};
 
 TEST_F(HpglFileTest, FileIsWrittenAndAnnounced) {
-    WriteHpgl("out/plate.hpgl", HpglMode::File);
+    WriteHpgl(Design, "out/plate.hpgl", HpglMode::File);
     EXPECT_EQ(opened, (std::vector<std::string>{"out/plate.hpgl"}));
     EXPECT_EQ(script.bytes, Stream());
     EXPECT_EQ(script.closes, 1);
@@ -194,7 +193,7 @@ TEST_F(HpglFileTest, PrinterIsFedThroughItsPort) {
         opened.clear();
         said.clear();
         script = SinkScript();
-        WriteHpgl(path, HpglMode::PclPrinter);
+        WriteHpgl(Design, path, HpglMode::PclPrinter);
         EXPECT_EQ(opened, (std::vector<std::string>{"LPT1"}));
         EXPECT_EQ(script.bytes, Stream(HpglMode::PclPrinter));
         EXPECT_EQ(said, (std::vector<std::string>{
@@ -204,14 +203,14 @@ TEST_F(HpglFileTest, PrinterIsFedThroughItsPort) {
 }
 
 TEST_F(HpglFileTest, FailureOfAnyWriteIsReported) {
-    WriteHpgl("plate.hpgl", HpglMode::PclPrinter);
+    WriteHpgl(Design, "plate.hpgl", HpglMode::PclPrinter);
     const int writes = script.writes;
     ASSERT_GT(writes, 0);
     for (int write = 1; write <= writes; ++write) {
         script = SinkScript();
         script.failAtWrite = write;
         said.clear();
-        WriteHpgl("plate.hpgl", HpglMode::PclPrinter);
+        WriteHpgl(Design, "plate.hpgl", HpglMode::PclPrinter);
         EXPECT_EQ(said, kFailure) << write;
         EXPECT_EQ(script.writes, write); // nothing is tried after it
         EXPECT_EQ(script.open, 0);
@@ -220,7 +219,7 @@ TEST_F(HpglFileTest, FailureOfAnyWriteIsReported) {
 
 TEST_F(HpglFileTest, FailureOfTheCloseIsReported) {
     script.failAtClose = true;
-    WriteHpgl("plate.hpgl", HpglMode::File);
+    WriteHpgl(Design, "plate.hpgl", HpglMode::File);
     EXPECT_EQ(said, kFailure);
     EXPECT_EQ(script.open, 0);
 }
@@ -229,7 +228,7 @@ TEST_F(HpglFileTest, FullDiskAndMissingFolderAreReported) {
     Host.openForOutput = [](const std::string& name) { return OpenFileSink(name); };
     for (const std::string& path : {std::string("/dev/full"), Path("missing/plate.hpgl")}) {
         said.clear();
-        WriteHpgl(path, HpglMode::File);
+        WriteHpgl(Design, path, HpglMode::File);
         EXPECT_EQ(said, kFailure) << path;
     }
 }
@@ -237,7 +236,7 @@ TEST_F(HpglFileTest, FullDiskAndMissingFolderAreReported) {
 TEST_F(HpglFileTest, RealFileHoldsTheStream) {
     Host.openForOutput = [](const std::string& name) { return OpenFileSink(name); };
     WriteFile("plate.hpgl", std::string(100000, 'x')); // replaced, not appended to
-    WriteHpgl(Path("plate.hpgl"), HpglMode::File);
+    WriteHpgl(Design, Path("plate.hpgl"), HpglMode::File);
     EXPECT_EQ(ReadFile("plate.hpgl"), Stream());
 }
 
@@ -259,22 +258,22 @@ TEST_F(HpglFileTest, CornerThatDoesNotFitIsAFailure) {
         Design.PlateWidth = row.plateWidth;
         Design.PlateHeight = row.plateHeight;
         said.clear();
-        WriteHpgl("plate.hpgl", HpglMode::File);
+        WriteHpgl(Design, "plate.hpgl", HpglMode::File);
         EXPECT_EQ(said != kFailure, row.written) << row.name;
     }
 }
 
 TEST_F(HpglFileTest, RunTimeErrorsOfTheDesignAreReported) {
     Design.BottomToScaleCeiling[1] = -1; // a radius of 0
-    WriteHpgl("plate.hpgl", HpglMode::File);
+    Design.NumberOfTexts = 7;
+    WriteHpgl(Design, "plate.hpgl", HpglMode::File);
     EXPECT_EQ(said, kFailure);
+    EXPECT_EQ(Design.NumberOfTexts, 7) << "texts are counted behind the scales";
     said.clear();
     Design.BottomToScaleCeiling[1] = 4;
     Design.MajorEveryHowMany[1] = 0;
-    WriteHpgl("plate.hpgl", HpglMode::File);
+    WriteHpgl(Design, "plate.hpgl", HpglMode::File);
     EXPECT_EQ(said, kFailure);
-    EXPECT_EQ(Design.CurrentScale, 1);
-    EXPECT_EQ(Design.TicLoop, 0);
 }
 
 } // namespace

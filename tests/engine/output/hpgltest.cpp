@@ -14,7 +14,7 @@ HpglTest::HpglTest() {
 
 std::string HpglTest::Stream(HpglMode mode) {
     SinkScript script;
-    WriteHpglStream(*OpenScriptedSink(script), mode);
+    WriteHpglStream(Design, *OpenScriptedSink(script), mode);
     return script.bytes;
 }
 

@@ -99,7 +99,7 @@ constexpr const char* kFooter = R"(
 )";
 
 TEST_F(PrintTest, PageOfAOneTicPlate) {
-    EXPECT_TRUE(PrintDesign(surface));
+    EXPECT_TRUE(PrintPlate(Design, surface));
     const double t = kPaper.T(0.25);
     const double x = kPaper.X(t, 4);
     const double y = kPaper.Y(t, 4);
@@ -122,14 +122,14 @@ TEST_F(PrintTest, PageOfAOneTicPlate) {
 TEST_F(PrintTest, PageWithoutText) {
     Design.PrintText = "N";
     Design.PrintTicsAndArcs[1] = std::int16_t{1};
-    EXPECT_TRUE(PrintDesign(surface));
+    EXPECT_TRUE(PrintPlate(Design, surface));
     EXPECT_TRUE(SameCalls(surface.calls, LinesOf(kMarks) + Calls{"SetFontName [Arial]"} +
                                              RulerCalls(10) + LinesOf(kFooter)));
 }
 
 TEST_F(PrintTest, CircularPlatesGetTheirOutline) {
     Design.PlateOutlineCircular = 1;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     Calls outline = {"Dot 5717.11 4000 0"}; // round: the unit across counts both ways
     double fromX = 6000 - 282.89;
     double fromY = 4000;
@@ -147,7 +147,7 @@ TEST_F(PrintTest, CircularPlatesGetTheirOutline) {
 
 TEST_F(PrintTest, QuadrantPlatesHaveNoHoles) {
     Design.PlateStyle = 1;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     EXPECT_EQ(surface.Count("Circle"), 1U);
 }
 
@@ -162,7 +162,7 @@ TEST_F(PrintTest, CalibrationIsHeldBeforeUseAndStaysSo) {
         Design.CalibrationX = row.before;
         Design.CalibrationY = row.before;
         surface = RecordingSurface();
-        PrintDesign(surface);
+        PrintPlate(Design, surface);
         EXPECT_EQ(Design.CalibrationX, row.held);
         EXPECT_EQ(Design.CalibrationY, row.held);
         const double half = 282.89 * double{row.held};
@@ -170,6 +170,15 @@ TEST_F(PrintTest, CalibrationIsHeldBeforeUseAndStaysSo) {
             SameCalls({At(surface.calls, 1)}, Calls{Call("FilledBox", 5950 - half, 3950 - half / 2,
                                                          6050 + half, 4050 + half / 2, "e0e0e0")}));
     }
+}
+
+TEST_F(PrintTest, CalibrationIsHeldEvenIfThePrinterDoesNotStart) {
+    Design.CalibrationX = 0;
+    Design.CalibrationY = 9;
+    surface.failCall = "StartSheet";
+    EXPECT_FALSE(PrintPlate(Design, surface));
+    EXPECT_EQ(Design.CalibrationX, 0.5F);
+    EXPECT_EQ(Design.CalibrationY, 2);
 }
 
 struct PenRow {
@@ -183,7 +192,7 @@ TEST_F(PrintTest, ArcsHaveTheirOwnPen) {
     for (const PenRow& row : rows) {
         Design.ArcWidth = row.arcWidth;
         surface = RecordingSurface();
-        PrintDesign(surface);
+        PrintPlate(Design, surface);
         const Calls pens = surface.CallsOf("SetLineWidth"); // marks, tic, arc
         ASSERT_GE(pens.size(), 5U);
         EXPECT_EQ(At(pens, 3), "SetLineWidth 3"); // 4 x 0.7 + 0.5
@@ -194,7 +203,7 @@ TEST_F(PrintTest, ArcsHaveTheirOwnPen) {
 TEST_F(PrintTest, ArcsAreChordsInTheScalesColour) {
     Design.DrawArcs = "Y";
     Design.ScaleColor[1] = 0x123456;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     Calls lines = surface.CallsOf("Line");
     std::erase_if(lines, [](const std::string& line) { return !line.ends_with(" 123456"); });
     ASSERT_EQ(lines.size(), 102U); // a tic, a dot and 100 chords
@@ -217,7 +226,7 @@ TEST_F(PrintTest, TicsFollowFlagsCorrectionAndScales) {
     Design.TicDeflection[2][0] = 0.1F;
     Design.ScaleColor[2] = -0x00FF00;
     Design.PrintTicsAndArcs[3] = std::int16_t{1};
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     const Calls lines = surface.CallsOf("Line");
     const double t = kPaper.T(0.05);
     const auto tic = [&](double mm, const char* colour) {
@@ -241,7 +250,7 @@ TEST_F(PrintTest, RulerIsAsLongAsThePlateUpTo180) {
         SCOPED_TRACE(row.plateWidth);
         Design.PlateWidth = row.plateWidth;
         surface = RecordingSurface();
-        PrintDesign(surface);
+        PrintPlate(Design, surface);
         const Calls expected = RulerCalls(row.lastMm);
         const std::size_t count = expected.size() + 1; // a width is set anew
         const Calls ruler = Slice(Tail(surface.calls, count + 14), 0, count);
@@ -252,13 +261,13 @@ TEST_F(PrintTest, RulerIsAsLongAsThePlateUpTo180) {
 TEST_F(PrintTest, PlateLargerThanThePageIsNotScaledDown) {
     Design.PlateWidth = 300;
     Design.PlateHeight = 200;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     EXPECT_TRUE(
         SameCalls({At(surface.calls, 1)}, "FilledBox -2536.7 -7365.6 14536.7 15365.6 e0e0e0"));
 }
 
 TEST_F(PrintTest, StagesInReserveAreNotPrinted) {
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     const Calls bare = surface.calls;
     Design.TextString[1] = "free";
     Design.HighlightStart[1] = 1;
@@ -266,7 +275,7 @@ TEST_F(PrintTest, StagesInReserveAreNotPrinted) {
     Design.DrawGraphic = "Y";
     Drawing.GridShown = Drawing.PointerShown = 1;
     surface = RecordingSurface();
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     EXPECT_EQ(surface.calls, bare);
 }
 
@@ -277,12 +286,12 @@ TEST_F(PrintTest, TwoPrintsAreEqual) {
         Design.RelativeFontSize[1] = 2;
         Design.RelativeFontSize[3] = 0.5F;
         surface = RecordingSurface();
-        PrintDesign(surface);
+        PrintPlate(Design, surface);
         const Calls first = surface.calls;
         EXPECT_EQ(Design.FontSize, 3);
         EXPECT_EQ(Design.LabelSpacing, 0.5F);
         surface = RecordingSurface();
-        PrintDesign(surface);
+        PrintPlate(Design, surface);
         EXPECT_EQ(surface.calls, first);
     }
 }
@@ -295,7 +304,7 @@ struct FailingRow {
 TEST_F(PrintTest, FailureAtAnyCallEndsTheDocumentAndIsReportedWithoutASound) {
     Design.DrawArcs = "Y";
     Design.RelativeFontSize[1] = 2;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     const int count = static_cast<int>(surface.calls.size());
     const int rulerAndFooter = count - (2 + 9 + 13 + 6) - 2 - 103 - 4 - 3 - 6 - 1;
     const FailingRow rows[] = {
@@ -315,7 +324,7 @@ TEST_F(PrintTest, FailureAtAnyCallEndsTheDocumentAndIsReportedWithoutASound) {
             surface = RecordingSurface();
             surface.failAt = call;
             said.clear();
-            EXPECT_FALSE(PrintDesign(surface));
+            EXPECT_FALSE(PrintPlate(Design, surface));
             const std::vector<std::string> message = {
                 "failure: We had a problem driving the printer.\n\nPrintScaleErrorHandler 1026 " +
                 std::to_string(row.marker)};
@@ -331,7 +340,7 @@ TEST_F(PrintTest, FailureAtAnyCallEndsTheDocumentAndIsReportedWithoutASound) {
 
 TEST_F(PrintTest, DocumentThatCannotBeEndedIsReportedOnce) {
     surface.failCall = "EndDoc";
-    EXPECT_FALSE(PrintDesign(surface));
+    EXPECT_FALSE(PrintPlate(Design, surface));
     EXPECT_EQ(said, (std::vector<std::string>{"failure: We had a problem driving the printer.\n\n"
                                               "PrintScaleErrorHandler 1026 675"}));
 }
@@ -353,7 +362,7 @@ TEST_F(PrintTest, RadiusOfZeroIsReported) {
         Design.PrintTicsAndArcs[1] = row.printTicsAndArcs;
         surface = RecordingSurface();
         said.clear();
-        EXPECT_FALSE(PrintDesign(surface));
+        EXPECT_FALSE(PrintPlate(Design, surface));
         EXPECT_EQ(said, (std::vector<std::string>{"failure: We had a problem driving the printer."
                                                   "\n\nPrintScaleErrorHandler 1026 " +
                                                   std::to_string(row.marker)}));

@@ -61,7 +61,7 @@ TEST_F(PrintLabelsTest, UprightLabelsAreCentredOnTheirAnchor) {
         Design.StandardDeflection[row.scale][0] = row.deflection;
         Design.RelativeFontSize[row.scale] = row.relative;
         surface = RecordingSurface();
-        PrintDesign(surface);
+        PrintPlate(Design, surface);
         const double t = kPaper.T(double{row.deflection});
         const double out = row.scale % 2 == 0 ? -0.5 : 0.5;
         const double gap = 2 * out * double{row.relative};
@@ -81,7 +81,7 @@ TEST_F(PrintLabelsTest, UprightLabelsAreCentredOnTheirAnchor) {
 // not a ten-millionth beside it where cutting would lose a whole unit.
 TEST_F(PrintLabelsTest, UprightLabelAtMidScaleStandsOnTheCentreLine) {
     Design.StandardDeflection[1][0] = 0.5F;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     EXPECT_EQ(At(surface.CallsOf("SetCurrentX"), 0), "SetCurrentX 5991"); // half of 18 units
 }
 
@@ -144,7 +144,7 @@ TEST_F(PrintLabelsTest, TurnedLabelsArePlacedInPixels) {
             Design.TicDeflection[row.scale][0] = row.deflection;
         }
         UnevenPrinter printer;
-        PrintDesign(printer);
+        PrintPlate(Design, printer);
         EXPECT_TRUE(SameCalls(LabelCalls(printer, 4), TurnedCalls(row, kPaper)));
         EXPECT_EQ(Design.FontSize, 3);
         EXPECT_EQ(Design.LabelSpacing, 0.5F);
@@ -160,7 +160,7 @@ TEST_F(PrintLabelsTest, TurnedLabelsAreCorrected) {
     Design.StandardLabel[1][0] = "12";
     Design.StandardDeflection[1][0] = 0.1F;
     UnevenPrinter printer;
-    PrintDesign(printer);
+    PrintPlate(Design, printer);
     EXPECT_TRUE(SameCalls(LabelCalls(printer, 4), TurnedCalls(row, kPaper)));
 }
 
@@ -176,7 +176,7 @@ TEST_F(PrintLabelsTest, LoneSlashIsABlank) {
             Design.LabelRotation = rotation;
             Design.StandardLabel[1][0] = row.label;
             surface = RecordingSurface();
-            PrintDesign(surface);
+            PrintPlate(Design, surface);
             const bool turned = *rotation != 'H';
             EXPECT_EQ(At(surface.texts, turned ? 1 : 0), row.printed) << rotation << row.label;
             EXPECT_EQ(surface.Count("TextOutA"), turned ? 1U : 0U);
@@ -193,7 +193,7 @@ TEST_F(PrintLabelsTest, DeletedLabelsStayDeletedAndColoursAreKept) {
     GiveSpecialTics(2, 2);
     Design.TicLabelYN[2][1] = "N";
     Design.ScaleColor[2] = -0x00FF00;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     EXPECT_EQ(Slice(surface.texts, 0, 7), (Calls{"0", "1", "3", "s0", "s2", "mA", "mA"}));
     EXPECT_EQ(surface.CallsOf("SetForeColor"),
               (Calls{"SetForeColor ff", "SetForeColor ff00", "SetForeColor ff", "SetForeColor ff00",
@@ -207,7 +207,7 @@ TEST_F(PrintLabelsTest, DeletedLabelsStayDeletedAndColoursAreKept) {
 TEST_F(PrintLabelsTest, SizesNotAboveZeroBecomeOne) {
     Design.PrintTicsAndArcs[1] = std::int16_t{1}; // so that the tics do not see to it
     Design.RelativeFontSize[1] = -2;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     EXPECT_EQ(At(surface.CallsOf("SetFontSize"), 0), "SetFontSize 3");
     EXPECT_EQ(Design.RelativeFontSize[1], 1);
 }
@@ -215,7 +215,7 @@ TEST_F(PrintLabelsTest, SizesNotAboveZeroBecomeOne) {
 TEST_F(PrintLabelsTest, FontHasTheNameOfTheDesign) {
     Design.FontName = " Courier New ";
     Design.LabelRotation = "B";
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     EXPECT_EQ(Last(surface.CallsOf("SetFontName")), "SetFontName [ Courier New ]");
     EXPECT_EQ(Last(surface.CallsOf("BeginFont")), "BeginFont -25 0 225 [Courier New]");
 }
@@ -250,7 +250,7 @@ TEST_F(PrintLabelsTest, TitlesAreHeldOnThePage) {
         Design.BottomToTitle[1] = row.bottomToTitle;
         Design.ScaleTitle[1] = std::string(row.length, 'x');
         surface = RecordingSurface();
-        PrintDesign(surface);
+        PrintPlate(Design, surface);
         // The first position is the label's, the second the title's.
         EXPECT_EQ(At(surface.CallsOf("SetCurrentX"), 1), Call("SetCurrentX", row.x)) << row.name;
         EXPECT_EQ(At(surface.CallsOf("SetCurrentY"), 1), Call("SetCurrentY", row.y)) << row.name;
@@ -261,7 +261,7 @@ TEST_F(PrintLabelsTest, QuadrantTitlesGoByTheScalesNumber) {
     Design.PlateStyle = 1;
     Design.NumberOfScales = 5;
     Design.RelativeFontSize[5] = 2;
-    PrintDesign(surface);
+    PrintPlate(Design, surface);
     const Calls all = surface.CallsOf("SetCurrentX");
     const Calls titles = Slice(all, 5, 5);
     // 6000 less 0.8, 0.4, 0.4 and 0.2 of 282.89; then 6000 - 72 x 28.289 x 0.018

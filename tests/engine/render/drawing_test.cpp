@@ -329,7 +329,7 @@ TEST_F(DrawingTest, OtherPagesKeepColoursAndDeletions) {
 }
 
 TEST_F(DrawingTest, SizesAreThoseOfThePagesLoad) {
-    DrawDesign(surface, PreviewTraits(), {6, 1});
+    DrawPage(Design, surface, PreviewTraits(), {6, 1}, Drawing);
     EXPECT_EQ(Last(surface.CallsOf("SetFontSize")), "SetFontSize 27.36");
     // Heights 49.25 and 48, width 38; the anchor a whole millimetre above the arc.
     EXPECT_EQ(surface.CallsOf("BeginFont"),

@@ -1,5 +1,6 @@
 #include "engine/render/drawing.h"
 
+#include "engine/render/drawingsteps.h"
 #include "support/rendertest.h"
 
 namespace vernacle::test {
@@ -30,7 +31,8 @@ TEST_F(DrawingFrameTest, TheLargerDimensionFillsThePicture) {
     for (const FrameRow& row : rows) {
         Design.PlateWidth = row.width;
         Design.PlateHeight = row.height;
-        const PlateFrame frame = FrameOf(row.traits);
+        const PlateFrame frame = FrameOf(Design, row.traits);
+        DrawStages({}, row.traits);
         EXPECT_EQ(Drawing.PlateScale, row.plateScale) << row.name;
         EXPECT_EQ(frame.plateScale, double{row.plateScale}) << row.name;
         EXPECT_EQ(frame.upPerHalfMm, double{row.plateScale}) << row.name;
@@ -40,7 +42,7 @@ TEST_F(DrawingFrameTest, TheLargerDimensionFillsThePicture) {
 
 TEST_F(DrawingFrameTest, AspectStretchesAcrossOnly) {
     Design.AspectRatio = 1.15F;
-    const PlateFrame frame = FrameOf(PreviewTraits());
+    const PlateFrame frame = FrameOf(Design, PreviewTraits());
     EXPECT_NEAR(frame.Right() - frame.Left(), 6400 * 1.15, 0.001);
     EXPECT_NEAR(frame.Bottom() - frame.Top(), 3200, 0.001);
 }
@@ -58,7 +60,7 @@ TEST_F(DrawingFrameTest, AspectRatioIsHeldToWholeHundredths) {
     };
     for (const AspectRow& row : rows) {
         Design.AspectRatio = row.before;
-        HoldAspectRatio();
+        HoldAspectRatio(Design);
         EXPECT_EQ(Design.AspectRatio, row.after) << row.before;
     }
 }
@@ -66,7 +68,7 @@ TEST_F(DrawingFrameTest, AspectRatioIsHeldToWholeHundredths) {
 TEST_F(DrawingFrameTest, AnAspectRatioThatWasNeverSetBecomes1) {
     for (const AspectRow& row : {AspectRow{0, 1}, AspectRow{-0.7F, 1}, AspectRow{0.2F, 0.2F}}) {
         Design.AspectRatio = row.before;
-        RaiseAspectRatio();
+        RaiseAspectRatio(Design);
         EXPECT_EQ(Design.AspectRatio, row.after) << row.before;
     }
 }

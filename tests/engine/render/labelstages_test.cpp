@@ -280,7 +280,7 @@ public:
 TEST_F(LabelStagesTest, FacesAreTrimmedAndEndWithOneNul) {
     Design.FontName = "  Courier New ";
     FaceSurface faceSurface;
-    DrawDesign(faceSurface, PreviewTraits(), {3, 1});
+    DrawPage(Design, faceSurface, PreviewTraits(), {3, 1}, Drawing);
     const std::string face("Courier New\0", 12);
     EXPECT_EQ(faceSurface.faces, (std::vector<std::string>{face, face}));
     EXPECT_EQ(Drawing.LabelFontFace, face);

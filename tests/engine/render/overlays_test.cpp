@@ -11,7 +11,7 @@ namespace {
 
 class OverlaysTest : public RenderTest {
 protected:
-    static PlateFrame Frame() { return FrameOf(PreviewTraits()); }
+    static PlateFrame Frame() { return FrameOf(Design, PreviewTraits()); }
 
     // The lines of that colour.
     Calls LinesIn(const std::string& colour) const {
