@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include <QFrame>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QScrollArea>
+#include <QStandardItemModel>
 #include <QStyle>
 
 #include "desktop/kit/formkit.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr int kBetweenColumns = 18; // pixels
 constexpr int kBetweenRows = 2;
-constexpr int kMargin = 6;
 constexpr int kSmallestHeight = 180;
 
 OptionButton* MakeRowOption(const RowOption& option, const char* question, int row) {
@@ -29,15 +29,39 @@ OptionButton* MakeRowOption(const RowOption& option, const char* question, int r
     return button;
 }
 
-void SetSpacing(QGridLayout& grid) {
-    grid.setHorizontalSpacing(kBetweenColumns);
-    grid.setVerticalSpacing(kBetweenRows);
-    grid.setContentsMargins(kMargin, kBetweenRows, kMargin, kBetweenRows);
+// A heading stands as far into its section as the columns stand into theirs.
+int MarginOf(const QHeaderView& headings) {
+    return headings.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &headings);
+}
+
+// As high as its texts: the toolkit's own would be high enough for a scroll bar.
+class HeadingsView : public QHeaderView {
+public:
+    HeadingsView() : QHeaderView(Qt::Horizontal) {
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
+    QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+};
+
+QHeaderView* MakeHeadings(std::span<const char* const> headings) {
+    QStringList texts;
+    for (const char* heading : headings) {
+        texts << QString::fromUtf8(heading);
+    }
+    auto* view = new HeadingsView;
+    auto* model = new QStandardItemModel(view);
+    model->setHorizontalHeaderLabels(texts);
+    view->setModel(model);
+    view->setAccessibleName(texts.join(QLatin1Char(' ')));
+    view->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    view->setSectionResizeMode(QHeaderView::Fixed); // their columns would not follow
+    view->setFocusPolicy(Qt::NoFocus);
+    return view;
 }
 
 int WidthOf(const QGridLayout& grid, int row, int column) {
-    const QLayoutItem* item = grid.itemAtPosition(row, column);
-    return item ? item->widget()->sizeHint().expandedTo(item->widget()->minimumSize()).width() : 0;
+    const QWidget* control = grid.itemAtPosition(row, column)->widget();
+    return control->sizeHint().expandedTo(control->minimumSize()).width();
 }
 
 } // namespace
@@ -73,25 +97,23 @@ QLabel* MakeRowLabel(const char* name, int row) {
 }
 
 RowTable::RowTable(const char* name, std::span<const char* const> headings)
-    : columns_(static_cast<int>(headings.size())) {
+    : headings_(MakeHeadings(headings)) {
     setObjectName(QLatin1String(name));
-    headings_ = new QGridLayout;
-    SetSpacing(*headings_);
-    for (int column = 0; column < columns_; ++column) {
-        const auto index = static_cast<std::size_t>(column);
-        const std::string heading = objectName().toStdString() + std::to_string(column);
-        headings_->addWidget(MakeLabel(heading.c_str(), QString::fromUtf8(headings[index])), 0,
-                             column, Qt::AlignLeft);
-    }
+    setFrameShape(QFrame::StyledPanel);
+    headings_->setObjectName(objectName() + QStringLiteral("Headings"));
+    const int margin = MarginOf(*headings_);
     auto* content = new QWidget;
     rows_ = new QGridLayout;
-    SetSpacing(*rows_);
+    rows_->setHorizontalSpacing(kBetweenColumns);
+    rows_->setVerticalSpacing(kBetweenRows);
+    rows_->setContentsMargins(margin, kBetweenRows, margin, kBetweenRows);
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins({});
     column->addLayout(rows_);
     column->addStretch();
     auto* scroller = new QScrollArea;
     scroller->setObjectName(objectName() + QStringLiteral("Scroller"));
+    scroller->setFrameShape(QFrame::NoFrame);
     scroller->setWidgetResizable(true);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroller->setFocusPolicy(Qt::NoFocus); // its rows have the keys
@@ -100,7 +122,7 @@ RowTable::RowTable(const char* name, std::span<const char* const> headings)
     auto* parts = new QVBoxLayout(this);
     parts->setContentsMargins({});
     parts->setSpacing(0);
-    parts->addLayout(headings_);
+    parts->addWidget(headings_);
     parts->addWidget(scroller, 1);
 }
 
@@ -113,20 +135,18 @@ void RowTable::AddRow(std::initializer_list<QWidget*> controls) {
 }
 
 void RowTable::AlignHeadings() {
-    int whole = 0;
-    for (int column = 0; column < columns_; ++column) {
-        int width = WidthOf(*headings_, 0, column);
+    for (int column = 0; column < headings_->count(); ++column) {
+        int width = headings_->sectionSizeHint(column);
         for (int row = 0; row < count_; ++row) {
-            width = std::max(width, WidthOf(*rows_, row, column));
+            width = std::max(width, WidthOf(*rows_, row, column) + kBetweenColumns);
         }
-        headings_->setColumnMinimumWidth(column, width);
-        rows_->setColumnMinimumWidth(column, width);
-        whole += width + kBetweenColumns;
+        headings_->resizeSection(column, width);
+        rows_->setColumnMinimumWidth(column, width - kBetweenColumns);
     }
-    headings_->setColumnStretch(columns_, 1); // what is left over stands at the right
-    rows_->setColumnStretch(columns_, 1);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    setMinimumWidth(whole + 2 * kMargin + bar);
+    setMinimumWidth(headings_->length() + 2 * (MarginOf(*headings_) + frameWidth()) + bar);
+    headings_->setStretchLastSection(true);
+    rows_->setColumnStretch(headings_->count(), 1); // what is left over stands at the right
 }
 
 } // namespace vernacle

@@ -7,11 +7,12 @@
 #include <string>
 #include <vector>
 
-#include <QWidget>
+#include <QFrame>
 
 #include "engine/setups/setup.h"
 
 class QGridLayout;
+class QHeaderView;
 class QLabel;
 
 namespace vernacle {
@@ -44,7 +45,7 @@ RowChoice MakeRowChoice(const char* frame, const char* question, const RowOption
 // A label of a row, wide enough for any number.
 QLabel* MakeRowLabel(const char* name, int row);
 
-class RowTable : public QWidget {
+class RowTable : public QFrame {
     Q_OBJECT
 
 public:
@@ -57,9 +58,8 @@ public:
     void AlignHeadings();
 
 private:
-    QGridLayout* headings_;
+    QHeaderView* headings_;
     QGridLayout* rows_;
-    int columns_;
     int count_ = 0;
 };
 

@@ -9,6 +9,7 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QScrollArea>
 #include <QTextBrowser>
@@ -71,6 +72,14 @@ std::string ShownBy(const QWidget& widget) {
     }
     if (const auto* frame = qobject_cast<const QGroupBox*>(&widget)) {
         return Quoted(frame->title());
+    }
+    if (const auto* headings = qobject_cast<const QHeaderView*>(&widget)) {
+        QString text;
+        for (int column = 0; column < headings->count(); ++column) {
+            text += headings->model()->headerData(column, Qt::Horizontal).toString() +
+                    QLatin1String("|");
+        }
+        return Quoted(text);
     }
     if (const auto* topic = qobject_cast<const QTextBrowser*>(&widget)) {
         const QString text = topic->toPlainText(); // the links to the others, and its heading

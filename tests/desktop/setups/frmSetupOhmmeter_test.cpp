@@ -66,11 +66,9 @@ TEST_F(OhmmeterPageTest, CaptionsAndStartingState) {
         {"lblEnterResistance", "Enter resistance to get deflection:"},
         {"lblResultingDeflection", ""},
         {"lblClickToRemoveItem", "To remove an item click on its Tic#."},
-        {"lblRemoveLabel", "Each label may be edited or removed"},
-        {"tblTics0", "Tic#:"},
-        {"tblTics1", "Deflection:"},
-        {"tblTics2", "Label:"},
-        {"tblTics3", "Major/minor?"}};
+        {"lblRemoveLabel", "Each label may be edited or removed"}};
+    EXPECT_EQ(Headings(),
+              (std::vector<std::string>{"Tic#:", "Deflection:", "Label:", "Major/minor?"}));
     for (const auto& [label, text] : labels) {
         EXPECT_EQ(Shown(label), text) << label;
     }

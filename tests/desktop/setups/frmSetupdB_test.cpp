@@ -63,11 +63,8 @@ TEST_F(DecibelPageTest, CaptionsAndStartingState) {
         EXPECT_EQ(Find<QPushButton>(button).text(), QLatin1String(caption));
         EXPECT_TRUE(IsEnabled(button));
     }
-    const char* const headings[] = {
-        "Tic#:", "Deflection:", "Label:", "Print label?", "Major/minor?", "Print tic?"};
-    for (int column = 0; column < 6; ++column) {
-        EXPECT_EQ(Shown("tblTics" + std::to_string(column)), headings[column]);
-    }
+    EXPECT_EQ(Headings(), (std::vector<std::string>{"Tic#:", "Deflection:", "Label:",
+                                                    "Print label?", "Major/minor?", "Print tic?"}));
     for (int row = 0; row < kDecibelRows; ++row) {
         EXPECT_TRUE(IsSelected(RowName("PrintTicYes", row)));
         EXPECT_EQ(IsSelected(RowName("Major", row)), row == 0);

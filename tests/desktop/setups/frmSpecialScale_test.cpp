@@ -46,10 +46,8 @@ TEST_F(SpecialPageTest, CaptionsAndStartingState) {
         EXPECT_EQ(Find<QPushButton>(button).text(), QLatin1String(text));
         EXPECT_TRUE(IsEnabled(button));
     }
-    const char* const headings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
-    for (int column = 0; column < 4; ++column) {
-        EXPECT_EQ(Shown("tblTics" + std::to_string(column)), headings[column]);
-    }
+    EXPECT_EQ(Headings(),
+              (std::vector<std::string>{"Tic#:", "Deflection:", "Label:", "Major/minor?"}));
     EXPECT_EQ(TextOf("txtNrOfTicmarks"), "1") << "of the design's 0";
     EXPECT_EQ(RowsShown(), 2);
     EXPECT_EQ(Shown("Tic0"), "0");

@@ -1,6 +1,7 @@
 // A table of real controls: names, headings in view, keyboard.
 #include "desktop/setups/rowtable.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -28,6 +29,8 @@ protected:
         table.show();
         Settle();
     }
+
+    const QHeaderView& HeadingsView() const { return On<QHeaderView>(table, "tblRowsHeadings"); }
 
     RowTable table{"tblRows", kHeadings};
 };
@@ -57,21 +60,24 @@ TEST_F(RowTableTest, EachRowHasOneAnswerOrNone) {
 TEST_F(RowTableTest, HeadingsStandAboveTheirColumns) {
     const char* const firsts[] = {"Number0", "txtText0", "fraChoice0"};
     for (int column = 0; column < 3; ++column) {
-        const auto& heading = On<QLabel>(table, "tblRows" + std::to_string(column));
         const auto& control = On<QWidget>(table, firsts[column]);
-        EXPECT_EQ(heading.text(), QLatin1String(kHeadings[column]));
-        EXPECT_NEAR(heading.mapTo(&table, QPoint()).x(), control.mapTo(&table, QPoint()).x(), 2);
+        EXPECT_EQ(HeadingsView().model()->headerData(column, Qt::Horizontal).toString(),
+                  QLatin1String(kHeadings[column]));
+        const int margin = HeadingsView().style()->pixelMetric(QStyle::PM_HeaderMargin);
+        const QPoint text(HeadingsView().sectionViewportPosition(column) + margin, 0);
+        EXPECT_NEAR(HeadingsView().mapTo(&table, text).x(), control.mapTo(&table, QPoint()).x(), 2);
+        EXPECT_GE(HeadingsView().sectionSize(column), HeadingsView().sectionSizeHint(column));
     }
 }
 
 TEST_F(RowTableTest, HeadingsStayWhileTheRowsScroll) {
     const auto& scroller = On<QScrollArea>(table, "tblRowsScroller");
-    const auto& heading = On<QLabel>(table, "tblRows0");
-    const int before = heading.mapTo(&table, QPoint()).y();
+    const int before = HeadingsView().mapTo(&table, QPoint()).y();
     const int row = On<QWidget>(table, "txtText0").mapTo(&table, QPoint()).y();
     EXPECT_GT(scroller.verticalScrollBar()->maximum(), 0);
     scroller.verticalScrollBar()->setValue(100);
-    EXPECT_EQ(heading.mapTo(&table, QPoint()).y(), before);
+    EXPECT_EQ(HeadingsView().mapTo(&table, QPoint()).y(), before);
+    EXPECT_FALSE(HeadingsView().viewport()->visibleRegion().isEmpty());
     EXPECT_EQ(On<QWidget>(table, "txtText0").mapTo(&table, QPoint()).y(), row - 100);
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QPushButton>
 
 #include "desktop/kit/entrybox.h"
@@ -34,6 +35,17 @@ protected:
     bool IsSelected(const std::string& option) const { return Option(option).isChecked(); }
     bool IsShown(const std::string& control) const { return Find(control).isVisible(); }
     bool IsEnabled(const std::string& control) const { return Find(control).isEnabled(); }
+
+    // Those of the page's table.
+    std::vector<std::string> Headings() const {
+        const auto& headings = Find<QHeaderView>("tblTicsHeadings");
+        std::vector<std::string> texts;
+        for (int column = 0; column < headings.count(); ++column) {
+            const QVariant text = headings.model()->headerData(column, Qt::Horizontal);
+            texts.push_back(text.toString().toStdString());
+        }
+        return texts;
+    }
 
     // A press, and what comes with it settled.
     void Press(const std::string& control) const {
