@@ -5,10 +5,8 @@
 
 #include "desktop/kit/entrybox.h"
 #include "desktop/kit/formkit.h"
-#include "desktop/kit/optionbutton.h"
 #include "desktop/kit/picturebox.h"
 #include "desktop/navigation/navigator.h"
-#include "desktop/pages/numberframe.h"
 
 namespace vernacle {
 
@@ -46,10 +44,6 @@ void DrawingPage::Illustrate(std::int16_t topic) {
 
 EntryBox& DrawingPage::Box(const char* name) const {
     return *findChild<EntryBox*>(QLatin1String(name));
-}
-
-OptionButton& DrawingPage::OptionNumber(int number) const {
-    return *findChild<OptionButton*>(QString::fromStdString(OptionName(number)));
 }
 
 void DrawingPage::SetEnabled(std::initializer_list<const char*> controls, bool enabled) {

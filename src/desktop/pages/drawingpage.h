@@ -14,7 +14,6 @@ class QVBoxLayout;
 namespace vernacle {
 
 class EntryBox;
-class OptionButton;
 class PictureBox;
 
 // What of the logical area shows the plate with its trim marks, at the widest aspect too.
@@ -39,7 +38,6 @@ protected:
     static void Illustrate(std::int16_t topic);
 
     EntryBox& Box(const char* name) const;
-    OptionButton& OptionNumber(int number) const;
     void SetEnabled(std::initializer_list<const char*> controls, bool enabled);
 
     PictureBox& Plate() { return *plate_; }

@@ -11,7 +11,6 @@
 #include "desktop/kit/optionbutton.h"
 #include "desktop/kit/picturebox.h"
 #include "desktop/navigation/navigator.h"
-#include "desktop/pages/numberframe.h"
 #include "desktop/system/dialogs.h"
 #include "engine/base/numbertext.h"
 #include "surfaces/colours.h"
@@ -66,7 +65,8 @@ frmHighlights::frmHighlights() : TextKeepingPage(kTraits, HighlightsTraits(), kA
 }
 
 void frmHighlights::Build() {
-    Column().addWidget(MakeNumberFrame(kNumbers, [this](int number) { OptionClicked(number); }));
+    numbers_ = MakeNumberFrame(kNumbers, [this](int number) { OptionClicked(number); });
+    Column().addWidget(numbers_.frame);
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
@@ -90,8 +90,8 @@ void frmHighlights::Build() {
 void frmHighlights::Load() {
     TakeCopies();
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
-        OptionNumber(highlight).SetInk(ToQColor(Design.HighlightColor[highlight]));
-        OptionNumber(highlight).setEnabled(false);
+        numbers_.Option(highlight).SetInk(ToQColor(Design.HighlightColor[highlight]));
+        numbers_.Option(highlight).setEnabled(false);
     }
     for (const Entry& entry : kEntries) {
         SetEnabled({entry.row.label, entry.row.box, entry.row.arrows}, false);

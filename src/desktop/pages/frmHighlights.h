@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/pages/drawingpage.h"
+#include "desktop/pages/numberframe.h"
 #include "engine/core/fieldplace.h"
 
 namespace vernacle {
@@ -34,6 +35,7 @@ private:
     void Store(const Entry& entry);
     void ShowTenfoldLength();
 
+    NumberFrame numbers_;
     std::int16_t CurrentHighlight_ = 0; // none is selected
 };
 

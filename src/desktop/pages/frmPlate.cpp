@@ -1,23 +1,18 @@
 #include "desktop/pages/frmPlate.h"
 
-#include <string_view>
-
 #include <QGridLayout>
 #include <QHBoxLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/kit/picturebox.h"
-#include "desktop/kit/steppedentry.h"
-#include "desktop/kit/updown.h"
 #include "desktop/navigation/navigator.h"
 #include "desktop/system/dialogs.h"
 #include "engine/base/hostservices.h"
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
 #include "engine/core/design.h"
-#include "engine/core/entry.h"
 #include "engine/illustrations/schematic.h"
 #include "surfaces/colours.h"
 
@@ -27,7 +22,7 @@ namespace {
 
 using D = DesignRecord;
 
-constexpr int kItemsPerColumn = 7;
+constexpr int kMeasuresPerColumn = 7;
 constexpr int kFontNameWidth = 16; // characters
 constexpr std::int16_t kQuadrant = 1;
 constexpr QSize kSwatchSize(48, 22);
@@ -36,45 +31,38 @@ constexpr QColor kWarning(0xFF, 0xEE, 0xEE);
 constexpr PageTraits kTraits = {
     .form = "frmPlate", .title = "Plate design", .helpTopic = "vplate.htm"};
 
-} // namespace
-
-// A measure: the limits of what is typed, the range of its arrows, the illustration that shows it.
-struct frmPlate::NumericItem {
-    const char* caption = nullptr;
-    float D::*field = nullptr;
-    const char* box = nullptr;
-    EntryLimits limits = {};
-    const char* unit = nullptr;
-    StepRange arrows;
-    std::int16_t topic = 0;
-};
-
+// The measures. Each has an illustration, which its H button shows and what is typed too.
 // clang-format off
-const frmPlate::NumericItem frmPlate::kItems[] = {
-    {"Plate width, mm",           &D::PlateWidth,            "txtPlateWidth",           {20, 180},                         "mm",            {20, 180},           1},
-    {"Plate height, mm",          &D::PlateHeight,           "txtPlateHeight",          {10, 180},                         "mm",            {10, 180},           2},
-    {"Bottom to bearing, mm",     &D::BottomToBearing,       "txtBottomToBearing",      {-100000, 100000},                 "mm",            {-100000, 100000},   3},
-    {"Bottom to mounting, mm",    &D::BottomToHoles,         "txtBottomToHoles",        {-1000, 150},                      "mm",            {-1000, 150},        4},
-    {"Hole separation, mm",       &D::HoleSeparation,        "txtHoleSeparation",       {5, 180},                          "mm",            {5, 180},            5},
-    {"Pointer deflection, deg ",  &D::PointerDeflection,     "txtPointerDeflection",    {0.1, 360},                        "degrees",       {1, 360},            6},
-    {"Actual/virtual offset, mm", &D::ActualVirtualOffset,   "txtActualVirtualOffset",  {-EntryLimits::kNone, 1000000},    "mm",            {0, 100000},         7},
-    {"Minor tic length, mm",      &D::MinorTicLength,        "txtMinorTicLength",       {0.5, 15},                         "mm",            {1, 15},             9},
-    {"Major tic length, mm",      &D::MajorTicLength,        "txtMajorTicLength",       {0.5, 15},                         "mm",            {1, 15},             10},
-    {"Minor tic width, .1 mm",    &D::MinorTicWidth,         "txtMinorTicWidth",        {1, 20},                           "tenths of mm",  {1, 20},             11},
-    {"Major tic width, .1 mm",    &D::MajorTicWidth,         "txtMajorTicWidth",        {1, 20},                           "tenths of mm",  {0, 10},             12},
-    {"Font size",                 &D::FontSize,              "txtFontSize",             {2, 20},                           "points",        {2, 20},             13},
-    {"Label-arc spacing, mm",     &D::LabelSpacing,          "txtLabelSpacing",         {-200, 200},                       "mm",            {-200, 200},         14},
-    {"Arc thickness, mm",         &D::ArcWidth,              "txtArcWidth",             {0.5, 20},                         "tenths of mm",  {1, 20},             25},
+constexpr FieldRow kMeasures[] = {
+    {.box = "txtPlateWidth",          .caption = "Plate width, mm",           .place = At<&D::PlateWidth>,          .limits = {20, 180},            .unit = "mm",           .arrows = {"UpDownPlateWidth", {20, 180}},              .topic = 1},
+    {.box = "txtPlateHeight",         .caption = "Plate height, mm",          .place = At<&D::PlateHeight>,         .limits = {10, 180},            .unit = "mm",           .arrows = {"UpDownPlateHeight", {10, 180}},             .topic = 2},
+    {.box = "txtBottomToBearing",     .caption = "Bottom to bearing, mm",     .place = At<&D::BottomToBearing>,     .limits = {-100000, 100000},    .unit = "mm",           .arrows = {"UpDownBottomToBearing", {-100000, 100000}}, .topic = 3},
+    {.box = "txtBottomToHoles",       .caption = "Bottom to mounting, mm",    .place = At<&D::BottomToHoles>,       .limits = {-1000, 150},         .unit = "mm",           .arrows = {"UpDownBottomToHoles", {-1000, 150}},        .topic = 4},
+    {.box = "txtHoleSeparation",      .caption = "Hole separation, mm",       .place = At<&D::HoleSeparation>,      .limits = {5, 180},             .unit = "mm",           .arrows = {"UpDownHoleSeparation", {5, 180}},           .topic = 5},
+    {.box = "txtPointerDeflection",   .caption = "Pointer deflection, deg ",  .place = At<&D::PointerDeflection>,   .limits = {0.1, 360},           .unit = "degrees",      .arrows = {"UpDownPointerDeflection", {1, 360}},        .topic = 6},
+    {.box = "txtActualVirtualOffset", .caption = "Actual/virtual offset, mm", .place = At<&D::ActualVirtualOffset>, .limits = {.highest = 1000000}, .unit = "mm",           .arrows = {"UpDownActualVirtualOffset", {0, 100000}},   .topic = 7},
+    {.box = "txtMinorTicLength",      .caption = "Minor tic length, mm",      .place = At<&D::MinorTicLength>,      .limits = {0.5, 15},            .unit = "mm",           .arrows = {"UpDownMinorTicLength", {1, 15}},            .topic = 9},
+    {.box = "txtMajorTicLength",      .caption = "Major tic length, mm",      .place = At<&D::MajorTicLength>,      .limits = {0.5, 15},            .unit = "mm",           .arrows = {"UpDownMajorTicLength", {1, 15}},            .topic = 10},
+    {.box = "txtMinorTicWidth",       .caption = "Minor tic width, .1 mm",    .place = At<&D::MinorTicWidth>,       .limits = {1, 20},              .unit = "tenths of mm", .arrows = {"UpDownMinorTicWidth", {1, 20}},             .topic = 11},
+    {.box = "txtMajorTicWidth",       .caption = "Major tic width, .1 mm",    .place = At<&D::MajorTicWidth>,       .limits = {1, 20},              .unit = "tenths of mm", .arrows = {"UpDownMajorTicWidth", {0, 10}},             .topic = 12},
+    {.box = "txtFontSize",            .caption = "Font size",                 .place = At<&D::FontSize>,            .limits = {2, 20},              .unit = "points",       .arrows = {"UpDownFontSize", {2, 20}},                  .topic = 13},
+    {.box = "txtLabelSpacing",        .caption = "Label-arc spacing, mm",     .place = At<&D::LabelSpacing>,        .limits = {-200, 200},          .unit = "mm",           .arrows = {"UpDownLabelSpacing", {-200, 200}},          .topic = 14},
+    {.box = "txtArcWidth",            .caption = "Arc thickness, mm",         .place = At<&D::ArcWidth>,            .limits = {0.5, 20},            .unit = "tenths of mm", .arrows = {"UpDownArcWidth", {1, 20}},                  .topic = 25},
 };
 // clang-format on
 
-// An option of a frame: what selecting it does, and whether the design stands so.
+enum class Group { Sound, Graphic, Arcs, LabelRotation, Style, Number, Plate, Labels };
+
+} // namespace
+
+// An option of a group: what selecting it does, and whether the design stands so.
 struct frmPlate::Option {
-    const char* frame;
+    Group group;
     const char* name;
     const char* caption;
     void (*select)(frmPlate& page);
     bool (*holds)();
+    OptionButton* frmPlate::*kept = nullptr; // where the page holds it
 };
 
 namespace {
@@ -90,27 +78,27 @@ void TakeScales(std::int16_t count) {
 // come last to show the field.
 // clang-format off
 const frmPlate::Option frmPlate::kOptions[] = {
-    {"fraSound",         "optSoundOff",                "Off",         [](frmPlate&) { Design.MessageLevel = 0; },                           [] { return Design.MessageLevel == 0; }},
-    {"fraSound",         "optSoundWarn",               "Warn",        [](frmPlate&) { Design.MessageLevel = 1; },                           [] { return Design.MessageLevel == 1; }},
-    {"fraSound",         "optSoundAll",                "All",         [](frmPlate&) { Design.MessageLevel = 2; },                           [] { return Design.MessageLevel == 2; }},
-    {"fraGraphic",       "optGraphicYes",              "Yes",         [](frmPlate& page) { page.optGraphicClicked("Y", "optPrintTextNo"); },  [] { return Design.DrawGraphic == "Y"; }},
-    {"fraGraphic",       "optGraphicNo",               "No",          [](frmPlate& page) { page.optGraphicClicked("N", "optPrintTextYes"); }, [] { return Design.DrawGraphic == "N"; }},
-    {"fraArcs",          "optArcsYes",                 "Yes",         [](frmPlate&) { Design.DrawArcs = "Y"; },                             [] { return Design.DrawArcs == "Y"; }},
-    {"fraArcs",          "optArcsNo",                  "No",          [](frmPlate&) { Design.DrawArcs = "N"; },                             [] { return Design.DrawArcs == "N"; }},
-    {"fraLabelRotation", "optLabelRotationHorizontal", "Horizontal",  [](frmPlate&) { Design.LabelRotation = "H"; },                        [] { return Design.LabelRotation == "H"; }},
-    {"fraLabelRotation", "optLabelRotationBearing",    "Bearing",     [](frmPlate&) { Design.LabelRotation = "B"; },                        [] { return Design.LabelRotation == "B"; }},
-    {"fraStyle",         "optNormal",                  "Standard",    [](frmPlate& page) { page.optStyleClicked(0); },                      [] { return Design.PlateStyle == 0; }},
-    {"fraStyle",         "optDINquad",                 "Quadrant",    [](frmPlate& page) { page.optStyleClicked(kQuadrant); },              [] { return Design.PlateStyle == kQuadrant; }},
-    {"fraNumber",        "Option1",                    "1",           [](frmPlate&) { TakeScales(1); },                                     [] { return Design.NumberOfScales == 1; }},
-    {"fraNumber",        "Option2",                    "2",           [](frmPlate&) { TakeScales(2); },                                     [] { return Design.NumberOfScales == 2; }},
-    {"fraNumber",        "Option3",                    "3",           [](frmPlate&) { TakeScales(3); },                                     [] { return Design.NumberOfScales == 3; }},
-    {"fraNumber",        "Option4",                    "4",           [](frmPlate&) { TakeScales(4); },                                     [] { return Design.NumberOfScales == 4; }},
-    {"fraNumber",        "Option5",                    "5",           [](frmPlate&) { TakeScales(5); },                                     [] { return Design.NumberOfScales == 5; }},
-    {"fraNumber",        "Option6",                    "6",           [](frmPlate&) { TakeScales(6); },                                     [] { return Design.NumberOfScales == 6; }},
-    {"fraPlate",         "optCircular",                "Circular",    [](frmPlate&) { Design.PlateOutlineCircular = 1; },                   [] { return Design.PlateOutlineCircular == 1; }},
-    {"fraPlate",         "optRectangular",             "Rectangular", [](frmPlate&) { Design.PlateOutlineCircular = 0; },                   [] { return Design.PlateOutlineCircular == 0; }},
-    {"fraLabels",        "optPrintTextYes",            "Yes",         [](frmPlate&) { Design.PrintText = "Y"; },                            [] { return Design.PrintText == "Y"; }},
-    {"fraLabels",        "optPrintTextNo",             "No",          [](frmPlate&) { Design.PrintText = "N"; },                            [] { return Design.PrintText == "N"; }},
+    {Group::Sound,         "optSoundOff",                "Off",         [](frmPlate&) { Design.MessageLevel = 0; },                                  [] { return Design.MessageLevel == 0; }},
+    {Group::Sound,         "optSoundWarn",               "Warn",        [](frmPlate&) { Design.MessageLevel = 1; },                                  [] { return Design.MessageLevel == 1; }},
+    {Group::Sound,         "optSoundAll",                "All",         [](frmPlate&) { Design.MessageLevel = 2; },                                  [] { return Design.MessageLevel == 2; }},
+    {Group::Graphic,       "optGraphicYes",              "Yes",         [](frmPlate& page) { page.optGraphicClicked("Y", *page.optPrintTextNo_); },  [] { return Design.DrawGraphic == "Y"; }},
+    {Group::Graphic,       "optGraphicNo",               "No",          [](frmPlate& page) { page.optGraphicClicked("N", *page.optPrintTextYes_); }, [] { return Design.DrawGraphic == "N"; }},
+    {Group::Arcs,          "optArcsYes",                 "Yes",         [](frmPlate&) { Design.DrawArcs = "Y"; },                                    [] { return Design.DrawArcs == "Y"; }},
+    {Group::Arcs,          "optArcsNo",                  "No",          [](frmPlate&) { Design.DrawArcs = "N"; },                                    [] { return Design.DrawArcs == "N"; }},
+    {Group::LabelRotation, "optLabelRotationHorizontal", "Horizontal",  [](frmPlate&) { Design.LabelRotation = "H"; },                               [] { return Design.LabelRotation == "H"; }},
+    {Group::LabelRotation, "optLabelRotationBearing",    "Bearing",     [](frmPlate&) { Design.LabelRotation = "B"; },                               [] { return Design.LabelRotation == "B"; }},
+    {Group::Style,         "optNormal",                  "Standard",    [](frmPlate& page) { page.optStyleClicked(0); },                             [] { return Design.PlateStyle == 0; }},
+    {Group::Style,         "optDINquad",                 "Quadrant",    [](frmPlate& page) { page.optStyleClicked(kQuadrant); },                     [] { return Design.PlateStyle == kQuadrant; }},
+    {Group::Number,        "Option1",                    "1",           [](frmPlate&) { TakeScales(1); },                                            [] { return Design.NumberOfScales == 1; }},
+    {Group::Number,        "Option2",                    "2",           [](frmPlate&) { TakeScales(2); },                                            [] { return Design.NumberOfScales == 2; }},
+    {Group::Number,        "Option3",                    "3",           [](frmPlate&) { TakeScales(3); },                                            [] { return Design.NumberOfScales == 3; }},
+    {Group::Number,        "Option4",                    "4",           [](frmPlate&) { TakeScales(4); },                                            [] { return Design.NumberOfScales == 4; }},
+    {Group::Number,        "Option5",                    "5",           [](frmPlate&) { TakeScales(5); },                                            [] { return Design.NumberOfScales == 5; }},
+    {Group::Number,        "Option6",                    "6",           [](frmPlate&) { TakeScales(6); },                                            [] { return Design.NumberOfScales == 6; }},
+    {Group::Plate,         "optCircular",                "Circular",    [](frmPlate&) { Design.PlateOutlineCircular = 1; },                          [] { return Design.PlateOutlineCircular == 1; }},
+    {Group::Plate,         "optRectangular",             "Rectangular", [](frmPlate&) { Design.PlateOutlineCircular = 0; },                          [] { return Design.PlateOutlineCircular == 0; }},
+    {Group::Labels,        "optPrintTextYes",            "Yes",         [](frmPlate&) { Design.PrintText = "Y"; },                                   [] { return Design.PrintText == "Y"; }, &frmPlate::optPrintTextYes_},
+    {Group::Labels,        "optPrintTextNo",             "No",          [](frmPlate&) { Design.PrintText = "N"; },                                   [] { return Design.PrintText == "N"; }, &frmPlate::optPrintTextNo_},
 };
 // clang-format on
 
@@ -118,43 +106,42 @@ namespace {
 
 enum class Frame { Shown, Hidden };
 
+enum class Help { Enabled, Greyed };
+
 } // namespace
 
 // A frame of options, and where it stands on the page's grid. Its first options are enabled.
 struct frmPlate::OptionFrame {
+    Group group;
     const char* name;
     const char* title;
-    Frame frame;
-    int enabledOptions;
     int row;
     int column;
-    int columns;
-    const char* before; // texts around the options
-    const char* behind;
-    const char* helpButton; // with an illustration of the options
-    void (frmPlate::*help)();
-    bool helpEnabled;
+    int columns = 1;
+    int enabledOptions = 2;
+    Frame frame = Frame::Shown;
+    const char* before = ""; // texts around the options
+    const char* behind = "";
+    const char* helpButton = nullptr; // with an illustration of the options
+    void (frmPlate::*help)() = nullptr;
+    Help helpState = Help::Enabled;
+    QGroupBox* frmPlate::*kept = nullptr; // where the page holds it
 };
 
 // clang-format off
 const frmPlate::OptionFrame frmPlate::kFrames[] = {
-    {"fraArcs",          "Arcs",         Frame::Shown,  2, 0, 0, 1, "",   "",       nullptr,         nullptr,                         false},
-    {"fraLabels",        "Labels",       Frame::Shown,  2, 0, 1, 1, "",   "",       nullptr,         nullptr,                         false},
-    {"fraLabelRotation", "Label rotate", Frame::Shown,  2, 1, 0, 1, "",   "",       "cmdRotateHelp", &frmPlate::cmdRotateHelpClicked, true},
-    {"fraStyle",         "Style",        Frame::Shown,  0, 1, 1, 1, "",   "",       "cmdStyleHelp",  &frmPlate::cmdStyleHelpClicked,  false},
-    {"fraNumber",        "Number",       Frame::Shown,  1, 2, 0, 2, "of", "scales", nullptr,         nullptr,                         false},
-    {"fraPlate",         "Plate",        Frame::Hidden, 2, 3, 0, 1, "",   "",       nullptr,         nullptr,                         false},
-    {"fraGraphic",       "Graphic",      Frame::Hidden, 2, 3, 1, 1, "",   "",       nullptr,         nullptr,                         false},
-    {"fraSound",         "Sound",        Frame::Hidden, 2, 4, 0, 1, "",   "",       nullptr,         nullptr,                         false},
+    {.group = Group::Arcs,          .name = "fraArcs",          .title = "Arcs",         .row = 0, .column = 0},
+    {.group = Group::Labels,        .name = "fraLabels",        .title = "Labels",       .row = 0, .column = 1},
+    {.group = Group::LabelRotation, .name = "fraLabelRotation", .title = "Label rotate", .row = 1, .column = 0, .helpButton = "cmdRotateHelp", .help = &frmPlate::cmdRotateHelpClicked},
+    {.group = Group::Style,         .name = "fraStyle",         .title = "Style",        .row = 1, .column = 1, .enabledOptions = 0, .helpButton = "cmdStyleHelp", .help = &frmPlate::cmdStyleHelpClicked, .helpState = Help::Greyed},
+    {.group = Group::Number,        .name = "fraNumber",        .title = "Number",       .row = 2, .column = 0, .columns = 2, .enabledOptions = 1, .before = "of", .behind = "scales"},
+    {.group = Group::Plate,         .name = "fraPlate",         .title = "Plate",        .row = 3, .column = 0, .frame = Frame::Hidden},
+    {.group = Group::Graphic,       .name = "fraGraphic",       .title = "Graphic",      .row = 3, .column = 1, .frame = Frame::Hidden, .kept = &frmPlate::fraGraphic_},
+    {.group = Group::Sound,         .name = "fraSound",         .title = "Sound",        .row = 4, .column = 0, .frame = Frame::Hidden},
 };
 // clang-format on
 
 namespace {
-
-// "txtPlateWidth" with another control's prefix.
-std::string Sibling(const char* prefix, const char* box) {
-    return prefix + std::string(box).substr(3);
-}
 
 // A file's name behind its last folder.
 QString ShortName(const std::string& path) {
@@ -178,7 +165,7 @@ void frmPlate::Build() {
     auto* entries = new QVBoxLayout;
     entries->setSpacing(12);
     entries->addWidget(MakeHeading("lblHeading", QStringLiteral("Plate design")));
-    entries->addLayout(MakeItems());
+    entries->addLayout(MakeMeasures());
     entries->addLayout(MakeFrames());
     entries->addLayout(MakeTools());
     entries->addStretch();
@@ -191,37 +178,26 @@ void frmPlate::Build() {
     Body().addLayout(halves, 1);
 }
 
-QLayout* frmPlate::MakeItems() {
+QLayout* frmPlate::MakeMeasures() {
     auto* columns = new QHBoxLayout;
     columns->setSpacing(20);
     QGridLayout* grid = nullptr;
-    int row = 0;
-    for (const NumericItem& item : kItems) {
-        if (row % kItemsPerColumn == 0) {
+    int place = 0;
+    for (const FieldRow& row : kMeasures) {
+        if (place % kMeasuresPerColumn == 0) {
             grid = new QGridLayout;
             grid->setSpacing(kEntrySpacing);
             grid->setColumnStretch(1, 1);
             columns->addLayout(grid);
         }
-        AddItem(item, *grid, row++ % kItemsPerColumn);
+        auto* measure = new Field(row, *this);
+        measure->AddTo(*grid, place++ % kMeasuresPerColumn);
+        connect(measure->box, &EntryBox::Changed, this, [this, measure] { Changed(*measure); });
+        connect(measure->help, &QPushButton::clicked, this,
+                [this, measure] { Illustrate(*measure); });
+        measures_.push_back(measure);
     }
     return columns;
-}
-
-void frmPlate::AddItem(const NumericItem& item, QGridLayout& grid, int row) {
-    const QString caption = QString::fromUtf8(item.caption);
-    auto* box = new EntryBox(item.box, caption);
-    box->TellRange(RangeText(item.limits, item.unit));
-    QLabel* label = MakeLabel(Sibling("lbl", item.box).c_str(), caption);
-    label->setBuddy(box);
-    auto* arrows = new UpDown(Sibling("UpDown", item.box).c_str(), caption);
-    arrows->AttachTo(*box, item.arrows);
-    QPushButton* help = MakeHelpButton(Sibling("cmd", item.box).c_str(), caption);
-    connect(box, &EntryBox::Changed, this, [this, &item] { ItemChanged(item); });
-    connect(help, &QPushButton::clicked, this, [this, &item] { Illustrate(item); });
-    grid.addWidget(label, row, 0);
-    grid.addWidget(new SteppedEntry(*box, arrows), row, 1);
-    grid.addWidget(help, row, 2);
 }
 
 QLayout* frmPlate::MakeFrames() {
@@ -241,9 +217,8 @@ QGroupBox* frmPlate::MakeOptionFrame(const OptionFrame& frame) {
     }
     int place = 0;
     for (const Option& option : kOptions) {
-        if (option.frame == std::string_view(frame.name)) {
-            auto* button = new OptionButton(option.name, QString::fromUtf8(option.caption));
-            button->OnSelect([this, &option] { option.select(*this); });
+        if (option.group == frame.group) {
+            OptionButton* button = MakeOption(option);
             button->setEnabled(place++ < frame.enabledOptions);
             line->addWidget(button);
         }
@@ -254,14 +229,27 @@ QGroupBox* frmPlate::MakeOptionFrame(const OptionFrame& frame) {
     line->addStretch();
     if (frame.helpButton) {
         QPushButton* help = MakeHelpButton(frame.helpButton, box->title());
-        help->setEnabled(frame.helpEnabled);
+        help->setEnabled(frame.helpState == Help::Enabled);
         connect(help, &QPushButton::clicked, this, frame.help);
         line->addWidget(help);
     }
     if (frame.frame == Frame::Hidden) {
         box->hide();
     }
+    if (frame.kept) {
+        this->*frame.kept = box;
+    }
     return box;
+}
+
+OptionButton* frmPlate::MakeOption(const Option& option) {
+    auto* button = new OptionButton(option.name, QString::fromUtf8(option.caption));
+    button->OnSelect([this, &option] { option.select(*this); });
+    options_.emplace(&option, button);
+    if (option.kept) {
+        this->*option.kept = button;
+    }
+    return button;
 }
 
 QLayout* frmPlate::MakeTools() {
@@ -300,68 +288,58 @@ QLayout* frmPlate::MakeTools() {
 }
 
 void frmPlate::Load() {
-    findChild<QGroupBox*>(QStringLiteral("fraGraphic"))
-        ->setToolTip(ShortName(Design.GraphicFileName));
+    fraGraphic_->setToolTip(ShortName(Design.GraphicFileName));
     ShowFont();
     ShowBackground();
-    ShowOptionsOf("fraSound");
+    ShowOptions([](const Option& option) { return option.group == Group::Sound; });
     WarnOfQuadrant();
     Design.NumberOfScales = 1;
     NormalizeDesign(Design);
-    FillItems();
+    FillMeasures();
     SetIfEmpty(Design.DrawArcs, "Y");
     SetIfEmpty(Design.LabelRotation, "H");
     SetIfEmpty(Design.PrintText, "Y");
     SetIfEmpty(Design.DrawHighlights, "Y");
     SetIfEmpty(Design.DrawGraphic, "N");
-    for (const char* frame : {"fraGraphic", "fraArcs", "fraLabelRotation", "fraStyle", "fraNumber",
-                              "fraPlate", "fraLabels"}) {
-        ShowOptionsOf(frame);
-    }
+    ShowOptions([](const Option& option) { return option.group != Group::Sound; });
     schematic_->Surface().Clear();
 }
 
-void frmPlate::FillItems() {
-    for (const NumericItem& item : kItems) {
-        Box(item.box).Write(SignedNumber(Design.*item.field));
+void frmPlate::FillMeasures() {
+    for (const Field* measure : measures_) {
+        const auto value = static_cast<float>(NumberIn(measure->row.place.In(Design)));
+        measure->box->Write(SignedNumber(value));
     }
 }
 
-void frmPlate::ShowOptionsOf(const char* frame) {
+void frmPlate::ShowOptions(bool (*wanted)(const Option& option)) {
     for (const Option& option : kOptions) {
-        if (option.frame == std::string_view(frame) && option.holds()) {
-            findChild<OptionButton*>(QLatin1String(option.name))->Select();
-            return;
+        if (wanted(option) && option.holds()) {
+            options_.at(&option)->Select();
         }
     }
 }
 
-EntryBox& frmPlate::Box(const char* name) const {
-    return *findChild<EntryBox*>(QLatin1String(name));
-}
-
-void frmPlate::ItemChanged(const NumericItem& item) {
-    std::string text = Box(item.box).Text();
-    float& value = Design.*item.field;
-    ParseEntry(text, value);
-    value = item.limits.Held(value);
+void frmPlate::Changed(const Field& measure) {
+    measure.Take(measure.row.place.In(Design));
     WarnOfQuadrant();
-    Illustrate(item);
+    Illustrate(measure);
 }
 
-void frmPlate::Illustrate(const NumericItem& item) {
-    Design.HelpTopic = item.topic;
+void frmPlate::Illustrate(const Field& measure) {
+    Design.HelpTopic = measure.row.topic;
     RedrawSchematic();
 }
 
 // A quadrant plate needs 90 degrees and no offset; the colour says so without stopping the user.
 void frmPlate::WarnOfQuadrant() {
     const bool quadrant = Design.PlateStyle == kQuadrant;
-    const auto show = [&](const char* box, bool doubtful) {
-        Box(box).SetBackground(quadrant && doubtful ? kWarning : QColor(Qt::white));
+    const auto show = [&](FieldPlace place, bool doubtful) {
+        FieldOf(measures_, place)
+            .box->SetBackground(quadrant && doubtful ? kWarning : QColor(Qt::white));
     };
-    show("txtPointerDeflection", Design.PointerDeflection != 90);
-    show("txtActualVirtualOffset", Design.ActualVirtualOffset != 0);
+    show(At<&D::PointerDeflection>, Design.PointerDeflection != 90);
+    show(At<&D::ActualVirtualOffset>, Design.ActualVirtualOffset != 0);
 }
 
 void frmPlate::RedrawSchematic() {
@@ -373,9 +351,9 @@ void frmPlate::optStyleClicked(std::int16_t style) {
     WarnOfQuadrant();
 }
 
-void frmPlate::optGraphicClicked(const char* yesNo, const char* cleared) {
+void frmPlate::optGraphicClicked(const char* yesNo, OptionButton& cleared) {
     Design.DrawGraphic = yesNo;
-    findChild<OptionButton*>(QLatin1String(cleared))->Unselect();
+    cleared.Unselect();
 }
 
 void frmPlate::cmdCalibrateClicked() {

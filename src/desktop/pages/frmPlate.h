@@ -1,18 +1,19 @@
 // The plate page: the measures of plate, bearing, holes, pointer, tics, labels and arcs.
 #pragma once
 
-#include <string>
+#include <map>
+#include <vector>
 
 #include "desktop/pages/designpage.h"
 
-class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QLayout;
 
 namespace vernacle {
 
-class EntryBox;
+class Field;
+class OptionButton;
 class PictureBox;
 
 class frmPlate : public DesignPage {
@@ -22,31 +23,29 @@ public:
     frmPlate();
 
 private:
-    struct NumericItem;
     struct Option;
     struct OptionFrame;
-    static const NumericItem kItems[];
     static const Option kOptions[];
     static const OptionFrame kFrames[];
 
     // Building
     void Build();
-    QLayout* MakeItems();
-    void AddItem(const NumericItem& item, QGridLayout& grid, int row);
+    QLayout* MakeMeasures();
     QLayout* MakeFrames();
     QGroupBox* MakeOptionFrame(const OptionFrame& frame);
+    OptionButton* MakeOption(const Option& option);
     QLayout* MakeTools();
 
     // Loading
     void Load();
-    void FillItems();
-    void ShowOptionsOf(const char* frame);
+    void FillMeasures();
+    void ShowOptions(bool (*wanted)(const Option& option));
 
     // Handlers
-    void ItemChanged(const NumericItem& item);
-    void Illustrate(const NumericItem& item);
+    void Changed(const Field& measure);
+    void Illustrate(const Field& measure);
     void optStyleClicked(std::int16_t style);
-    void optGraphicClicked(const char* yesNo, const char* cleared);
+    void optGraphicClicked(const char* yesNo, OptionButton& cleared);
     void cmdCalibrateClicked();
     void cmdLinearityClicked();
     void cmdGetFontClicked();
@@ -58,8 +57,12 @@ private:
     void WarnOfQuadrant();
     void ShowFont();
     void ShowBackground();
-    EntryBox& Box(const char* name) const;
 
+    std::vector<Field*> measures_;
+    QGroupBox* fraGraphic_ = nullptr;
+    std::map<const Option*, OptionButton*> options_;
+    OptionButton* optPrintTextYes_ = nullptr;
+    OptionButton* optPrintTextNo_ = nullptr;
     PictureBox* schematic_ = nullptr;
     QLabel* lblShowFont_ = nullptr;
     QLabel* swatch_ = nullptr;

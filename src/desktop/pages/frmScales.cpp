@@ -2,55 +2,29 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <string_view>
 
 #include <QGroupBox>
+#include <QLabel>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/navigation/navigator.h"
-#include "desktop/pages/frmScalesRows.h"
 #include "desktop/system/dialogs.h"
 #include "engine/base/numbertext.h"
-#include "engine/base/text.h"
 #include "engine/core/design.h"
-#include "engine/core/entry.h"
 #include "surfaces/colours.h"
 
 namespace vernacle {
 
 namespace {
 
-constexpr std::size_t kLongestTitle = 60;
+using D = DesignRecord;
+
 constexpr std::int16_t kTitleTopic = 23; // of the illustrated help, as the next one
 constexpr std::int16_t kCeilingTopic = 24;
-constexpr std::int16_t kExponentTopic = 28;
 
 constexpr PageTraits kTraits = {
     .form = "frmScales", .title = "Scale design", .helpTopic = "vscales.htm"};
-
-// The text of a field as a box shows it.
-std::string TextOf(const FieldPointer& field) {
-    if (const auto* text = std::get_if<std::string*>(&field)) {
-        return **text;
-    }
-    if (const auto* number = std::get_if<std::int16_t*>(&field)) {
-        return PlainNumber(std::int32_t{**number});
-    }
-    return PlainNumber(static_cast<float>(NumberIn(field)));
-}
-
-void StoreEntry(std::string& text, const FieldPointer& field, const EntryLimits& limits) {
-    std::visit(
-        [&](auto place) {
-            using Number = std::remove_pointer_t<decltype(place)>;
-            if constexpr (std::is_arithmetic_v<Number>) {
-                ParseEntry(text, *place);
-                *place = static_cast<Number>(limits.Held(static_cast<double>(*place)));
-            }
-        },
-        field);
-}
 
 } // namespace
 
@@ -60,7 +34,7 @@ frmScales::frmScales() : DrawingPage(kTraits, ScalesTraits()) {
 }
 
 void frmScales::Load() {
-    SetEnabled({"lblLinearityExponent", "txtLinearityExponent"}, false);
+    exponent_->Disable();
     TakeSizes();
     if (Design.ActiveScale < 1) {
         Design.ActiveScale = 1; // none was selected since the start
@@ -69,15 +43,15 @@ void frmScales::Load() {
     if (Design.RelativeFontSize[Design.ActiveScale] <= 0) {
         Design.RelativeFontSize[Design.ActiveScale] = 1;
     }
-    for (const Entry& entry : Entries()) {
-        Fill(entry);
+    for (const Field* field : fields_) {
+        Fill(*field);
     }
     FillPartner();
     ShowPrintTics();
     if (Design.DrawArcs == "Y") {
-        OptionNumber(9).Select();
+        Option9_->Select();
     } else if (Design.DrawArcs == "N") {
-        OptionNumber(10).Select();
+        Option10_->Select();
     }
     EnableStandardEntries();
     Redraw();
@@ -85,48 +59,47 @@ void frmScales::Load() {
 
 void frmScales::ShowScaleOptions() {
     for (int scale = 1; scale <= kScales; ++scale) {
-        OptionNumber(scale).SetInk(ToQColor(InkOf(Design, scale)));
-        OptionNumber(scale).setEnabled(scale <= Design.NumberOfScales);
+        scales_.Option(scale).SetInk(ToQColor(InkOf(Design, scale)));
+        scales_.Option(scale).setEnabled(scale <= Design.NumberOfScales);
     }
     if (Design.ActiveScale <= kScales) {
-        OptionNumber(Design.ActiveScale).ShowSelected();
-        OptionNumber(Design.ActiveScale).SetGround(ToQColor(Design.PlateBackground));
+        scales_.Option(Design.ActiveScale).ShowSelected();
+        scales_.Option(Design.ActiveScale).SetGround(ToQColor(Design.PlateBackground));
     }
 }
 
-void frmScales::Fill(const Entry& entry) {
-    Box(entry.row.box).Write(TextOf(entry.field.In(Design, Design.ActiveScale)));
+Field& frmScales::Of(FieldPlace place) const {
+    return FieldOf(fields_, place);
 }
 
-void frmScales::Fill(const char* box) {
-    const auto isIt = [box](const Entry& entry) { return entry.row.box == std::string_view(box); };
-    Fill(*std::find_if(Entries().begin(), Entries().end(), isIt));
+void frmScales::Fill(const Field& field) {
+    field.Fill(field.row.place.In(Design, Design.ActiveScale));
 }
 
 // The arrows step tenths.
 void frmScales::FillPartner() {
     const double tenths = double{Design.RelativeFontSize[Design.ActiveScale]} * 10;
-    Box("txtRelFontSizeUpDown").Write(PlainNumber(static_cast<float>(tenths)));
+    relativeSize_->partner->Write(PlainNumber(static_cast<float>(tenths)));
 }
 
 void frmScales::ShowPrintTics() {
-    OptionNumber(7).Unselect(); // a value that is neither shows neither
-    OptionNumber(8).Unselect();
+    Option7_->Unselect(); // a value that is neither shows neither
+    Option8_->Unselect();
     const double left = NumberOf(Design.PrintTicsAndArcs[Design.ActiveScale]);
     if (left == 0) {
-        OptionNumber(7).Select();
+        Option7_->Select();
     } else if (left == 1) {
-        OptionNumber(8).Select();
+        Option8_->Select();
     }
 }
 
 void frmScales::EnableStandardEntries() {
     Design.ScaleColor[Design.ActiveScale] = 0;
-    SetEnabled({"lblScaleLeftEnd", "txtScaleLeftEnd", "lblScaleLength", "txtScaleLength",
-                "lblNumberOfTics", "txtNumberOfTics", "lblMajorTicsEveryHowMany",
-                "txtMajorTicsEveryHowMany", "lblLabelsEveryHowMany", "txtLabelsEveryHowMany",
-                "UpDown3", "UpDown4", "UpDown5"},
-               true);
+    for (const FieldPlace place :
+         {At<&D::ScaleLeftEnd>, At<&D::ScaleLengthUnits>, At<&D::NrOfTicmarks>,
+          At<&D::MajorEveryHowMany>, At<&D::LabelsEveryHowMany>}) {
+        Of(place).Enable();
+    }
 }
 
 void frmScales::Redraw() {
@@ -137,61 +110,45 @@ void frmScales::Redraw() {
     DrawingPage::Redraw();
 }
 
-void frmScales::NumberChanged(const Entry& entry) {
-    std::string text = Box(entry.row.box).Text();
-    StoreEntry(text, entry.field.In(Design, Design.ActiveScale), entry.row.limits);
+void frmScales::Changed(const Field& field) {
+    if (&field == exponent_) {
+        TakeExponent();
+    } else {
+        field.Take(field.row.place.In(Design, Design.ActiveScale));
+    }
     Redraw();
 }
 
-void frmScales::txtLinearityExponentChanged(const Entry& entry) {
-    std::string text = Box(entry.row.box).Text();
-    ParseEntry(text, linearityExponent_);
-    Design.LinearityExponent[Design.ActiveScale] = entry.row.limits.Held(linearityExponent_);
-    Redraw();
-}
-
-void frmScales::txtRelFontsizeChanged(const Entry& entry) {
-    std::string text = Box(entry.row.box).Text();
-    float& size = Design.RelativeFontSize[Design.ActiveScale];
-    ParseEntry(text, size);
-    const float entered = size;
-    size = entry.row.limits.Held(entered);
-    Box(entry.row.box).ShowHeld(entered, size);
-    Redraw();
+void frmScales::TakeExponent() {
+    exponent_->Read(&typedExponent_);
+    const float held = exponent_->row.limits.Held(typedExponent_);
+    Design.LinearityExponent[Design.ActiveScale] = held;
 }
 
 void frmScales::txtRelFontSizeUpDownChanged() {
-    relativeSize_ = static_cast<float>(NumericValue(Box("txtRelFontSizeUpDown").Text()) * 0.1);
-    Box("txtRelFontsize").Write(PlainNumber(relativeSize_));
-}
-
-void frmScales::txtScaleTitleChanged(const Entry& entry) {
-    const std::string text = Box(entry.row.box).Text();
-    std::string& title = Design.ScaleTitle[Design.ActiveScale];
-    title = Trimmed(text);
-    title = Leftmost(text, kLongestTitle); // the blanks that were typed stay
-    Redraw();
+    const double tenths = NumericValue(relativeSize_->partner->Text());
+    relativeSize_->box->Write(PlainNumber(static_cast<float>(tenths * 0.1)));
 }
 
 void frmScales::ScaleClicked(int scale) {
     Design.ActiveScale = static_cast<std::int16_t>(scale);
-    const bool isReference = scale == 1; // the others' sizes are relative to it
-    SetEnabled({"lblRelFontsize", "txtRelFontsize", "txtRelFontSizeUpDown", "UpDown6"},
-               !isReference);
-    if (isReference) {
-        Box("txtRelFontsize").Write("1");
+    if (scale == 1) { // the others' sizes are relative to it
+        relativeSize_->Disable();
+        relativeSize_->box->Write("1");
     } else {
-        Fill("txtRelFontsize");
+        relativeSize_->Enable();
+        Fill(*relativeSize_);
         FillPartner();
     }
     EnableStandardEntries();
-    OptionNumber(scale).SetInk(ToQColor(InkOf(Design, scale)));
-    OptionNumber(scale).SetGround(ToQColor(Design.PlateBackground));
-    for (const char* box :
-         {"txtScaleLeftEnd", "txtScaleLength", "txtBottomToTitle", "txtBottomToScaleCeiling",
-          "txtScaleTitle", "txtLabelsEveryHowMany", "txtNumberOfTics", "txtMajorTicsEveryHowMany",
-          "txtLabelsEveryHowMany", "txtLinearityExponent"}) {
-        Fill(box);
+    scales_.Option(scale).SetInk(ToQColor(InkOf(Design, scale)));
+    scales_.Option(scale).SetGround(ToQColor(Design.PlateBackground));
+    for (const FieldPlace place :
+         {At<&D::ScaleLeftEnd>, At<&D::ScaleLengthUnits>, At<&D::BottomToTitle>,
+          At<&D::BottomToScaleCeiling>, At<&D::ScaleTitle>, At<&D::LabelsEveryHowMany>,
+          At<&D::NrOfTicmarks>, At<&D::MajorEveryHowMany>, At<&D::LabelsEveryHowMany>,
+          At<&D::LinearityExponent>}) {
+        Fill(Of(place));
     }
     ShowPrintTics();
     Redraw();
@@ -229,7 +186,7 @@ void frmScales::cmdGetColorClicked() {
     }
     colour *= sign;
     if (Design.ActiveScale <= kScales) {
-        OptionNumber(Design.ActiveScale).SetInk(ToQColor(InkOf(Design, Design.ActiveScale)));
+        scales_.Option(Design.ActiveScale).SetInk(ToQColor(InkOf(Design.ActiveScale)));
     }
     Redraw();
 }
@@ -248,7 +205,7 @@ void frmScales::cmdSelectTicsHelpClicked() {
 }
 
 void frmScales::cmdLinearityExponentClicked() {
-    Design.HelpTopic = kExponentTopic;
+    Design.HelpTopic = exponent_->row.topic;
     ShowModal("frmExponent");
 }
 
@@ -265,21 +222,24 @@ void frmScales::cmdBottomToScaleCeilingClicked() {
 void frmScales::cmdRevertToStandardClicked() {
     const int scale = Design.CurrentScale;
     Design.ScaleColor[scale] = std::abs(Design.ScaleColor[scale]);
-    SetEnabled({"lblNumberOfTics", "txtNumberOfTics", "lblMajorTicsEveryHowMany",
-                "txtMajorTicsEveryHowMany", "lblLabelsEveryHowMany", "txtLabelsEveryHowMany"},
-               true);
-    const auto show = [&](const char* box, std::int16_t& count, std::int16_t usual) {
-        if (count < 1) {
-            count = usual;
+    const auto show = [&](FieldPlace place, double usual) {
+        const FieldPointer count = place.In(Design, scale);
+        if (NumberIn(count) < 1) {
+            StoreIn(count, usual);
         }
-        Box(box).Write(PlainNumber(std::int32_t{count}));
+        Of(place).Fill(count);
     };
-    show("txtNumberOfTics", Design.NrOfTicmarks[scale], 50);
-    show("txtMajorTicsEveryHowMany", Design.MajorEveryHowMany[scale], 5);
+    for (const FieldPlace place :
+         {At<&D::NrOfTicmarks>, At<&D::MajorEveryHowMany>, At<&D::LabelsEveryHowMany>}) {
+        Of(place).label->setEnabled(true);
+        Of(place).box->setEnabled(true);
+    }
+    show(At<&D::NrOfTicmarks>, 50);
+    show(At<&D::MajorEveryHowMany>, 5);
     if (Design.LinearityExponent[scale] == 0) {
         Design.LinearityExponent[scale] = 1;
     }
-    Box("txtLinearityExponent").Write("1");
+    exponent_->box->Write("1");
 }
 
 } // namespace vernacle

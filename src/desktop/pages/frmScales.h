@@ -2,18 +2,19 @@
 // drawn anew at every change.
 #pragma once
 
-#include <span>
-#include <string>
+#include <vector>
 
 #include "desktop/pages/drawingpage.h"
+#include "desktop/pages/numberframe.h"
 #include "engine/core/fieldplace.h"
 
-class QGridLayout;
+class QBoxLayout;
 class QGroupBox;
 class QLayout;
-class QPushButton;
 
 namespace vernacle {
+
+class Field;
 
 class frmScales : public DrawingPage {
     Q_OBJECT
@@ -29,39 +30,30 @@ protected:
     void Redraw() override;
 
 private:
-    struct Entry;
-    struct Option;
     struct Button;
-    static const Entry kEntries[];
-    static std::span<const Entry> Entries();
     static const Button kButtons[];
-    static const Button kExponentHelp;
-    static const Button kTicsHelp;
 
     // Building
     void Build();
-    QLayout* MakeEntries();
-    void AddEntry(const Entry& entry, QGridLayout& grid, int row);
+    QLayout* MakeFields();
     QLayout* MakeFrames();
-    QPushButton* MakeButtonOf(const Button& button);
-    QGroupBox* MakeYesNo(const char* name, const char* title, const Option& yes, const Option& no);
+    OptionButton* MakeOption(const char* name, const char* caption, void (frmScales::*selected)(),
+                             QBoxLayout& line);
     QLayout* MakeButtons();
 
     // Loading
     void Load();
     void ShowScaleOptions();
-    void Fill(const Entry& entry);
-    void Fill(const char* box);
+    Field& Of(FieldPlace place) const;
+    void Fill(const Field& field);
     void FillPartner();
     void ShowPrintTics();
     void EnableStandardEntries();
 
     // Handlers
-    void NumberChanged(const Entry& entry);
-    void txtLinearityExponentChanged(const Entry& entry);
-    void txtRelFontsizeChanged(const Entry& entry);
+    void Changed(const Field& field);
+    void TakeExponent();
     void txtRelFontSizeUpDownChanged();
-    void txtScaleTitleChanged(const Entry& entry);
     void ScaleClicked(int scale);
     void Option7Clicked();
     void Option8Clicked();
@@ -74,9 +66,16 @@ private:
     void cmdSelectTicsHelpClicked();
     void cmdLinearityExponentClicked();
 
+    std::vector<Field*> fields_;
+    Field* exponent_ = nullptr;
+    Field* relativeSize_ = nullptr;
+    NumberFrame scales_;
     QGroupBox* fraPrintTics_ = nullptr;
-    float linearityExponent_ = 0; // as typed, before its limits
-    float relativeSize_ = 0;      // as the arrows of the relative size ask for it
+    OptionButton* Option7_ = nullptr;
+    OptionButton* Option8_ = nullptr;
+    OptionButton* Option9_ = nullptr;
+    OptionButton* Option10_ = nullptr;
+    float typedExponent_ = 0; // before its limits
 };
 
 } // namespace vernacle

@@ -1,12 +1,11 @@
-#include "desktop/pages/frmScalesRows.h"
-
+// The rows of which the scales page is made.
 #include <QGridLayout>
 #include <QHBoxLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
-#include "desktop/pages/numberframe.h"
+#include "desktop/pages/frmScales.h"
 #include "engine/core/design.h"
 
 namespace vernacle {
@@ -22,126 +21,108 @@ constexpr NumberFrameTraits kNumbers = {.frame = "fraScaleNumber",
                                         .options = kScales,
                                         .tips = kScales};
 
+// clang-format off
+constexpr FieldRow kFields[] = {
+    {.box = "txtScaleLeftEnd",          .caption = "Scale left end (units):",   .place = At<&D::ScaleLeftEnd>,         .text = "0"},
+    {.box = "txtScaleLength",           .caption = "Scale length (units):",     .place = At<&D::ScaleLengthUnits>,     .text = "100"},
+    {.box = "txtBottomToScaleCeiling",  .caption = "Bottom to scale ceiling:",  .place = At<&D::BottomToScaleCeiling>, .limits = {-200, 200}, .unit = "mm", .arrows = {"UpDownBottomToScaleCeiling", {0, 180}}, .text = "50"},
+    {.box = "txtBottomToTitle",         .caption = "Bottom to title:",          .place = At<&D::BottomToTitle>,        .limits = {-200, 200}, .unit = "mm", .arrows = {"UpDownBottomToTitle", {0, 180}}, .text = "25"},
+    {.box = "txtNumberOfTics",          .caption = "Number of tics",            .place = At<&D::NrOfTicmarks>,         .limits = {1, 360}, .unit = "tics", .arrows = {"UpDown3", {0, 360}}, .text = "50"},
+    {.box = "txtMajorTicsEveryHowMany", .caption = "Major tics every how many", .place = At<&D::MajorEveryHowMany>,    .limits = {1, 360}, .unit = "tics", .arrows = {"UpDown4", {1, 50}}, .text = "5"},
+    {.box = "txtLabelsEveryHowMany",    .caption = "Labels every how many",     .place = At<&D::LabelsEveryHowMany>,   .limits = {1, 360}, .unit = "tics", .arrows = {"UpDown5", {1, 50}}, .text = "10"},
+    {.box = "txtLinearityExponent",     .caption = "Linearity exponent",        .place = At<&D::LinearityExponent>,    .limits = {-4, 4}, .topic = 28, .topicTip = "Show linearity graphic", .text = "1"},
+    {.box = "txtRelFontsize",           .caption = "Relative fontsize:",        .place = At<&D::RelativeFontSize>,     .limits = {0.5, 1.5}, .unit = "times the font size", .arrows = {"UpDown6", {5, 15}, "txtRelFontSizeUpDown"}, .text = "1", .showing = Showing::Held},
+    {.box = "txtOffset",                .caption = "Actual/virtual offset:",    .place = At<&D::ActualVirtualOffset>,  .limits = {0, 1000}, .unit = "mm", .arrows = {"UpDown7", {0, 100000}}},
+    {.box = "txtScaleTitle",            .caption = "Scale title:",              .place = At<&D::ScaleTitle>,           .reading = Reading::Text, .longest = 60},
+};
+// clang-format on
+
 } // namespace
+
+// Nothing enables them.
+struct frmScales::Button {
+    const char* name;
+    const char* caption;
+    const char* tip;
+    void (frmScales::*clicked)();
+};
 
 // clang-format off
 const frmScales::Button frmScales::kButtons[] = {
-    {"cmdGetColor",         "Foreground color",              "Select the color for this scale and its label", ScalesButton::Greyed, &frmScales::cmdGetColorClicked},
-    {"cmdRevertToStandard", "Revert to standard scale",      "",                                              ScalesButton::Greyed, &frmScales::cmdRevertToStandardClicked},
-    {"cmddBsetup",          "Create or edit  special scale", "",                                              ScalesButton::Greyed, &frmScales::cmddBsetupClicked},
-    {"cmdSelectTics",       "Select tics",                   "",                                              ScalesButton::Greyed, &frmScales::cmdSelectTicsClicked},
+    {"cmdGetColor",         "Foreground color",              "Select the color for this scale and its label", &frmScales::cmdGetColorClicked},
+    {"cmdRevertToStandard", "Revert to standard scale",      "",                                              &frmScales::cmdRevertToStandardClicked},
+    {"cmddBsetup",          "Create or edit  special scale", "",                                              &frmScales::cmddBsetupClicked},
+    {"cmdSelectTics",       "Select tics",                   "",                                              &frmScales::cmdSelectTicsClicked},
 };
 // clang-format on
-
-const frmScales::Button frmScales::kTicsHelp = {"cmdSelectTicsHelp", "Select tics", "",
-                                                ScalesButton::Illustration,
-                                                &frmScales::cmdSelectTicsHelpClicked};
-const frmScales::Button frmScales::kExponentHelp = {
-    "cmdLinearityExponent", "Linearity exponent", "Show linearity graphic",
-    ScalesButton::Illustration, &frmScales::cmdLinearityExponentClicked};
-
-// clang-format off
-const frmScales::Entry frmScales::kEntries[] = {
-    {{"txtScaleLeftEnd",          "lblScaleLeftEnd",          "Scale left end (units):",    nullptr,                      {},          {},          ""},                                     "0",   At<&D::ScaleLeftEnd>,         &frmScales::NumberChanged},
-    {{"txtScaleLength",           "lblScaleLength",           "Scale length (units):",      nullptr,                      {},          {},          ""},                                     "100", At<&D::ScaleLengthUnits>,     &frmScales::NumberChanged},
-    {{"txtBottomToScaleCeiling",  "lblBottomToScaleCeiling",  "Bottom to scale ceiling:",   "UpDownBottomToScaleCeiling", {0, 180},    {-200, 200}, "mm"},                                   "50",  At<&D::BottomToScaleCeiling>, &frmScales::NumberChanged},
-    {{"txtBottomToTitle",         "lblBottomToTitle",         "Bottom to title:",           "UpDownBottomToTitle",        {0, 180},    {-200, 200}, "mm"},                                   "25",  At<&D::BottomToTitle>,        &frmScales::NumberChanged},
-    {{"txtNumberOfTics",          "lblNumberOfTics",          "Number of tics",             "UpDown3",                    {0, 360},    {1, 360},    "tics"},                                 "50",  At<&D::NrOfTicmarks>,         &frmScales::NumberChanged},
-    {{"txtMajorTicsEveryHowMany", "lblMajorTicsEveryHowMany", "Major tics every how many",  "UpDown4",                    {1, 50},     {1, 360},    "tics"},                                 "5",   At<&D::MajorEveryHowMany>,    &frmScales::NumberChanged},
-    {{"txtLabelsEveryHowMany",    "lblLabelsEveryHowMany",    "Labels every how many",      "UpDown5",                    {1, 50},     {1, 360},    "tics"},                                 "10",  At<&D::LabelsEveryHowMany>,   &frmScales::NumberChanged},
-    {{"txtLinearityExponent",     "lblLinearityExponent",     "Linearity exponent",         nullptr,                      {},          {-4, 4},     ""},                                     "1",   At<&D::LinearityExponent>,    &frmScales::txtLinearityExponentChanged, &kExponentHelp},
-    {{"txtRelFontsize",           "lblRelFontsize",           "Relative fontsize:",         "UpDown6",                    {5, 15},     {0.5, 1.5},  "times the font size", "txtRelFontSizeUpDown"}, "1",   At<&D::RelativeFontSize>,     &frmScales::txtRelFontsizeChanged},
-    {{"txtOffset",                "lblOffset",                "Actual/virtual offset:",     "UpDown7",                    {0, 100000}, {0, 1000},   "mm"},                                   "",    At<&D::ActualVirtualOffset>,  &frmScales::NumberChanged},
-    {{"txtScaleTitle",            "lblScaleTitle",            "Scale title:",               nullptr,                      {},          {},          ""},                                     "",    At<&D::ScaleTitle>,           &frmScales::txtScaleTitleChanged},
-};
-// clang-format on
-
-std::span<const frmScales::Entry> frmScales::Entries() {
-    return kEntries;
-}
 
 void frmScales::Build() {
-    Column().addWidget(MakeNumberFrame(kNumbers, [this](int scale) { ScaleClicked(scale); }));
-    Column().addLayout(MakeEntries());
+    scales_ = MakeNumberFrame(kNumbers, [this](int scale) { ScaleClicked(scale); });
+    Column().addWidget(scales_.frame);
+    Column().addLayout(MakeFields());
     Column().addLayout(MakeFrames());
     Column().addLayout(MakeButtons());
 }
 
-QLayout* frmScales::MakeEntries() {
+QLayout* frmScales::MakeFields() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
-    int row = 0;
-    for (const Entry& entry : Entries()) {
-        AddEntry(entry, *grid, row++);
+    for (const FieldRow& row : kFields) {
+        auto* field = new Field(row, *this);
+        field->AddTo(*grid, static_cast<int>(fields_.size()));
+        connect(field->box, &EntryBox::Changed, this, [this, field] { Changed(*field); });
+        fields_.push_back(field);
     }
+    exponent_ = &Of(At<&D::LinearityExponent>);
+    relativeSize_ = &Of(At<&D::RelativeFontSize>);
+    connect(exponent_->help, &QPushButton::clicked, this, &frmScales::cmdLinearityExponentClicked);
+    connect(relativeSize_->partner, &EntryBox::Changed, this,
+            &frmScales::txtRelFontSizeUpDownChanged);
     return grid;
 }
 
-void frmScales::AddEntry(const Entry& entry, QGridLayout& grid, int row) {
-    const bool isText = std::holds_alternative<std::string*>(entry.field.In(Design, 1));
-    const EntryControls controls =
-        isText ? AddTextRow(entry.row, grid, row) : AddEntryRow(entry.row, grid, row, *this);
-    controls.box.setText(QString::fromUtf8(entry.text));
-    connect(&controls.box, &EntryBox::Changed, this,
-            [this, &entry] { (this->*entry.changed)(entry); });
-    if (controls.partner) {
-        connect(controls.partner, &EntryBox::Changed, this,
-                &frmScales::txtRelFontSizeUpDownChanged);
-    }
-    if (entry.help) {
-        grid.addWidget(MakeButtonOf(*entry.help), row, 2);
-    }
-}
-
 QLayout* frmScales::MakeFrames() {
-    fraPrintTics_ =
-        MakeYesNo("fraPrintTics", "Print tics and arcs:", {"Option7", &frmScales::Option7Clicked},
-                  {"Option8", &frmScales::Option8Clicked});
+    fraPrintTics_ = MakeFrame("fraPrintTics", QStringLiteral("Print tics and arcs:"));
+    auto* tics = new QHBoxLayout(fraPrintTics_);
+    Option7_ = MakeOption("Option7", "Yes", &frmScales::Option7Clicked, *tics);
+    Option8_ = MakeOption("Option8", "No", &frmScales::Option8Clicked, *tics);
+    tics->addStretch();
+    QGroupBox* fraPrintArcs = MakeFrame("fraPrintArcs", QStringLiteral("Allow arcs:"));
+    auto* arcs = new QHBoxLayout(fraPrintArcs);
+    Option9_ = MakeOption("Option9", "Yes", &frmScales::Option9Clicked, *arcs);
+    Option10_ = MakeOption("Option10", "No", &frmScales::Option10Clicked, *arcs);
+    arcs->addStretch();
     auto* frames = new QHBoxLayout;
     frames->addWidget(fraPrintTics_);
-    frames->addWidget(MakeYesNo("fraPrintArcs",
-                                "Allow arcs:", {"Option9", &frmScales::Option9Clicked},
-                                {"Option10", &frmScales::Option10Clicked}));
+    frames->addWidget(fraPrintArcs);
     return frames;
 }
 
-QGroupBox* frmScales::MakeYesNo(const char* name, const char* title, const Option& yes,
-                                const Option& no) {
-    QGroupBox* frame = MakeFrame(name, QString::fromUtf8(title));
-    auto* line = new QHBoxLayout(frame);
-    const auto add = [&](const Option& option, const QString& caption) {
-        auto* button = new OptionButton(option.name, caption);
-        button->OnSelect([this, selected = option.selected] { (this->*selected)(); });
-        line->addWidget(button);
-    };
-    add(yes, QStringLiteral("Yes"));
-    add(no, QStringLiteral("No"));
-    line->addStretch();
-    return frame;
+OptionButton* frmScales::MakeOption(const char* name, const char* caption,
+                                    void (frmScales::*selected)(), QBoxLayout& line) {
+    auto* option = new OptionButton(name, QString::fromUtf8(caption));
+    option->OnSelect([this, selected] { (this->*selected)(); });
+    line.addWidget(option);
+    return option;
 }
 
 QLayout* frmScales::MakeButtons() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     int place = 0;
-    for (const Button& button : kButtons) {
-        grid->addWidget(MakeButtonOf(button), place / 2, place % 2);
+    for (const Button& row : kButtons) {
+        QPushButton* button =
+            MakeButton(row.name, QString::fromUtf8(row.caption), QString::fromUtf8(row.tip));
+        button->setEnabled(false);
+        connect(button, &QPushButton::clicked, this, row.clicked);
+        grid->addWidget(button, place / 2, place % 2);
         ++place;
     }
-    grid->addWidget(MakeButtonOf(kTicsHelp), 1, 2); // beside cmdSelectTics
+    QPushButton* help = MakeHelpButton("cmdSelectTicsHelp", QStringLiteral("Select tics"));
+    connect(help, &QPushButton::clicked, this, &frmScales::cmdSelectTicsHelpClicked);
+    grid->addWidget(help, 1, 2); // beside cmdSelectTics
     return grid;
-}
-
-QPushButton* frmScales::MakeButtonOf(const Button& button) {
-    const QString caption = QString::fromUtf8(button.caption);
-    QPushButton* made = button.kind == ScalesButton::Illustration
-                            ? MakeHelpButton(button.name, caption)
-                            : MakeButton(button.name, caption);
-    made->setToolTip(QString::fromUtf8(button.tip));
-    made->setEnabled(button.kind != ScalesButton::Greyed);
-    connect(made, &QPushButton::clicked, this, button.clicked);
-    return made;
 }
 
 } // namespace vernacle

@@ -12,7 +12,6 @@
 #include "desktop/kit/entryrow.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
-#include "desktop/pages/numberframe.h"
 #include "desktop/system/dialogs.h"
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
@@ -57,7 +56,8 @@ frmText::frmText() : TextKeepingPage(kTraits, TextTraits()) {
 }
 
 void frmText::Build() {
-    Column().addWidget(MakeNumberFrame(kNumbers, [this](int entry) { OptionClicked(entry); }));
+    numbers_ = MakeNumberFrame(kNumbers, [this](int entry) { OptionClicked(entry); });
+    Column().addWidget(numbers_.frame);
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
@@ -89,9 +89,9 @@ void frmText::Load() {
                 "lblBottomToText", "txtBottomToText", "UpDown2", "lblRelSize", "txtRelSize",
                 "txtRelSizeUpDown", "UpDown3", "lblTextWidthmm", "cmdCenterText", "cmdGetColor"},
                false);
-    OptionNumber(1).Select();
+    numbers_.Option(1).Select();
     for (int entry = 1; entry <= kTexts; ++entry) {
-        OptionNumber(entry).setEnabled(false);
+        numbers_.Option(entry).setEnabled(false);
     }
     SetEnabled({"Label1", "fraTextNumber"}, false);
     Redraw();

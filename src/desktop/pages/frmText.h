@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/pages/drawingpage.h"
+#include "desktop/pages/numberframe.h"
 
 class QLabel;
 
@@ -32,6 +33,7 @@ private:
     float DrawnWidthMm(int entry) const;
 
     QLabel* lblTextWidthmm_ = nullptr;
+    NumberFrame numbers_;
     std::int16_t CurrentTextEntry_ = 1;
     int textsAtLoad_ = 0;              // that are not empty
     Table<float, kTexts> TextWidthMm_; // as last computed

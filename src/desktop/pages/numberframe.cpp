@@ -28,13 +28,15 @@ QPalette PaperPalette() {
 
 } // namespace
 
-QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected) {
-    QGroupBox* frame = MakeFrame(traits.frame, QStringLiteral("Edit"));
-    frame->setToolTip(QStringLiteral("Select the scale to edit"));
-    auto* line = new QHBoxLayout(frame);
-    line->addWidget(MakeLabel(traits.label, QString::fromUtf8(traits.labelText)));
+NumberFrame MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected) {
+    NumberFrame made;
+    made.frame = MakeFrame(traits.frame, QStringLiteral("Edit"));
+    made.frame->setToolTip(QStringLiteral("Select the scale to edit"));
+    made.label = MakeLabel(traits.label, QString::fromUtf8(traits.labelText));
+    auto* line = new QHBoxLayout(made.frame);
+    line->addWidget(made.label);
     auto* paper = new QFrame;
-    paper->setObjectName(frame->objectName() + QStringLiteral("Paper"));
+    paper->setObjectName(made.frame->objectName() + QStringLiteral("Paper"));
     paper->setAutoFillBackground(true);
     paper->setPalette(PaperPalette());
     auto* options = new QGridLayout(paper);
@@ -49,9 +51,10 @@ QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(i
         option->setAccessibleName(QString::fromUtf8(traits.spoken) + shown);
         option->OnSelect([selected, number] { selected(number); });
         options->addWidget(option, (number - 1) / perLine, (number - 1) % perLine);
+        made.options.push_back(option);
     }
     line->addWidget(paper, 1);
-    return frame;
+    return made;
 }
 
 } // namespace vernacle

@@ -3,10 +3,14 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 class QGroupBox;
+class QLabel;
 
 namespace vernacle {
+
+class OptionButton;
 
 struct NumberFrameTraits {
     const char* frame;
@@ -17,6 +21,16 @@ struct NumberFrameTraits {
     int tips; // as many of the first options have one
 };
 
-QGroupBox* MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected);
+struct NumberFrame {
+    QGroupBox* frame = nullptr;
+    QLabel* label = nullptr;
+    std::vector<OptionButton*> options;
+
+    OptionButton& Option(int number) const {
+        return *options.at(static_cast<std::size_t>(number) - 1);
+    }
+};
+
+NumberFrame MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected);
 
 } // namespace vernacle

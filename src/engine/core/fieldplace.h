@@ -37,8 +37,8 @@ struct FieldPlace {
 template <auto Member>
 constexpr FieldPlace At = {[](DesignRecord& design, int outer, int inner) -> FieldPointer {
     auto& field = design.*Member;
-    using Field = std::remove_reference_t<decltype(field)>;
-    if constexpr (std::is_constructible_v<FieldPointer, Field*>) {
+    using Kept = std::remove_reference_t<decltype(field)>;
+    if constexpr (std::is_constructible_v<FieldPointer, Kept*>) {
         return &field;
     } else if constexpr (requires { FieldPointer(&field[outer]); }) {
         return &field[outer];
