@@ -112,7 +112,7 @@ void Field::Take(const FieldPointer& place) const {
         return;
     }
     const auto entered = static_cast<float>(NumberIn(place));
-    StoreIn(place, row.limits.Held(NumberIn(place)));
+    Hold(place);
     if (row.showing != Showing::Typed) {
         box->ShowHeld(entered, static_cast<float>(NumberIn(place)));
     }
@@ -134,6 +134,10 @@ void Field::Read(const FieldPointer& place) const {
         *std::get<std::string*>(place) = Trimmed(text);
         return;
     }
+}
+
+void Field::Hold(const FieldPointer& place) const {
+    StoreIn(place, row.limits.Held(NumberIn(place)));
 }
 
 void Field::Fill(const FieldPointer& place) const {

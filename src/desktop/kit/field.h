@@ -86,6 +86,9 @@ public:
     // The same, but neither held nor shown.
     void Read(const FieldPointer& place) const;
 
+    // Holds the number there to the row's limits.
+    void Hold(const FieldPointer& place) const;
+
     // Writes the value of the place into the box.
     void Fill(const FieldPointer& place) const;
 

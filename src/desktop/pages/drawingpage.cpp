@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/picturebox.h"
 #include "desktop/navigation/navigator.h"
@@ -40,16 +39,6 @@ void DrawingPage::Redraw() {
 void DrawingPage::Illustrate(std::int16_t topic) {
     Design.HelpTopic = topic;
     ShowModal("frmHelp");
-}
-
-EntryBox& DrawingPage::Box(const char* name) const {
-    return *findChild<EntryBox*>(QLatin1String(name));
-}
-
-void DrawingPage::SetEnabled(std::initializer_list<const char*> controls, bool enabled) {
-    for (const char* control : controls) {
-        findChild<QWidget*>(QLatin1String(control))->setEnabled(enabled);
-    }
 }
 
 void TextKeepingPage::TakeCopies() {

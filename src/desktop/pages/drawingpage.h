@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 
 #include "desktop/pages/designpage.h"
 #include "engine/core/freetexts.h"
@@ -13,7 +12,6 @@ class QVBoxLayout;
 
 namespace vernacle {
 
-class EntryBox;
 class PictureBox;
 
 // What of the logical area shows the plate with its trim marks, at the widest aspect too.
@@ -36,9 +34,6 @@ protected:
 
     // Opens the illustrated help on that topic.
     static void Illustrate(std::int16_t topic);
-
-    EntryBox& Box(const char* name) const;
-    void SetEnabled(std::initializer_list<const char*> controls, bool enabled);
 
     PictureBox& Plate() { return *plate_; }
     PageCopies copies_;

@@ -5,13 +5,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
-#include "desktop/kit/entryrow.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/pathlabel.h"
 #include "desktop/system/dialogs.h"
-#include "engine/base/numbertext.h"
-#include "engine/core/entry.h"
 
 namespace vernacle {
 
@@ -32,36 +29,25 @@ constexpr PageTraits kTraits = {.form = "frmGraphic",
                                 .printing = Printing::GreyedAndDead,
                                 .ownTips = kOwnTips};
 
-// When the measure is held to its limits; by the toolbar every one is.
-enum class Holding { AtOnce, ByToolbar };
+// The toolbar holds all of them to their limits.
+// clang-format off
+constexpr FieldRow kMeasures[] = {
+    {.box = "txtLeftToImage",   .caption = "Left to graphic:",       .place = At<&D::LeftToGraphic>,   .limits = {0, 180}, .unit = "mm", .arrows = {"UpDown1", {0, 180}, "txtLeftToImageUpDown"},   .reading = Reading::Plain, .holding = Holding::ByPage},
+    {.box = "txtBottomToImage", .caption = "Bottom to graphic top:", .place = At<&D::BottomToGraphic>, .limits = {0, 120}, .unit = "mm", .arrows = {"UpDown2", {0, 180}, "txtBottomToImageUpDown"}, .reading = Reading::Plain, .holding = Holding::ByPage},
+    {.box = "txtGraphicWidth",  .caption = "Graphic width:",         .place = At<&D::GraphicWidth>,    .limits = {2, 180}, .unit = "mm", .arrows = {"UpDown3", {0, 180}, "txtGraphicWidthUpDown"},  .reading = Reading::Plain},
+    {.box = "txtGraphicHeight", .caption = "Graphic height:",        .place = At<&D::GraphicHeight>,   .limits = {2, 180}, .unit = "mm", .arrows = {"UpDown4", {0, 180}, "txtGraphicHeightUpDown"}, .reading = Reading::Plain},
+};
+// clang-format on
+
+FieldPointer PlaceOf(const Field& measure) {
+    return measure.row.place.In(Design);
+}
 
 std::string UpperCased(const std::string& path) {
     return QString::fromStdString(path).toUpper().toStdString();
 }
 
 } // namespace
-
-struct frmGraphic::Measure {
-    EntryRow row;
-    float D::*field = nullptr;
-    Holding holding = Holding::AtOnce;
-
-    float& Value() const { return Design.*field; }
-
-    // Takes what is typed.
-    void Take(float number) const {
-        Value() = holding == Holding::AtOnce ? row.limits.Held(number) : number;
-    }
-};
-
-// clang-format off
-const frmGraphic::Measure frmGraphic::kMeasures[] = {
-    {{"txtLeftToImage",   "lblLeftToImage",   "Left to graphic:",       "UpDown1", {0, 180}, {0, 180}, "mm", "txtLeftToImageUpDown"},   &D::LeftToGraphic,   Holding::ByToolbar},
-    {{"txtBottomToImage", "lblBottomToImage", "Bottom to graphic top:", "UpDown2", {0, 180}, {0, 120}, "mm", "txtBottomToImageUpDown"}, &D::BottomToGraphic, Holding::ByToolbar},
-    {{"txtGraphicWidth",  "lblGraphicWidth",  "Graphic width:",         "UpDown3", {0, 180}, {2, 180}, "mm", "txtGraphicWidthUpDown"},  &D::GraphicWidth,    Holding::AtOnce},
-    {{"txtGraphicHeight", "lblGraphicHeight", "Graphic height:",        "UpDown4", {0, 180}, {2, 180}, "mm", "txtGraphicHeightUpDown"}, &D::GraphicHeight,   Holding::AtOnce},
-};
-// clang-format on
 
 frmGraphic::frmGraphic() : TextKeepingPage(kTraits, TextTraits()) {
     Build();
@@ -72,22 +58,24 @@ void frmGraphic::Build() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
-    for (const Measure& measure : kMeasures) {
-        const EntryControls controls = AddEntryRow(measure.row, *grid, grid->rowCount(), *this);
-        connect(&controls.box, &EntryBox::Changed, this,
-                [this, &measure] { MeasureChanged(measure); });
-        connect(controls.partner, &EntryBox::Changed, this,
-                [this, &measure] { PartnerChanged(measure); });
+    for (const FieldRow& row : kMeasures) {
+        auto* measure = new Field(row, *this);
+        measure->AddTo(*grid, grid->rowCount());
+        connect(measure->box, &EntryBox::Changed, this,
+                [this, measure] { MeasureChanged(*measure); });
+        connect(measure->partner, &EntryBox::Changed, this,
+                [this, measure] { PartnerChanged(*measure); });
+        measures_.push_back(measure);
     }
     Column().addLayout(grid);
-    QPushButton* get = MakeButton("cmdGetGraphic", QStringLiteral("Browse to get graphic"),
-                                  QStringLiteral("Get a graphic to place on the plate"));
-    QPushButton* remove = MakeButton("cmdRemoveGraphic", QStringLiteral("Remove graphic"));
-    connect(get, &QPushButton::clicked, this, &frmGraphic::cmdGetGraphicClicked);
-    connect(remove, &QPushButton::clicked, this, &frmGraphic::cmdRemoveGraphicClicked);
+    cmdGetGraphic_ = MakeButton("cmdGetGraphic", QStringLiteral("Browse to get graphic"),
+                                QStringLiteral("Get a graphic to place on the plate"));
+    cmdRemoveGraphic_ = MakeButton("cmdRemoveGraphic", QStringLiteral("Remove graphic"));
+    connect(cmdGetGraphic_, &QPushButton::clicked, this, &frmGraphic::cmdGetGraphicClicked);
+    connect(cmdRemoveGraphic_, &QPushButton::clicked, this, &frmGraphic::cmdRemoveGraphicClicked);
     lblGraphicName_ = new PathLabel("lblGraphicName");
-    Column().addWidget(get);
-    Column().addWidget(remove);
+    Column().addWidget(cmdGetGraphic_);
+    Column().addWidget(cmdRemoveGraphic_);
     Column().addWidget(lblGraphicName_);
 }
 
@@ -96,12 +84,12 @@ void frmGraphic::Load() {
     lblGraphicName_->setText(Design.GraphicFileName.empty()
                                  ? QStringLiteral("(No graphic currently selected)")
                                  : QString::fromStdString(UpperCased(Design.GraphicFileName)));
-    for (const Measure& measure : kMeasures) {
-        Box(measure.row.box).Write(PlainNumber(measure.Value())); // and its partner by that
-        SetEnabled({measure.row.box, measure.row.label, measure.row.partner, measure.row.arrows},
-                   false);
+    for (const Field* measure : measures_) {
+        measure->Fill(PlaceOf(*measure)); // and its partner by that
+        measure->Disable();
     }
-    SetEnabled({"cmdGetGraphic", "cmdRemoveGraphic"}, false);
+    cmdGetGraphic_->setEnabled(false);
+    cmdRemoveGraphic_->setEnabled(false);
     Redraw();
 }
 
@@ -111,25 +99,28 @@ void frmGraphic::BeforeKey() {
 }
 
 void frmGraphic::LimitGraphicEntries() {
-    for (const Measure& measure : kMeasures) {
-        std::string text = Box(measure.row.box).Text();
-        ParseEntry(text, measure.Value());
-        measure.Value() = measure.row.limits.Held(measure.Value());
+    for (const Field* measure : measures_) {
+        std::string text = measure->box->Text();
+        ParseInto(text, PlaceOf(*measure));
+        measure->Hold(PlaceOf(*measure));
     }
-    for (const Measure& measure : kMeasures) {
-        Box(measure.row.box).Write(PlainNumber(measure.Value()));
+    for (const Field* measure : measures_) {
+        measure->Fill(PlaceOf(*measure));
     }
 }
 
-void frmGraphic::MeasureChanged(const Measure& measure) {
-    measure.Take(Box(measure.row.box).Number());
-    Box(measure.row.partner).Show(PlainNumber(measure.Value()));
+void frmGraphic::MeasureChanged(const Field& measure) {
+    measure.Take(PlaceOf(measure));
+    measure.partner->Show(PlainText(PlaceOf(measure)));
     Redraw();
 }
 
-void frmGraphic::PartnerChanged(const Measure& measure) {
-    measure.Take(Box(measure.row.partner).Number());
-    Box(measure.row.box).Show(PlainNumber(measure.Value()));
+void frmGraphic::PartnerChanged(const Field& measure) {
+    StoreIn(PlaceOf(measure), double{measure.partner->Number()});
+    if (measure.row.holding == Holding::AtOnce) {
+        measure.Hold(PlaceOf(measure));
+    }
+    measure.box->Show(PlainText(PlaceOf(measure)));
 }
 
 void frmGraphic::cmdLeftToImageClicked() {
@@ -163,8 +154,8 @@ void frmGraphic::cmdRemoveGraphicClicked() {
     Design.GraphicFileName.clear();
     lblGraphicName_->clear();
     Design.DrawGraphic = "N";
-    for (const Measure& measure : kMeasures) {
-        measure.Value() = 0;
+    for (const Field* measure : measures_) {
+        StoreIn(PlaceOf(*measure), 0);
     }
     Redraw();
 }

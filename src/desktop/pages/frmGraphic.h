@@ -1,11 +1,16 @@
 // The graphic page: one picture on the plate, its file, place and size.
 #pragma once
 
+#include <vector>
+
 #include "desktop/pages/drawingpage.h"
 
 class QLabel;
+class QPushButton;
 
 namespace vernacle {
+
+class Field;
 
 class frmGraphic : public TextKeepingPage {
     Q_OBJECT
@@ -23,19 +28,19 @@ protected:
     void BeforeKey() override;
 
 private:
-    struct Measure;
-    static const Measure kMeasures[];
-
     void Build();
     void Load();
 
     void LimitGraphicEntries();
 
-    void MeasureChanged(const Measure& measure);
-    void PartnerChanged(const Measure& measure);
+    void MeasureChanged(const Field& measure);
+    void PartnerChanged(const Field& measure);
     void cmdGetGraphicClicked();
     void cmdRemoveGraphicClicked();
 
+    std::vector<Field*> measures_;
+    QPushButton* cmdGetGraphic_ = nullptr;
+    QPushButton* cmdRemoveGraphic_ = nullptr;
     QLabel* lblGraphicName_ = nullptr;
 };
 

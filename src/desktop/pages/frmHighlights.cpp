@@ -5,8 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
-#include "desktop/kit/entryrow.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/kit/picturebox.h"
@@ -41,23 +40,17 @@ constexpr double kTenths = 0.1; // of a millimetre, that the arrows of the heigh
 // The colour sample stands beside the plate.
 constexpr LogicalArea kArea{-400, 900, 9300, 7000};
 
-} // namespace
-
-struct frmHighlights::Entry {
-    EntryRow row;
-    FieldPlace field = {};
-    void (frmHighlights::*changed)(const Entry& entry) = nullptr;
-};
-
 // What is typed has no limits.
 // clang-format off
-const frmHighlights::Entry frmHighlights::kEntries[] = {
-    {{"txtStart1",   "lblStart",  "Start %:",   "UpDown1", {0, 100}, {}, "%",  nullptr,       1, Reading::Plain}, At<&D::HighlightStart>,   &frmHighlights::EntryChanged},
-    {{"txtStop1",    "lblStop",   "Stop %:",    "UpDown2", {0, 100}, {}, "%",  nullptr,       1, Reading::Plain}, At<&D::HighlightStop>,    &frmHighlights::EntryChanged},
-    {{"txtCeiling1", "lblBottom", "Bottom mm:", "UpDown3", {0, 180}, {}, "mm", nullptr,       1, Reading::Plain}, At<&D::HighlightCeiling>, &frmHighlights::EntryChanged},
-    {{"txtLength1",  "lblHeight", "Height mm:", "UpDown4", {0, 180}, {}, "mm", "txtLength10", kTenths},           At<&D::HighlightLength>,  &frmHighlights::txtLength1Changed},
+constexpr FieldRow kFields[] = {
+    {.box = "txtStart1",   .caption = "Start %:",   .place = At<&D::HighlightStart>,   .unit = "%",  .arrows = {"UpDown1", {0, 100}},                         .label = "lblStart",  .reading = Reading::Plain},
+    {.box = "txtStop1",    .caption = "Stop %:",    .place = At<&D::HighlightStop>,    .unit = "%",  .arrows = {"UpDown2", {0, 100}},                         .label = "lblStop",   .reading = Reading::Plain},
+    {.box = "txtCeiling1", .caption = "Bottom mm:", .place = At<&D::HighlightCeiling>, .unit = "mm", .arrows = {"UpDown3", {0, 180}},                         .label = "lblBottom", .reading = Reading::Plain},
+    {.box = "txtLength1",  .caption = "Height mm:", .place = At<&D::HighlightLength>,  .unit = "mm", .arrows = {"UpDown4", {0, 180}, "txtLength10", kTenths}, .label = "lblHeight", .reading = Reading::Plain},
 };
 // clang-format on
+
+} // namespace
 
 frmHighlights::frmHighlights() : TextKeepingPage(kTraits, HighlightsTraits(), kArea) {
     Build();
@@ -70,20 +63,20 @@ void frmHighlights::Build() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
-    for (const Entry& entry : kEntries) {
-        const EntryControls controls = AddEntryRow(entry.row, *grid, grid->rowCount(), *this);
-        connect(&controls.box, &EntryBox::Changed, this,
-                [this, &entry] { (this->*entry.changed)(entry); });
-        if (controls.partner) {
-            connect(controls.partner, &EntryBox::Changed, this, &frmHighlights::txtLength10Changed);
-        }
+    for (const FieldRow& row : kFields) {
+        auto* field = new Field(row, *this);
+        field->AddTo(*grid, grid->rowCount());
+        connect(field->box, &EntryBox::Changed, this, [this, field] { Changed(*field); });
+        fields_.push_back(field);
     }
+    length_ = &FieldOf(fields_, At<&D::HighlightLength>);
+    connect(length_->partner, &EntryBox::Changed, this, &frmHighlights::txtLength10Changed);
     Column().addLayout(grid);
-    QPushButton* colour = MakeButton("cmdGetColor", QStringLiteral("Color"));
+    cmdGetColor_ = MakeButton("cmdGetColor", QStringLiteral("Color"));
     QPushButton* info = MakeButton("cmdShowTicInfo", QStringLiteral("Show ticmark information"));
-    connect(colour, &QPushButton::clicked, this, &frmHighlights::cmdGetColorClicked);
+    connect(cmdGetColor_, &QPushButton::clicked, this, &frmHighlights::cmdGetColorClicked);
     connect(info, &QPushButton::clicked, this, &frmHighlights::cmdShowTicInfoClicked);
-    Column().addWidget(colour);
+    Column().addWidget(cmdGetColor_);
     Column().addWidget(info);
 }
 
@@ -91,30 +84,30 @@ void frmHighlights::Load() {
     TakeCopies();
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
         numbers_.Option(highlight).SetInk(ToQColor(Design.HighlightColor[highlight]));
-        numbers_.Option(highlight).setEnabled(false);
     }
-    for (const Entry& entry : kEntries) {
-        SetEnabled({entry.row.label, entry.row.box, entry.row.arrows}, false);
+    for (const Field* field : fields_) {
+        field->Disable();
     }
-    SetEnabled({"Label1", "fraTextNumber", "txtLength10", "cmdGetColor"}, false);
+    numbers_.Disable();
+    cmdGetColor_->setEnabled(false);
     Redraw();
 }
 
 void frmHighlights::FillHighlightEntry() {
-    for (const Entry& entry : kEntries) {
-        SetEnabled({entry.row.label, entry.row.box, entry.row.arrows}, true);
+    for (const Field* field : fields_) {
+        field->Enable();
     }
-    SetEnabled({"cmdGetColor"}, true);
-    for (const Entry& entry : kEntries) {
-        const double value = NumberIn(entry.field.In(Design, CurrentHighlight_));
-        Box(entry.row.box).Show(PlainNumber(static_cast<float>(value)));
+    length_->partner->setEnabled(false); // the program alone fills it
+    cmdGetColor_->setEnabled(true);
+    for (const Field* field : fields_) {
+        field->box->Show(PlainText(field->row.place.In(Design, CurrentHighlight_)));
     }
     ShowTenfoldLength();
 }
 
 void frmHighlights::ShowTenfoldLength() {
     const double tenths = double{Design.HighlightLength[CurrentHighlight_]} * 10;
-    Box("txtLength10").Show(PlainNumber(static_cast<float>(tenths)));
+    length_->partner->Show(PlainNumber(static_cast<float>(tenths)));
 }
 
 void frmHighlights::OptionClicked(int highlight) {
@@ -125,28 +118,21 @@ void frmHighlights::OptionClicked(int highlight) {
     }
 }
 
-void frmHighlights::Store(const Entry& entry) {
-    StoreIn(entry.field.In(Design, CurrentHighlight_), double{Box(entry.row.box).Number()});
-}
-
-void frmHighlights::EntryChanged(const Entry& entry) {
-    Store(entry);
-    Redraw();
-}
-
-void frmHighlights::txtLength1Changed(const Entry& entry) {
-    Store(entry);
-    ShowTenfoldLength();
+void frmHighlights::Changed(const Field& field) {
+    field.Take(field.row.place.In(Design, CurrentHighlight_));
+    if (&field == length_) {
+        ShowTenfoldLength();
+    }
     Redraw();
 }
 
 // Only the program fills that box: a text that is no number is a run-time error.
 void frmHighlights::txtLength10Changed() {
-    const auto tenths = StrictNumber(Box("txtLength10").Text());
+    const auto tenths = StrictNumber(length_->partner->Text());
     if (!tenths) {
         ThrowTypeMismatch();
     }
-    Box("txtLength1").Show(PlainNumber(static_cast<float>(*tenths * kTenths)));
+    length_->box->Show(PlainNumber(static_cast<float>(*tenths * kTenths)));
 }
 
 void frmHighlights::cmdGetColorClicked() {

@@ -3,9 +3,12 @@
 
 #include "desktop/pages/drawingpage.h"
 #include "desktop/pages/numberframe.h"
-#include "engine/core/fieldplace.h"
+
+class QPushButton;
 
 namespace vernacle {
+
+class Field;
 
 class frmHighlights : public TextKeepingPage {
     Q_OBJECT
@@ -17,25 +20,23 @@ protected:
     void Redraw() override;
 
 private:
-    struct Entry;
-    static const Entry kEntries[];
-
     void Build();
     void Load();
 
     void FillHighlightEntry();
 
     void OptionClicked(int highlight);
-    void EntryChanged(const Entry& entry);
-    void txtLength1Changed(const Entry& entry);
+    void Changed(const Field& field);
     void txtLength10Changed();
     void cmdGetColorClicked();
     void cmdShowTicInfoClicked();
 
-    void Store(const Entry& entry);
     void ShowTenfoldLength();
 
     NumberFrame numbers_;
+    std::vector<Field*> fields_;
+    Field* length_ = nullptr;
+    QPushButton* cmdGetColor_ = nullptr;
     std::int16_t CurrentHighlight_ = 0; // none is selected
 };
 

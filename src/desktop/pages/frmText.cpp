@@ -8,14 +8,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
-#include "desktop/kit/entryrow.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/system/dialogs.h"
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
-#include "engine/core/entry.h"
 #include "surfaces/typeface.h"
 
 namespace vernacle {
@@ -38,10 +36,10 @@ constexpr NumberFrameTraits kNumbers = {.frame = "fraTextNumber",
 constexpr double kTenths = 0.1; // that the arrows of the size step
 
 // clang-format off
-constexpr EntryRow kText   = {"txtText",         "lblText",         "Text:",           nullptr,   {}};
-constexpr EntryRow kLeft   = {"txtLeftToText",   "lblLeftToText",   "Left to text:",   "UpDown1", {-100, 180}, {.lowest = -100}, "mm",                  nullptr,            1,       Reading::Plain, Rewriting::AtOnce};
-constexpr EntryRow kBottom = {"txtBottomToText", "lblBottomToText", "Bottom to text:", "UpDown2", {0, 180},    {},               "mm",                  nullptr,            1,       Reading::Plain};
-constexpr EntryRow kSize   = {"txtRelSize",      "lblRelSize",      "Relative size:",  "UpDown3", {1, 20},     {.highest = 2},   "times the font size", "txtRelSizeUpDown", kTenths, Reading::Entry, Rewriting::AtOnce};
+constexpr FieldRow kText   = {.box = "txtText",         .caption = "Text:",           .reading = Reading::Trimmed};
+constexpr FieldRow kLeft   = {.box = "txtLeftToText",   .caption = "Left to text:",   .limits = {.lowest = -100}, .unit = "mm", .arrows = {"UpDown1", {-100, 180}}, .reading = Reading::Plain, .showing = Showing::HeldAtOnce};
+constexpr FieldRow kBottom = {.box = "txtBottomToText", .caption = "Bottom to text:", .unit = "mm", .arrows = {"UpDown2", {0, 180}}, .reading = Reading::Plain};
+constexpr FieldRow kSize   = {.box = "txtRelSize",      .caption = "Relative size:",  .limits = {.highest = 2}, .unit = "times the font size", .arrows = {"UpDown3", {1, 20}, "txtRelSizeUpDown", kTenths}, .showing = Showing::HeldAtOnce};
 // clang-format on
 
 float RoundedToTenths(float value) {
@@ -61,50 +59,54 @@ void frmText::Build() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
-    connect(&AddTextRow(kText, *grid, 0).box, &EntryBox::Changed, this, &frmText::txtTextChanged);
-    connect(&AddEntryRow(kLeft, *grid, 1, *this).box, &EntryBox::Changed, this,
-            &frmText::txtLeftToTextChanged);
-    connect(&AddEntryRow(kBottom, *grid, 2, *this).box, &EntryBox::Changed, this,
-            &frmText::txtBottomToTextChanged);
-    const EntryControls size = AddEntryRow(kSize, *grid, 3, *this);
-    connect(&size.box, &EntryBox::Changed, this, &frmText::txtRelSizeChanged);
-    connect(size.partner, &EntryBox::Changed, this, &frmText::txtRelSizeUpDownChanged);
+    const auto add = [&](const FieldRow& row, void (frmText::*changed)()) {
+        auto* field = new Field(row, *this);
+        field->AddTo(*grid, static_cast<int>(fields_.size()));
+        connect(field->box, &EntryBox::Changed, this, changed);
+        fields_.push_back(field);
+        return field;
+    };
+    text_ = add(kText, &frmText::txtTextChanged);
+    left_ = add(kLeft, &frmText::txtLeftToTextChanged);
+    bottom_ = add(kBottom, &frmText::txtBottomToTextChanged);
+    size_ = add(kSize, &frmText::txtRelSizeChanged);
+    connect(size_->partner, &EntryBox::Changed, this, &frmText::txtRelSizeUpDownChanged);
     Column().addLayout(grid);
 
     lblTextWidthmm_ = MakeLabel("lblTextWidthmm", QStringLiteral("Text width (mm): "));
     Column().addWidget(lblTextWidthmm_);
-    QPushButton* centre = MakeButton("cmdCenterText", QStringLiteral("Center horizontally"));
-    QPushButton* colour = MakeButton("cmdGetColor", QStringLiteral("Get text color"),
-                                     QStringLiteral("Select color for text #1"));
-    connect(centre, &QPushButton::clicked, this, &frmText::cmdCenterTextClicked);
-    connect(colour, &QPushButton::clicked, this, &frmText::cmdGetColorClicked);
-    Column().addWidget(centre);
-    Column().addWidget(colour);
+    cmdCenterText_ = MakeButton("cmdCenterText", QStringLiteral("Center horizontally"));
+    cmdGetColor_ = MakeButton("cmdGetColor", QStringLiteral("Get text color"),
+                              QStringLiteral("Select color for text #1"));
+    connect(cmdCenterText_, &QPushButton::clicked, this, &frmText::cmdCenterTextClicked);
+    connect(cmdGetColor_, &QPushButton::clicked, this, &frmText::cmdGetColorClicked);
+    Column().addWidget(cmdCenterText_);
+    Column().addWidget(cmdGetColor_);
 }
 
 void frmText::Load() {
     TakeCopies();
     textsAtLoad_ = CountTexts(texts_);
-    SetEnabled({"lblText", "txtText", "lblLeftToText", "txtLeftToText", "UpDown1",
-                "lblBottomToText", "txtBottomToText", "UpDown2", "lblRelSize", "txtRelSize",
-                "txtRelSizeUpDown", "UpDown3", "lblTextWidthmm", "cmdCenterText", "cmdGetColor"},
-               false);
-    numbers_.Option(1).Select();
-    for (int entry = 1; entry <= kTexts; ++entry) {
-        numbers_.Option(entry).setEnabled(false);
+    for (const Field* field : fields_) {
+        field->Disable();
     }
-    SetEnabled({"Label1", "fraTextNumber"}, false);
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{lblTextWidthmm_, cmdCenterText_, cmdGetColor_}) {
+        part->setEnabled(false);
+    }
+    numbers_.Option(1).Select();
+    numbers_.Disable();
     Redraw();
 }
 
 void frmText::FillTextEntry() {
     const int entry = CurrentTextEntry_;
-    Box("txtText").Write(texts_.TextString[entry]);
-    Box("txtLeftToText").Write(PlainNumber(texts_.LeftToText[entry]));
-    Box("txtBottomToText").Write(PlainNumber(texts_.BottomToText[entry]));
-    Box("txtRelSize").Write(PlainNumber(texts_.TextRelativeSize[entry]));
+    text_->Fill(&texts_.TextString[entry]);
+    left_->Fill(&texts_.LeftToText[entry]);
+    bottom_->Fill(&texts_.BottomToText[entry]);
+    size_->Fill(&texts_.TextRelativeSize[entry]);
     const double tenths = double{texts_.TextRelativeSize[entry]} * 10;
-    Box("txtRelSizeUpDown").Write(PlainNumber(static_cast<float>(tenths)));
+    size_->partner->Write(PlainNumber(static_cast<float>(tenths)));
     Redraw();
 }
 
@@ -129,45 +131,37 @@ void frmText::OptionClicked(int entry) {
 }
 
 void frmText::txtTextChanged() {
-    texts_.TextString[CurrentTextEntry_] = Trimmed(Box("txtText").Text());
+    text_->Take(&texts_.TextString[CurrentTextEntry_]);
     MeasureTextWidth(CurrentTextEntry_);
     Redraw();
 }
 
 void frmText::txtLeftToTextChanged() {
-    const float entered = Box("txtLeftToText").Number();
-    float& left = texts_.LeftToText[CurrentTextEntry_];
-    left = kLeft.limits.Held(entered);
-    Box("txtLeftToText").ShowHeld(entered, left);
+    left_->Take(&texts_.LeftToText[CurrentTextEntry_]);
     Redraw();
 }
 
 void frmText::txtBottomToTextChanged() {
-    texts_.BottomToText[CurrentTextEntry_] = Box("txtBottomToText").Number();
+    bottom_->Take(&texts_.BottomToText[CurrentTextEntry_]);
     Redraw();
 }
 
 void frmText::txtRelSizeChanged() {
-    std::string text = Box("txtRelSize").Text();
-    float& size = texts_.TextRelativeSize[CurrentTextEntry_];
-    ParseEntry(text, size);
-    const float entered = size;
-    size = kSize.limits.Held(entered);
-    Box("txtRelSize").ShowHeld(entered, size);
+    size_->Take(&texts_.TextRelativeSize[CurrentTextEntry_]);
     MeasureTextWidth(CurrentTextEntry_);
     Redraw();
 }
 
 void frmText::txtRelSizeUpDownChanged() {
-    const double size = double{Box("txtRelSizeUpDown").Number()} * kTenths;
-    Box("txtRelSize").Write(PlainNumber(static_cast<float>(size)));
+    const double size = double{size_->partner->Number()} * kTenths;
+    size_->box->Write(PlainNumber(static_cast<float>(size)));
 }
 
 void frmText::cmdCenterTextClicked() {
     float& left = texts_.LeftToText[CurrentTextEntry_];
     left = static_cast<float>(double{Design.PlateWidth} / 2);
     left = static_cast<float>(double{left} - double{DrawnWidthMm(CurrentTextEntry_)} / 2);
-    Box("txtLeftToText").Write(PlainNumber(RoundedToTenths(left)));
+    left_->box->Write(PlainNumber(RoundedToTenths(left)));
     Redraw();
 }
 

@@ -5,8 +5,11 @@
 #include "desktop/pages/numberframe.h"
 
 class QLabel;
+class QPushButton;
 
 namespace vernacle {
+
+class Field;
 
 class frmText : public TextKeepingPage {
     Q_OBJECT
@@ -32,8 +35,15 @@ private:
 
     float DrawnWidthMm(int entry) const;
 
-    QLabel* lblTextWidthmm_ = nullptr;
     NumberFrame numbers_;
+    std::vector<Field*> fields_;
+    Field* text_ = nullptr;
+    Field* left_ = nullptr;
+    Field* bottom_ = nullptr;
+    Field* size_ = nullptr;
+    QLabel* lblTextWidthmm_ = nullptr;
+    QPushButton* cmdCenterText_ = nullptr;
+    QPushButton* cmdGetColor_ = nullptr;
     std::int16_t CurrentTextEntry_ = 1;
     int textsAtLoad_ = 0;              // that are not empty
     Table<float, kTexts> TextWidthMm_; // as last computed

@@ -57,4 +57,12 @@ NumberFrame MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(
     return made;
 }
 
+void NumberFrame::Disable() const {
+    for (OptionButton* option : options) {
+        option->setEnabled(false);
+    }
+    label->setEnabled(false);
+    frame->setEnabled(false);
+}
+
 } // namespace vernacle

@@ -29,6 +29,9 @@ struct NumberFrame {
     OptionButton& Option(int number) const {
         return *options.at(static_cast<std::size_t>(number) - 1);
     }
+
+    // All of it.
+    void Disable() const;
 };
 
 NumberFrame MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(int)> selected);
