@@ -5,7 +5,7 @@
 #include <QFormLayout>
 #include <QGridLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/system/printers.h"
 #include "engine/base/numbertext.h"
@@ -23,20 +23,17 @@ double Measured(const EntryBox& box) {
     return NumericValue(text);
 }
 
-void AddMeasure(const char* label, EntryBox& box, QFormLayout& form) {
-    QLabel* caption = MakeLabel(label, box.accessibleName());
-    caption->setBuddy(&box);
-    form.addRow(caption, &box);
+// The sides that correct the factor.
+FieldRow MeasureRow(const char* box, const char* caption, float factor) {
+    return {.box = box, .caption = caption, .limits = MeasureLimits(factor), .unit = "mm"};
 }
 
 } // namespace
 
 frmCalibrate::frmCalibrate()
     : ModalForm("frmCalibrate", QStringLiteral("Vernacle - Calibration routine")) {
-    txtActualWidth_ = new EntryBox("txtActualWidth", QStringLiteral("Width, mm"));
-    txtActualHeight_ = new EntryBox("txtActualHeight", QStringLiteral("Height, mm"));
-    txtActualWidth_->TellRange(RangeText(MeasureLimits(Design.CalibrationX), "mm"));
-    txtActualHeight_->TellRange(RangeText(MeasureLimits(Design.CalibrationY), "mm"));
+    width_ = new Field(MeasureRow("txtActualWidth", "Width, mm", Design.CalibrationX), *this);
+    height_ = new Field(MeasureRow("txtActualHeight", "Height, mm", Design.CalibrationY), *this);
     QPushButton* print = MakeButton("cmdPrint", QStringLiteral("Print test square"));
     QPushButton* back = MakeButton("cmdReturn", QStringLiteral("Return"));
     connect(print, &QPushButton::clicked, this, &frmCalibrate::cmdPrintClicked);
@@ -79,8 +76,8 @@ QWidget* frmCalibrate::MakeMeasures() {
     form->setContentsMargins({});
     form->addRow(MakeLabel("lblEnter", QStringLiteral("Enter the actual width and height into the "
                                                       "boxes below:")));
-    AddMeasure("lblActualWidth", *txtActualWidth_, *form);
-    AddMeasure("lblActualHeight", *txtActualHeight_, *form);
+    form->addRow(width_->label, width_->box);
+    form->addRow(height_->label, height_->box);
     return measures;
 }
 
@@ -99,12 +96,12 @@ void frmCalibrate::ShowNextSteps() {
     for (QWidget* step : nextSteps_) {
         step->show();
     }
-    txtActualWidth_->setFocus();
+    width_->box->setFocus();
 }
 
 void frmCalibrate::cmdReturnClicked() {
-    Recalibrate(Design.CalibrationX, Measured(*txtActualWidth_));
-    Recalibrate(Design.CalibrationY, Measured(*txtActualHeight_));
+    Recalibrate(Design.CalibrationX, Measured(*width_->box));
+    Recalibrate(Design.CalibrationY, Measured(*height_->box));
     WriteCalibrate(Design);
     accept();
 }

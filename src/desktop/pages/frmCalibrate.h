@@ -9,7 +9,7 @@ class QLabel;
 
 namespace vernacle {
 
-class EntryBox;
+class Field;
 
 class frmCalibrate : public ModalForm {
     Q_OBJECT
@@ -26,8 +26,8 @@ private:
 
     void ShowNextSteps();
 
-    EntryBox* txtActualWidth_;
-    EntryBox* txtActualHeight_;
+    Field* width_ = nullptr;
+    Field* height_ = nullptr;
     QList<QWidget*> nextSteps_; // shown once the square is printed
 };
 

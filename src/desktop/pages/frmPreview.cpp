@@ -5,16 +5,13 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/inkicon.h"
 #include "desktop/kit/picturebox.h"
-#include "desktop/kit/steppedentry.h"
-#include "desktop/kit/updown.h"
 #include "desktop/navigation/navigator.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
-#include "engine/core/entry.h"
 #include "engine/render/drawingsteps.h"
 #include "engine/render/overlays.h"
 #include "engine/scale/scale.h"
@@ -27,6 +24,12 @@ constexpr double kAspectStep = 1.01;
 constexpr LogicalArea kPlateArea{2350, 750, 7300,
                                  8250}; // to the pointer's length under a high plate
 constexpr int kToolIconSize = 20;
+
+// The ratio and its percents; the arrows step the ratio by a share of itself.
+// clang-format off
+constexpr FieldRow kRatio   = {.box = "txtAspect",       .caption = "Aspect ratio:",    .limits = kAspectLimits};
+constexpr FieldRow kPercent = {.box = "txtAspectUpDown", .caption = "Aspect, percent:", .limits = {kAspectLimits.lowest * 100, kAspectLimits.highest * 100}, .unit = "%", .arrows = {"UpDown1"}};
+// clang-format on
 
 constexpr OwnTip kOwnTips[] = {{"Exit", "Exit"}};
 
@@ -98,27 +101,14 @@ void frmPreview::Build() {
 }
 
 QLayout* frmPreview::MakeAspect() {
-    const QString ratio = QStringLiteral("Aspect ratio:");
-    const QString percent = QStringLiteral("Aspect, percent:");
-    txtAspect_ = new EntryBox("txtAspect", ratio);
-    txtAspectUpDown_ = new EntryBox("txtAspectUpDown", percent);
-    auto* arrows = new UpDown("UpDown1", percent);
-    connect(arrows, &UpDown::Stepped, this, &frmPreview::UpDown1Stepped);
-    txtAspectUpDown_->SetArrows(arrows);
-    const EntryLimits percents{kAspectLimits.lowest * 100, kAspectLimits.highest * 100};
-    txtAspect_->TellRange(RangeText(kAspectLimits, ""));
-    txtAspectUpDown_->TellRange(RangeText(percents, "%"));
-    connect(txtAspect_, &EntryBox::Changed, this, &frmPreview::txtAspectChanged);
-    connect(txtAspectUpDown_, &EntryBox::Changed, this, &frmPreview::txtAspectUpDownChanged);
-    QLabel* lblAspect = MakeLabel("lblAspect", ratio);
-    QLabel* lblPercent = MakeLabel("lblAspectUpDown", percent);
-    lblAspect->setBuddy(txtAspect_);
-    lblPercent->setBuddy(txtAspectUpDown_);
+    ratio_ = new Field(kRatio, *this);
+    percent_ = new Field(kPercent, *this);
+    connect(ratio_->box, &EntryBox::Changed, this, &frmPreview::txtAspectChanged);
+    connect(percent_->box, &EntryBox::Changed, this, &frmPreview::txtAspectUpDownChanged);
+    connect(percent_->arrows, &UpDown::Stepped, this, &frmPreview::UpDown1Stepped);
     auto* grid = new QGridLayout;
-    grid->addWidget(lblAspect, 0, 0);
-    grid->addWidget(new SteppedEntry(*txtAspect_), 0, 1);
-    grid->addWidget(lblPercent, 1, 0);
-    grid->addWidget(new SteppedEntry(*txtAspectUpDown_, arrows), 1, 1);
+    ratio_->AddTo(*grid, 0);
+    percent_->AddTo(*grid, 1);
     return grid;
 }
 
@@ -180,26 +170,25 @@ void frmPreview::Draw() {
 }
 
 void frmPreview::ShowAspect() {
-    txtAspect_->Write(PlainNumber(Design.AspectRatio));
+    ratio_->Fill(&Design.AspectRatio);
 }
 
 void frmPreview::ShowPercent() {
-    txtAspectUpDown_->Write(PlainNumber(static_cast<float>(double{Design.AspectRatio} * 100)));
+    percent_->box->Write(PlainNumber(static_cast<float>(double{Design.AspectRatio} * 100)));
 }
 
 void frmPreview::txtAspectChanged() {
-    std::string text = txtAspect_->Text();
-    ParseEntry(text, Design.AspectRatio);
+    ratio_->Read(&Design.AspectRatio);
     HoldAspectRatio(Design);
     ShowPercent();
     Draw();
 }
 
 void frmPreview::txtAspectUpDownChanged() {
-    const double percent = NumericValue(txtAspectUpDown_->Text());
+    const double percent = NumericValue(percent_->box->Text());
     Design.AspectRatio = HeldAspect(percent * 0.01);
     ShowAspect();
-    txtAspect_->Show(PlainNumber(Design.AspectRatio)); // which the ratio's box has rounded
+    ratio_->box->Show(PlainNumber(Design.AspectRatio)); // which the ratio's box has rounded
 }
 
 void frmPreview::UpDown1Stepped(int by) {

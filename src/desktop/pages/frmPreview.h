@@ -15,7 +15,7 @@ class QPushButton;
 
 namespace vernacle {
 
-class EntryBox;
+class Field;
 class PictureBox;
 
 class frmPreview : public DesignPage {
@@ -53,8 +53,8 @@ private:
         std::int16_t& (*flag)();
     };
 
-    EntryBox* txtAspect_ = nullptr;
-    EntryBox* txtAspectUpDown_ = nullptr;
+    Field* ratio_ = nullptr;
+    Field* percent_ = nullptr;
     PictureBox* plate_ = nullptr;
     std::vector<Overlay> overlays_;
     PageCopies sizes_;

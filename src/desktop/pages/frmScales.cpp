@@ -186,7 +186,7 @@ void frmScales::cmdGetColorClicked() {
     }
     colour *= sign;
     if (Design.ActiveScale <= kScales) {
-        scales_.Option(Design.ActiveScale).SetInk(ToQColor(InkOf(Design.ActiveScale)));
+        scales_.Option(Design.ActiveScale).SetInk(ToQColor(InkOf(Design, Design.ActiveScale)));
     }
     Redraw();
 }
