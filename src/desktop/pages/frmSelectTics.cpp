@@ -1,7 +1,5 @@
 #include "desktop/pages/frmSelectTics.h"
 
-#include <string_view>
-
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -19,29 +17,17 @@ namespace {
 constexpr int kColumns = 55; // characters of a usual row, and room for the scroll bar
 constexpr int kSmallestHeight = 300;
 
-const char* const kDetails[] = {"lblData1", "lblData2", "lblData3", "lblData4",
-                                "lblData5", "fraTics",  "fraLabels"};
-
 QString Numbered(const char* text, int number) {
     return QString::fromStdString(text + PlainNumber(std::int32_t{number}));
 }
 
+QLabel* MakeInstruction(const char* name, const char* text) {
+    QLabel* label = MakeLabel(name, QString::fromUtf8(text));
+    label->setWordWrap(true);
+    return label;
+}
+
 } // namespace
-
-struct frmSelectTics::Option {
-    const char* frame;
-    const char* name;
-    const char* caption;
-    std::string& (*flag)(DesignRecord& design, int scale, int tic);
-    const char* value;
-};
-
-const frmSelectTics::Option frmSelectTics::kOptions[] = {
-    {"fraTics", "optTicYes", "Yes", TicFlagOf, "Y"},
-    {"fraTics", "optTicNo", "No", TicFlagOf, "N"},
-    {"fraLabels", "optLabelYes", "Yes", LabelFlagOf, "Y"},
-    {"fraLabels", "optLabelNo", "No", LabelFlagOf, "N"},
-};
 
 frmSelectTics::frmSelectTics()
     : ModalForm("frmSelectTics", QStringLiteral("Vernacle - select tics")) {
@@ -64,60 +50,63 @@ void frmSelectTics::Build() {
     halves->setSpacing(16);
     halves->addLayout(list, 1);
     halves->addLayout(MakeDetails());
-    for (const char* instruction : {"Label2", "Label3", "Label4"}) {
-        Label(instruction).setWordWrap(true);
-    }
     SetDetailsVisible(false);
-    Control("Label3").setEnabled(false);
-    Control("Label4").setEnabled(false);
+    Label3_->setEnabled(false);
+    Label4_->setEnabled(false);
     resize(sizeHint().width(), TallHeight());
 }
 
 QLayout* frmSelectTics::MakeDetails() {
     auto* column = new QVBoxLayout;
     column->addWidget(
-        MakeLabel("Label2", QStringLiteral("Click on a line of data at the left to edit it. ")));
+        MakeInstruction("Label2", "Click on a line of data at the left to edit it. "));
     column->addSpacing(12);
-    column->addWidget(MakeLabel("lblData1", QStringLiteral("Scale number:")));
-    column->addWidget(MakeLabel("lblData2", QStringLiteral("Ticmark #:")));
-    column->addLayout(MakeFlagLine("lblData3", "fraTics"));
-    column->addWidget(MakeLabel("lblData4", QStringLiteral("Label:")));
-    column->addLayout(MakeFlagLine("lblData5", "fraLabels"));
+    lblData1_ = MakeLabel("lblData1", QStringLiteral("Scale number:"));
+    lblData2_ = MakeLabel("lblData2", QStringLiteral("Ticmark #:"));
+    lblData3_ = MakeLabel("lblData3", QStringLiteral("Print:"));
+    lblData4_ = MakeLabel("lblData4", QStringLiteral("Label:"));
+    lblData5_ = MakeLabel("lblData5", QStringLiteral("Print:"));
+    tic_ = MakeFlag("fraTics", "optTicYes", "optTicNo", TicFlagOf);
+    label_ = MakeFlag("fraLabels", "optLabelYes", "optLabelNo", LabelFlagOf);
+    column->addWidget(lblData1_);
+    column->addWidget(lblData2_);
+    column->addLayout(FlagLine(*lblData3_, tic_));
+    column->addWidget(lblData4_);
+    column->addLayout(FlagLine(*lblData5_, label_));
     column->addSpacing(12);
-    column->addWidget(MakeLabel(
-        "Label3",
-        QStringLiteral("You may now select or de-select the tic and the label for that tic. ")));
-    column->addWidget(MakeLabel(
-        "Label4", QStringLiteral("To enter these choices into the system click on 'Accept'")));
+    Label3_ = MakeInstruction(
+        "Label3", "You may now select or de-select the tic and the label for that tic. ");
+    Label4_ = MakeInstruction("Label4", "To enter these choices into the system click on 'Accept'");
+    column->addWidget(Label3_);
+    column->addWidget(Label4_);
     column->addStretch();
-    QPushButton* accept = MakeButton("cmdAccept", QStringLiteral("Accept"));
+    cmdAccept_ = MakeButton("cmdAccept", QStringLiteral("Accept"));
     QPushButton* exit = MakeButton("cmdExit", QStringLiteral("Return to scale design page"));
-    connect(accept, &QPushButton::clicked, this, &frmSelectTics::cmdAcceptClicked);
+    connect(cmdAccept_, &QPushButton::clicked, this, &frmSelectTics::cmdAcceptClicked);
     connect(exit, &QPushButton::clicked, this, &frmSelectTics::cmdExitClicked);
-    column->addWidget(accept);
+    column->addWidget(cmdAccept_);
     column->addWidget(exit);
     return column;
 }
 
-QLayout* frmSelectTics::MakeFlagLine(const char* label, const char* frame) {
+QLayout* frmSelectTics::FlagLine(QLabel& label, const Flag& flag) {
     auto* line = new QHBoxLayout;
-    line->addWidget(MakeLabel(label, QStringLiteral("Print:")));
-    line->addWidget(MakeFlagFrame(frame), 1);
+    line->addWidget(&label);
+    line->addWidget(flag.frame, 1);
     return line;
 }
 
-QWidget* frmSelectTics::MakeFlagFrame(const char* name) {
-    auto* frame = MakeFrame(name, {});
-    auto* line = new QHBoxLayout(frame);
-    for (const Option& option : kOptions) {
-        if (option.frame == std::string_view(name)) {
-            auto* button = new OptionButton(option.name, QString::fromUtf8(option.caption));
-            button->OnSelect([this, &option] { OptionClicked(option); });
-            line->addWidget(button);
-        }
-    }
+frmSelectTics::Flag frmSelectTics::MakeFlag(const char* frame, const char* yes, const char* no,
+                                            FlagFinder* flag) {
+    Flag made{MakeFrame(frame, {}), new OptionButton(yes, QStringLiteral("Yes")),
+              new OptionButton(no, QStringLiteral("No"))};
+    made.yes->OnSelect([this, flag] { OptionClicked(*flag, "Y"); });
+    made.no->OnSelect([this, flag] { OptionClicked(*flag, "N"); });
+    auto* line = new QHBoxLayout(made.frame);
+    line->addWidget(made.yes);
+    line->addWidget(made.no);
     line->addStretch();
-    return frame;
+    return made;
 }
 
 void frmSelectTics::FillTicList() {
@@ -130,31 +119,31 @@ void frmSelectTics::RowChosen(int index) {
     const SelectedTic chosen = ReadSelectionRow(lstTicsData_->Row(index + 1));
     SetDetailsVisible(true);
     Design.CurrentScale = chosen.scale;
-    Label("lblData1").setText(Numbered("Scale number: ", chosen.scale));
+    lblData1_->setText(Numbered("Scale number: ", chosen.scale));
     Design.TicLoop = chosen.tic;
-    Label("lblData2").setText(Numbered("Ticmark #: ", chosen.tic));
-    Label("lblData3").setText(QStringLiteral("Print: "));
-    Select(chosen.ticFlag == "Y" ? "optTicYes" : "optTicNo");
+    lblData2_->setText(Numbered("Ticmark #: ", chosen.tic));
+    lblData3_->setText(QStringLiteral("Print: "));
+    Select(chosen.ticFlag == "Y" ? *tic_.yes : *tic_.no);
     ShowLabelOptions(!chosen.label.empty());
-    Label("lblData4").setText(QStringLiteral("Label: ") + QString::fromStdString(chosen.label));
-    Label("lblData5").setText(QStringLiteral("Print: "));
-    Select(chosen.labelFlag == "Y" ? "optLabelYes" : "optLabelNo");
-    Control("Label3").setEnabled(true);
+    lblData4_->setText(QStringLiteral("Label: ") + QString::fromStdString(chosen.label));
+    lblData5_->setText(QStringLiteral("Print: "));
+    Select(chosen.labelFlag == "Y" ? *label_.yes : *label_.no);
+    Label3_->setEnabled(true);
 }
 
-void frmSelectTics::OptionClicked(const Option& option) {
-    option.flag(Design, Design.CurrentScale, CurrentTic(Design)) = option.value;
-    Control("cmdAccept").setVisible(true);
-    Control("Label4").setEnabled(true);
+void frmSelectTics::OptionClicked(FlagFinder& flag, const char* value) {
+    flag(Design, Design.CurrentScale, CurrentTic(Design)) = value;
+    cmdAccept_->setVisible(true);
+    Label4_->setEnabled(true);
 }
 
 // The flags are in the design already; the rows are made to show them.
 void frmSelectTics::cmdAcceptClicked() {
     FillTicList();
     SetDetailsVisible(false);
-    Control("cmdAccept").setVisible(false);
-    Control("Label3").setEnabled(false);
-    Control("Label4").setEnabled(false);
+    cmdAccept_->setVisible(false);
+    Label3_->setEnabled(false);
+    Label4_->setEnabled(false);
 }
 
 void frmSelectTics::cmdExitClicked() {
@@ -163,31 +152,24 @@ void frmSelectTics::cmdExitClicked() {
 }
 
 void frmSelectTics::ShowLabelOptions(bool shown) {
-    for (const char* control : {"lblData4", "lblData5", "optLabelYes", "optLabelNo"}) {
-        Control(control).setVisible(shown);
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{lblData4_, lblData5_, label_.yes, label_.no}) {
+        part->setVisible(shown);
     }
 }
 
 void frmSelectTics::SetDetailsVisible(bool visible) {
-    for (const char* control : kDetails) {
-        Control(control).setVisible(visible);
+    for (QWidget* part : std::initializer_list<QWidget*>{lblData1_, lblData2_, lblData3_, lblData4_,
+                                                         lblData5_, tic_.frame, label_.frame}) {
+        part->setVisible(visible);
     }
 }
 
 // One that is selected already runs no handler: nothing is selected that was not.
-void frmSelectTics::Select(const char* option) {
-    auto* button = findChild<OptionButton*>(QLatin1String(option));
-    if (!button->isChecked()) {
-        button->Select();
+void frmSelectTics::Select(OptionButton& option) {
+    if (!option.isChecked()) {
+        option.Select();
     }
-}
-
-QWidget& frmSelectTics::Control(const char* name) const {
-    return *findChild<QWidget*>(QLatin1String(name));
-}
-
-QLabel& frmSelectTics::Label(const char* name) const {
-    return *findChild<QLabel*>(QLatin1String(name));
 }
 
 } // namespace vernacle

@@ -1,13 +1,18 @@
 // The list of all tics, in which single tics and labels are switched off and on.
 #pragma once
 
+#include <string>
+
 #include "desktop/kit/form.h"
 
+class QGroupBox;
 class QLabel;
 class QLayout;
+class QPushButton;
 
 namespace vernacle {
 
+class OptionButton;
 class TicList;
 
 class frmSelectTics : public ModalForm {
@@ -17,28 +22,42 @@ public:
     frmSelectTics();
 
 private:
-    struct Option;
-    static const Option kOptions[];
+    using FlagFinder = std::string&(int scale, int tic);
+
+    // A flag of a tic, as the page shows it.
+    struct Flag {
+        QGroupBox* frame = nullptr;
+        OptionButton* yes = nullptr;
+        OptionButton* no = nullptr;
+    };
 
     void Build();
     QLayout* MakeDetails();
-    QLayout* MakeFlagLine(const char* label, const char* frame);
-    QWidget* MakeFlagFrame(const char* name);
+    static QLayout* FlagLine(QLabel& label, const Flag& flag);
+    Flag MakeFlag(const char* frame, const char* yes, const char* no, FlagFinder* flag);
 
     void FillTicList();
 
     void RowChosen(int index);
-    void OptionClicked(const Option& option);
+    void OptionClicked(FlagFinder& flag, const char* value);
     void cmdAcceptClicked();
     void cmdExitClicked();
 
     void ShowLabelOptions(bool shown);
     void SetDetailsVisible(bool visible);
-    void Select(const char* option);
-    QWidget& Control(const char* name) const;
-    QLabel& Label(const char* name) const;
+    static void Select(OptionButton& option);
 
     TicList* lstTicsData_ = nullptr;
+    QLabel* lblData1_ = nullptr;
+    QLabel* lblData2_ = nullptr;
+    QLabel* lblData3_ = nullptr;
+    QLabel* lblData4_ = nullptr;
+    QLabel* lblData5_ = nullptr;
+    QLabel* Label3_ = nullptr;
+    QLabel* Label4_ = nullptr;
+    Flag tic_;
+    Flag label_;
+    QPushButton* cmdAccept_ = nullptr;
 };
 
 } // namespace vernacle
