@@ -4,9 +4,9 @@
 
 #include <string>
 
-namespace vernacle::exporter {
+#include "engine/core/design.h"
 
-struct DesignRecord;
+namespace vernacle::exporter {
 
 // The table as RFC 4180 text, its header first. Places are millimetres from the plate's left and
 // bottom edges.

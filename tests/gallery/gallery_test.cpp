@@ -20,7 +20,7 @@ using Words = std::vector<std::string>;
 
 constexpr const char* kPatience = "120"; // seconds
 constexpr QSize kSmallScreen(1024, 768);
-constexpr QSize kFineScreen(2048, 1536); // at two pixels to one
+constexpr QSize kFineScreen(2048, 1536);  // at two pixels to one
 constexpr std::size_t kFewestColours = 4; // of a form that shows anything
 
 bool Has(const std::string& text, const std::string& part) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "desktop/kit/form.h"
+#include "engine/core/design.h"
 
 class QGroupBox;
 class QLabel;
@@ -22,7 +23,7 @@ public:
     frmSelectTics();
 
 private:
-    using FlagFinder = std::string&(int scale, int tic);
+    using FlagFinder = std::string&(DesignRecord& design, int scale, int tic);
 
     // A flag of a tic, as the page shows it.
     struct Flag {
