@@ -125,6 +125,8 @@ TEST_F(SelectTicsTest, FiftyTicsGiveFiftyOneRows) {
         EXPECT_EQ(RowText(0), SelectionRow(Design, 1, 0));
         EXPECT_EQ(RowText(7), "Scale 1   7         Y                   Y         ");
         EXPECT_EQ(RowText(50), "Scale 1   50        Y         50        Y         ");
+        EXPECT_EQ(Design.CurrentScale, 2) << "behind the rows";
+        EXPECT_EQ(Design.TicLoop, 51);
     });
 }
 
@@ -178,7 +180,7 @@ TEST_F(SelectTicsTest, TicWithoutALabelHidesTheLabelOptions) {
 
 struct FlagRow {
     const char* option;
-    std::string& (*flag)(int scale, int tic);
+    std::string& (*flag)(DesignRecord& design, int scale, int tic);
     const char* value;
 };
 
@@ -193,7 +195,7 @@ TEST_F(SelectTicsTest, OptionsWriteTheirFlagAtOnce) {
         for (const FlagRow& row : kFlagRows) {
             const std::string shown = RowText(10);
             Press(row.option);
-            EXPECT_EQ(row.flag(1, 10), row.value) << row.option;
+            EXPECT_EQ(row.flag(Design, 1, 10), row.value) << row.option;
             EXPECT_EQ(State(), "flag changed");
             EXPECT_EQ(RowText(10), shown) << "the rows only look old";
         }

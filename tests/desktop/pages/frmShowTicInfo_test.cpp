@@ -52,7 +52,10 @@ protected:
 
 TEST_F(ShowTicInfoTest, WorksInThePagesStartingState) {
     OpenPage("frmHighlights");
+    Design.CurrentScale = 9;
     const QWidget& form = ShowInfo();
+    EXPECT_EQ(Design.CurrentScale, 2) << "behind the rows";
+    EXPECT_EQ(Design.TicLoop, 51);
     EXPECT_EQ(form.windowTitle(), QLatin1String("Vernacle - Show tic info"));
     EXPECT_EQ(On<QLabel>(form, "lblHeader").text(), QLatin1String("        Tic: Label: Defl%:"));
     EXPECT_EQ(On<QPushButton>(form, "cmdExit").text(), QLatin1String("Close"));

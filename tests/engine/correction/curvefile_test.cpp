@@ -74,8 +74,11 @@ TEST_F(CurveFileTest, AnEmptyNameWritesNothing) {
 TEST_F(CurveFileTest, ReportsWhatCannotBeWritten) {
     for (const std::string& name : {Path("none/curve.cor"), Path(""), std::string("/dev/full")}) {
         said.clear();
+        Design.NumberOfCorrectionPoints = 3;
         WriteCorrectionFile(Design, name);
         EXPECT_EQ(said, kNotWritten) << name;
+        const bool opened = name == "/dev/full";
+        EXPECT_EQ(Design.NumberOfCorrectionPoints, opened ? 7 : 3) << name;
     }
 }
 
