@@ -72,10 +72,10 @@ void ComputeSmeterTics(DesignRecord& design, int scale, float exponent, SmeterSe
         return;
     }
     const SmeterType& type = kTypes.at(static_cast<std::size_t>(setup.ScaleType) - 1);
-    for (setup.TicStep = 0; setup.TicStep <= type.top; ++setup.TicStep) {
-        const auto share = static_cast<float>(setup.TicStep / static_cast<double>(type.top));
+    for (int step = 0; step <= type.top; ++step) {
+        const auto share = static_cast<float>(step / static_cast<double>(type.top));
         const float deflection = BentDeflection(share, exponent);
-        const std::string label = LabelOf(type, setup.TicStep);
+        const std::string label = LabelOf(type, step);
         ++setup.LastTic;
         if (label.empty()) { // stays as it was wiped, or not, on a scale above those
             design.TicDeflection[scale][setup.LastTic] = deflection;

@@ -16,7 +16,6 @@ namespace vernacle {
 struct SmeterSetup {
     std::int16_t ScaleType = 0; // 1 to 4: S 9, S 9 +40, +50, +60; 0 until one is chosen
     std::int16_t LastTic = 0;   // number of the last tic made, -1 for none
-    std::int16_t TicStep = 0;   // the loop's counter
 };
 
 // Stores the exponent, held to -4 .. 4, empties the labels and flags of scales 1 to 4, and writes
