@@ -112,13 +112,13 @@ void SetHost(const Arguments& arguments, Progress& progress) {
 }
 
 // Has the output written; what is thrown on the way becomes the reason.
-void Attempt(const OutputForm& form, const std::string& path, const Arguments& arguments,
-             Progress& progress) {
+void Attempt(const OutputForm& form, DesignRecord& design, const std::string& path,
+             const Arguments& arguments, Progress& progress) {
     try {
         if (form.wantsTables) {
-            MakeReady();
+            MakeReady(design);
         }
-        form.write(path, arguments);
+        form.write(design, path, arguments);
         return;
     } catch (const RunTimeError& error) {
         if (!progress.failed) { // else it has been reported on the way
@@ -130,9 +130,11 @@ void Attempt(const OutputForm& form, const std::string& path, const Arguments& a
     progress.failed = true;
 }
 
-bool WriteOne(const std::string& path, const Arguments& arguments, Progress& progress) {
+bool WriteOne(const DesignRecord& asRead, const std::string& path, const Arguments& arguments,
+              Progress& progress) {
     progress = Progress{};
-    Attempt(*FindForm(path), path, arguments, progress);
+    const auto design = std::make_unique<DesignRecord>(asRead);
+    Attempt(*FindForm(path), *design, path, arguments, progress);
     if (progress.failed) {
         const std::string named = path + ": "; // by a failure of the file itself
         std::string& reason = progress.reason;
@@ -150,14 +152,14 @@ LineReport SayingFor(const std::string& file, bool& happened) {
     };
 }
 
-bool ReadInputs(const Arguments& arguments, Progress& progress) {
-    Design.CalibrationX = Design.CalibrationY = 1;
+bool ReadInputs(DesignRecord& design, const Arguments& arguments, Progress& progress) {
+    design.CalibrationX = design.CalibrationY = 1;
     if (arguments.calibration) {
-        ReadCalibration(Design, *arguments.calibration,
+        ReadCalibration(design, *arguments.calibration,
                         SayingFor(*arguments.calibration, progress.doubted));
     }
-    Design.DesignFileName = arguments.design;
-    ReadDesign(Design, arguments.design,
+    design.DesignFileName = arguments.design;
+    ReadDesign(design, arguments.design,
                {.doubt = SayingFor(arguments.design, progress.doubted),
                 .failure = SayingFor(arguments.design, progress.failed)});
     if (progress.doubted && arguments.strict && !progress.failed) {
@@ -170,16 +172,15 @@ bool ReadInputs(const Arguments& arguments, Progress& progress) {
 int Export(const Arguments& arguments) {
     Progress progress;
     SetHost(arguments, progress);
-    SetVersionAndScreenScale(Design);
-    SetOpeningValues(Design);
-    if (!ReadInputs(arguments, progress)) {
+    const auto design = std::make_unique<DesignRecord>();
+    SetVersionAndScreenScale(*design);
+    SetOpeningValues(*design);
+    if (!ReadInputs(*design, arguments, progress)) {
         return kFileFailed;
     }
-    const auto asRead = std::make_unique<DesignRecord>(Design);
     bool allWritten = true;
     for (const std::string& path : arguments.outputs) {
-        Design = *asRead;
-        allWritten = WriteOne(path, arguments, progress) && allWritten;
+        allWritten = WriteOne(*design, path, arguments, progress) && allWritten;
     }
     return allWritten ? kAllWritten : kFileFailed;
 }

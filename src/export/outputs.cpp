@@ -26,8 +26,8 @@ void WriteBytes(const std::string& path, const std::string& bytes) {
     sink->Close();
 }
 
-void WriteHpglFile(const std::string& path, const Arguments& /*arguments*/) {
-    WriteHpgl(Design, path, HpglMode::File);
+void WriteHpglFile(DesignRecord& design, const std::string& path, const Arguments& /*arguments*/) {
+    WriteHpgl(design, path, HpglMode::File);
 }
 
 // The routine names the port itself; here the port is the output.
@@ -44,52 +44,55 @@ private:
     decltype(Host.openForOutput) open_;
 };
 
-void WritePclFile(const std::string& path, const Arguments& /*arguments*/) {
+void WritePclFile(DesignRecord& design, const std::string& path, const Arguments& /*arguments*/) {
     const PortIs port(path);
-    WriteHpgl(Design, "", HpglMode::PclPrinter);
+    WriteHpgl(design, "", HpglMode::PclPrinter);
 }
 
 // Prints; throws where the print has failed and been reported.
-void Print(PrinterSurface& printer) {
-    if (!PrintPlate(Design, printer)) {
-        throw RunTimeError("not printed");
-    }
+PrintOn Printing(DesignRecord& design) {
+    return [&design](PrinterSurface& printer) {
+        if (!PrintPlate(design, printer)) {
+            throw RunTimeError("not printed");
+        }
+    };
 }
 
-void WritePdf(const std::string& path, const Arguments& arguments) {
-    WriteBytes(path, MakePdf(arguments.paper, Design.DesignFileName, arguments.at, Print));
-}
-
-void WriteSvg(const std::string& path, const Arguments& arguments) {
-    WriteBytes(path, MakeSvg(arguments.paper, Design.DesignFileName, Print));
-}
-
-void WritePng(const std::string& path, const Arguments& arguments) {
+void WritePdf(DesignRecord& design, const std::string& path, const Arguments& arguments) {
     WriteBytes(path,
-               MakePng(arguments.widthPixels, arguments.heightPixels, [](DrawingSurface& surface) {
-                   DrawPage(Design, surface, PreviewTraits(),
-                            {Design.FontSize, Design.LabelSpacing}, Drawing);
-               }));
+               MakePdf(arguments.paper, design.DesignFileName, arguments.at, Printing(design)));
 }
 
-void WriteVrn(const std::string& path, const Arguments& /*arguments*/) {
-    Design.DesignFileName = path;
-    WriteDesign(Design);
+void WriteSvg(DesignRecord& design, const std::string& path, const Arguments& arguments) {
+    WriteBytes(path, MakeSvg(arguments.paper, design.DesignFileName, Printing(design)));
 }
 
-void WriteCsv(const std::string& path, const Arguments& /*arguments*/) {
-    WriteBytes(path, TicTableText(Design));
+void WritePng(DesignRecord& design, const std::string& path, const Arguments& arguments) {
+    DrawingState state;
+    const auto draw = [&](DrawingSurface& surface) {
+        DrawPage(design, surface, PreviewTraits(), {design.FontSize, design.LabelSpacing}, state);
+    };
+    WriteBytes(path, MakePng(arguments.widthPixels, arguments.heightPixels, draw));
+}
+
+void WriteVrn(DesignRecord& design, const std::string& path, const Arguments& /*arguments*/) {
+    design.DesignFileName = path;
+    WriteDesign(design);
+}
+
+void WriteCsv(DesignRecord& design, const std::string& path, const Arguments& /*arguments*/) {
+    WriteBytes(path, TicTableText(design));
 }
 
 constexpr OutputForm kForms[] = {
-    {".hpgl", WriteHpglFile, true, false},  //
-    {".plt", WriteHpglFile, true, false},   //
-    {".pcl", WritePclFile, true, false},    //
-    {".pdf", WritePdf, true, true},         //
-    {".svg", WriteSvg, true, true},         //
-    {".png", WritePng, true, true},         //
-    {".vrn", WriteVrn, false, false, true}, //
-    {".csv", WriteCsv, true, false},        //
+    {.ending = ".hpgl", .write = WriteHpglFile, .wantsTables = true},
+    {.ending = ".plt", .write = WriteHpglFile, .wantsTables = true},
+    {.ending = ".pcl", .write = WritePclFile, .wantsTables = true},
+    {.ending = ".pdf", .write = WritePdf, .wantsTables = true, .wantsFonts = true},
+    {.ending = ".svg", .write = WriteSvg, .wantsTables = true, .wantsFonts = true},
+    {.ending = ".png", .write = WritePng, .wantsTables = true, .wantsFonts = true},
+    {.ending = ".vrn", .write = WriteVrn, .isDesign = true},
+    {.ending = ".csv", .write = WriteCsv, .wantsTables = true},
 };
 
 } // namespace
@@ -103,12 +106,12 @@ const OutputForm* FindForm(const std::string& path) {
     return form == std::end(kForms) ? nullptr : form;
 }
 
-void MakeReady() {
-    NormalizeDesign(Design);
-    RaiseAspectRatio(Design);
-    HoldAspectRatio(Design);
-    ComputeTicDeflections(Design);
-    ComputeTicLabels(Design);
+void MakeReady(DesignRecord& design) {
+    NormalizeDesign(design);
+    RaiseAspectRatio(design);
+    HoldAspectRatio(design);
+    ComputeTicDeflections(design);
+    ComputeTicLabels(design);
 }
 
 } // namespace vernacle::exporter

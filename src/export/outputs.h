@@ -3,13 +3,15 @@
 
 #include <string>
 
+#include "engine/core/design.h"
 #include "export/arguments.h"
 
 namespace vernacle::exporter {
 
-// Writes the design that Design holds to the path. A failure is reported through Host or thrown as
-// a RunTimeError.
-using WriteOutput = void (*)(const std::string& path, const Arguments& arguments);
+// Writes the design, which is this output's own, to the path. A failure is reported through Host or
+// thrown as a RunTimeError.
+using WriteOutput = void (*)(DesignRecord& design, const std::string& path,
+                             const Arguments& arguments);
 
 struct OutputForm {
     const char* ending = nullptr;
@@ -23,6 +25,6 @@ struct OutputForm {
 const OutputForm* FindForm(const std::string& path);
 
 // What the preview page does to a design before it is drawn.
-void MakeReady();
+void MakeReady(DesignRecord& design);
 
 } // namespace vernacle::exporter

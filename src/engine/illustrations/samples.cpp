@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <utility>
 
 #include "engine/core/design.h"
+#include "engine/core/entry.h"
 #include "engine/illustrations/samplescales.h"
 #include "engine/render/drawing.h"
 #include "engine/render/stages.h"
@@ -41,7 +41,7 @@ struct SampleScale {
     float exponent = 1;
     std::span<const int> deletedTics = {};
     std::span<const int> deletedLabels = {};
-    void (*special)(int scale) = nullptr; // makes it a special one
+    void (*special)(DesignRecord& design, int scale) = nullptr; // makes it a special one
 };
 
 // On the plate, mm from its left and bottom edge.
@@ -143,101 +143,97 @@ const SampleRow& RowOf(Sample sample) {
     return *std::ranges::find(kSamples, sample, &SampleRow::sample);
 }
 
-// The one design and the drawing's state, taken away for a while. They are too large for a stack.
-class BorrowedDesign {
+// Puts back what the arc sine noted last: a sample is no step of what a message tells of.
+class TraceKeeper {
 public:
-    BorrowedDesign() : design_(std::make_unique<DesignRecord>(Design)), drawing_(Drawing) {}
-    ~BorrowedDesign() {
-        Design = std::move(*design_);
-        Drawing = std::move(drawing_);
-        LastStepTrace = trace_;
-    }
-    BorrowedDesign(const BorrowedDesign&) = delete;
-    BorrowedDesign& operator=(const BorrowedDesign&) = delete;
+    TraceKeeper() = default;
+    ~TraceKeeper() { LastStepTrace = kept_; }
+    TraceKeeper(const TraceKeeper&) = delete;
+    TraceKeeper& operator=(const TraceKeeper&) = delete;
 
 private:
-    std::unique_ptr<DesignRecord> design_;
-    DrawingState drawing_;
-    StepTrace trace_ = LastStepTrace;
+    const StepTrace kept_ = LastStepTrace;
 };
 
 // The default design, on a screen of square units that is no real one.
-void SetDefaults() {
-    Design.ScreenScaleX = kSquareScreenScale;
-    Design.ScreenScaleY = kSquareScreenScale;
-    SetOpeningValues(Design);
-    ResetDesign(Design);
-    Design.AspectRatio = 1;
+void SetDefaults(DesignRecord& design) {
+    design.ScreenScaleX = kSquareScreenScale;
+    design.ScreenScaleY = kSquareScreenScale;
+    SetOpeningValues(design);
+    ResetDesign(design);
+    design.AspectRatio = 1;
 }
 
-void SetPlate(const SamplePlate& plate) {
-    Design.PlateWidth = plate.width;
-    Design.PlateHeight = plate.height;
-    Design.BottomToBearing = plate.bottomToBearing;
-    Design.ActualVirtualOffset = plate.actualVirtualOffset;
-    Design.PointerDeflection = plate.pointerDeflectionDeg;
-    Design.BottomToHoles = plate.bottomToHoles;
-    Design.HoleSeparation = plate.holeSeparation;
-    Design.PlateStyle = plate.style;
-    Design.LabelRotation = plate.labelRotation;
-    Design.FontSize = plate.fontSize;
-    Design.LabelSpacing = plate.labelSpacing;
-    Design.ArcWidth = 1;
-    Design.MinorTicWidth = 1;
-    Design.MajorTicWidth = 3;
+void SetPlate(DesignRecord& design, const SamplePlate& plate) {
+    design.PlateWidth = plate.width;
+    design.PlateHeight = plate.height;
+    design.BottomToBearing = plate.bottomToBearing;
+    design.ActualVirtualOffset = plate.actualVirtualOffset;
+    design.PointerDeflection = plate.pointerDeflectionDeg;
+    design.BottomToHoles = plate.bottomToHoles;
+    design.HoleSeparation = plate.holeSeparation;
+    design.PlateStyle = plate.style;
+    design.LabelRotation = plate.labelRotation;
+    design.FontSize = plate.fontSize;
+    design.LabelSpacing = plate.labelSpacing;
+    design.ArcWidth = 1;
+    design.MinorTicWidth = 1;
+    design.MajorTicWidth = 3;
 }
 
-void SetScale(int scale, const SampleScale& values) {
-    Design.BottomToScaleCeiling[scale] = values.bottomToCeiling;
-    Design.BottomToTitle[scale] = values.bottomToTitle;
-    Design.ScaleTitle[scale] = values.title;
-    Design.ScaleLengthUnits[scale] = values.span;
-    Design.NrOfTicmarks[scale] = values.tics;
-    Design.MajorEveryHowMany[scale] = values.majorEvery;
-    Design.LabelsEveryHowMany[scale] = values.labelsEvery;
-    Design.LinearityExponent[scale] = values.exponent;
+void SetScale(DesignRecord& design, int scale, const SampleScale& values) {
+    design.BottomToScaleCeiling[scale] = values.bottomToCeiling;
+    design.BottomToTitle[scale] = values.bottomToTitle;
+    design.ScaleTitle[scale] = values.title;
+    design.ScaleLengthUnits[scale] = values.span;
+    design.NrOfTicmarks[scale] = values.tics;
+    design.MajorEveryHowMany[scale] = values.majorEvery;
+    design.LabelsEveryHowMany[scale] = values.labelsEvery;
+    design.LinearityExponent[scale] = values.exponent;
     for (const int tic : values.deletedTics) {
-        Design.StandardTicYN[scale][tic] = "N";
+        design.StandardTicYN[scale][tic] = "N";
     }
     for (const int label : values.deletedLabels) {
-        Design.StandardLabelYN[scale][label] = "N";
+        design.StandardLabelYN[scale][label] = "N";
     }
     if (values.special) {
-        values.special(scale);
+        values.special(design, scale);
     }
 }
 
 // A scale that keeps its number but shows nothing.
-void HideScale(int scale) {
-    Design.PrintTicsAndArcs[scale] = std::int16_t{1};
-    Design.ScaleTitle[scale].clear();
+void HideScale(DesignRecord& design, int scale) {
+    design.PrintTicsAndArcs[scale] = std::int16_t{1};
+    design.ScaleTitle[scale].clear();
     for (int tic = 0; tic <= kLastTic; ++tic) {
-        Design.StandardLabelYN[scale][tic] = "N";
+        design.StandardLabelYN[scale][tic] = "N";
     }
 }
 
 // The scales take the odd numbers, by which all of them point outward; those between are hidden.
-void SetScales(std::span<const SampleScale> scales) {
+void SetScales(DesignRecord& design, std::span<const SampleScale> scales) {
     int number = 0;
     for (const SampleScale& values : scales) {
         if (number > 0) {
-            HideScale(++number);
+            HideScale(design, ++number);
         }
-        SetScale(++number, values);
+        SetScale(design, ++number, values);
     }
-    Design.NumberOfScales = static_cast<std::int16_t>(number);
+    design.NumberOfScales = static_cast<std::int16_t>(number);
 }
 
 } // namespace
 
 void DrawSample(DrawingSurface& surface, Sample sample) {
-    const BorrowedDesign borrowed;
+    const TraceKeeper keeper;
     const SampleRow& row = RowOf(sample);
-    SetDefaults();
-    SetPlate(row.plate);
-    SetScales(row.scales);
-    DrawPage(Design, surface, SampleTraits(),
-             {.fontSize = Design.FontSize, .labelSpacing = Design.LabelSpacing}, Drawing);
+    const auto design = std::make_unique<DesignRecord>(); // too large for a stack
+    SetDefaults(*design);
+    SetPlate(*design, row.plate);
+    SetScales(*design, row.scales);
+    DrawingState state;
+    DrawPage(*design, surface, SampleTraits(),
+             {.fontSize = design->FontSize, .labelSpacing = design->LabelSpacing}, state);
 }
 
 LogicalArea SampleArea(Sample sample) {

@@ -25,8 +25,8 @@ enum class Sample {
     Decibel,
 };
 
-// Draws the sample for a surface of square units. It borrows Design and Drawing: both are put back
-// however the drawing ends. What the surface throws beside a RunTimeError passes through.
+// Draws the sample, a design of its own, for a surface of square units. What the surface throws
+// beside a RunTimeError passes through.
 void DrawSample(DrawingSurface& surface, Sample sample);
 
 // The part of the logical area that shows the sample: the plate, or its enlarged detail.

@@ -45,7 +45,7 @@ constexpr int kLabelledDecibels[] = {0, 1, 2, 3, 4, 5, 6, 8, 10, 13, 16, 23};
 
 } // namespace
 
-void SetUpSampleOhmmeter(int scale) {
+void SetUpSampleOhmmeter(DesignRecord& design, int scale) {
     std::vector<ResistanceRow> rows;
     for (const Ohms& ohms : kOhms) {
         std::string deflection;
@@ -55,32 +55,32 @@ void SetUpSampleOhmmeter(int scale) {
                         .ticClass = *ohms.label == '\0' ? TicClass::Minor : TicClass::Major});
     }
     rows.push_back({.deflection = "0", .label = "\u221E", .ticClass = TicClass::Major});
-    StoreResistanceList(Design, scale, rows);
+    StoreResistanceList(design, scale, rows);
 }
 
-void SetUpSampleArbitrary(int scale) {
+void SetUpSampleArbitrary(DesignRecord& design, int scale) {
     std::array<SpecialRow, kSpecialRows> rows;
     std::ranges::transform(kFuel, rows.begin(), [](const Mark& mark) {
         return SpecialRow{.deflection = mark.deflection, .label = mark.label, .major = mark.major};
     });
     float last = std::size(kFuel) - 1;
-    ApplySpecialTable(Design, scale, last, rows);
-    MarkSpecial(Design, scale);
+    ApplySpecialTable(design, scale, last, rows);
+    MarkSpecial(design, scale);
 }
 
-void SetUpSampleSmeter(int scale) {
+void SetUpSampleSmeter(DesignRecord& design, int scale) {
     SmeterSetup setup{.ScaleType = 4};
-    ComputeSmeterTics(Design, scale, 1, setup);
-    MarkSpecial(Design, scale);
+    ComputeSmeterTics(design, scale, 1, setup);
+    MarkSpecial(design, scale);
 }
 
-void SetUpSampleVswr(int scale) {
+void SetUpSampleVswr(DesignRecord& design, int scale) {
     VswrSetup setup{.StepSize = 0.5F};
-    ComputeVSWRTics(Design, scale, 1, setup);
-    MarkSpecial(Design, scale);
+    ComputeVSWRTics(design, scale, 1, setup);
+    MarkSpecial(design, scale);
 }
 
-void SetUpSampleDecibel(int scale) {
+void SetUpSampleDecibel(DesignRecord& design, int scale) {
     DecibelEntries entries{
         .fullScale = 3, .ticmarks = kDecibelRows - 1, .exponent = 1, .multiplier = 1, .tics = {}};
     for (DecibelTic& tic : entries.tics) {
@@ -90,8 +90,8 @@ void SetUpSampleDecibel(int scale) {
         entries.tics.at(static_cast<std::size_t>(tic)).labelled = Answer::Yes;
         entries.tics.at(static_cast<std::size_t>(tic)).major = Answer::Yes;
     }
-    ComputeDecibelTics(Design, scale, entries);
-    MarkSpecial(Design, scale);
+    ComputeDecibelTics(design, scale, entries);
+    MarkSpecial(design, scale);
 }
 
 } // namespace vernacle

@@ -3,11 +3,13 @@
 
 namespace vernacle {
 
+struct DesignRecord;
+
 // Each writes the scale's tables and marks it special.
-void SetUpSampleOhmmeter(int scale);
-void SetUpSampleArbitrary(int scale);
-void SetUpSampleSmeter(int scale);
-void SetUpSampleVswr(int scale);
-void SetUpSampleDecibel(int scale);
+void SetUpSampleOhmmeter(DesignRecord& design, int scale);
+void SetUpSampleArbitrary(DesignRecord& design, int scale);
+void SetUpSampleSmeter(DesignRecord& design, int scale);
+void SetUpSampleVswr(DesignRecord& design, int scale);
+void SetUpSampleDecibel(DesignRecord& design, int scale);
 
 } // namespace vernacle
