@@ -27,7 +27,7 @@ struct DrawingState {
     float PointerLength = 0;   // mm
     int WhereMarker = 0;       // how far the drawing came
 
-    // The overlays that are switched on, 0 or 1; the circular outline is a field of Design.
+    // The overlays that are switched on, 0 or 1; the circular outline is a field of the design.
     std::int16_t GridShown = 0;
     std::int16_t PointerShown = 0;
 };

@@ -48,17 +48,17 @@ double Tics(const DesignRecord& design) {
 
 // clang-format off
 constexpr Nudge kNudges[] = {
-    {"UpDown1",  "Bottom to ceiling, mm: ",         "lblBottomToCeiling",       "Move the top of the scale - the ceiling - up or down",  At<&D::BottomToScaleCeiling>,   0, 200, AboveBearing, HighestCeiling, true, true},
-    {"UpDown2",  "Bottom to title, mm: ",           "lblBottomToTitle",         "Move the title up or down",                             At<&D::BottomToTitle>,        -10, 200, Is<-10>,      HighestTitle,   true, true},
+    {"UpDown1",  "Bottom to ceiling, mm: ",         "lblBottomToCeiling",       "Move the top of the scale - the ceiling - up or down",  At<&D::BottomToScaleCeiling>,   0, 200, AboveBearing, HighestCeiling, LowestEnd::Excluded, Refusal::Corrected},
+    {"UpDown2",  "Bottom to title, mm: ",           "lblBottomToTitle",         "Move the title up or down",                             At<&D::BottomToTitle>,        -10, 200, Is<-10>,      HighestTitle,   LowestEnd::Excluded, Refusal::Corrected},
     {"UpDown3",  "Actual/virtual offset: ",         "lblActualVirtualOffset",   "Move the virtual bearing up or down",                   At<&D::ActualVirtualOffset>,    0, 100, Is<0>,        NoLimit},
     {"UpDown4",  "Label-arc spacing, mm: ",         "lblLabelSpacing",          "Spacing in mm from top of ticmark labels to the arc",   At<&D::LabelSpacing>,        -200, 200, Is<-50>,      Is<50>},
     {"UpDown5",  "Fontsize: ",                      "lblFontSize",              "Fontsize for ticmark labels",                           At<&D::FontSize>,               2,  20, Is<2>,        Is<20>},
-    {"UpDown6",  "Major tic length, mm: ",          "lblMajorTicLength",        "Major ticmark length, mm",                              At<&D::MajorTicLength>,         1,  20, MinorLength,  Is<20>,         false, true},
-    {"UpDown7",  "Minor tic length, mm: ",          "lblMinorTicLength",        "Minor ticmark length, mm",                              At<&D::MinorTicLength>,         1,  20, Is<1>,        MajorLength,    false, true},
-    {"UpDown8",  "Major tic width, tenths of mm: ", "lblMajorTicWidth",         "Major ticmark width, tenths of a mm",                   At<&D::MajorTicWidth>,          1,  20, MinorWidth,   Is<20>,         false, true},
-    {"UpDown9",  "Minor tic width, tenths of mm: ", "lblMinorTicWidth",         "Minor ticmark width, tenths of a mm",                   At<&D::MinorTicWidth>,          1,  20, Is<1>,        MajorWidth,     false, true},
-    {"UpDown10", "How often major tics: ",          "lblMajorEveryHowMany",     "Major tics every how many tics",                        At<&D::MajorEveryHowMany>,      1, 100, Is<2>,        Tics,           false, true},
-    {"UpDown11", "How often tic labels: ",          "lblLabelsEveryHowMany",    "Tic labels every how many tics",                        At<&D::LabelsEveryHowMany>,     2, 100, Is<2>,        Tics,           false, true},
+    {"UpDown6",  "Major tic length, mm: ",          "lblMajorTicLength",        "Major ticmark length, mm",                              At<&D::MajorTicLength>,         1,  20, MinorLength,  Is<20>,         LowestEnd::Included, Refusal::Corrected},
+    {"UpDown7",  "Minor tic length, mm: ",          "lblMinorTicLength",        "Minor ticmark length, mm",                              At<&D::MinorTicLength>,         1,  20, Is<1>,        MajorLength,    LowestEnd::Included, Refusal::Corrected},
+    {"UpDown8",  "Major tic width, tenths of mm: ", "lblMajorTicWidth",         "Major ticmark width, tenths of a mm",                   At<&D::MajorTicWidth>,          1,  20, MinorWidth,   Is<20>,         LowestEnd::Included, Refusal::Corrected},
+    {"UpDown9",  "Minor tic width, tenths of mm: ", "lblMinorTicWidth",         "Minor ticmark width, tenths of a mm",                   At<&D::MinorTicWidth>,          1,  20, Is<1>,        MajorWidth,     LowestEnd::Included, Refusal::Corrected},
+    {"UpDown10", "How often major tics: ",          "lblMajorEveryHowMany",     "Major tics every how many tics",                        At<&D::MajorEveryHowMany>,      1, 100, Is<2>,        Tics,           LowestEnd::Included, Refusal::Corrected},
+    {"UpDown11", "How often tic labels: ",          "lblLabelsEveryHowMany",    "Tic labels every how many tics",                        At<&D::LabelsEveryHowMany>,     2, 100, Is<2>,        Tics,           LowestEnd::Included, Refusal::Corrected},
 };
 // clang-format on
 
@@ -67,7 +67,7 @@ double NumberOfNudge(const DesignRecord& design, const Nudge& nudge) {
 }
 
 NudgeResult Correct(DesignRecord& design, const Nudge& nudge, double value) {
-    if (!nudge.corrected) {
+    if (nudge.refusal == Refusal::Left) {
         return NudgeResult::Ignored;
     }
     StoreIn(nudge.field.In(design, kScale), value);
@@ -94,7 +94,7 @@ NudgeResult ApplyNudge(DesignRecord& design, const Nudge& nudge, const std::stri
     }
     const double value = NumberOfNudge(design, nudge);
     const double lowest = nudge.lowest(design);
-    if (nudge.lowestIsOpen ? value <= lowest : value < lowest) {
+    if (nudge.lowestEnd == LowestEnd::Excluded ? value <= lowest : value < lowest) {
         return Correct(design, nudge, lowest);
     }
     if (value > nudge.highest(design)) {

@@ -9,6 +9,13 @@
 
 namespace vernacle {
 
+enum class LowestEnd { Included, Excluded };
+
+enum class Refusal {
+    Left,      // a value that is not accepted just stays in its label
+    Corrected, // and is replaced by one that is
+};
+
 struct Nudge {
     const char* upDown = nullptr;
     const char* caption = nullptr;
@@ -17,11 +24,11 @@ struct Nudge {
     FieldPlace field = {};
     double stepsLowest = 0; // of the control
     double stepsHighest = 0;
-    // What is accepted, both ends included but for an open lower one.
+    // What is accepted, the highest end included.
     double (*lowest)(const DesignRecord& design) = nullptr;
     double (*highest)(const DesignRecord& design) = nullptr;
-    bool lowestIsOpen = false;
-    bool corrected = false; // else a value that is not accepted just stays
+    LowestEnd lowestEnd = LowestEnd::Included;
+    Refusal refusal = Refusal::Left;
 };
 
 std::span<const Nudge> Nudges();

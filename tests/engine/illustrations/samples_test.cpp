@@ -203,6 +203,26 @@ TEST_F(SamplesTest, DesignAndDrawingAreGivenBackWhenTheSurfaceFails) {
     }
 }
 
+// Whether the process's design is the user's at each line.
+class WatchingSurface : public RecordingSurface {
+public:
+    void Line(float x1, float y1, float x2, float y2, Colour colour) override {
+        RecordingSurface::Line(x1, y1, x2, y2, colour);
+        watched = watched && Design.ScaleTitle[1] == "Mine" && Drawing.LabelFontFace == "Mine";
+    }
+
+    bool watched = true;
+};
+
+TEST_F(SamplesTest, UsersDesignStaysInItsPlaceMeanwhile) {
+    Disturb();
+    for (const Sample sample : kAll) {
+        WatchingSurface watching;
+        DrawSample(watching, sample);
+        EXPECT_TRUE(watching.watched) << static_cast<int>(sample);
+    }
+}
+
 TEST_F(SamplesTest, UsersDesignDoesNotShowThrough) {
     for (const Sample sample : kAll) {
         SCOPED_TRACE(static_cast<int>(sample));
