@@ -139,13 +139,7 @@ std::string WriteFour(const LineSource& /*line*/) {
 void Drop(std::string& /*value*/, const LineTarget& /*line*/) {}
 
 void ReadEntry(std::string& value, const LineTarget& line) {
-    if (const auto* number = std::get_if<float*>(&line.field)) {
-        ParseEntry(value, **number);
-    } else if (const auto* whole = std::get_if<std::int16_t*>(&line.field)) {
-        ParseEntry(value, **whole);
-    } else {
-        ParseEntry(value, *std::get<std::int32_t*>(line.field));
-    }
+    ParseInto(value, line.field);
 }
 
 void ReadVal(std::string& value, const LineTarget& line) {

@@ -86,12 +86,7 @@ std::string NudgeValue(const DesignRecord& design, const Nudge& nudge) {
 
 NudgeResult ApplyNudge(DesignRecord& design, const Nudge& nudge, const std::string& text) {
     std::string entered = text;
-    const FieldPointer field = nudge.field.In(design, kScale);
-    if (auto* const* number = std::get_if<float*>(&field)) {
-        ParseEntry(entered, **number);
-    } else if (auto* const* count = std::get_if<std::int16_t*>(&field)) {
-        ParseEntry(entered, **count);
-    }
+    ParseInto(entered, nudge.field.In(design, kScale));
     const double value = NumberOfNudge(design, nudge);
     const double lowest = nudge.lowest(design);
     if (nudge.lowestEnd == LowestEnd::Excluded ? value <= lowest : value < lowest) {
