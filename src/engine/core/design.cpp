@@ -1,11 +1,10 @@
 #include "engine/core/design.h"
 
-#include <algorithm>
 #include <array>
 
 #include "engine/base/hostservices.h"
 #include "engine/base/numbertext.h"
-#include "engine/core/fieldplace.h"
+#include "engine/core/repair.h"
 
 namespace vernacle {
 
@@ -142,88 +141,54 @@ void ResetDeletedLists(DesignRecord& design) {
     }
 }
 
-// The limits of NormalizeDesign that are a plain "below this it becomes that". Comparisons written
-// as NotAbove include equality.
-enum class Repair { Below, NotAbove, Above, From };
-
-struct Limit {
-    FieldPlace place;
-    Repair when;
-    double bound;
-    double becomes;
+constexpr Repair kPlateRepairs[] = {
+    {At<&D::ActualVirtualOffset>, When::From, 100000, 100000},
+    {At<&D::ArcWidth>, When::Below, 0.5, 0.5},
+    {At<&D::BottomToBearing>, When::Below, -100000, -100000},
+    {At<&D::BottomToBearing>, When::Above, 100000, 100000},
+    {At<&D::PlateHeight>, When::NotAbove, 0, 50},
+    {At<&D::LabelSpacing>, When::Below, -200, -200},
+    {At<&D::MajorTicLength>, When::Below, 0.5, 0.5},
+    {At<&D::MajorTicWidth>, When::NotAbove, 0, 1},
+    {At<&D::MinorTicLength>, When::Below, 0.5, 0.5},
+    {At<&D::MinorTicWidth>, When::NotAbove, 0, 1},
+    {At<&D::HoleSeparation>, When::NotAbove, 0, 40},
+    {At<&D::HoleSeparation>, When::Above, 180, 180},
+    {At<&D::PlateWidth>, When::NotAbove, 0, 50},
+    {At<&D::PlateWidth>, When::Above, 180, 180},
+    {At<&D::PointerDeflection>, When::NotAbove, 0, 90},
+    {At<&D::FontSize>, When::NotAbove, 0, 8},
+    {At<&D::GraphicWidth>, When::Below, 2, 2},
+    {At<&D::GraphicWidth>, When::Above, 180, 180},
+    {At<&D::GraphicHeight>, When::Below, 2, 2},
+    {At<&D::GraphicHeight>, When::Above, 180, 180},
+    {At<&D::LeftToGraphic>, When::Below, 0, 0},
+    {At<&D::BottomToGraphic>, When::Below, 0, 0, At<&D::GraphicHeight>, At<&D::GraphicHeight>},
+    {.place = At<&D::DrawArcs>, .when = When::Empty, .text = "Y"},
+    {.place = At<&D::PrintText>, .when = When::Empty, .text = "Y"},
+    {.place = At<&D::LabelRotation>, .when = When::Empty, .text = "H"},
+    {.place = At<&D::FontName>, .text = "Arial"},
+    {At<&D::NumberOfScales>, When::Always, 0, 1},
+    {At<&D::CurrentScale>, When::Always, 0, 1},
 };
 
-bool Offends(const Limit& limit, double value) {
-    switch (limit.when) {
-    case Repair::Below:
-        return value < limit.bound;
-    case Repair::NotAbove:
-        return value <= limit.bound;
-    case Repair::Above:
-        return value > limit.bound;
-    case Repair::From:
-        return value >= limit.bound;
-    }
-    return false;
-}
-
-template <std::size_t Count>
-void HoldTo(DesignRecord& design, const Limit (&limits)[Count], int index = 0) {
-    for (const Limit& limit : limits) {
-        const FieldPointer slot = limit.place.In(design, index);
-        if (Offends(limit, NumberIn(slot))) {
-            StoreIn(slot, limit.becomes);
-        }
-    }
-}
-
-constexpr Limit kPlateLimits[] = {
-    {At<&D::ActualVirtualOffset>, Repair::From, 100000, 100000},
-    {At<&D::ArcWidth>, Repair::Below, 0.5, 0.5},
-    {At<&D::BottomToBearing>, Repair::Below, -100000, -100000},
-    {At<&D::BottomToBearing>, Repair::Above, 100000, 100000},
-    {At<&D::PlateHeight>, Repair::NotAbove, 0, 50},
-    {At<&D::LabelSpacing>, Repair::Below, -200, -200},
-    {At<&D::MajorTicLength>, Repair::Below, 0.5, 0.5},
-    {At<&D::MajorTicWidth>, Repair::NotAbove, 0, 1},
-    {At<&D::MinorTicLength>, Repair::Below, 0.5, 0.5},
-    {At<&D::MinorTicWidth>, Repair::NotAbove, 0, 1},
-    {At<&D::HoleSeparation>, Repair::NotAbove, 0, 40},
-    {At<&D::HoleSeparation>, Repair::Above, 180, 180},
-    {At<&D::PlateWidth>, Repair::NotAbove, 0, 50},
-    {At<&D::PlateWidth>, Repair::Above, 180, 180},
-    {At<&D::PointerDeflection>, Repair::NotAbove, 0, 90},
-    {At<&D::FontSize>, Repair::NotAbove, 0, 8},
-    {At<&D::GraphicWidth>, Repair::Below, 2, 2},
-    {At<&D::GraphicWidth>, Repair::Above, 180, 180},
-    {At<&D::GraphicHeight>, Repair::Below, 2, 2},
-    {At<&D::GraphicHeight>, Repair::Above, 180, 180},
-    {At<&D::LeftToGraphic>, Repair::Below, 0, 0},
+constexpr Repair kScaleRepairs[] = {
+    {At<&D::BottomToScaleCeiling>, When::NotAbove, -200, -200},
+    {At<&D::BottomToTitle>, When::NotAbove, -200, -200},
+    {At<&D::MajorEveryHowMany>, When::Below, 1, 5},
+    {At<&D::LabelsEveryHowMany>, When::Below, 1, 10},
+    {At<&D::NrOfTicmarks>, When::Below, 1, 50},
+    {At<&D::NrOfTicmarks>, When::Above, kLastTic, kLastTic},
+    {At<&D::LinearityExponent>, When::Always, 0, 1},
+    {At<&D::ScaleColor>, When::Always, 0, 0},
+    {At<&D::ScaleLengthUnits>, When::Equal, 0, 100},
 };
-
-constexpr Limit kScaleLimits[] = {
-    {At<&D::BottomToScaleCeiling>, Repair::NotAbove, -200, -200},
-    {At<&D::BottomToTitle>, Repair::NotAbove, -200, -200},
-    {At<&D::MajorEveryHowMany>, Repair::Below, 1, 5},
-    {At<&D::LabelsEveryHowMany>, Repair::Below, 1, 10},
-    {At<&D::NrOfTicmarks>, Repair::Below, 1, 50},
-    {At<&D::NrOfTicmarks>, Repair::Above, kLastTic, kLastTic},
-};
-
-void FillIfEmpty(std::string& text, const char* filling) {
-    if (text.empty()) {
-        text = filling;
-    }
-}
 
 void NormalizeScale(DesignRecord& design, int scale) {
-    HoldTo(design, kScaleLimits, scale);
-    design.LinearityExponent[scale] = 1;
-    design.ScaleColor[scale] = 0;
-    if (design.ScaleLengthUnits[scale] == 0) {
-        design.ScaleLengthUnits[scale] = 100;
+    RepairFields(design, kScaleRepairs, scale);
+    if (design.ScaleTitle[scale].empty()) {
+        design.ScaleTitle[scale] = "Default " + std::to_string(scale);
     }
-    FillIfEmpty(design.ScaleTitle[scale], ("Default " + std::to_string(scale)).c_str());
 }
 
 } // namespace
@@ -285,14 +250,7 @@ void ResetDesign(DesignRecord& design) {
 }
 
 int NormalizeDesign(DesignRecord& design) {
-    HoldTo(design, kPlateLimits);
-    FillIfEmpty(design.DrawArcs, "Y");
-    FillIfEmpty(design.PrintText, "Y");
-    FillIfEmpty(design.LabelRotation, "H");
-    design.FontName = "Arial";
-    design.NumberOfScales = 1;
-    design.CurrentScale = 1;
-    design.BottomToGraphic = std::max(design.BottomToGraphic, design.GraphicHeight);
+    RepairFields(design, kPlateRepairs);
     NormalizeScale(design, 1);
     return 0;
 }

@@ -5,6 +5,7 @@
 
 #include "engine/base/numbertext.h"
 #include "engine/core/entry.h"
+#include "engine/core/repair.h"
 
 namespace vernacle {
 
@@ -145,20 +146,7 @@ constexpr Prompt kPrompts[] = {
          "A suggested is a value of 2."},
 };
 
-enum class When { Equal, NotAbove, Below, Above, Always };
-
-// If a field's number compares so with the bound, it becomes the value; both are fields where one
-// is named.
-struct RepairRow {
-    FieldPlace field = {};
-    When when = When::Always;
-    double bound = 0;
-    double value = 0;
-    FieldPlace boundField = {};
-    FieldPlace valueField = {}; // to which the value is added
-};
-
-constexpr RepairRow kRepairs[] = {
+constexpr Repair kRepairs[] = {
     {At<&D::ArcWidth>, When::NotAbove, 0, 1},
     {At<&D::AspectRatio>, When::Equal, 0, 0.75},
     {At<&D::BottomToBearing>, When::Equal, 0, 1},
@@ -182,40 +170,11 @@ constexpr RepairRow kRepairs[] = {
     {kWidth, When::NotAbove, 0, 75},
     {At<&D::PointerDeflection>, When::Below, 0.1F, 90},
     {At<&D::FontSize>, When::NotAbove, 0, 8},
+    {.place = At<&D::DrawArcs>, .text = "Y"},
+    {.place = At<&D::PrintText>, .text = "Y"},
+    {.place = At<&D::LabelRotation>, .text = "H"},
+    {.place = At<&D::ScaleTitle>, .text = "Wizard Title"},
 };
-
-bool Applies(When when, double number, double bound) {
-    switch (when) {
-    case When::Equal:
-        return number == bound;
-    case When::NotAbove:
-        return !(number > bound);
-    case When::Below:
-        return number < bound;
-    case When::Above:
-        return number > bound;
-    case When::Always:
-        return true;
-    }
-    return true;
-}
-
-void Repair(DesignRecord& design, const RepairRow& row) {
-    const double bound = row.boundField ? NumberAt(design, row.boundField) : row.bound;
-    if (Applies(row.when, NumberAt(design, row.field), bound)) {
-        const double value =
-            row.valueField ? NumberAt(design, row.valueField) + row.value : row.value;
-        StoreIn(row.field.In(design, kScale), value);
-    }
-}
-
-void Parse(const FieldPointer& field, std::string text) {
-    if (auto* const* number = std::get_if<float*>(&field)) {
-        ParseEntry(text, **number);
-    } else if (auto* const* count = std::get_if<std::int16_t*>(&field)) {
-        ParseEntry(text, **count);
-    }
-}
 
 bool IsAccepted(const DesignRecord& design, const WizardStep& step, double value) {
     const double lowest = step.lowest.Value(design);
@@ -241,7 +200,8 @@ std::span<const WizardStep> WizardSteps() {
 
 std::optional<std::string> EnterWizardStep(DesignRecord& design, const WizardStep& step,
                                            const std::string& text) {
-    Parse(step.field.In(design, kScale), text);
+    std::string entered = text;
+    ParseInto(entered, step.field.In(design, kScale));
     if (IsAccepted(design, step, NumberAt(design, step.field))) {
         if (step.accepted) {
             step.accepted(design);
@@ -289,17 +249,12 @@ std::span<const int> WizardReadingOrder() {
 
 void ReadWizardStep(DesignRecord& design, const WizardStep& step, const std::string& text) {
     const FieldPlace field = step.count ? step.count : step.field;
-    Parse(field.In(design, kScale), text);
+    std::string entered = text;
+    ParseInto(entered, field.In(design, kScale));
 }
 
 void RepairWizardDesign(DesignRecord& design) {
-    for (const RepairRow& row : kRepairs) {
-        Repair(design, row);
-    }
-    design.DrawArcs = "Y";
-    design.PrintText = "Y";
-    design.LabelRotation = "H";
-    design.ScaleTitle[kScale] = "Wizard Title";
+    RepairFields(design, kRepairs, kScale);
 }
 
 } // namespace vernacle
