@@ -5,7 +5,6 @@
 
 #include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
-#include "desktop/kit/optionbutton.h"
 #include "desktop/kit/picturebox.h"
 #include "desktop/navigation/navigator.h"
 #include "desktop/system/dialogs.h"
@@ -13,6 +12,7 @@
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
 #include "engine/core/design.h"
+#include "engine/core/repair.h"
 #include "engine/illustrations/schematic.h"
 #include "surfaces/colours.h"
 
@@ -22,16 +22,14 @@ namespace {
 
 using D = DesignRecord;
 
-constexpr int kMeasuresPerColumn = 7;
 constexpr int kFontNameWidth = 16; // characters
-constexpr std::int16_t kQuadrant = 1;
 constexpr QSize kSwatchSize(48, 22);
 constexpr QColor kWarning(0xFF, 0xEE, 0xEE);
 
 constexpr PageTraits kTraits = {
     .form = "frmPlate", .title = "Plate design", .helpTopic = "vplate.htm"};
 
-// The measures. Each has an illustration, which its H button shows and what is typed too.
+// The measures, in two columns. What is typed shows the same illustration as the H button.
 // clang-format off
 constexpr FieldRow kMeasures[] = {
     {.box = "txtPlateWidth",          .caption = "Plate width, mm",           .place = At<&D::PlateWidth>,          .limits = {20, 180},            .unit = "mm",           .arrows = {"UpDownPlateWidth", {20, 180}},              .topic = 1},
@@ -51,107 +49,20 @@ constexpr FieldRow kMeasures[] = {
 };
 // clang-format on
 
-enum class Group { Sound, Graphic, Arcs, LabelRotation, Style, Number, Plate, Labels };
+constexpr int kMeasuresPerColumn = (static_cast<int>(std::size(kMeasures)) + 1) / 2;
 
-} // namespace
-
-// An option of a group: what selecting it does, and whether the design stands so.
-struct frmPlate::Option {
-    Group group;
-    const char* name;
-    const char* caption;
-    void (*select)(frmPlate& page);
-    bool (*holds)();
-    OptionButton* frmPlate::*kept = nullptr; // where the page holds it
+// What the options need before they show the design.
+constexpr Repair kSwitches[] = {
+    {.place = At<&D::DrawArcs>, .when = When::Empty, .text = "Y"},
+    {.place = At<&D::LabelRotation>, .when = When::Empty, .text = "H"},
+    {.place = At<&D::PrintText>, .when = When::Empty, .text = "Y"},
+    {.place = At<&D::DrawHighlights>, .when = When::Empty, .text = "Y"},
+    {.place = At<&D::DrawGraphic>, .when = When::Empty, .text = "N"},
 };
-
-namespace {
-
-void TakeScales(std::int16_t count) {
-    Design.NumberOfScales = count;
-    Design.ActiveScale = 1;
-}
-
-} // namespace
-
-// In the order in which a load sets them: the graphic's options clear those of the labels, which
-// come last to show the field.
-// clang-format off
-const frmPlate::Option frmPlate::kOptions[] = {
-    {Group::Sound,         "optSoundOff",                "Off",         [](frmPlate&) { Design.MessageLevel = 0; },                                  [] { return Design.MessageLevel == 0; }},
-    {Group::Sound,         "optSoundWarn",               "Warn",        [](frmPlate&) { Design.MessageLevel = 1; },                                  [] { return Design.MessageLevel == 1; }},
-    {Group::Sound,         "optSoundAll",                "All",         [](frmPlate&) { Design.MessageLevel = 2; },                                  [] { return Design.MessageLevel == 2; }},
-    {Group::Graphic,       "optGraphicYes",              "Yes",         [](frmPlate& page) { page.optGraphicClicked("Y", *page.optPrintTextNo_); },  [] { return Design.DrawGraphic == "Y"; }},
-    {Group::Graphic,       "optGraphicNo",               "No",          [](frmPlate& page) { page.optGraphicClicked("N", *page.optPrintTextYes_); }, [] { return Design.DrawGraphic == "N"; }},
-    {Group::Arcs,          "optArcsYes",                 "Yes",         [](frmPlate&) { Design.DrawArcs = "Y"; },                                    [] { return Design.DrawArcs == "Y"; }},
-    {Group::Arcs,          "optArcsNo",                  "No",          [](frmPlate&) { Design.DrawArcs = "N"; },                                    [] { return Design.DrawArcs == "N"; }},
-    {Group::LabelRotation, "optLabelRotationHorizontal", "Horizontal",  [](frmPlate&) { Design.LabelRotation = "H"; },                               [] { return Design.LabelRotation == "H"; }},
-    {Group::LabelRotation, "optLabelRotationBearing",    "Bearing",     [](frmPlate&) { Design.LabelRotation = "B"; },                               [] { return Design.LabelRotation == "B"; }},
-    {Group::Style,         "optNormal",                  "Standard",    [](frmPlate& page) { page.optStyleClicked(0); },                             [] { return Design.PlateStyle == 0; }},
-    {Group::Style,         "optDINquad",                 "Quadrant",    [](frmPlate& page) { page.optStyleClicked(kQuadrant); },                     [] { return Design.PlateStyle == kQuadrant; }},
-    {Group::Number,        "Option1",                    "1",           [](frmPlate&) { TakeScales(1); },                                            [] { return Design.NumberOfScales == 1; }},
-    {Group::Number,        "Option2",                    "2",           [](frmPlate&) { TakeScales(2); },                                            [] { return Design.NumberOfScales == 2; }},
-    {Group::Number,        "Option3",                    "3",           [](frmPlate&) { TakeScales(3); },                                            [] { return Design.NumberOfScales == 3; }},
-    {Group::Number,        "Option4",                    "4",           [](frmPlate&) { TakeScales(4); },                                            [] { return Design.NumberOfScales == 4; }},
-    {Group::Number,        "Option5",                    "5",           [](frmPlate&) { TakeScales(5); },                                            [] { return Design.NumberOfScales == 5; }},
-    {Group::Number,        "Option6",                    "6",           [](frmPlate&) { TakeScales(6); },                                            [] { return Design.NumberOfScales == 6; }},
-    {Group::Plate,         "optCircular",                "Circular",    [](frmPlate&) { Design.PlateOutlineCircular = 1; },                          [] { return Design.PlateOutlineCircular == 1; }},
-    {Group::Plate,         "optRectangular",             "Rectangular", [](frmPlate&) { Design.PlateOutlineCircular = 0; },                          [] { return Design.PlateOutlineCircular == 0; }},
-    {Group::Labels,        "optPrintTextYes",            "Yes",         [](frmPlate&) { Design.PrintText = "Y"; },                                   [] { return Design.PrintText == "Y"; }, &frmPlate::optPrintTextYes_},
-    {Group::Labels,        "optPrintTextNo",             "No",          [](frmPlate&) { Design.PrintText = "N"; },                                   [] { return Design.PrintText == "N"; }, &frmPlate::optPrintTextNo_},
-};
-// clang-format on
-
-namespace {
-
-enum class Frame { Shown, Hidden };
-
-enum class Help { Enabled, Greyed };
-
-} // namespace
-
-// A frame of options, and where it stands on the page's grid. Its first options are enabled.
-struct frmPlate::OptionFrame {
-    Group group;
-    const char* name;
-    const char* title;
-    int row;
-    int column;
-    int columns = 1;
-    int enabledOptions = 2;
-    Frame frame = Frame::Shown;
-    const char* before = ""; // texts around the options
-    const char* behind = "";
-    const char* helpButton = nullptr; // with an illustration of the options
-    void (frmPlate::*help)() = nullptr;
-    Help helpState = Help::Enabled;
-    QGroupBox* frmPlate::*kept = nullptr; // where the page holds it
-};
-
-// clang-format off
-const frmPlate::OptionFrame frmPlate::kFrames[] = {
-    {.group = Group::Arcs,          .name = "fraArcs",          .title = "Arcs",         .row = 0, .column = 0},
-    {.group = Group::Labels,        .name = "fraLabels",        .title = "Labels",       .row = 0, .column = 1},
-    {.group = Group::LabelRotation, .name = "fraLabelRotation", .title = "Label rotate", .row = 1, .column = 0, .helpButton = "cmdRotateHelp", .help = &frmPlate::cmdRotateHelpClicked},
-    {.group = Group::Style,         .name = "fraStyle",         .title = "Style",        .row = 1, .column = 1, .enabledOptions = 0, .helpButton = "cmdStyleHelp", .help = &frmPlate::cmdStyleHelpClicked, .helpState = Help::Greyed},
-    {.group = Group::Number,        .name = "fraNumber",        .title = "Number",       .row = 2, .column = 0, .columns = 2, .enabledOptions = 1, .before = "of", .behind = "scales"},
-    {.group = Group::Plate,         .name = "fraPlate",         .title = "Plate",        .row = 3, .column = 0, .frame = Frame::Hidden},
-    {.group = Group::Graphic,       .name = "fraGraphic",       .title = "Graphic",      .row = 3, .column = 1, .frame = Frame::Hidden, .kept = &frmPlate::fraGraphic_},
-    {.group = Group::Sound,         .name = "fraSound",         .title = "Sound",        .row = 4, .column = 0, .frame = Frame::Hidden},
-};
-// clang-format on
-
-namespace {
 
 // A file's name behind its last folder.
 QString ShortName(const std::string& path) {
     return QString::fromStdString(path.substr(path.rfind('\\') + 1));
-}
-
-void SetIfEmpty(std::string& field, const char* value) {
-    if (field.empty()) {
-        field = value;
-    }
 }
 
 } // namespace
@@ -193,63 +104,13 @@ QLayout* frmPlate::MakeMeasures() {
         auto* measure = new Field(row, *this);
         measure->AddTo(*grid, place++ % kMeasuresPerColumn);
         connect(measure->box, &EntryBox::Changed, this, [this, measure] { Changed(*measure); });
-        connect(measure->help, &QPushButton::clicked, this,
-                [this, measure] { Illustrate(*measure); });
+        if (measure->help) {
+            connect(measure->help, &QPushButton::clicked, this,
+                    [this, measure] { Illustrate(*measure); });
+        }
         measures_.push_back(measure);
     }
     return columns;
-}
-
-QLayout* frmPlate::MakeFrames() {
-    auto* grid = new QGridLayout;
-    grid->setSpacing(kEntrySpacing);
-    for (const OptionFrame& frame : kFrames) {
-        grid->addWidget(MakeOptionFrame(frame), frame.row, frame.column, 1, frame.columns);
-    }
-    return grid;
-}
-
-QGroupBox* frmPlate::MakeOptionFrame(const OptionFrame& frame) {
-    QGroupBox* box = MakeFrame(frame.name, QString::fromUtf8(frame.title));
-    auto* line = new QHBoxLayout(box);
-    if (*frame.before != '\0') {
-        line->addWidget(MakeLabel("lblNumberBefore", QString::fromUtf8(frame.before)));
-    }
-    int place = 0;
-    for (const Option& option : kOptions) {
-        if (option.group == frame.group) {
-            OptionButton* button = MakeOption(option);
-            button->setEnabled(place++ < frame.enabledOptions);
-            line->addWidget(button);
-        }
-    }
-    if (*frame.behind != '\0') {
-        line->addWidget(MakeLabel("lblNumberBehind", QString::fromUtf8(frame.behind)));
-    }
-    line->addStretch();
-    if (frame.helpButton) {
-        QPushButton* help = MakeHelpButton(frame.helpButton, box->title());
-        help->setEnabled(frame.helpState == Help::Enabled);
-        connect(help, &QPushButton::clicked, this, frame.help);
-        line->addWidget(help);
-    }
-    if (frame.frame == Frame::Hidden) {
-        box->hide();
-    }
-    if (frame.kept) {
-        this->*frame.kept = box;
-    }
-    return box;
-}
-
-OptionButton* frmPlate::MakeOption(const Option& option) {
-    auto* button = new OptionButton(option.name, QString::fromUtf8(option.caption));
-    button->OnSelect([this, &option] { option.select(*this); });
-    options_.emplace(&option, button);
-    if (option.kept) {
-        this->*option.kept = button;
-    }
-    return button;
 }
 
 QLayout* frmPlate::MakeTools() {
@@ -291,17 +152,13 @@ void frmPlate::Load() {
     fraGraphic_->setToolTip(ShortName(Design.GraphicFileName));
     ShowFont();
     ShowBackground();
-    ShowOptions([](const Option& option) { return option.group == Group::Sound; });
+    ShowSound();
     WarnOfQuadrant();
     Design.NumberOfScales = 1;
     NormalizeDesign(Design);
     FillMeasures();
-    SetIfEmpty(Design.DrawArcs, "Y");
-    SetIfEmpty(Design.LabelRotation, "H");
-    SetIfEmpty(Design.PrintText, "Y");
-    SetIfEmpty(Design.DrawHighlights, "Y");
-    SetIfEmpty(Design.DrawGraphic, "N");
-    ShowOptions([](const Option& option) { return option.group != Group::Sound; });
+    RepairFields(Design, kSwitches);
+    ShowOptions();
     schematic_->Surface().Clear();
 }
 
@@ -312,14 +169,6 @@ void frmPlate::FillMeasures() {
     }
 }
 
-void frmPlate::ShowOptions(bool (*wanted)(const Option& option)) {
-    for (const Option& option : kOptions) {
-        if (wanted(option) && option.holds()) {
-            options_.at(&option)->Select();
-        }
-    }
-}
-
 void frmPlate::Changed(const Field& measure) {
     measure.Take(measure.row.place.In(Design));
     WarnOfQuadrant();
@@ -327,6 +176,9 @@ void frmPlate::Changed(const Field& measure) {
 }
 
 void frmPlate::Illustrate(const Field& measure) {
+    if (!measure.help) {
+        return; // nothing illustrates it
+    }
     Design.HelpTopic = measure.row.topic;
     RedrawSchematic();
 }
@@ -344,16 +196,6 @@ void frmPlate::WarnOfQuadrant() {
 
 void frmPlate::RedrawSchematic() {
     DrawSchematic(schematic_->Surface(), Design.HelpTopic, kPlatePageLook);
-}
-
-void frmPlate::optStyleClicked(std::int16_t style) {
-    Design.PlateStyle = style;
-    WarnOfQuadrant();
-}
-
-void frmPlate::optGraphicClicked(const char* yesNo, OptionButton& cleared) {
-    Design.DrawGraphic = yesNo;
-    cleared.Unselect();
 }
 
 void frmPlate::cmdCalibrateClicked() {

@@ -1,6 +1,7 @@
 // The plate page: the measures of plate, bearing, holes, pointer, tics, labels and arcs.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <vector>
 
@@ -23,6 +24,8 @@ public:
     frmPlate();
 
 private:
+    static constexpr std::int16_t kQuadrant = 1; // plate style
+
     struct Option;
     struct OptionFrame;
     static const Option kOptions[];
@@ -39,7 +42,8 @@ private:
     // Loading
     void Load();
     void FillMeasures();
-    void ShowOptions(bool (*wanted)(const Option& option));
+    void ShowSound();
+    void ShowOptions(); // the others
 
     // Handlers
     void Changed(const Field& measure);

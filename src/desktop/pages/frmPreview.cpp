@@ -1,7 +1,5 @@
 #include "desktop/pages/frmPreview.h"
 
-#include <algorithm>
-
 #include <QGridLayout>
 #include <QVBoxLayout>
 
@@ -12,6 +10,7 @@
 #include "desktop/navigation/navigator.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
+#include "engine/core/repair.h"
 #include "engine/render/drawingsteps.h"
 #include "engine/render/overlays.h"
 #include "engine/scale/scale.h"
@@ -30,6 +29,13 @@ constexpr int kToolIconSize = 20;
 constexpr FieldRow kRatio   = {.box = "txtAspect",       .caption = "Aspect ratio:",    .limits = kAspectLimits};
 constexpr FieldRow kPercent = {.box = "txtAspectUpDown", .caption = "Aspect, percent:", .limits = {kAspectLimits.lowest * 100, kAspectLimits.highest * 100}, .unit = "%", .arrows = {"UpDown1"}};
 // clang-format on
+
+// What the page shows, whatever the design held.
+constexpr Repair kShownAlone[] = {
+    {.place = At<&DesignRecord::FontName>, .text = "Arial"},
+    {At<&DesignRecord::NumberOfScales>, When::Always, 0, 1},
+    {At<&DesignRecord::CurrentScale>, When::Below, 1, 1},
+};
 
 constexpr OwnTip kOwnTips[] = {{"Exit", "Exit"}};
 
@@ -138,9 +144,7 @@ void frmPreview::Load() {
     CopyTexts();
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
-    Design.FontName = "Arial";
-    Design.NumberOfScales = 1;
-    Design.CurrentScale = std::max<std::int16_t>(Design.CurrentScale, 1);
+    RepairFields(Design, kShownAlone);
     RaiseAspectRatio(Design);
     ShowAspect();
     ShowPercent();

@@ -233,7 +233,10 @@ constexpr FileLine kTicsAndArcsHeading =
     {"Print ticmarks and arcs:",         WriteNothing,    Nowhere,                           Drop,            855};
 constexpr FileLine kTicsAndArcs =
     {"Scale %: ",                        WriteTicsAndArcs,Nowhere,                           ReadTicsAndArcs, 860};
-constexpr FileLine kEnd = Step(990, ForceTicsAndArcs);
+// What the file gains stands before its end: a file that is older ends before it.
+constexpr FileLine kTail[] = {
+    Step(990, ForceTicsAndArcs),
+};
 // clang-format on
 
 } // namespace
@@ -280,7 +283,7 @@ void FileWalker::Walk() {
     }
     Visit(kAfterCurve, {});
     WalkPerScale(kTicsAndArcsHeading, kTicsAndArcs);
-    Visit(kEnd, {});
+    VisitAll(kTail);
 }
 
 void FileWalker::WalkScale(int scale) {
