@@ -1,9 +1,6 @@
 #include "desktop/kit/formkit.h"
 
-#include <QGridLayout>
 #include <QKeyEvent>
-
-#include "desktop/kit/entrybox.h"
 
 namespace vernacle {
 
@@ -55,16 +52,6 @@ QGroupBox* MakeFrame(const char* name, const QString& title) {
     frame->setObjectName(QLatin1String(name));
     frame->setAccessibleName(title);
     return frame;
-}
-
-CaptionedBox AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box) {
-    const int row = grid.rowCount();
-    auto* entry = new EntryBox(box, QString::fromUtf8(caption));
-    QLabel* text = MakeLabel(label, QString::fromUtf8(caption));
-    text->setBuddy(entry);
-    grid.addWidget(text, row, 0);
-    grid.addWidget(entry, row, 1);
-    return {*text, *entry};
 }
 
 QLabel* MakeHeading(const char* name, const QString& text) {

@@ -5,11 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-class QGridLayout;
-
 namespace vernacle {
-
-class EntryBox;
 
 QLabel* MakeLabel(const char* name, const QString& text);
 
@@ -22,14 +18,6 @@ QGroupBox* MakeFrame(const char* name, const QString& title);
 
 // Space between the rows and columns of entries, pixels.
 constexpr int kEntrySpacing = 6;
-
-struct CaptionedBox {
-    QLabel& label;
-    EntryBox& box;
-};
-
-// A box behind its caption, as the next row of the grid.
-CaptionedBox AddEntry(QGridLayout& grid, const char* label, const char* caption, const char* box);
 
 // The page's heading, in a larger font.
 QLabel* MakeHeading(const char* name, const QString& text);

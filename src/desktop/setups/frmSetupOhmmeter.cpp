@@ -6,7 +6,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/setups/rowtable.h"
@@ -33,6 +33,11 @@ constexpr SetupPageTraits kTraits = {.form = "frmSetupOhmmeter",
                                      .computes = kAtPreview | kAtAccept,
                                      .marking = Marking::ByComputing,
                                      .readsBack = true};
+
+constexpr FieldRow kMidscale = {.box = "txtEnterMidscale",
+                                .caption = "Enter midscale resistance value:"};
+constexpr FieldRow kResistance = {.box = "txtEnterResistance",
+                                  .caption = "Enter resistance to get deflection:"};
 
 constexpr const char* kHeadings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
 
@@ -84,8 +89,9 @@ void frmSetupOhmmeter::Build() {
     halves->addLayout(column);
     halves->addLayout(list, 1);
     Body().addLayout(halves, 1);
-    Disable({lblEnterResistance_, txtEnterResistance_, cmdComputeDeflection_,
-             lblResultingDeflection_, cmdAddToList_, cmdIgnoreEntry_, &Accept()});
+    resistance_->Disable();
+    Disable({cmdComputeDeflection_, lblResultingDeflection_, cmdAddToList_, cmdIgnoreEntry_,
+             &Accept()});
 }
 
 QLayout* frmSetupOhmmeter::MakeEntries() {
@@ -97,17 +103,14 @@ QLayout* frmSetupOhmmeter::MakeEntries() {
         grid->addWidget(button, grid->rowCount(), 0, 1, 2);
         return button;
     };
-    const CaptionedBox midscale =
-        AddEntry(*grid, "lblEnterMidscale", "Enter midscale resistance value:", "txtEnterMidscale");
-    txtEnterMidscale_ = &midscale.box;
-    connect(txtEnterMidscale_, &EntryBox::Changed, this,
-            &frmSetupOhmmeter::txtEnterMidscaleChanged);
-    const CaptionedBox resistance = AddEntry(
-        *grid, "lblEnterResistance", "Enter resistance to get deflection:", "txtEnterResistance");
-    lblEnterResistance_ = &resistance.label;
-    txtEnterResistance_ = &resistance.box;
-    connect(txtEnterResistance_, &EntryBox::Changed, this,
-            &frmSetupOhmmeter::txtEnterResistanceChanged);
+    const auto addField = [this, grid](const FieldRow& row, auto changed) {
+        auto* field = new Field(row, *this);
+        field->AddBoxTo(*grid, grid->rowCount());
+        connect(field->box, &EntryBox::Changed, this, changed);
+        return field;
+    };
+    midscale_ = addField(kMidscale, &frmSetupOhmmeter::txtEnterMidscaleChanged);
+    resistance_ = addField(kResistance, &frmSetupOhmmeter::txtEnterResistanceChanged);
     cmdComputeDeflection_ = addButton("cmdComputeDeflection", "Compute deflection",
                                       &frmSetupOhmmeter::cmdComputeDeflectionClicked);
     lblResultingDeflection_ = MakeLabel("lblResultingDeflection", {});
@@ -183,10 +186,8 @@ void frmSetupOhmmeter::ReadBack() {
 }
 
 void frmSetupOhmmeter::ComputeResistanceDeflection() {
-    std::string text = txtEnterMidscale_->Text();
-    ParseEntry(text, EnteredMidscale_);
-    text = txtEnterResistance_->Text();
-    ParseEntry(text, EnteredResistance_);
+    midscale_->Read(&EnteredMidscale_);
+    resistance_->Read(&EnteredResistance_);
     const float deflection =
         vernacle::ComputeResistanceDeflection(EnteredMidscale_, EnteredResistance_);
     FormatByMagnitude(double{deflection}, ResultingDeflectionText_);
@@ -215,7 +216,8 @@ void frmSetupOhmmeter::StoreResistanceList() {
 }
 
 void frmSetupOhmmeter::txtEnterMidscaleChanged() {
-    Enable({lblEnterResistance_, txtEnterResistance_, lblResultingDeflection_});
+    resistance_->Enable();
+    Enable({lblResultingDeflection_});
 }
 
 // What was computed is not that resistance's any more.
@@ -248,8 +250,8 @@ void frmSetupOhmmeter::AddRow() {
     const ListRow& row = Row(ListCount_);
     row.tic->setText(QString::number(ListCount_));
     row.deflection->setText(QString::fromStdString(ResultingDeflectionText_));
-    row.label->Write(txtEnterResistance_->Text());
-    txtEnterResistance_->Write({});
+    row.label->Write(resistance_->box->Text());
+    resistance_->box->Write({});
     ForgetResult();
     Disable({cmdComputeDeflection_});
     Enable({&Accept()});
@@ -257,7 +259,7 @@ void frmSetupOhmmeter::AddRow() {
 }
 
 void frmSetupOhmmeter::cmdIgnoreEntryClicked() {
-    txtEnterResistance_->Write({});
+    resistance_->box->Write({});
     lblResultingDeflection_->clear();
 }
 

@@ -62,9 +62,8 @@ private:
     float EnteredMidscale_ = 0;
     float EnteredResistance_ = 0;
     std::string ResultingDeflectionText_;
-    EntryBox* txtEnterMidscale_ = nullptr;
-    QLabel* lblEnterResistance_ = nullptr;
-    EntryBox* txtEnterResistance_ = nullptr;
+    Field* midscale_ = nullptr;
+    Field* resistance_ = nullptr;
     QPushButton* cmdComputeDeflection_ = nullptr;
     QLabel* lblResultingDeflection_ = nullptr;
     QPushButton* cmdAddToList_ = nullptr;

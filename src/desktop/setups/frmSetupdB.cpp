@@ -6,7 +6,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/setups/rowtable.h"
@@ -36,22 +36,17 @@ constexpr const char* kHeadings[] = {
 enum class ShownAgain { ByMagnitude, Plainly, AsTyped };
 
 struct frmSetupdB::Entry {
-    const char* label = nullptr;
-    const char* caption = nullptr;
-    const char* box = nullptr;
-    const char* start = nullptr;
-    EntryLimits limits = {};
-    const char* unit = nullptr;
+    FieldRow row = {};
     float DecibelEntries::*number = nullptr;
     ShownAgain again = ShownAgain::ByMagnitude;
 };
 
 // clang-format off
 const frmSetupdB::Entry frmSetupdB::kEntries[] = {
-    {"lblFullScaledB",         "Full-scale dB value:",  "txtFullScaledB",         "0",  kFullScaleLimits,  "dB",       &DecibelEntries::fullScale},
-    {"lblNrOfTicmarks",        "Number of ticmarks:",   "txtNrOfTicmarks",        "11", kTicmarksLimits,   "ticmarks", &DecibelEntries::ticmarks},
-    {"lblLinearityExponent",   "Linearity exponent:",   "txtLinearityExponent",   "1",  kExponentLimits,   "",         &DecibelEntries::exponent,   ShownAgain::AsTyped},
-    {"lblFullscaleMultiplier", "Fullscale multiplier:", "txtFullscaleMultiplier", "1",  kMultiplierLimits, "",         &DecibelEntries::multiplier, ShownAgain::Plainly},
+    {{.box = "txtFullScaledB",         .caption = "Full-scale dB value:",  .limits = kFullScaleLimits,  .unit = "dB",       .text = "0"},  &DecibelEntries::fullScale},
+    {{.box = "txtNrOfTicmarks",        .caption = "Number of ticmarks:",   .limits = kTicmarksLimits,   .unit = "ticmarks", .text = "11"}, &DecibelEntries::ticmarks},
+    {{.box = "txtLinearityExponent",   .caption = "Linearity exponent:",   .limits = kExponentLimits,   .text = "1"},  &DecibelEntries::exponent,   ShownAgain::AsTyped},
+    {{.box = "txtFullscaleMultiplier", .caption = "Fullscale multiplier:", .limits = kMultiplierLimits, .text = "1"},  &DecibelEntries::multiplier, ShownAgain::Plainly},
 };
 // clang-format on
 
@@ -95,10 +90,9 @@ QLayout* frmSetupdB::MakeEntries() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     for (const Entry& entry : kEntries) {
-        EntryBox& box = AddEntry(*grid, entry.label, entry.caption, entry.box).box;
-        box.TellRange(RangeText(entry.limits, entry.unit));
-        box.Show(entry.start);
-        boxes_.push_back({entry, box});
+        auto* field = new Field(entry.row, *this);
+        field->AddBoxTo(*grid, grid->rowCount());
+        fields_.push_back({entry, *field});
     }
     return grid;
 }
@@ -159,8 +153,8 @@ void frmSetupdB::ReadBack() {
     entries_.ticmarks = Design.SpecialNrOfTicmarks[scale];
     entries_.exponent = Design.LinearityExponent[scale];
     entries_.multiplier = Design.FullscaleMultiplier[scale];
-    for (const auto& [entry, box] : boxes_) {
-        box.Write(PlainNumber(entries_.*entry.number));
+    for (const auto& [entry, field] : fields_) {
+        field.Fill(&(entries_.*entry.number));
     }
     for (int tic = 0; tic < kDecibelRows; ++tic) {
         const TicRow& row = Row(tic);
@@ -179,9 +173,8 @@ void frmSetupdB::ComputeDecibelTics() {
 }
 
 void frmSetupdB::ReadEntries() {
-    for (const auto& [entry, box] : boxes_) {
-        std::string text = box.Text();
-        ParseEntry(text, entries_.*entry.number);
+    for (const auto& [entry, field] : fields_) {
+        field.Read(&(entries_.*entry.number));
     }
     entries_.plusSigns = AnswerIf(optY_->isChecked());
     entries_.unlabelledBottomTic = AnswerIf(optUnlabelledAtBottomYes_->isChecked());
@@ -193,13 +186,13 @@ void frmSetupdB::ReadEntries() {
 }
 
 void frmSetupdB::ShowEntries() {
-    for (const auto& [entry, box] : boxes_) {
-        std::string text = PlainNumber(entries_.*entry.number);
-        if (entry.again == ShownAgain::ByMagnitude) {
+    for (const auto& [entry, field] : fields_) {
+        if (entry.again == ShownAgain::Plainly) {
+            field.Fill(&(entries_.*entry.number));
+        } else if (entry.again == ShownAgain::ByMagnitude) {
+            std::string text;
             FormatByMagnitude(double{entries_.*entry.number}, text);
-        }
-        if (entry.again != ShownAgain::AsTyped) {
-            box.Write(text);
+            field.box->Write(text);
         }
     }
 }

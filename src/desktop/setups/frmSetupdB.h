@@ -25,9 +25,9 @@ private:
     struct Entry;
     static const Entry kEntries[];
 
-    struct EntryShown {
+    struct EntryField {
         const Entry& entry;
-        EntryBox& box;
+        Field& field;
     };
 
     // What stands in a row of the table.
@@ -59,7 +59,7 @@ private:
     TicRow& Row(int tic) { return rows_.at(static_cast<std::size_t>(tic)); }
 
     DecibelEntries entries_;
-    std::vector<EntryShown> boxes_;
+    std::vector<EntryField> fields_;
     OptionButton* optUnlabelledAtBottomYes_ = nullptr;
     OptionButton* optY_ = nullptr;
     std::array<TicRow, kDecibelRows> rows_;

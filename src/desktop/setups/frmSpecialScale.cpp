@@ -8,7 +8,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/setups/rowtable.h"
@@ -29,6 +29,11 @@ constexpr SetupPageTraits kTraits = {.form = "frmSpecialScale",
                                      .computes = kAtLoad | kAtPreview | kAtAccept,
                                      .readsBack = true};
 
+constexpr FieldRow kTicmarks = {.box = "txtNrOfTicmarks",
+                                .caption = "Number of ticmarks:",
+                                .limits = kLastRowLimits,
+                                .unit = "ticmarks"};
+
 constexpr const char* kHeadings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
 
 constexpr const char* kRange = "The value for deflection must be 0 minimum to 1.0 maximum";
@@ -48,10 +53,9 @@ frmSpecialScale::frmSpecialScale() : SetupPage(kTraits) {
 
 void frmSpecialScale::Build() {
     auto* count = new QGridLayout;
-    txtNrOfTicmarks_ =
-        &AddEntry(*count, "lblNrOfTicmarks", "Number of ticmarks:", "txtNrOfTicmarks").box;
-    txtNrOfTicmarks_->TellRange(RangeText(kLastRowLimits, "ticmarks"));
-    connect(txtNrOfTicmarks_, &EntryBox::Changed, this, &frmSpecialScale::ApplySpecialTable);
+    ticmarksField_ = new Field(kTicmarks, *this);
+    ticmarksField_->AddBoxTo(*count, count->rowCount());
+    connect(ticmarksField_->box, &EntryBox::Changed, this, &frmSpecialScale::ApplySpecialTable);
     QLabel* note = MakeLabel(
         "lblFullScale",
         QStringLiteral("Full-scale deflection is 1.0; for a \"blank\" label, use a space."));
@@ -107,8 +111,7 @@ void frmSpecialScale::ReadBack() {
 }
 
 void frmSpecialScale::ShowStored() {
-    const std::int16_t last = Design.SpecialNrOfTicmarks[Scale()];
-    txtNrOfTicmarks_->Write(PlainNumber(std::int32_t{last}));
+    ticmarksField_->Fill(&Design.SpecialNrOfTicmarks[Scale()]);
 }
 
 void frmSpecialScale::CheckEntries(SetupMoment moment) {
@@ -123,8 +126,7 @@ void frmSpecialScale::CheckEntries(SetupMoment moment) {
 }
 
 void frmSpecialScale::ApplySpecialTable() {
-    std::string text = txtNrOfTicmarks_->Text();
-    ParseEntry(text, ticmarks_);
+    ticmarksField_->Read(&ticmarks_);
     std::array<SpecialRow, kSpecialRows> rows;
     std::ranges::transform(rows_, rows.begin(), [](const TicRow& row) {
         return SpecialRow{.deflection = row.deflection->Text(),
@@ -132,8 +134,9 @@ void frmSpecialScale::ApplySpecialTable() {
                           .major = row.major.Chosen()};
     });
     vernacle::ApplySpecialTable(Design, Scale(), ticmarks_, rows);
+    std::string text;
     FormatByMagnitude(double{ticmarks_}, text);
-    txtNrOfTicmarks_->Write(text);
+    ticmarksField_->box->Write(text);
     ShowRows();
 }
 

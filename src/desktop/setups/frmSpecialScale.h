@@ -38,7 +38,7 @@ private:
     TicRow& Row(int tic) { return rows_.at(static_cast<std::size_t>(tic)); }
 
     float ticmarks_ = 0; // as last read
-    EntryBox* txtNrOfTicmarks_ = nullptr;
+    Field* ticmarksField_ = nullptr;
     std::array<TicRow, kSpecialRows> rows_;
 };
 

@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
 #include "desktop/setups/setuppicture.h"
@@ -14,6 +14,15 @@
 
 namespace vernacle {
 
+namespace {
+
+constexpr FieldRow kExponent = {.box = "txtLinearityExponent",
+                                .caption = "Linearity exponent:",
+                                .limits = kExponentLimits,
+                                .text = "1"};
+
+} // namespace
+
 PicturedSetupPage::PicturedSetupPage(const PicturedSetupTraits& traits)
     : SetupPage(traits.setup), traits_(traits) {
     Build();
@@ -22,12 +31,9 @@ PicturedSetupPage::PicturedSetupPage(const PicturedSetupTraits& traits)
 void PicturedSetupPage::Build() {
     picture_ = new SetupPicture;
     auto* exponent = new QGridLayout;
-    txtLinearityExponent_ =
-        &AddEntry(*exponent, "lblLinearityExponent", "Linearity exponent:", "txtLinearityExponent")
-             .box;
-    txtLinearityExponent_->TellRange(RangeText(kExponentLimits, ""));
-    txtLinearityExponent_->Show("1");
-    connect(txtLinearityExponent_, &EntryBox::Changed, this,
+    exponent_ = new Field(kExponent, *this);
+    exponent_->AddBoxTo(*exponent, exponent->rowCount());
+    connect(exponent_->box, &EntryBox::Changed, this,
             &PicturedSetupPage::txtLinearityExponentChanged);
     auto* column = new QVBoxLayout;
     column->setSpacing(10);
@@ -58,9 +64,8 @@ QWidget* PicturedSetupPage::MakeOptions() {
 }
 
 void PicturedSetupPage::OptionClicked(int option) {
-    std::string text = txtLinearityExponent_->Text();
     float exponent = Design.LinearityExponent[Scale()]; // stays where the text is no entry
-    ParseEntry(text, exponent);
+    exponent_->Read(&exponent);
     ComputeOrReport([&] {
         ComputeTics(option, exponent);
         picture_->DrawScale();

@@ -36,7 +36,7 @@ private:
 
     const PicturedSetupTraits& traits_;
     SetupPicture* picture_ = nullptr;
-    EntryBox* txtLinearityExponent_ = nullptr;
+    Field* exponent_ = nullptr;
     std::vector<OptionButton*> options_; // in the order of their numbers
 };
 

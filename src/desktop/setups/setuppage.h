@@ -13,6 +13,7 @@ class QPushButton;
 namespace vernacle {
 
 class EntryBox;
+class Field;
 class OptionButton;
 
 // When a page computes its tics, beside its own controls. Values are added.

@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
+#include "desktop/kit/field.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/picturebox.h"
 #include "desktop/navigation/navigator.h"
@@ -86,19 +86,17 @@ void frmWizard::Build() {
 // Hidden until its turn comes.
 void frmWizard::AddStep(QGridLayout& grid, int step) {
     const WizardStep& row = StepAt(step);
-    const QString caption = QString::fromUtf8(row.caption);
-    const StepRow made{
-        .label = MakeLabel(StepName("lblStep", step).toLatin1().constData(), caption),
-        .box = new EntryBox(row.box, caption),
-        .enter =
-            MakeButton(StepName("cmdEnter", step).toLatin1().constData(), QStringLiteral("Enter"))};
-    made.label->setBuddy(made.box);
-    made.enter->setAccessibleName(QStringLiteral("Enter ") + caption);
+    const StepRow made{.field = new Field({.box = row.box, .caption = row.caption}, *this),
+                       .enter = MakeButton(StepName("cmdEnter", step).toLatin1().constData(),
+                                           QStringLiteral("Enter"))};
+    made.field->label->setObjectName(StepName("lblStep", step));
+    made.field->AddBoxTo(grid, step);
+    made.enter->setAccessibleName(QStringLiteral("Enter ") + made.field->label->text());
+    grid.addWidget(made.enter, step, 2);
     connect(made.enter, &QPushButton::clicked, this, [this, step] { EnterClicked(step); });
-    connect(made.box, &QLineEdit::returnPressed, made.enter, &QPushButton::click);
-    int column = 0;
-    for (QWidget* part : std::initializer_list<QWidget*>{made.label, made.box, made.enter}) {
-        grid.addWidget(part, step, column++);
+    connect(made.field->box, &QLineEdit::returnPressed, made.enter, &QPushButton::click);
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{made.field->label, made.field->box, made.enter}) {
         part->hide();
     }
     rows_.push_back(made);
@@ -129,7 +127,7 @@ void frmWizard::EnterClicked(int step) {
         ShowStep(step + 1);
         BoxOf(step + 1).setFocus();
     }
-    rows_.at(static_cast<std::size_t>(step)).enter->setEnabled(false);
+    Row(step).enter->setEnabled(false);
     schematic_->Surface().Clear();
     Label1_->clear();
     Design.HelpTopic = static_cast<std::int16_t>(row.nextTopic);
@@ -154,11 +152,14 @@ void frmWizard::CloseBoxClicked() {
 }
 
 void frmWizard::ShowStep(int step) {
-    const StepRow& row = rows_.at(static_cast<std::size_t>(step));
-    row.label->show();
-    row.enter->show();
-    row.box->TellRange(WizardRange(Design, StepAt(step))); // which earlier steps may decide
-    row.box->show();
+    Row(step).field->label->show();
+    Row(step).enter->show();
+    BoxOf(step).TellRange(WizardRange(Design, StepAt(step))); // which earlier steps may decide
+    BoxOf(step).show();
+}
+
+EntryBox& frmWizard::BoxOf(int step) const {
+    return *Row(step).field->box;
 }
 
 } // namespace vernacle

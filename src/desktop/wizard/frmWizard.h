@@ -13,6 +13,7 @@ class QPushButton;
 namespace vernacle {
 
 class EntryBox;
+class Field;
 class PictureBox;
 
 class frmWizard : public Page {
@@ -27,8 +28,7 @@ protected:
 private:
     // What stands in the row of a step.
     struct StepRow {
-        QLabel* label = nullptr;
-        EntryBox* box = nullptr;
+        Field* field = nullptr;
         QPushButton* enter = nullptr;
     };
 
@@ -41,7 +41,8 @@ private:
     void cmdExitClicked();
 
     void ShowStep(int step);
-    EntryBox& BoxOf(int step) const { return *rows_.at(static_cast<std::size_t>(step)).box; }
+    const StepRow& Row(int step) const { return rows_.at(static_cast<std::size_t>(step)); }
+    EntryBox& BoxOf(int step) const;
 
     std::vector<StepRow> rows_; // in the order of the steps
     PictureBox* schematic_ = nullptr;
