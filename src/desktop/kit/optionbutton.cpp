@@ -35,12 +35,12 @@ OptionButton::OptionButton(const char* name, const QString& caption, QWidget* pa
     setObjectName(QLatin1String(name));
     setAccessibleName(caption);
     setBackgroundRole(QPalette::Window); // buttons stand on their own role else
-    connect(this, &QRadioButton::clicked, this, [this] { handler_(); });
+    connect(this, &QRadioButton::clicked, this, &OptionButton::Selected);
 }
 
 void OptionButton::Select() {
     setChecked(true);
-    handler_();
+    Q_EMIT Selected();
 }
 
 void OptionButton::Unselect() {

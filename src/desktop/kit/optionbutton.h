@@ -1,8 +1,7 @@
-// One of several options. Selecting it, by the user or by the program, runs its handler, also when
-// it was selected already.
+// One of several options. It tells that it is selected, by the user or by the program, also when it
+// was selected already.
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include <QRadioButton>
@@ -18,12 +17,10 @@ class OptionButton : public QRadioButton {
 public:
     OptionButton(const char* name, const QString& caption, QWidget* parent = nullptr);
 
-    void OnSelect(std::function<void()> handler) { handler_ = std::move(handler); }
-
-    // Selects it and runs its handler.
+    // Selects it as its user does.
     void Select();
 
-    // Selects it and runs nothing.
+    // Selects it and tells nobody.
     void ShowSelected() { setChecked(true); }
 
     // Leaves it unselected, and perhaps its whole group without a selection.
@@ -36,10 +33,12 @@ public:
     // The ground behind the caption, whatever its colour is.
     void SetGround(const QColor& colour);
 
+Q_SIGNALS:
+    void Selected();
+
 private:
     void SetReadableGround(const QColor& ink);
 
-    std::function<void()> handler_ = [] {};
     bool groundIsGiven_ = false;
 };
 

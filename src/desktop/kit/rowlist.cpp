@@ -49,7 +49,7 @@ void RowList::mousePressEvent(QMouseEvent* event) {
     QListWidget::mousePressEvent(event);
     const int row = indexAt(event->pos()).row();
     setCurrentRow(row);
-    Chosen(row);
+    Q_EMIT Chosen(row);
 }
 
 // The row that a key leads to is chosen, also the one at which the list stands before any was.
@@ -60,18 +60,12 @@ void RowList::keyPressEvent(QKeyEvent* event) {
         setCurrentRow(currentRow());
     }
     if (SelectedRow() != before) {
-        Chosen(SelectedRow());
+        Q_EMIT Chosen(SelectedRow());
     }
 }
 
 int RowList::SelectedRow() const {
     return selectedItems().isEmpty() ? -1 : currentRow();
-}
-
-void RowList::Chosen(int row) {
-    if (handler_) {
-        handler_(row);
-    }
 }
 
 } // namespace vernacle

@@ -2,8 +2,6 @@
 // shows whole rows alone.
 #pragma once
 
-#include <functional>
-
 #include <QListWidget>
 
 namespace vernacle {
@@ -14,9 +12,10 @@ class RowList : public QListWidget {
 public:
     RowList(const char* name, const QString& accessibleName);
 
+Q_SIGNALS:
     // The user chose the row of that index, by a click or a key; -1 for a click with no row under
     // it.
-    void OnChoose(std::function<void(int row)> handler) { handler_ = std::move(handler); }
+    void Chosen(int row);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -26,9 +25,6 @@ protected:
 
 private:
     int SelectedRow() const;
-    void Chosen(int row);
-
-    std::function<void(int)> handler_;
 };
 
 } // namespace vernacle

@@ -145,7 +145,7 @@ QGroupBox* frmPlate::MakeOptionFrame(const OptionFrame& frame) {
 
 OptionButton* frmPlate::MakeOption(const Option& option) {
     auto* button = new OptionButton(option.name, QString::fromUtf8(option.caption));
-    button->OnSelect([this, &option] { option.select(*this); });
+    connect(button, &OptionButton::Selected, this, [this, &option] { option.select(*this); });
     options_.emplace(&option, button);
     if (option.kept) {
         this->*option.kept = button;

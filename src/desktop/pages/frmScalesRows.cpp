@@ -102,7 +102,7 @@ QLayout* frmScales::MakeFrames() {
 OptionButton* frmScales::MakeOption(const char* name, const char* caption,
                                     void (frmScales::*selected)(), QBoxLayout& line) {
     auto* option = new OptionButton(name, QString::fromUtf8(caption));
-    option->OnSelect([this, selected] { (this->*selected)(); });
+    connect(option, &OptionButton::Selected, this, selected);
     line.addWidget(option);
     return option;
 }

@@ -42,7 +42,7 @@ void frmSelectTics::Build() {
     lstTicsData_ = new TicList(heading->text());
     const int character = lstTicsData_->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     lstTicsData_->setMinimumSize(kColumns * character, kSmallestHeight);
-    lstTicsData_->OnChoose([this](int index) { RowChosen(index); });
+    connect(lstTicsData_, &RowList::Chosen, this, &frmSelectTics::RowChosen);
     auto* list = new QVBoxLayout;
     list->addWidget(heading);
     list->addWidget(lstTicsData_, 1);
@@ -100,8 +100,8 @@ frmSelectTics::Flag frmSelectTics::MakeFlag(const char* frame, const char* yes, 
                                             FlagFinder* flag) {
     Flag made{MakeFrame(frame, {}), new OptionButton(yes, QStringLiteral("Yes")),
               new OptionButton(no, QStringLiteral("No"))};
-    made.yes->OnSelect([this, flag] { OptionClicked(*flag, "Y"); });
-    made.no->OnSelect([this, flag] { OptionClicked(*flag, "N"); });
+    connect(made.yes, &OptionButton::Selected, this, [this, flag] { OptionClicked(*flag, "Y"); });
+    connect(made.no, &OptionButton::Selected, this, [this, flag] { OptionClicked(*flag, "N"); });
     auto* line = new QHBoxLayout(made.frame);
     line->addWidget(made.yes);
     line->addWidget(made.no);

@@ -49,7 +49,8 @@ NumberFrame MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(
             option->setToolTip(QStringLiteral("Edit scale #") + shown);
         }
         option->setAccessibleName(QString::fromUtf8(traits.spoken) + shown);
-        option->OnSelect([selected, number] { selected(number); });
+        QObject::connect(option, &OptionButton::Selected, option,
+                         [selected, number] { selected(number); });
         options->addWidget(option, (number - 1) / perLine, (number - 1) % perLine);
         made.options.push_back(option);
     }

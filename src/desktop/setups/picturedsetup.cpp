@@ -56,7 +56,7 @@ QWidget* PicturedSetupPage::MakeOptions() {
     for (const char* caption : traits_.options) {
         ++number;
         auto* option = new OptionButton(OptionName(number).c_str(), QString::fromUtf8(caption));
-        option->OnSelect([this, number] { OptionClicked(number); });
+        connect(option, &OptionButton::Selected, this, [this, number] { OptionClicked(number); });
         column->addWidget(option);
         options_.push_back(option);
     }

@@ -186,8 +186,8 @@ protected:
         for (OptionButton* option : {yes, no}) {
             column->addWidget(option);
         }
-        yes->OnSelect([this] { runs += "Y"; });
-        no->OnSelect([this] { runs += "N"; });
+        QObject::connect(yes, &OptionButton::Selected, yes, [this] { runs += "Y"; });
+        QObject::connect(no, &OptionButton::Selected, no, [this] { runs += "N"; });
         window.show();
     }
 

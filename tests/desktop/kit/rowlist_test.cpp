@@ -13,7 +13,8 @@ protected:
         for (const char* row : {"first", "second", "third"}) {
             list.addItem(QLatin1String(row));
         }
-        list.OnChoose([this](int row) { chosen.push_back(row); });
+        QObject::connect(&list, &RowList::Chosen, &list,
+                         [this](int row) { chosen.push_back(row); });
         list.resize(200, 300); // some of it stays without rows
         list.show();
     }
