@@ -1,4 +1,4 @@
-// The walk between the pages: one page is shown at a time, modal forms stand above it. Forms know
+// From page to page: one page is shown at a time, modal forms stand above it. Forms know
 // each other by name only; the program registers them.
 #pragma once
 

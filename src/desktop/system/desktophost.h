@@ -1,4 +1,4 @@
-// The engine's seam to this desktop.
+// What this desktop does for the engine: its host services.
 #pragma once
 
 #include "engine/base/hostservices.h"
