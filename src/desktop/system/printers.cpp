@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include <QDir>
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -36,18 +35,13 @@ std::optional<Choice>& LastChoice() {
     return choice;
 }
 
-// The dialog's own proposal is, on most desktops, a folder alone, which it then turns away.
-QString ProposedPdf(const QString& document) {
-    const QString name = QFileInfo(document).completeBaseName();
-    return QDir(QString::fromStdString(SystemFolders().documents))
-        .filePath(name + QStringLiteral(".pdf"));
-}
-
-// The file's name is there for whoever changes over to a file; to have one is not to choose it.
+// The dialog's own proposal is, on most desktops, a folder alone, which it then turns away. The
+// file's name is there for whoever changes over to a file; to have one is not to choose it.
 void ProposeFile(QPrinter& printer, const QString& document) {
     const QPrinter::OutputFormat format = printer.outputFormat();
     if (kHasSpooler || format == QPrinter::PdfFormat) {
-        printer.setOutputFileName(ProposedPdf(document));
+        const std::string name = QFileInfo(document).completeBaseName().toStdString();
+        printer.setOutputFileName(QString::fromStdString(ProposedFile(name + ".pdf")));
         printer.setOutputFormat(format);
     }
 }

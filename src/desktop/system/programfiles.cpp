@@ -125,6 +125,10 @@ std::string ExamplesFolderIn(const ProgramFolders& folders) {
     return QFileInfo(QString::fromStdString(examples)).isDir() ? examples : std::string();
 }
 
+std::string ProposedFile(const std::string& name) {
+    return PathIn(SystemFolders().documents, name);
+}
+
 std::string PlotterFileName() {
     return PlotterFileNameIn(SystemFolders());
 }

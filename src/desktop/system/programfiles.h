@@ -50,7 +50,10 @@ private:
 std::string ExamplesFolder();
 std::string ExamplesFolderIn(const ProgramFolders& folders);
 
-// The path of the plotter file: on a fixed drive where there are drives, else among the documents.
+// The path of a file of that name that the program proposes: among the user's documents.
+std::string ProposedFile(const std::string& name);
+
+// The path of the plotter file: on a fixed drive where there are drives, else as a proposed one.
 std::string PlotterFileName();
 std::string PlotterFileNameIn(const ProgramFolders& folders);
 
