@@ -30,7 +30,6 @@ namespace {
 
 enum ExitStatus { kAllWritten = 0, kFileFailed = 1, kWrongUsage = 2 };
 
-constexpr float kTwipsPerPixel = 15;
 constexpr const char* kProgram = "vernacle-export: ";
 constexpr const char* kNoMemory = "not enough memory";
 
@@ -93,8 +92,8 @@ std::unique_ptr<ByteSink> OpenNoting(const std::string& path, Progress& progress
 
 void SetHost(const Arguments& arguments, Progress& progress) {
     Host.screenSize = [&arguments] {
-        return ScreenSize{static_cast<float>(arguments.widthPixels) * kTwipsPerPixel,
-                          static_cast<float>(arguments.heightPixels) * kTwipsPerPixel};
+        return ScreenSize{static_cast<float>(arguments.widthPixels * kTwipsPerPixel),
+                          static_cast<float>(arguments.heightPixels * kTwipsPerPixel)};
     };
     if (!arguments.at.empty()) {
         Host.localDateTime = Host.isoDateTime = [&arguments] { return arguments.at; };

@@ -14,7 +14,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr double kMmPerInch = 25.4;
 constexpr int kSvgPerInch = 2540; // hundredths of a millimetre
 
 std::string BytesOf(const QBuffer& buffer) {

@@ -9,7 +9,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr double kMmPerInch = 25.4;
 constexpr double kTwipsPerInch = 1440;
 constexpr double kUnitsPerMm = 2 * kSheetUnitsPerHalfMm;
 

@@ -9,6 +9,8 @@
 
 namespace vernacle {
 
+constexpr double kMmPerInch = 25.4;
+
 struct Sheet {
     const char* name;
     double widthMm;
@@ -16,7 +18,7 @@ struct Sheet {
 };
 
 // What most printers leave white at the edges of a sheet: 12 points.
-constexpr double kUnprintableMm = 12 * 25.4 / 72;
+constexpr double kUnprintableMm = 12 * kMmPerInch / 72;
 
 constexpr Sheet kSheets[] = {
     {"A4", 210, 297},

@@ -7,6 +7,7 @@
 
 #include "desktop/kit/formkit.h"
 #include "desktop/navigation/navigator.h"
+#include "engine/base/hostservices.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
 #include "engine/designfile/readwrite.h"
@@ -15,7 +16,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr double kTwipsPerPixel = 15;
 constexpr QRectF kNoticeTwips(60, 200, 8700, 400);
 constexpr QSizeF kPageTwips(8820, 3000);
 constexpr double kScreenTwips = 9000;  // of height, at a screen factor of 1

@@ -4,7 +4,7 @@ namespace vernacle {
 
 namespace {
 
-constexpr Illustration kIllustrations[] = {
+constexpr Illustration kRotateIllustrationIllustrations[] = {
     {"Image1", Sample::RotatedBearing, "Label1",
      "This illustrates the result of setting the \"Label Rotate\" option to \"Bearing\".  The "
      "ticmark labels rotate about the pointer bearing. This is best used with the old-style arc "
@@ -15,16 +15,17 @@ constexpr Illustration kIllustrations[] = {
      "design obtained by using a significant value for the \"Actual/Virtual offset\" entry."},
 };
 
-constexpr IllustrationTraits kTraits = {.form = "frmRotateIllustration",
-                                        .title = "Vernacle - Rotate illustration",
-                                        .illustrations = kIllustrations,
-                                        .columns = 2,
-                                        .note = "",
-                                        .button = "Command1",
-                                        .buttonCaption = "Return"};
+constexpr IllustrationTraits kRotateIllustrationTraits = {.form = "frmRotateIllustration",
+                                                          .title = "Vernacle - Rotate illustration",
+                                                          .illustrations =
+                                                              kRotateIllustrationIllustrations,
+                                                          .columns = 2,
+                                                          .note = "",
+                                                          .button = "Command1",
+                                                          .buttonCaption = "Return"};
 
 } // namespace
 
-frmRotateIllustration::frmRotateIllustration() : IllustrationForm(kTraits) {}
+frmRotateIllustration::frmRotateIllustration() : IllustrationForm(kRotateIllustrationTraits) {}
 
 } // namespace vernacle

@@ -4,17 +4,17 @@ namespace vernacle {
 
 namespace {
 
-constexpr Illustration kIllustrations[] = {
+constexpr Illustration kStyleHelpIllustrations[] = {
     {"Image1", Sample::StandardStyle, "Label1",
      "Clicking on the \"Standard\" button yields the standard style of scale."},
     {"Image2", Sample::QuadrantStyle, "Label2",
      "Clicking on the \"Quadrant\" button yields the quadrant style of scale."},
 };
 
-constexpr IllustrationTraits kTraits = {
+constexpr IllustrationTraits kStyleHelpTraits = {
     .form = "frmStyleHelp",
     .title = "Vernacle - Style illustration",
-    .illustrations = kIllustrations,
+    .illustrations = kStyleHelpIllustrations,
     .columns = 2,
     .note = "The horizontal positioning of the scale labels is determined by the program; the "
             "vertical positioning is adjustable through \"Bottom to title\". The mounting holes "
@@ -25,6 +25,6 @@ constexpr IllustrationTraits kTraits = {
 
 } // namespace
 
-frmStyleHelp::frmStyleHelp() : IllustrationForm(kTraits) {}
+frmStyleHelp::frmStyleHelp() : IllustrationForm(kStyleHelpTraits) {}
 
 } // namespace vernacle

@@ -14,7 +14,6 @@ namespace vernacle {
 namespace {
 
 constexpr double kShareOfScreen = 0.8;
-constexpr double kTwipsPerPixel = 15;
 constexpr int kMouseCheckMs = 50;
 constexpr QSize kLargestForm(1280, 860);
 

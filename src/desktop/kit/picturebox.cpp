@@ -10,7 +10,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr double kTwipsPerPixel = 15;
 constexpr QSize kSmallestPicture(280, 220);
 constexpr int kUsualHeight = 420; // pixels
 

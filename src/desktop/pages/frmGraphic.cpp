@@ -21,17 +21,17 @@ constexpr std::int16_t kBottomTopic = 31;
 constexpr std::int16_t kWidthTopic = 32;
 constexpr std::int16_t kHeightTopic = 33;
 
-constexpr OwnTip kOwnTips[] = {{"Scales", "Go to the Scales Design page"}};
+constexpr OwnTip kGraphicOwnTips[] = {{"Scales", "Go to the Scales Design page"}};
 
-constexpr PageTraits kTraits = {.form = "frmGraphic",
-                                .title = "Graphic entry",
-                                .helpTopic = "vgraphic.htm",
-                                .printing = Printing::GreyedAndDead,
-                                .ownTips = kOwnTips};
+constexpr PageTraits kGraphicTraits = {.form = "frmGraphic",
+                                       .title = "Graphic entry",
+                                       .helpTopic = "vgraphic.htm",
+                                       .printing = Printing::GreyedAndDead,
+                                       .ownTips = kGraphicOwnTips};
 
 // The toolbar holds all of them to their limits.
 // clang-format off
-constexpr FieldRow kMeasures[] = {
+constexpr FieldRow kGraphicMeasures[] = {
     {.box = "txtLeftToImage",   .caption = "Left to graphic:",       .place = At<&D::LeftToGraphic>,   .limits = {0, 180}, .unit = "mm", .arrows = {"UpDown1", {0, 180}, "txtLeftToImageUpDown"},   .reading = Reading::Plain, .holding = Holding::ByPage},
     {.box = "txtBottomToImage", .caption = "Bottom to graphic top:", .place = At<&D::BottomToGraphic>, .limits = {0, 120}, .unit = "mm", .arrows = {"UpDown2", {0, 180}, "txtBottomToImageUpDown"}, .reading = Reading::Plain, .holding = Holding::ByPage},
     {.box = "txtGraphicWidth",  .caption = "Graphic width:",         .place = At<&D::GraphicWidth>,    .limits = {2, 180}, .unit = "mm", .arrows = {"UpDown3", {0, 180}, "txtGraphicWidthUpDown"},  .reading = Reading::Plain},
@@ -49,7 +49,7 @@ std::string UpperCased(const std::string& path) {
 
 } // namespace
 
-frmGraphic::frmGraphic() : TextKeepingPage(kTraits, TextTraits()) {
+frmGraphic::frmGraphic() : TextKeepingPage(kGraphicTraits, TextTraits()) {
     Build();
     Load();
 }
@@ -58,7 +58,7 @@ void frmGraphic::Build() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
-    for (const FieldRow& row : kMeasures) {
+    for (const FieldRow& row : kGraphicMeasures) {
         auto* measure = new Field(row, *this);
         measure->AddTo(*grid, grid->rowCount());
         connect(measure->box, &EntryBox::Changed, this,

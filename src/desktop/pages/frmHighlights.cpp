@@ -20,20 +20,20 @@ namespace {
 
 using D = DesignRecord;
 
-constexpr OwnTip kOwnTips[] = {{"Highlights", "Go to the Highlight Entrypage"}};
+constexpr OwnTip kHighlightsOwnTips[] = {{"Highlights", "Go to the Highlight Entrypage"}};
 
-constexpr PageTraits kTraits = {.form = "frmHighlights",
-                                .title = "Highlight entry",
-                                .helpTopic = "vhighlights.htm",
-                                .printing = Printing::GreyedAndDead,
-                                .ownTips = kOwnTips};
+constexpr PageTraits kHighlightsTraits = {.form = "frmHighlights",
+                                          .title = "Highlight entry",
+                                          .helpTopic = "vhighlights.htm",
+                                          .printing = Printing::GreyedAndDead,
+                                          .ownTips = kHighlightsOwnTips};
 
-constexpr NumberFrameTraits kNumbers = {.frame = "fraTextNumber",
-                                        .label = "Label1",
-                                        .labelText = "Highlight #:",
-                                        .spoken = "Highlight #",
-                                        .options = kHighlights,
-                                        .tips = 6};
+constexpr NumberFrameTraits kHighlightsNumbers = {.frame = "fraTextNumber",
+                                                  .label = "Label1",
+                                                  .labelText = "Highlight #:",
+                                                  .spoken = "Highlight #",
+                                                  .options = kHighlights,
+                                                  .tips = 6};
 
 constexpr double kTenths = 0.1; // of a millimetre, that the arrows of the height step
 
@@ -42,7 +42,7 @@ constexpr LogicalArea kArea{-400, 900, 9300, 7000};
 
 // What is typed has no limits.
 // clang-format off
-constexpr FieldRow kFields[] = {
+constexpr FieldRow kHighlightsFields[] = {
     {.box = "txtStart1",   .caption = "Start %:",   .place = At<&D::HighlightStart>,   .unit = "%",  .arrows = {"UpDown1", {0, 100}},                         .label = "lblStart",  .reading = Reading::Plain},
     {.box = "txtStop1",    .caption = "Stop %:",    .place = At<&D::HighlightStop>,    .unit = "%",  .arrows = {"UpDown2", {0, 100}},                         .label = "lblStop",   .reading = Reading::Plain},
     {.box = "txtCeiling1", .caption = "Bottom mm:", .place = At<&D::HighlightCeiling>, .unit = "mm", .arrows = {"UpDown3", {0, 180}},                         .label = "lblBottom", .reading = Reading::Plain},
@@ -52,18 +52,18 @@ constexpr FieldRow kFields[] = {
 
 } // namespace
 
-frmHighlights::frmHighlights() : TextKeepingPage(kTraits, HighlightsTraits(), kArea) {
+frmHighlights::frmHighlights() : TextKeepingPage(kHighlightsTraits, HighlightsTraits(), kArea) {
     Build();
     Load();
 }
 
 void frmHighlights::Build() {
-    numbers_ = MakeNumberFrame(kNumbers, [this](int number) { OptionClicked(number); });
+    numbers_ = MakeNumberFrame(kHighlightsNumbers, [this](int number) { OptionClicked(number); });
     Column().addWidget(numbers_.frame);
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
-    for (const FieldRow& row : kFields) {
+    for (const FieldRow& row : kHighlightsFields) {
         auto* field = new Field(row, *this);
         field->AddTo(*grid, grid->rowCount());
         connect(field->box, &EntryBox::Changed, this, [this, field] { Changed(*field); });

@@ -26,12 +26,12 @@ constexpr int kFontNameWidth = 16; // characters
 constexpr QSize kSwatchSize(48, 22);
 constexpr QColor kWarning(0xFF, 0xEE, 0xEE);
 
-constexpr PageTraits kTraits = {
+constexpr PageTraits kPlateTraits = {
     .form = "frmPlate", .title = "Plate design", .helpTopic = "vplate.htm"};
 
 // The measures, in two columns. What is typed shows the same illustration as the H button.
 // clang-format off
-constexpr FieldRow kMeasures[] = {
+constexpr FieldRow kPlateMeasures[] = {
     {.box = "txtPlateWidth",          .caption = "Plate width, mm",           .place = At<&D::PlateWidth>,          .limits = {20, 180},            .unit = "mm",           .arrows = {"UpDownPlateWidth", {20, 180}},              .topic = 1},
     {.box = "txtPlateHeight",         .caption = "Plate height, mm",          .place = At<&D::PlateHeight>,         .limits = {10, 180},            .unit = "mm",           .arrows = {"UpDownPlateHeight", {10, 180}},             .topic = 2},
     {.box = "txtBottomToBearing",     .caption = "Bottom to bearing, mm",     .place = At<&D::BottomToBearing>,     .limits = {-100000, 100000},    .unit = "mm",           .arrows = {"UpDownBottomToBearing", {-100000, 100000}}, .topic = 3},
@@ -49,7 +49,7 @@ constexpr FieldRow kMeasures[] = {
 };
 // clang-format on
 
-constexpr int kMeasuresPerColumn = (static_cast<int>(std::size(kMeasures)) + 1) / 2;
+constexpr int kMeasuresPerColumn = (static_cast<int>(std::size(kPlateMeasures)) + 1) / 2;
 
 // What the options need before they show the design.
 constexpr Repair kSwitches[] = {
@@ -67,7 +67,7 @@ QString ShortName(const std::string& path) {
 
 } // namespace
 
-frmPlate::frmPlate() : DesignPage(kTraits) {
+frmPlate::frmPlate() : DesignPage(kPlateTraits) {
     Build();
     Load();
 }
@@ -94,7 +94,7 @@ QLayout* frmPlate::MakeMeasures() {
     columns->setSpacing(20);
     QGridLayout* grid = nullptr;
     int place = 0;
-    for (const FieldRow& row : kMeasures) {
+    for (const FieldRow& row : kPlateMeasures) {
         if (place % kMeasuresPerColumn == 0) {
             grid = new QGridLayout;
             grid->setSpacing(kEntrySpacing);

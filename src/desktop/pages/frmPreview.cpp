@@ -37,13 +37,13 @@ constexpr Repair kShownAlone[] = {
     {At<&DesignRecord::CurrentScale>, When::Below, 1, 1},
 };
 
-constexpr OwnTip kOwnTips[] = {{"Exit", "Exit"}};
+constexpr OwnTip kPreviewOwnTips[] = {{"Exit", "Exit"}};
 
-constexpr PageTraits kTraits = {.form = "frmPreview",
-                                .title = "Preview",
-                                .helpTopic = "vpreview.htm",
-                                .printing = Printing::Offered,
-                                .ownTips = kOwnTips};
+constexpr PageTraits kPreviewTraits = {.form = "frmPreview",
+                                       .title = "Preview",
+                                       .helpTopic = "vpreview.htm",
+                                       .printing = Printing::Offered,
+                                       .ownTips = kPreviewOwnTips};
 
 // Switches a flag of an overlay; whether it is on now.
 bool Toggle(std::int16_t& flag) {
@@ -85,7 +85,7 @@ const frmPreview::Tool frmPreview::kTools[] = {
 };
 // clang-format on
 
-frmPreview::frmPreview() : DesignPage(kTraits) {
+frmPreview::frmPreview() : DesignPage(kPreviewTraits) {
     Build();
     Load();
 }

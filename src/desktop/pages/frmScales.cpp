@@ -23,12 +23,12 @@ using D = DesignRecord;
 constexpr std::int16_t kTitleTopic = 23; // of the illustrated help, as the next one
 constexpr std::int16_t kCeilingTopic = 24;
 
-constexpr PageTraits kTraits = {
+constexpr PageTraits kScalesTraits = {
     .form = "frmScales", .title = "Scale design", .helpTopic = "vscales.htm"};
 
 } // namespace
 
-frmScales::frmScales() : DrawingPage(kTraits, ScalesTraits()) {
+frmScales::frmScales() : DrawingPage(kScalesTraits, ScalesTraits()) {
     Build();
     Load();
 }

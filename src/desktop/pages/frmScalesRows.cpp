@@ -14,15 +14,15 @@ namespace {
 
 using D = DesignRecord;
 
-constexpr NumberFrameTraits kNumbers = {.frame = "fraScaleNumber",
-                                        .label = "lblScaleNumber",
-                                        .labelText = "Scale #:",
-                                        .spoken = "Scale #",
-                                        .options = kScales,
-                                        .tips = kScales};
+constexpr NumberFrameTraits kScalesNumbers = {.frame = "fraScaleNumber",
+                                              .label = "lblScaleNumber",
+                                              .labelText = "Scale #:",
+                                              .spoken = "Scale #",
+                                              .options = kScales,
+                                              .tips = kScales};
 
 // clang-format off
-constexpr FieldRow kFields[] = {
+constexpr FieldRow kScalesFields[] = {
     {.box = "txtScaleLeftEnd",          .caption = "Scale left end (units):",   .place = At<&D::ScaleLeftEnd>,         .text = "0"},
     {.box = "txtScaleLength",           .caption = "Scale length (units):",     .place = At<&D::ScaleLengthUnits>,     .text = "100"},
     {.box = "txtBottomToScaleCeiling",  .caption = "Bottom to scale ceiling:",  .place = At<&D::BottomToScaleCeiling>, .limits = {-200, 200}, .unit = "mm", .arrows = {"UpDownBottomToScaleCeiling", {0, 180}}, .text = "50"},
@@ -57,7 +57,7 @@ const frmScales::Button frmScales::kButtons[] = {
 // clang-format on
 
 void frmScales::Build() {
-    scales_ = MakeNumberFrame(kNumbers, [this](int scale) { ScaleClicked(scale); });
+    scales_ = MakeNumberFrame(kScalesNumbers, [this](int scale) { ScaleClicked(scale); });
     Column().addWidget(scales_.frame);
     Column().addLayout(MakeFields());
     Column().addLayout(MakeFrames());
@@ -68,7 +68,7 @@ QLayout* frmScales::MakeFields() {
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
-    for (const FieldRow& row : kFields) {
+    for (const FieldRow& row : kScalesFields) {
         auto* field = new Field(row, *this);
         field->AddTo(*grid, static_cast<int>(fields_.size()));
         connect(field->box, &EntryBox::Changed, this, [this, field] { Changed(*field); });

@@ -14,7 +14,7 @@ namespace vernacle {
 
 namespace {
 
-constexpr int kColumns = 55; // characters of a usual row, and room for the scroll bar
+constexpr int kSelectTicsColumns = 55; // characters of a usual row, and room for the scroll bar
 constexpr int kSmallestHeight = 300;
 
 QString Numbered(const char* text, int number) {
@@ -41,7 +41,7 @@ void frmSelectTics::Build() {
         QStringLiteral("  Scale:      Tic #:        Print tic:       Label:      Print label:"));
     lstTicsData_ = new TicList(heading->text());
     const int character = lstTicsData_->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    lstTicsData_->setMinimumSize(kColumns * character, kSmallestHeight);
+    lstTicsData_->setMinimumSize(kSelectTicsColumns * character, kSmallestHeight);
     connect(lstTicsData_, &RowList::Chosen, this, &frmSelectTics::RowChosen);
     auto* list = new QVBoxLayout;
     list->addWidget(heading);

@@ -11,7 +11,7 @@ namespace vernacle {
 
 namespace {
 
-constexpr int kColumns = 40; // characters of a row, and room for the scroll bar
+constexpr int kShowTicInfoColumns = 40; // characters of a row, and room for the scroll bar
 
 } // namespace
 
@@ -32,7 +32,7 @@ frmShowTicInfo::frmShowTicInfo() {
     column->addWidget(lstTicsData_, 1);
     column->addWidget(exit, 0, Qt::AlignRight);
     const int character = lstTicsData_->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    lstTicsData_->setMinimumWidth(kColumns * character);
+    lstTicsData_->setMinimumWidth(kShowTicInfoColumns * character);
     resize(sizeHint().width(), TallHeight());
     FillTicList();
 }

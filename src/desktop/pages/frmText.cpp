@@ -20,18 +20,18 @@ namespace vernacle {
 
 namespace {
 
-constexpr PageTraits kTraits = {.form = "frmText",
-                                .title = "Text entry",
-                                .helpTopic = "vsignature.htm",
-                                .printing = Printing::GreyedAndDead,
-                                .closeBox = CloseBox::JustEnds};
+constexpr PageTraits kTextTraits = {.form = "frmText",
+                                    .title = "Text entry",
+                                    .helpTopic = "vsignature.htm",
+                                    .printing = Printing::GreyedAndDead,
+                                    .closeBox = CloseBox::JustEnds};
 
-constexpr NumberFrameTraits kNumbers = {.frame = "fraTextNumber",
-                                        .label = "Label1",
-                                        .labelText = "Text #:",
-                                        .spoken = "Text #",
-                                        .options = kTexts,
-                                        .tips = 6};
+constexpr NumberFrameTraits kTextNumbers = {.frame = "fraTextNumber",
+                                            .label = "Label1",
+                                            .labelText = "Text #:",
+                                            .spoken = "Text #",
+                                            .options = kTexts,
+                                            .tips = 6};
 
 constexpr double kTenths = 0.1; // that the arrows of the size step
 
@@ -48,13 +48,13 @@ float RoundedToTenths(float value) {
 
 } // namespace
 
-frmText::frmText() : TextKeepingPage(kTraits, TextTraits()) {
+frmText::frmText() : TextKeepingPage(kTextTraits, TextTraits()) {
     Build();
     Load();
 }
 
 void frmText::Build() {
-    numbers_ = MakeNumberFrame(kNumbers, [this](int entry) { OptionClicked(entry); });
+    numbers_ = MakeNumberFrame(kTextNumbers, [this](int entry) { OptionClicked(entry); });
     Column().addWidget(numbers_.frame);
     auto* grid = new QGridLayout;
     grid->setSpacing(kEntrySpacing);

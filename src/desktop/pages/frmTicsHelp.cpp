@@ -5,7 +5,7 @@ namespace vernacle {
 namespace {
 
 // In the order of their story.
-constexpr Illustration kIllustrations[] = {
+constexpr Illustration kTicsHelpIllustrations[] = {
     {"Image1", Sample::LinearScale, "Label3", "An ordinary linear scale"},
     {"Image2", Sample::ExponentOne, "Label1",
      "A scale with its exponent set to 1; all ticmarks are used."},
@@ -17,16 +17,16 @@ constexpr Illustration kIllustrations[] = {
      "Now some ticmarks and a label have been deleted to clarify that left end."},
 };
 
-constexpr IllustrationTraits kTraits = {.form = "frmTicsHelp",
-                                        .title = "Vernacle - Tics Help",
-                                        .illustrations = kIllustrations,
-                                        .columns = 3,
-                                        .note = "",
-                                        .button = "cmdExit",
-                                        .buttonCaption = "Return to the Design page"};
+constexpr IllustrationTraits kTicsHelpTraits = {.form = "frmTicsHelp",
+                                                .title = "Vernacle - Tics Help",
+                                                .illustrations = kTicsHelpIllustrations,
+                                                .columns = 3,
+                                                .note = "",
+                                                .button = "cmdExit",
+                                                .buttonCaption = "Return to the Design page"};
 
 } // namespace
 
-frmTicsHelp::frmTicsHelp() : IllustrationForm(kTraits) {}
+frmTicsHelp::frmTicsHelp() : IllustrationForm(kTicsHelpTraits) {}
 
 } // namespace vernacle

@@ -15,7 +15,7 @@ namespace vernacle {
 
 namespace {
 
-constexpr int kColumns = 3;
+constexpr int kSetupMenuColumns = 3;
 
 } // namespace
 
@@ -46,10 +46,10 @@ frmSetupMenu::frmSetupMenu() : Page("frmSetupMenu") {
     grid->setSpacing(16);
     int place = 0;
     for (const Entry& entry : kEntries) {
-        grid->addLayout(MakeEntry(entry), place / kColumns, place % kColumns);
+        grid->addLayout(MakeEntry(entry), place / kSetupMenuColumns, place % kSetupMenuColumns);
         ++place;
     }
-    for (int column = 0; column < kColumns; ++column) {
+    for (int column = 0; column < kSetupMenuColumns; ++column) {
         grid->setColumnStretch(column, 1);
     }
     Body().addLayout(grid, 1);

@@ -24,22 +24,23 @@ namespace {
 constexpr int kLastRow = 29; // that can be used
 constexpr int kLastRemovable = 28;
 
-constexpr SetupPageTraits kTraits = {.form = "frmSetupOhmmeter",
-                                     .title = "Vernacle - ohmmeter setup",
-                                     .heading = "Ohmmeter setup",
-                                     .acceptCaption = "Accept and return to Scale Design page",
-                                     .ignoreCaption = "Ignore; just return to Scale Design page",
-                                     .ignoreName = "cmdIgnoreAndReturn",
-                                     .computes = kAtPreview | kAtAccept,
-                                     .marking = Marking::ByComputing,
-                                     .readsBack = true};
+constexpr SetupPageTraits kSetupOhmmeterTraits = {
+    .form = "frmSetupOhmmeter",
+    .title = "Vernacle - ohmmeter setup",
+    .heading = "Ohmmeter setup",
+    .acceptCaption = "Accept and return to Scale Design page",
+    .ignoreCaption = "Ignore; just return to Scale Design page",
+    .ignoreName = "cmdIgnoreAndReturn",
+    .computes = kAtPreview | kAtAccept,
+    .marking = Marking::ByComputing,
+    .readsBack = true};
 
 constexpr FieldRow kMidscale = {.box = "txtEnterMidscale",
                                 .caption = "Enter midscale resistance value:"};
 constexpr FieldRow kResistance = {.box = "txtEnterResistance",
                                   .caption = "Enter resistance to get deflection:"};
 
-constexpr const char* kHeadings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
+constexpr const char* kSetupOhmmeterHeadings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
 
 // The number as text that is an entry again: in its short form where all digits are too long.
 std::string EntryTextOf(float number) {
@@ -65,7 +66,7 @@ void Disable(std::initializer_list<QWidget*> controls) {
 
 } // namespace
 
-frmSetupOhmmeter::frmSetupOhmmeter() : SetupPage(kTraits) {
+frmSetupOhmmeter::frmSetupOhmmeter() : SetupPage(kSetupOhmmeterTraits) {
     Build();
     EnterSetup();
 }
@@ -123,7 +124,7 @@ QLayout* frmSetupOhmmeter::MakeEntries() {
 }
 
 RowTable* frmSetupOhmmeter::MakeTable() {
-    auto* table = new RowTable("tblTics", kHeadings);
+    auto* table = new RowTable("tblTics", kSetupOhmmeterHeadings);
     for (int row = 0; row < kRows; ++row) {
         const ListRow& made = Row(row) = MakeRow(row);
         made.ticClass.second->ShowSelected();

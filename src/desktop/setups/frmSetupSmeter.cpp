@@ -4,10 +4,10 @@ namespace vernacle {
 
 namespace {
 
-constexpr const char* kOptions[] = {"S 0-9", "S 0-9, +40", "S 0-9, +50", "S 0-9, +60"};
+constexpr const char* kSetupSmeterOptions[] = {"S 0-9", "S 0-9, +40", "S 0-9, +50", "S 0-9, +60"};
 
 // Accepting unloads another page: this one stays behind, and comes back as it was left.
-constexpr PicturedSetupTraits kTraits = {
+constexpr PicturedSetupTraits kSetupSmeterTraits = {
     .setup = {.form = "frmSetupSmeter",
               .title = "Vernacle - S-meter setup",
               .heading = "S-meter setup",
@@ -15,11 +15,11 @@ constexpr PicturedSetupTraits kTraits = {
               .ignoreCaption = "Ignore; just return to Scale Design page",
               .acceptUnloads = "frmSetupVSWR"},
     .frame = "Scale type",
-    .options = kOptions};
+    .options = kSetupSmeterOptions};
 
 } // namespace
 
-frmSetupSmeter::frmSetupSmeter() : PicturedSetupPage(kTraits) {
+frmSetupSmeter::frmSetupSmeter() : PicturedSetupPage(kSetupSmeterTraits) {
     EnterSetup();
 }
 

@@ -13,21 +13,23 @@ struct StepOption {
     float step;
 };
 
-constexpr std::array<StepOption, 3> kSteps = {{{"0.2", 0.2F}, {"0.5", 0.5F}, {"1.0", 1.0F}}};
-constexpr const char* kOptions[] = {kSteps[0].caption, kSteps[1].caption, kSteps[2].caption};
+constexpr std::array<StepOption, 3> kSetupVSWRSteps = {
+    {{"0.2", 0.2F}, {"0.5", 0.5F}, {"1.0", 1.0F}}};
+constexpr const char* kSetupVSWROptions[] = {kSetupVSWRSteps[0].caption, kSetupVSWRSteps[1].caption,
+                                             kSetupVSWRSteps[2].caption};
 
-constexpr PicturedSetupTraits kTraits = {
+constexpr PicturedSetupTraits kSetupVSWRTraits = {
     .setup = {.form = "frmSetupVSWR",
               .title = "Vernacle - VSWR setup",
               .heading = "VSWR setup",
               .acceptCaption = "Accept and return to Scale Design page",
               .ignoreCaption = "Ignore; just return to Scale Design page"},
     .frame = "Scale stepsize",
-    .options = kOptions};
+    .options = kSetupVSWROptions};
 
 } // namespace
 
-frmSetupVSWR::frmSetupVSWR() : PicturedSetupPage(kTraits) {
+frmSetupVSWR::frmSetupVSWR() : PicturedSetupPage(kSetupVSWRTraits) {
     EnterSetup();
 }
 
@@ -38,7 +40,7 @@ void frmSetupVSWR::AcceptSetup() {
 }
 
 void frmSetupVSWR::ComputeTics(int option, float exponent) {
-    setup_.StepSize = kSteps.at(static_cast<std::size_t>(option) - 1).step;
+    setup_.StepSize = kSetupVSWRSteps.at(static_cast<std::size_t>(option) - 1).step;
     ComputeVSWRTics(Design, Scale(), exponent, setup_);
 }
 

@@ -19,15 +19,16 @@ namespace vernacle {
 
 namespace {
 
-constexpr SetupPageTraits kTraits = {.form = "frmSetupdB",
-                                     .title = "Vernacle - dB setup",
-                                     .heading = "dB setup",
-                                     .acceptCaption = "Accept and return to Scale Design page",
-                                     .ignoreCaption = "Ignore; just return to Scale Design page",
-                                     .computes = kAtLoad | kAtPreview,
-                                     .readsBack = true};
+constexpr SetupPageTraits kSetupdBTraits = {
+    .form = "frmSetupdB",
+    .title = "Vernacle - dB setup",
+    .heading = "dB setup",
+    .acceptCaption = "Accept and return to Scale Design page",
+    .ignoreCaption = "Ignore; just return to Scale Design page",
+    .computes = kAtLoad | kAtPreview,
+    .readsBack = true};
 
-constexpr const char* kHeadings[] = {
+constexpr const char* kSetupdBHeadings[] = {
     "Tic#:", "Deflection:", "Label:", "Print label?", "Major/minor?", "Print tic?"};
 
 } // namespace
@@ -65,7 +66,7 @@ const frmSetupdB::Question frmSetupdB::kQuestions[] = {
     {"fraPrefix", "Prefix  '+'  to positive decibel labels?", "optY", "optN", &frmSetupdB::optY_},
 };
 
-frmSetupdB::frmSetupdB() : SetupPage(kTraits) {
+frmSetupdB::frmSetupdB() : SetupPage(kSetupdBTraits) {
     Build();
     EnterSetup();
 }
@@ -120,7 +121,7 @@ QLayout* frmSetupdB::MakeButtons() {
 }
 
 RowTable* frmSetupdB::MakeTable() {
-    auto* table = new RowTable("tblTics", kHeadings);
+    auto* table = new RowTable("tblTics", kSetupdBHeadings);
     for (int row = 0; row < kDecibelRows; ++row) {
         const TicRow& made = Row(row) = MakeRow(row);
         made.printed.Show(Answer::Yes);

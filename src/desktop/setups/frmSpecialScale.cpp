@@ -21,20 +21,21 @@ namespace vernacle {
 
 namespace {
 
-constexpr SetupPageTraits kTraits = {.form = "frmSpecialScale",
-                                     .title = "Vernacle - Special scale setup",
-                                     .heading = "Special scale setup",
-                                     .acceptCaption = "Accept and return to Scales page",
-                                     .ignoreCaption = "Ignore and return to Scales page",
-                                     .computes = kAtLoad | kAtPreview | kAtAccept,
-                                     .readsBack = true};
+constexpr SetupPageTraits kSpecialScaleTraits = {
+    .form = "frmSpecialScale",
+    .title = "Vernacle - Special scale setup",
+    .heading = "Special scale setup",
+    .acceptCaption = "Accept and return to Scales page",
+    .ignoreCaption = "Ignore and return to Scales page",
+    .computes = kAtLoad | kAtPreview | kAtAccept,
+    .readsBack = true};
 
 constexpr FieldRow kTicmarks = {.box = "txtNrOfTicmarks",
                                 .caption = "Number of ticmarks:",
                                 .limits = kLastRowLimits,
                                 .unit = "ticmarks"};
 
-constexpr const char* kHeadings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
+constexpr const char* kSpecialScaleHeadings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
 
 constexpr const char* kRange = "The value for deflection must be 0 minimum to 1.0 maximum";
 
@@ -46,7 +47,7 @@ std::string MessageOf(DeflectionFault fault, SetupMoment moment) {
 
 } // namespace
 
-frmSpecialScale::frmSpecialScale() : SetupPage(kTraits) {
+frmSpecialScale::frmSpecialScale() : SetupPage(kSpecialScaleTraits) {
     Build();
     EnterSetup();
 }
@@ -76,7 +77,7 @@ void frmSpecialScale::Build() {
 }
 
 RowTable* frmSpecialScale::MakeTable() {
-    auto* table = new RowTable("tblTics", kHeadings);
+    auto* table = new RowTable("tblTics", kSpecialScaleHeadings);
     for (int row = 0; row < kSpecialRows; ++row) {
         const TicRow& made = Row(row) = MakeRow(row);
         table->AddRow({made.tic, made.deflection, made.label, made.major.frame});

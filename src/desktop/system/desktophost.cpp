@@ -16,13 +16,13 @@
 #include "desktop/system/programfiles.h"
 #include "desktop/system/sound.h"
 #include "desktop/system/spool.h"
+#include "engine/base/hostservices.h"
 #include "engine/base/runtimeerror.h"
 
 namespace vernacle {
 
 namespace {
 
-constexpr float kTwipsPerPixel = 15;
 constexpr const char* kPrinterPort = "LPT1";
 
 #ifdef Q_OS_UNIX
@@ -62,8 +62,8 @@ std::unique_ptr<ByteSink> Open(const std::string& name) {
 
 ScreenSize PrimaryScreen() {
     const QSize size = QGuiApplication::primaryScreen()->size();
-    return {static_cast<float>(size.width()) * kTwipsPerPixel,
-            static_cast<float>(size.height()) * kTwipsPerPixel};
+    return {static_cast<float>(size.width() * kTwipsPerPixel),
+            static_cast<float>(size.height() * kTwipsPerPixel)};
 }
 
 // What the user does during a wait is dealt with behind it.

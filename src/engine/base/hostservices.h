@@ -12,6 +12,8 @@
 
 namespace vernacle {
 
+constexpr double kTwipsPerPixel = 15;
+
 struct ScreenSize {
     float widthTwips;
     float heightTwips;

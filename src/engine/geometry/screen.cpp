@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "engine/base/hostservices.h"
 #include "engine/core/design.h"
 
 namespace vernacle {
 
 namespace {
 
-constexpr double kTwipsPerPixel = 15;
 constexpr double kUnitsAcross = 12000;
 constexpr auto kWidestScale = static_cast<float>(kWidestScreen * kTwipsPerPixel / kUnitsAcross);
 

@@ -1,6 +1,7 @@
 #include <array>
 #include <cmath>
 
+#include "engine/base/hostservices.h"
 #include "engine/base/text.h"
 #include "engine/core/design.h"
 #include "engine/geometry/primitives.h"
@@ -17,8 +18,6 @@ constexpr double kLabelHeight = 0.0513;
 constexpr double kTitleHeight = 0.05;
 constexpr double kCharacterWidth = 0.0198;
 constexpr double kOrdinarySize = 0.0285;
-
-constexpr double kTwipsPerPixel = 15;
 
 // The height of a made font per point; the sampled fitting asks for that of the characters.
 double HeightPerPoint(const DrawingRun& run, double usual) {

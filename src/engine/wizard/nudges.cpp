@@ -9,7 +9,7 @@ namespace {
 
 using D = DesignRecord;
 
-constexpr int kScale = 1;
+constexpr int kNudgedScale = 1;
 constexpr double kNoLimit = 1e30;
 
 template <int Number>
@@ -43,7 +43,7 @@ double MajorWidth(const DesignRecord& design) {
     return double{design.MajorTicWidth};
 }
 double Tics(const DesignRecord& design) {
-    return design.NrOfTicmarks[kScale];
+    return design.NrOfTicmarks[kNudgedScale];
 }
 
 // clang-format off
@@ -63,14 +63,14 @@ constexpr Nudge kNudges[] = {
 // clang-format on
 
 double NumberOfNudge(const DesignRecord& design, const Nudge& nudge) {
-    return NumberIn(nudge.field.In(design, kScale));
+    return NumberIn(nudge.field.In(design, kNudgedScale));
 }
 
 NudgeResult Correct(DesignRecord& design, const Nudge& nudge, double value) {
     if (nudge.refusal == Refusal::Left) {
         return NudgeResult::Ignored;
     }
-    StoreIn(nudge.field.In(design, kScale), value);
+    StoreIn(nudge.field.In(design, kNudgedScale), value);
     return NudgeResult::Corrected;
 }
 
@@ -86,7 +86,7 @@ std::string NudgeValue(const DesignRecord& design, const Nudge& nudge) {
 
 NudgeResult ApplyNudge(DesignRecord& design, const Nudge& nudge, const std::string& text) {
     std::string entered = text;
-    ParseInto(entered, nudge.field.In(design, kScale));
+    ParseInto(entered, nudge.field.In(design, kNudgedScale));
     const double value = NumberOfNudge(design, nudge);
     const double lowest = nudge.lowest(design);
     if (nudge.lowestEnd == LowestEnd::Excluded ? value <= lowest : value < lowest) {

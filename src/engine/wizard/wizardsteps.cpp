@@ -18,7 +18,7 @@ namespace {
 
 using D = DesignRecord;
 
-constexpr int kScale = 1; // the wizard's only one
+constexpr int kWizardScale = 1; // the wizard's only one
 
 // Holds a count until its step has tested it.
 float workingValue = 0;
@@ -27,11 +27,11 @@ constexpr FieldPlace WorkingValue = {[](DesignRecord& /*design*/, int /*outer*/,
                                         int /*inner*/) -> FieldPointer { return &workingValue; }};
 
 double NumberAt(const DesignRecord& design, FieldPlace field) {
-    return NumberIn(field.In(design, kScale));
+    return NumberIn(field.In(design, kWizardScale));
 }
 
 void NameScale(DesignRecord& design) {
-    design.ScaleTitle[kScale] = "Simple Scale";
+    design.ScaleTitle[kWizardScale] = "Simple Scale";
 }
 
 std::int16_t NearestCount() {
@@ -42,14 +42,14 @@ std::int16_t NearestCount() {
 
 // The scale counts from zero in ones.
 void CountTics(DesignRecord& design) {
-    design.NrOfTicmarks[kScale] = NearestCount();
-    design.ScaleLeftEnd[kScale] = 0;
-    design.ScaleLengthUnits[kScale] = design.NrOfTicmarks[kScale];
+    design.NrOfTicmarks[kWizardScale] = NearestCount();
+    design.ScaleLeftEnd[kWizardScale] = 0;
+    design.ScaleLengthUnits[kWizardScale] = design.NrOfTicmarks[kWizardScale];
 }
 
 void CountMajors(DesignRecord& design) {
-    design.MajorEveryHowMany[kScale] = NearestCount();
-    design.LabelsEveryHowMany[kScale] = design.MajorEveryHowMany[kScale];
+    design.MajorEveryHowMany[kWizardScale] = NearestCount();
+    design.LabelsEveryHowMany[kWizardScale] = design.MajorEveryHowMany[kWizardScale];
 }
 
 constexpr WizardLimit From(double number) {
@@ -121,7 +121,10 @@ constexpr Prompt kPrompts[] = {
      "Enter a value for the Actual/Virtual offset, in mm, 0 to 100,000. Enter 0 if for an "
      "'old-fashioned' design or if you don't know the value. For a modern design a typical value "
      "would be about half the plate height (i.e., ",
-     nullptr, "", 5, ")."},
+     {},
+     "",
+     5,
+     ")."},
     {9, "Enter a value for the Minor tic length, in mm, .5 minimum to 20 maximum. A suggested "
         "value is 2. This cannot be greater than the major tic length."},
     {10, "Enter a value for the Major tic length, in mm, 1 minimum to 20 maximum. A suggested "
@@ -161,7 +164,7 @@ constexpr Repair kRepairs[] = {
     {At<&D::MinorTicLength>, When::Above, 0, 0, kMajorLength, kMajorLength},
     {At<&D::MinorTicWidth>, When::Equal, 0, 2},
     {At<&D::MinorTicWidth>, When::Above, 0, 0, kMajorWidth, kMajorWidth},
-    {At<&D::HoleSeparation>, When::Equal, 0, -10, nullptr, kWidth},
+    {At<&D::HoleSeparation>, When::Equal, 0, -10, {}, kWidth},
     {At<&D::NrOfTicmarks>, When::Below, 1, 50},
     {At<&D::NumberOfScales>, When::Always, 0, 1},
     {At<&D::PlateBackground>, When::Always, 0, 0xFFFFFF},
@@ -201,7 +204,7 @@ std::span<const WizardStep> WizardSteps() {
 std::optional<std::string> EnterWizardStep(DesignRecord& design, const WizardStep& step,
                                            const std::string& text) {
     std::string entered = text;
-    ParseInto(entered, step.field.In(design, kScale));
+    ParseInto(entered, step.field.In(design, kWizardScale));
     if (IsAccepted(design, step, NumberAt(design, step.field))) {
         if (step.accepted) {
             step.accepted(design);
@@ -250,11 +253,11 @@ std::span<const int> WizardReadingOrder() {
 void ReadWizardStep(DesignRecord& design, const WizardStep& step, const std::string& text) {
     const FieldPlace field = step.count ? step.count : step.field;
     std::string entered = text;
-    ParseInto(entered, field.In(design, kScale));
+    ParseInto(entered, field.In(design, kWizardScale));
 }
 
 void RepairWizardDesign(DesignRecord& design) {
-    RepairFields(design, kRepairs, kScale);
+    RepairFields(design, kRepairs, kWizardScale);
 }
 
 } // namespace vernacle

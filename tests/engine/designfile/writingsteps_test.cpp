@@ -11,7 +11,7 @@
 namespace vernacle::test {
 namespace {
 
-constexpr float kUnwritable = std::numeric_limits<float>::infinity();
+constexpr float kUnwritableNumber = std::numeric_limits<float>::infinity();
 
 class WritingStepsTest : public EngineTest {
 protected:
@@ -64,7 +64,7 @@ TEST_F(WritingStepsTest, EachStepComesAtItsLine) {
     };
     const auto before = std::make_unique<DesignRecord>(Design);
     for (const MomentRow& row : rows) {
-        *row.unwritable = kUnwritable;
+        *row.unwritable = kUnwritableNumber;
         EXPECT_FALSE(WriteDesign(Design)) << row.name;
         EXPECT_EQ(Taken(), row.taken) << row.name;
         Design = *before;
