@@ -181,13 +181,13 @@ TEST_F(PaperSurfaceTest, TheAreaMovesDownByWhatIsWantedAndByTheRoomThereIs) {
         double movedMm;
     };
     constexpr double kAreaTopMm = (297 - 15200 * kUnitMm) / 2;
-    constexpr double kWhiteMm = 12 * 25.4 / 72;
+    constexpr double kEdgeMm = 12 * 25.4 / 72;
     const Row rows[] = {
         {0, 15200, 0},
         {-500, 9000, 0},
-        {-1000, 9000, kWhiteMm - kAreaTopMm + 1000 * kUnitMm},
-        {-1000, 15200, kWhiteMm - kAreaTopMm + 1000 * kUnitMm},
-        {-1000, 15700, 297 - kWhiteMm - kAreaTopMm - 15700 * kUnitMm},
+        {-1000, 9000, kEdgeMm - kAreaTopMm + 1000 * kUnitMm},
+        {-1000, 15200, kEdgeMm - kAreaTopMm + 1000 * kUnitMm},
+        {-1000, 15700, 297 - kEdgeMm - kAreaTopMm - 15700 * kUnitMm},
         {-1000, 16700, 0},
         {0, 0, 0}, // and the next stands as usual
     };

@@ -26,6 +26,9 @@ public:
 private:
     static constexpr std::int16_t kQuadrant = 1; // plate style
 
+    enum class Group;
+    enum class Frame;
+    enum class Help;
     struct Option;
     struct OptionFrame;
     static const Option kOptions[];

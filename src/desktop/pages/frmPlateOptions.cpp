@@ -9,11 +9,7 @@
 
 namespace vernacle {
 
-namespace {
-
-enum class Group { Sound, Graphic, Arcs, LabelRotation, Style, Number, Plate, Labels };
-
-} // namespace
+enum class frmPlate::Group { Sound, Graphic, Arcs, LabelRotation, Style, Number, Plate, Labels };
 
 // An option of a group: what selecting it does, and whether the design stands so.
 struct frmPlate::Option {
@@ -62,13 +58,9 @@ const frmPlate::Option frmPlate::kOptions[] = {
 };
 // clang-format on
 
-namespace {
+enum class frmPlate::Frame { Shown, Hidden };
 
-enum class Frame { Shown, Hidden };
-
-enum class Help { Enabled, Greyed };
-
-} // namespace
+enum class frmPlate::Help { Enabled, Greyed };
 
 // A frame of options, and where it stands on the page's grid. Its first options are enabled.
 struct frmPlate::OptionFrame {
