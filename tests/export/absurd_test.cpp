@@ -1,7 +1,6 @@
 // Designs whose numbers no plate has: every form is either written whole or fails in words.
 #include <filesystem>
 #include <ostream>
-#include <regex>
 
 #include "export/exporttest.h"
 
@@ -48,7 +47,24 @@ const AbsurdCase kAbsurd[] = {
     {"a_title_of_a_novel", {{"Scale title:", std::string(100000, 'M')}}},
 };
 
-TEST_P(AbsurdTest, EveryFormIsWrittenOrFailsInWords) {
+// Whether one of the words that stand for no number stands alone in the text.
+bool HasNoNumber(const std::string& text) {
+    const std::string before = "- \t\r\n\",(";
+    const std::string behind = " \t\r\n\",)";
+    for (const char* word : {"nan", "inf"}) {
+        for (std::size_t at = text.find(word); at != text.npos; at = text.find(word, at + 1)) {
+            const bool begins = at == 0 || before.find(text[at - 1]) != before.npos;
+            const bool ends = at + 3 >= text.size() || behind.find(text[at + 3]) != behind.npos;
+            if (begins && ends) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+// A drawing that was written must be one that others can read.
+TEST_P(AbsurdTest, EveryFormIsWrittenAndCanBeReadOrFailsInWords) {
     const std::string design = EditedExample("VOLTS-0-15", GetParam().edits);
     for (const char* ending : kEndings) {
         SCOPED_TRACE(ending);
@@ -61,22 +77,12 @@ TEST_P(AbsurdTest, EveryFormIsWrittenOrFailsInWords) {
             EXPECT_NE(result.err.find("was not written"), std::string::npos) << result.err;
         }
     }
-}
-
-// A drawing that was written must be one that others can read.
-TEST_P(AbsurdTest, WhatIsWrittenCanBeRead) {
-    const std::string design = EditedExample("VOLTS-0-15", GetParam().edits);
-    Export({design, Path("plate.pdf"), Path("plate.svg"), Path("plate.hpgl")});
     if (Exists("plate.pdf")) {
         const ProcessResult read = RunProgram("pdftocairo", {"-svg", Path("plate.pdf"), "-"});
         EXPECT_EQ(read.err.find("Syntax Error"), std::string::npos) << read.err;
     }
-    const std::regex notANumber("[-\\s\",(](nan|inf)[\\s\",)]");
     for (const char* name : {"plate.svg", "plate.hpgl"}) {
-        if (Exists(name)) {
-            const std::string text = ReadFile(name);
-            EXPECT_FALSE(std::regex_search(text, notANumber)) << name;
-        }
+        EXPECT_FALSE(Exists(name) && HasNoNumber(ReadFile(name))) << name;
     }
 }
 
