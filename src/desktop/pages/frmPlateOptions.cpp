@@ -13,11 +13,11 @@ enum class frmPlate::Group { Sound, Graphic, Arcs, LabelRotation, Style, Number,
 
 // An option of a group: what selecting it does, and whether the design stands so.
 struct frmPlate::Option {
-    Group group;
-    const char* name;
-    const char* caption;
-    void (*select)(frmPlate& page);
-    bool (*holds)();
+    Group group = {};
+    const char* name = nullptr;
+    const char* caption = nullptr;
+    void (*select)(frmPlate& page) = nullptr;
+    bool (*holds)() = nullptr;
     OptionButton* frmPlate::*kept = nullptr; // where the page holds it
 };
 
@@ -64,11 +64,11 @@ enum class frmPlate::Help { Enabled, Greyed };
 
 // A frame of options, and where it stands on the page's grid. Its first options are enabled.
 struct frmPlate::OptionFrame {
-    Group group;
-    const char* name;
-    const char* title;
-    int row;
-    int column;
+    Group group = {};
+    const char* name = nullptr;
+    const char* title = nullptr;
+    int row = 0;
+    int column = 0;
     int columns = 1;
     int enabledOptions = 2;
     Frame frame = Frame::Shown;
