@@ -31,11 +31,11 @@ QString FindBelow(const QDir& folder, const QStringList& path) {
     const bool isLast = path.size() == 1;
     for (const QString& entry :
          Candidates(folder, path.first(), isLast ? QDir::Files : QDir::Dirs)) {
-        const QString found = folder.filePath(entry);
+        QString found = folder.filePath(entry);
         if (isLast) {
             return found;
         }
-        const QString below = FindBelow(QDir(found), path.mid(1));
+        QString below = FindBelow(QDir(found), path.mid(1));
         if (!below.isEmpty()) {
             return below;
         }

@@ -63,7 +63,7 @@ class Field : public QObject {
 
 public:
     // Makes the widgets, which stand nowhere yet. Lives as long as the page.
-    Field(const FieldRow& row, QWidget& page);
+    Field(const FieldRow& of, QWidget& page);
 
     const FieldRow row;
     QLabel* label = nullptr;
