@@ -233,9 +233,11 @@ constexpr FileLine kTicsAndArcsHeading =
     {"Print ticmarks and arcs:",         WriteNothing,    Nowhere,                           Drop,            855};
 constexpr FileLine kTicsAndArcs =
     {"Scale %: ",                        WriteTicsAndArcs,Nowhere,                           ReadTicsAndArcs, 860};
-// What the file gains stands before its end: a file that is older ends before it.
+// What the file gains stands behind what is forced and before the end: a file that is older ends
+// there, and nothing behind is run.
 constexpr FileLine kTail[] = {
-    Step(990, ForceTicsAndArcs),
+    Step(862, ForceTicsAndArcs),
+    Step(990),
 };
 // clang-format on
 
