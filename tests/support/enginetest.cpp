@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 #include "engine/base/hostservices.h"
 #include "engine/core/design.h"
@@ -67,6 +68,16 @@ std::string EngineTest::WriteFile(const std::string& name, const std::string& by
 std::string EngineTest::ReadFile(const std::string& name) const {
     std::ifstream file(Path(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
+}
+
+NewDesignTest::NewDesignTest() {
+    SetOpeningValues(Design);
+    ResetDesign(Design);
+}
+
+Texts WordsOf(const std::string& text) {
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
 }
 
 } // namespace vernacle::test

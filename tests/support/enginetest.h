@@ -10,6 +10,8 @@
 
 namespace vernacle::test {
 
+using Texts = std::vector<std::string>;
+
 constexpr const char* kLocalTime = "11/21/26 10:08:00";
 constexpr const char* kIsoTime = "2026-11-21 10:08:00";
 
@@ -33,5 +35,14 @@ protected:
 private:
     std::filesystem::path folder_;
 };
+
+// With the design as the program starts: the opening values, then a new design's defaults.
+class NewDesignTest : public EngineTest {
+protected:
+    NewDesignTest();
+};
+
+// The words of a text, as blanks divide them.
+Texts WordsOf(const std::string& text);
 
 } // namespace vernacle::test

@@ -7,13 +7,8 @@ namespace {
 
 constexpr const char* kMark = "\xEF\xBB\xBF";
 
-struct Character {
-    const char* text;
-    const char* byte;
-};
-
 // The characters that Windows-1252 has where Latin-1 has control codes.
-constexpr Character kSpecials[] = {
+constexpr std::pair<const char*, const char*> kSpecials[] = {
     {"\u20AC", "\x80"}, {"\u201A", "\x82"}, {"\u0192", "\x83"}, {"\u201E", "\x84"},
     {"\u2026", "\x85"}, {"\u2020", "\x86"}, {"\u2021", "\x87"}, {"\u02C6", "\x88"},
     {"\u2030", "\x89"}, {"\u0160", "\x8A"}, {"\u2039", "\x8B"}, {"\u0152", "\x8C"},

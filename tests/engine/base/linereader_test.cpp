@@ -1,15 +1,10 @@
 #include "engine/base/linereader.h"
 
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "engine/base/runtimeerror.h"
+#include "support/enginetest.h"
 
 namespace vernacle::test {
 namespace {
-
-using Texts = std::vector<std::string>;
 
 Texts AllLines(const std::string& text) {
     LineReader reader(text);
@@ -34,11 +29,7 @@ TEST(LinesTest, EndWithCrLfOrLfOrTheText) {
 }
 
 TEST(LinesTest, AValueIsWhatStandsBehindTheFirstColon) {
-    struct Row {
-        const char* text;
-        const char* value;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<const char*, const char*> kRows[] = {
         {"Plate width: 75\n", " 75"},
         {"75\n", "75"},
         {"Title:Volts: DC\n", "Volts: DC"},

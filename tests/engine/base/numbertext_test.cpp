@@ -13,11 +13,7 @@ constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
 TEST(NumberTextTest, WritesFloatsInTheirShortestForm) {
-    struct Row {
-        float value;
-        const char* text;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<float, const char*> kRows[] = {
         {0, "0"},
         {-0.0F, "0"},
         {1, "1"},
@@ -91,11 +87,7 @@ TEST(NumberTextTest, PaddedFormHasABlankBehindItToo) {
 }
 
 TEST(NumberTextTest, PlotterFormNeverHasAnExponent) {
-    struct Row {
-        double value;
-        const char* text;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<double, const char*> kRows[] = {
         {0, " 0 "},
         {-0.0, " 0 "},
         {3000, " 3000 "},
@@ -151,11 +143,7 @@ TEST(NumberTextTest, RoundsToPlacesHalfAwayFromZero) {
 TEST(NumberTextTest, NumericValueIsTheLeadingNumber) {
     constexpr double kTooLarge = std::numeric_limits<double>::infinity();
     const std::string zeros(400, '0');
-    struct Row {
-        std::string text;
-        double value;
-    };
-    const Row kRows[] = {
+    const std::pair<std::string, double> kRows[] = {
         {"", 0},
         {"   ", 0},
         {"12", 12},
@@ -202,11 +190,7 @@ TEST(NumberTextTest, NumericValueIsTheLeadingNumber) {
 }
 
 TEST(NumberTextTest, StrictNumberIsTheWholeText) {
-    struct Row {
-        const char* text;
-        std::optional<double> value;
-    };
-    const Row kRows[] = {
+    const std::pair<const char*, std::optional<double>> kRows[] = {
         {"255", 255},           //
         {"  255 ", 255},        //
         {"-1.5E2", -150},       //

@@ -16,14 +16,12 @@ protected:
         fs::create_symlink(Path("link"), Path("longer"));
         fs::create_symlink("self", Path("self"));
     }
+
+    void ExpectSameByPath() const;
 };
 
-struct PathRow {
-    const char* path;
-    bool isSame; // as folder/file
-};
-
-constexpr PathRow kPaths[] = {
+// Whether a path is that of folder/file.
+constexpr std::pair<const char*, bool> kPaths[] = {
     {"folder/file", true},
     {"folder/../folder/file", true},
     {"folder/./file", true},
@@ -42,22 +40,23 @@ constexpr PathRow kPaths[] = {
     {"folder", false},
 };
 
+void SameFileTest::ExpectSameByPath() const {
+    for (const auto& [path, isSame] : kPaths) {
+        EXPECT_EQ(IsSameFile(Path(path), Path("folder/file")), isSame) << path;
+        EXPECT_EQ(IsSameFile(Path("folder/file"), Path(path)), isSame) << path;
+    }
+}
+
 TEST_F(SameFileTest, AFileIsTheSameByEveryPath) {
     WriteFile("folder/file", "x");
     WriteFile("folder/other", "x");
-    for (const PathRow& row : kPaths) {
-        EXPECT_EQ(IsSameFile(Path(row.path), Path("folder/file")), row.isSame) << row.path;
-        EXPECT_EQ(IsSameFile(Path("folder/file"), Path(row.path)), row.isSame) << row.path;
-    }
+    ExpectSameByPath();
     fs::create_hard_link(Path("folder/file"), Path("second"));
     EXPECT_TRUE(IsSameFile(Path("second"), Path("folder/file")));
 }
 
 TEST_F(SameFileTest, SoIsThePlaceOfOneThatDoesNotExist) {
-    for (const PathRow& row : kPaths) {
-        EXPECT_EQ(IsSameFile(Path(row.path), Path("folder/file")), row.isSame) << row.path;
-        EXPECT_EQ(IsSameFile(Path("folder/file"), Path(row.path)), row.isSame) << row.path;
-    }
+    ExpectSameByPath();
 }
 
 TEST_F(SameFileTest, ABareNameStandsInTheWorkingFolder) {

@@ -1,10 +1,9 @@
 #include "engine/core/design.h"
 
-#include <algorithm>
-#include <vector>
+#include <span>
 
 #include "engine/base/hostservices.h"
-#include "show.h"
+#include "engine/core/fieldplace.h"
 #include "support/enginetest.h"
 
 namespace vernacle::test {
@@ -15,146 +14,135 @@ using D = DesignRecord;
 class DesignTest : public EngineTest {};
 
 // A text of nullptr: not set, the field keeps what it held.
-struct PlateDefault {
+struct Default {
     const char* name;
-    Member field;
+    FieldPlace field;
     const char* opening;
     const char* reset;
 };
 
-const PlateDefault kPlateDefaults[] = {
-    {"ActualVirtualOffset", &D::ActualVirtualOffset, "30", "30"},
-    {"ArcWidth", &D::ArcWidth, "1", "1"},
-    {"AspectRatio", &D::AspectRatio, "0.8", "0.75"},
-    {"BottomToBearing", &D::BottomToBearing, "15", "10"},
-    {"BottomToHoles", &D::BottomToHoles, "15", "15"},
-    {"DrawArcs", &D::DrawArcs, "Y", "Y"},
-    {"FontName", &D::FontName, "Arial", nullptr},
-    {"LabelSpacing", &D::LabelSpacing, "5", "6"},
-    {"MajorTicLength", &D::MajorTicLength, "3", "3"},
-    {"MajorTicWidth", &D::MajorTicWidth, "3", "4"},
-    {"MessageLevel", &D::MessageLevel, "0", "0"},
-    {"MinorTicLength", &D::MinorTicLength, "2", "2"},
-    {"MinorTicWidth", &D::MinorTicWidth, "1", "2"},
-    {"HoleSeparation", &D::HoleSeparation, "40", "50"},
-    {"NumberOfScales", &D::NumberOfScales, "1", "1"},
-    {"NumberOfTexts", &D::NumberOfTexts, "0", "0"},
-    {"PlateWidth", &D::PlateWidth, "75", "75"},
-    {"PlateHeight", &D::PlateHeight, "50", "50"},
-    {"PlateBackground", &D::PlateBackground, "16777215", "16777215"},
-    {"PointerDeflection", &D::PointerDeflection, "90", "99"},
-    {"PrintText", &D::PrintText, "Y", "Y"},
-    {"LabelRotation", &D::LabelRotation, "H", "H"},
-    {"FontSize", &D::FontSize, "6", "8"},
-    {"PlateStyle", &D::PlateStyle, nullptr, "0"},
-    {"DrawGraphic", &D::DrawGraphic, nullptr, "N"},
-    {"NumberOfHighlights", &D::NumberOfHighlights, nullptr, "0"},
-    {"GraphicWidth", &D::GraphicWidth, nullptr, "1"},
-    {"GraphicHeight", &D::GraphicHeight, nullptr, "1"},
-    {"BottomToGraphic", &D::BottomToGraphic, nullptr, "1"},
-    {"LeftToGraphic", &D::LeftToGraphic, nullptr, "10"},
-    {"NumberOfCorrectionPoints", &D::NumberOfCorrectionPoints, nullptr, "7"},
+constexpr Default kPlateDefaults[] = {
+    {"ActualVirtualOffset", At<&D::ActualVirtualOffset>, "30", "30"},
+    {"ArcWidth", At<&D::ArcWidth>, "1", "1"},
+    {"AspectRatio", At<&D::AspectRatio>, ".8", ".75"},
+    {"BottomToBearing", At<&D::BottomToBearing>, "15", "10"},
+    {"BottomToHoles", At<&D::BottomToHoles>, "15", "15"},
+    {"DrawArcs", At<&D::DrawArcs>, "Y", "Y"},
+    {"FontName", At<&D::FontName>, "Arial", nullptr},
+    {"LabelSpacing", At<&D::LabelSpacing>, "5", "6"},
+    {"MajorTicLength", At<&D::MajorTicLength>, "3", "3"},
+    {"MajorTicWidth", At<&D::MajorTicWidth>, "3", "4"},
+    {"MessageLevel", At<&D::MessageLevel>, "0", "0"},
+    {"MinorTicLength", At<&D::MinorTicLength>, "2", "2"},
+    {"MinorTicWidth", At<&D::MinorTicWidth>, "1", "2"},
+    {"HoleSeparation", At<&D::HoleSeparation>, "40", "50"},
+    {"NumberOfScales", At<&D::NumberOfScales>, "1", "1"},
+    {"NumberOfTexts", At<&D::NumberOfTexts>, "0", "0"},
+    {"PlateWidth", At<&D::PlateWidth>, "75", "75"},
+    {"PlateHeight", At<&D::PlateHeight>, "50", "50"},
+    {"PlateBackground", At<&D::PlateBackground>, "16777215", "16777215"},
+    {"PointerDeflection", At<&D::PointerDeflection>, "90", "99"},
+    {"PrintText", At<&D::PrintText>, "Y", "Y"},
+    {"LabelRotation", At<&D::LabelRotation>, "H", "H"},
+    {"FontSize", At<&D::FontSize>, "6", "8"},
+    {"PlateStyle", At<&D::PlateStyle>, nullptr, "0"},
+    {"DrawGraphic", At<&D::DrawGraphic>, nullptr, "N"},
+    {"NumberOfHighlights", At<&D::NumberOfHighlights>, nullptr, "0"},
+    {"GraphicWidth", At<&D::GraphicWidth>, nullptr, "1"},
+    {"GraphicHeight", At<&D::GraphicHeight>, nullptr, "1"},
+    {"BottomToGraphic", At<&D::BottomToGraphic>, nullptr, "1"},
+    {"LeftToGraphic", At<&D::LeftToGraphic>, nullptr, "10"},
+    {"NumberOfCorrectionPoints", At<&D::NumberOfCorrectionPoints>, nullptr, "7"},
     // fields that neither routine touches
-    {"DesignFileName", &D::DesignFileName, nullptr, nullptr},
-    {"GraphicFileName", &D::GraphicFileName, nullptr, nullptr},
-    {"DrawHighlights", &D::DrawHighlights, nullptr, nullptr},
-    {"PlateOutlineCircular", &D::PlateOutlineCircular, nullptr, nullptr},
-    {"CurrentScale", &D::CurrentScale, nullptr, nullptr},
-    {"ActiveScale", &D::ActiveScale, nullptr, nullptr},
-    {"HelpTopic", &D::HelpTopic, nullptr, nullptr},
-    {"CalibrationX", &D::CalibrationX, nullptr, nullptr},
-    {"CalibrationY", &D::CalibrationY, nullptr, nullptr},
+    {"DesignFileName", At<&D::DesignFileName>, nullptr, nullptr},
+    {"GraphicFileName", At<&D::GraphicFileName>, nullptr, nullptr},
+    {"DrawHighlights", At<&D::DrawHighlights>, nullptr, nullptr},
+    {"PlateOutlineCircular", At<&D::PlateOutlineCircular>, nullptr, nullptr},
+    {"CurrentScale", At<&D::CurrentScale>, nullptr, nullptr},
+    {"ActiveScale", At<&D::ActiveScale>, nullptr, nullptr},
+    {"HelpTopic", At<&D::HelpTopic>, nullptr, nullptr},
+    {"CalibrationX", At<&D::CalibrationX>, nullptr, nullptr},
+    {"CalibrationY", At<&D::CalibrationY>, nullptr, nullptr},
 };
 
-void ExpectPlate(const char* PlateDefault::*column) {
-    for (const PlateDefault& row : kPlateDefaults) {
-        const bool isText = std::holds_alternative<std::string D::*>(row.field);
-        const char* kept = isText ? kPoisonText : kPoisonNumber;
-        EXPECT_EQ(Show(row.field), row.*column ? row.*column : kept) << row.name;
+// Of each scale, but for the places that depend on its number.
+constexpr Default kScaleDefaults[] = {
+    {"ScaleColor", At<&D::ScaleColor>, "1", "0"},
+    {"ScaleLeftEnd", At<&D::ScaleLeftEnd>, nullptr, "0"},
+    {"ScaleLengthUnits", At<&D::ScaleLengthUnits>, nullptr, "50"},
+    {"NrOfTicmarks", At<&D::NrOfTicmarks>, nullptr, "50"},
+    {"MajorEveryHowMany", At<&D::MajorEveryHowMany>, nullptr, "5"},
+    {"LabelsEveryHowMany", At<&D::LabelsEveryHowMany>, nullptr, "10"},
+    {"LinearityExponent", At<&D::LinearityExponent>, nullptr, "1"},
+    {"SpecialNrOfTicmarks", At<&D::SpecialNrOfTicmarks>, nullptr, "0"},
+    {"UnlabelledBottomTic", At<&D::UnlabelledBottomTic>, nullptr, "Y"},
+    {"FullscaleMultiplier", At<&D::FullscaleMultiplier>, nullptr, "1"},
+    {"RelativeFontSize", At<&D::RelativeFontSize>, "1", "1"},
+};
+constexpr Default kScalePlaces[] = {
+    {"BottomToTitle", At<&D::BottomToTitle>, "30", nullptr},
+    {"BottomToScaleCeiling", At<&D::BottomToScaleCeiling>, "35", nullptr},
+    {"ScaleTitle", At<&D::ScaleTitle>, nullptr, nullptr},
+};
+
+constexpr Default kTextDefaults[] = {
+    {"TextString", At<&D::TextString>, "", ""},
+    {"LeftToText", At<&D::LeftToText>, "10", "0"},
+    {"BottomToText", At<&D::BottomToText>, "10", "0"},
+    {"TextRelativeSize", At<&D::TextRelativeSize>, "1", "1"},
+    {"TextColor", At<&D::TextColor>, "0", "0"},
+};
+
+constexpr Default kHighlightDefaults[] = {
+    {"HighlightStart", At<&D::HighlightStart>, nullptr, "0"},
+    {"HighlightStop", At<&D::HighlightStop>, nullptr, "0"},
+    {"HighlightCeiling", At<&D::HighlightCeiling>, nullptr, "10"},
+    {"HighlightLength", At<&D::HighlightLength>, nullptr, "0"},
+    {"HighlightColor", At<&D::HighlightColor>, nullptr, "1"},
+};
+
+bool IsText(const FieldPointer& field) {
+    return std::holds_alternative<std::string*>(field);
+}
+
+// Gives the field a value that no default has: 77, or "?".
+void Poison(const FieldPointer& field) {
+    if (IsText(field)) {
+        *std::get<std::string*>(field) = "?";
+    } else {
+        StoreIn(field, 77);
     }
 }
 
-// A field of every scale, text or highlight.
-struct BlockField {
-    const char* name;
-    std::string (*show)(int index);
-    void (*poison)(int index);
-};
-
-template <auto Field>
-constexpr BlockField Of(const char* name) {
-    return {name, [](int index) { return Show((Design.*Field)[index]); },
-            [](int index) { Poison((Design.*Field)[index]); }};
-}
-
-constexpr BlockField kScaleFields[] = {
-    Of<&D::ScaleColor>("ScaleColor"),
-    Of<&D::ScaleLeftEnd>("ScaleLeftEnd"),
-    Of<&D::ScaleLengthUnits>("ScaleLengthUnits"),
-    Of<&D::BottomToTitle>("BottomToTitle"),
-    Of<&D::BottomToScaleCeiling>("BottomToScaleCeiling"),
-    Of<&D::ScaleTitle>("ScaleTitle"),
-    Of<&D::NrOfTicmarks>("NrOfTicmarks"),
-    Of<&D::MajorEveryHowMany>("MajorEveryHowMany"),
-    Of<&D::LabelsEveryHowMany>("LabelsEveryHowMany"),
-    Of<&D::LinearityExponent>("LinearityExponent"),
-    Of<&D::SpecialNrOfTicmarks>("SpecialNrOfTicmarks"),
-    Of<&D::UnlabelledBottomTic>("UnlabelledBottomTic"),
-    Of<&D::FullscaleMultiplier>("FullscaleMultiplier"),
-    Of<&D::RelativeFontSize>("RelativeFontSize"),
-};
-
-constexpr BlockField kTextFields[] = {
-    Of<&D::TextString>("TextString"),     Of<&D::LeftToText>("LeftToText"),
-    Of<&D::BottomToText>("BottomToText"), Of<&D::TextRelativeSize>("TextRelativeSize"),
-    Of<&D::TextColor>("TextColor"),
-};
-
-constexpr BlockField kHighlightFields[] = {
-    Of<&D::HighlightStart>("HighlightStart"),     Of<&D::HighlightStop>("HighlightStop"),
-    Of<&D::HighlightCeiling>("HighlightCeiling"), Of<&D::HighlightLength>("HighlightLength"),
-    Of<&D::HighlightColor>("HighlightColor"),
-};
-
-struct Expected {
-    const char* name;
-    std::string value;
-};
-
-// The fields named have their values at that index, all others of the block still their poison.
-template <std::size_t Count>
-void ExpectBlock(const BlockField (&fields)[Count], int index,
-                 const std::vector<Expected>& expected) {
-    SCOPED_TRACE(index);
-    for (const BlockField& field : fields) {
-        const auto row = std::find_if(expected.begin(), expected.end(), [&](const Expected& e) {
-            return std::string(e.name) == field.name;
-        });
-        if (row != expected.end()) {
-            EXPECT_EQ(field.show(index), row->value) << field.name;
-        } else {
-            const std::string shown = field.show(index);
-            EXPECT_TRUE(shown == kPoisonNumber || shown == kPoisonText) << field.name << shown;
-        }
-    }
-}
-
-template <std::size_t Count>
-void PoisonBlock(const BlockField (&fields)[Count], int last) {
+void PoisonAll(std::span<const Default> rows, int last = 0) {
     for (int index = 0; index <= last; ++index) {
-        for (const BlockField& field : fields) {
-            field.poison(index);
+        for (const Default& row : rows) {
+            Poison(row.field.In(Design, index));
         }
+    }
+}
+
+using Column = const char* Default::*;
+
+constexpr Column kUntouched = nullptr;
+
+// The fields have their values of that column, all others still their poison.
+void ExpectDefaults(std::span<const Default> rows, Column column, int index = 0) {
+    SCOPED_TRACE(index);
+    for (const Default& row : rows) {
+        const FieldPointer field = row.field.In(Design, index);
+        const char* poison = IsText(field) ? "?" : "77";
+        const char* value = column ? row.*column : nullptr;
+        EXPECT_EQ(PlainText(field), value ? value : poison) << row.name;
     }
 }
 
 void PoisonDesign() {
-    for (const PlateDefault& row : kPlateDefaults) {
-        Poison(row.field);
-    }
-    PoisonBlock(kScaleFields, 8);
-    PoisonBlock(kTextFields, 10);
-    PoisonBlock(kHighlightFields, 10);
+    PoisonAll(kPlateDefaults);
+    PoisonAll(kScaleDefaults, 8);
+    PoisonAll(kScalePlaces, 8);
+    PoisonAll(kTextDefaults, 10);
+    PoisonAll(kHighlightDefaults, 10);
     Design.PrintTicsAndArcs.fill(std::int16_t{77});
     Design.CorrectionPair.fill(77);
     Design.CorrectionSlope.fill(77);
@@ -179,9 +167,9 @@ void PoisonDesign() {
 }
 
 TEST_F(DesignTest, StartsEmptyInEveryField) {
-    for (const PlateDefault& row : kPlateDefaults) {
-        const bool isText = std::holds_alternative<std::string D::*>(row.field);
-        EXPECT_EQ(Show(row.field), isText ? "" : "0") << row.name;
+    for (const Default& row : kPlateDefaults) {
+        const FieldPointer field = row.field.In(Design);
+        EXPECT_EQ(PlainText(field), IsText(field) ? "" : "0") << row.name;
     }
     EXPECT_EQ(NumberOf(Design.PrintTicsAndArcs[10]), 0);
     EXPECT_EQ(Design.StandardTicYN[10][360], "");
@@ -213,24 +201,16 @@ TEST_F(DesignTest, TablesHaveTheirBounds) {
 TEST_F(DesignTest, OpeningValuesCoverTheirFieldsAlone) {
     PoisonDesign();
     SetOpeningValues(Design);
-    ExpectPlate(&PlateDefault::opening);
+    ExpectDefaults(kPlateDefaults, &Default::opening);
     for (int scale = 0; scale <= 8; ++scale) {
         const bool covered = scale >= 1 && scale <= 6;
-        const std::vector<Expected> values = {{"ScaleColor", "1"},
-                                              {"BottomToTitle", "30"},
-                                              {"BottomToScaleCeiling", "35"},
-                                              {"RelativeFontSize", "1"}};
-        ExpectBlock(kScaleFields, scale, covered ? values : std::vector<Expected>{});
+        ExpectDefaults(kScaleDefaults, covered ? &Default::opening : kUntouched, scale);
+        ExpectDefaults(kScalePlaces, covered ? &Default::opening : kUntouched, scale);
     }
     for (int text = 0; text <= 10; ++text) {
         const bool covered = text >= 1 && text <= 8;
-        const std::vector<Expected> values = {{"TextString", ""},
-                                              {"LeftToText", "10"},
-                                              {"BottomToText", "10"},
-                                              {"TextRelativeSize", "1"},
-                                              {"TextColor", "0"}};
-        ExpectBlock(kTextFields, text, covered ? values : std::vector<Expected>{});
-        ExpectBlock(kHighlightFields, text, {});
+        ExpectDefaults(kTextDefaults, covered ? &Default::opening : kUntouched, text);
+        ExpectDefaults(kHighlightDefaults, &Default::opening, text);
     }
     EXPECT_EQ(NumberOf(Design.PrintTicsAndArcs[1]), 77);
     EXPECT_EQ(Design.StandardTicYN[1][1], "?");
@@ -241,34 +221,22 @@ TEST_F(DesignTest, OpeningValuesCoverTheirFieldsAlone) {
 TEST_F(DesignTest, ResetCoversTheFieldsOfThePlate) {
     PoisonDesign();
     ResetDesign(Design);
-    ExpectPlate(&PlateDefault::reset);
+    ExpectDefaults(kPlateDefaults, &Default::reset);
 }
 
 TEST_F(DesignTest, ResetCoversSixScales) {
     PoisonDesign();
     ResetDesign(Design);
-    const char* ceilings[] = {"", "35", "40", "45", "50", "55", "60"};
-    const char* titles[] = {"", "30", "35", "40", "45", "50", "55"};
     for (int scale = 1; scale <= 6; ++scale) {
-        ExpectBlock(kScaleFields, scale,
-                    {{"ScaleColor", "0"},
-                     {"ScaleLeftEnd", "0"},
-                     {"ScaleLengthUnits", "50"},
-                     {"BottomToTitle", titles[scale]},
-                     {"BottomToScaleCeiling", ceilings[scale]},
-                     {"ScaleTitle", std::string("Default Scale ") + "0123456"[scale]},
-                     {"NrOfTicmarks", "50"},
-                     {"MajorEveryHowMany", "5"},
-                     {"LabelsEveryHowMany", "10"},
-                     {"LinearityExponent", "1"},
-                     {"SpecialNrOfTicmarks", "0"},
-                     {"UnlabelledBottomTic", "Y"},
-                     {"FullscaleMultiplier", "1"},
-                     {"RelativeFontSize", "1"}});
+        ExpectDefaults(kScaleDefaults, &Default::reset, scale);
+        EXPECT_EQ(Design.BottomToTitle[scale], static_cast<float>(25 + 5 * scale)) << scale;
+        EXPECT_EQ(Design.BottomToScaleCeiling[scale], static_cast<float>(30 + 5 * scale)) << scale;
+        EXPECT_EQ(Design.ScaleTitle[scale], "Default Scale " + std::to_string(scale));
         EXPECT_EQ(NumberOf(Design.PrintTicsAndArcs[scale]), 0) << scale;
     }
     for (const int scale : {0, 7, 8}) {
-        ExpectBlock(kScaleFields, scale, {});
+        ExpectDefaults(kScaleDefaults, kUntouched, scale);
+        ExpectDefaults(kScalePlaces, kUntouched, scale);
         EXPECT_EQ(NumberOf(Design.PrintTicsAndArcs[scale]), 77) << scale;
     }
 }
@@ -297,18 +265,8 @@ TEST_F(DesignTest, ResetCoversAllTextsAndHighlights) {
     PoisonDesign();
     ResetDesign(Design);
     for (int index = 1; index <= 10; ++index) {
-        ExpectBlock(kTextFields, index,
-                    {{"TextString", ""},
-                     {"LeftToText", "0"},
-                     {"BottomToText", "0"},
-                     {"TextRelativeSize", "1"},
-                     {"TextColor", "0"}});
-        ExpectBlock(kHighlightFields, index,
-                    {{"HighlightColor", "1"},
-                     {"HighlightCeiling", "10"},
-                     {"HighlightLength", "0"},
-                     {"HighlightStart", "0"},
-                     {"HighlightStop", "0"}});
+        ExpectDefaults(kTextDefaults, &Default::reset, index);
+        ExpectDefaults(kHighlightDefaults, &Default::reset, index);
     }
 }
 

@@ -59,11 +59,7 @@ TEST_F(EntryTest, LimitsHoldNumbers) {
 }
 
 TEST_F(EntryTest, AcceptsForgivingNumbers) {
-    struct Row {
-        const char* text;
-        float value;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<const char*, float> kRows[] = {
         {"75", 75},
         {"2k2", 2000},
         {"1,5", 1.5F},
@@ -139,11 +135,7 @@ TEST_F(EntryTest, AcceptsForgivingNumbers) {
 }
 
 TEST_F(EntryTest, MultipliesByTheUnitLetter) {
-    struct Row {
-        std::string letters;
-        float multiplier;
-    };
-    const Row kRows[] = {
+    const std::pair<std::string, float> kRows[] = {
         {"pP", 1e-12F}, {"nN", 1e-9F}, {"uU", 1e-6F}, {"m", 0.001F},
         {"kK", 1000},   {"M", 1e6F},   {"gG", 1e9F},
     };
@@ -164,11 +156,7 @@ TEST_F(EntryTest, DropsEveryOtherLetter) {
 }
 
 TEST_F(EntryTest, IgnoresMoreThanTenCharacters) {
-    struct Row {
-        std::string text;
-        float value;
-    };
-    const Row kRows[] = {
+    const std::pair<std::string, float> kRows[] = {
         {"1234567890", 1234567890.0F},
         {"12345678901", 8},
         {"  75", 75},
@@ -197,11 +185,7 @@ TEST_F(EntryTest, TrimsTheTextThatItReads) {
 }
 
 TEST_F(EntryTest, RoundsForAShortIntegerAndHoldsIt) {
-    struct Row {
-        const char* text;
-        int value;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<const char*, int> kRows[] = {
         {"7", 7},
         {"-7", -7},
         {"0.5", 0},
@@ -229,11 +213,7 @@ TEST_F(EntryTest, RoundsForAShortIntegerAndHoldsIt) {
 }
 
 TEST_F(EntryTest, RoundsForALongIntegerAndHoldsIt) {
-    struct Row {
-        const char* text;
-        std::int32_t value;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<const char*, std::int32_t> kRows[] = {
         {"16777215", 16777215}, // every colour passes the float on the way
         {"-16777215", -16777215}, {"2.5", 2},           {"3.5", 4},
         {"99999", 99999},         {"1E9", 1000000000},  {"3E9", 2147483647},
@@ -252,11 +232,7 @@ TEST_F(EntryTest, NeverSpeaks) {
 }
 
 TEST_F(EntryTest, FormatsByMagnitude) {
-    struct Row {
-        double value;
-        const char* text;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<double, const char*> kRows[] = {
         // thousand millions and millions
         {1e9, "1G"},
         {2.5e9, "2.5G"},

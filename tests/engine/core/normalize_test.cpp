@@ -1,23 +1,14 @@
 // What NormalizeDesign repairs and forces when a page loads.
 #include "engine/core/design.h"
 
-#include <vector>
-
-#include "show.h"
 #include "support/enginetest.h"
 
 namespace vernacle::test {
 namespace {
 
-class NormalizeTest : public EngineTest {
-protected:
-    NormalizeTest() { ResetDesign(Design); }
-};
+using NormalizeTest = NewDesignTest;
 
-struct Repaired {
-    float value;
-    float becomes;
-};
+using Repaired = std::pair<float, float>; // what a field holds, and what it becomes
 
 template <typename T>
 void ExpectRepairs(const char* name, T& field, const std::vector<Repaired>& rows) {

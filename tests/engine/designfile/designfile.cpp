@@ -2,6 +2,8 @@
 
 #include <stdexcept>
 
+#include "engine/designfile/readwrite.h"
+
 namespace vernacle::test {
 
 DesignFile::DesignFile()
@@ -148,6 +150,24 @@ std::string Joined(const std::vector<std::string>& lines, const std::string& lin
         text += line + lineEnd;
     }
     return text;
+}
+
+std::string DesignFileTest::Written() {
+    Design.DesignFileName = Path("plate.vrn");
+    WriteDesign(Design);
+    EXPECT_TRUE(said.empty());
+    return ReadFile("plate.vrn");
+}
+
+void DesignFileTest::Read(const DesignFile& file) {
+    Design = DesignRecord{};
+    ReadDesign(Design, WriteFile("plate.vrn", file.Text()));
+    EXPECT_TRUE(said.empty());
+}
+
+std::string TicFields(int scale, int tic) {
+    return Design.TicLabelYN[scale][tic] + "|" + Design.TicPrintYN[scale][tic] + "|" +
+           Design.TicMajorYN[scale][tic] + "|" + Design.TicLabelText[scale][tic];
 }
 
 } // namespace vernacle::test

@@ -1,8 +1,9 @@
-// Design files written by hand, line by line, for the tests of the reader.
+// What the tests of design files share: files written by hand, line by line, and the fixture that
+// writes and reads them.
 #pragma once
 
-#include <string>
-#include <vector>
+#include "engine/core/fieldplace.h"
+#include "support/enginetest.h"
 
 namespace vernacle::test {
 
@@ -41,5 +42,33 @@ std::vector<std::string> SpecialScaleBlock(const std::vector<std::string>& tics)
 
 // Line after line with its end.
 std::string Joined(const std::vector<std::string>& lines, const std::string& lineEnd = "\r\n");
+
+// What is said of a file that cannot be written, and of one that cannot be read, less the stage.
+inline const Texts kNotWritten = {
+    "beep", "failure: The Vernacle file was not written correctly.\nReadWrite 364"};
+inline const std::string kNotRead =
+    "failure: We were not successful in reading that Vernacle file.\n"
+    "Default values for all items have been put in place.\n\n"
+    "ReadWrite ";
+
+class DesignFileTest : public NewDesignTest {
+protected:
+    // The design as the program writes it to "plate.vrn", which is its name then.
+    std::string Written();
+
+    // Reads the file into an empty design.
+    void Read(const DesignFile& file);
+};
+
+using Getter = std::string (*)();
+
+// A field of the design, or an entry of one, as a text.
+template <auto Field, int Outer = 0, int Inner = 0>
+std::string Of() {
+    return PlainText(At<Field>.In(Design, Outer, Inner));
+}
+
+// The answers and the text of a special tic: "label|tic|major|text".
+std::string TicFields(int scale, int tic);
 
 } // namespace vernacle::test

@@ -24,10 +24,8 @@ private:
     }
 };
 
-class DesignLinesTest : public EngineTest {
+class DesignLinesTest : public NewDesignTest {
 protected:
-    DesignLinesTest() { ResetDesign(Design); }
-
     static std::vector<Visited> Walked() {
         RecordingWalker walker(Design);
         walker.Walk();
@@ -115,20 +113,15 @@ TEST_F(DesignLinesTest, EachBlockComesAsOftenAsItsCountSays) {
     Design.NumberOfHighlights = 10;
     Design.DeletedTicCount[4] = 360;
     Design.DeletedLabelCount[1] = 5;
-    struct Row {
-        const char* label;
-        int times;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<const char*, int> kRows[] = {
         {"Scale color: ", 3}, {"Linearity exponent: ", 2},     {"Scale exponent: ", 1},
         {"Text %:", 2},       {"Starting percentage: ", 10},   {"Tic deleted: ", 360},
         {"Pair #%: ", 7},     {"Label deleted: ", 5},          {"Scale %: ", 6},
         {"Messages: ", 1},    {"Scale 4 - deleted tics: ", 1},
     };
     const std::vector<Visited> visited = Walked();
-    for (const Row& row : kRows) {
-        const auto found = std::ranges::count(visited, row.label, &Visited::label);
-        EXPECT_EQ(found, row.times) << row.label;
+    for (const auto& [label, times] : kRows) {
+        EXPECT_EQ(std::ranges::count(visited, label, &Visited::label), times) << label;
     }
 }
 

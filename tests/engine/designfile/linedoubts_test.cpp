@@ -3,17 +3,13 @@
 
 #include "designfile.h"
 #include "engine/base/hostservices.h"
-#include "engine/core/design.h"
 #include "engine/designfile/readwrite.h"
-#include "support/enginetest.h"
 
 namespace vernacle::test {
 namespace {
 
-class LineDoubtsTest : public EngineTest {
+class LineDoubtsTest : public DesignFileTest {
 protected:
-    LineDoubtsTest() { ResetDesign(Design); }
-
     using Reports = std::vector<std::string>;
 
     // "line: reason" of each doubt; failures begin with "failed at ".
@@ -30,13 +26,6 @@ protected:
                             reports.push_back("failed at " + std::to_string(line) + ": " + reason);
                         }});
         return reports;
-    }
-
-    // What the program itself writes of the design as it stands.
-    std::string Written() {
-        Design.DesignFileName = Path("written.vrn");
-        WriteDesign(Design);
-        return ReadFile("written.vrn");
     }
 
     static void FillEveryBlock() {
@@ -89,12 +78,7 @@ TEST_F(LineDoubtsTest, ANumberThatTheReaderWillNotTakeIsSaid) {
 }
 
 TEST_F(LineDoubtsTest, TheWayOfReadingDecides) {
-    struct Row {
-        DesignFile file;
-        Reports reports;
-    };
-    const std::string tics = "Scale 1 - deleted tics: ";
-    const Row rows[] = {
+    const std::pair<DesignFile, Reports> rows[] = {
         {DesignFile().Set("Plate width: ", "ten"), {"3: Plate width: no number"}},
         {DesignFile().Set("Plate width: ", "E5"), {}}, // is read as 5
         {DesignFile().Set("Plate width: ", "123456789"), {}},
@@ -113,8 +97,8 @@ TEST_F(LineDoubtsTest, TheWayOfReadingDecides) {
         {DesignFile().Set("Plate height: ", "x").AddBefore("Plate height: ", {"", "* note"}),
          {"6: Plate height: no number"}},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(ReportsOn(row.file.Text()), row.reports) << row.file.Text();
+    for (const auto& [file, reports] : rows) {
+        EXPECT_EQ(ReportsOn(file.Text()), reports) << file.Text();
     }
 }
 
@@ -162,7 +146,7 @@ TEST_F(LineDoubtsTest, AFailureIsSaidWithItsLine) {
 
 TEST_F(LineDoubtsTest, WhatIsReadIsTheSameWithAndWithoutAnEar) {
     FillEveryBlock();
-    std::string text = DesignFile().Set("Plate height: ", "1.234567E-02").Text();
+    const std::string text = DesignFile().Set("Plate height: ", "1.234567E-02").Text();
     for (const std::string& file : {Written(), text}) {
         const std::string path = WriteFile("design.vrn", file);
         ReportsOn(file);

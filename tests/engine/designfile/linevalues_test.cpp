@@ -39,10 +39,8 @@ TEST_F(SplitFieldTest, TellsThePlaceBehindTheField) {
     }
 }
 
-class SharedIndexTest : public EngineTest {
+class SharedIndexTest : public NewDesignTest {
 protected:
-    SharedIndexTest() { ResetDesign(Design); }
-
     // The first tic of scale 1 that is deleted once a line of that text was read.
     static int Deleted(std::string text) {
         ReadDeletedTic(text, {Design, {}, {.outer = 1}});

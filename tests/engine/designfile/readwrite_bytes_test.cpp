@@ -2,26 +2,14 @@
 #include "engine/designfile/readwrite.h"
 
 #include "designfile.h"
-#include "engine/core/design.h"
-#include "support/enginetest.h"
 
 namespace vernacle::test {
 namespace {
 
-class WrittenDesignTest : public EngineTest {
+using D = DesignRecord;
+
+class WrittenDesignTest : public DesignFileTest {
 protected:
-    WrittenDesignTest() {
-        ResetDesign(Design);
-        Design.FontName = "Arial";
-    }
-
-    std::string Written() {
-        Design.DesignFileName = Path("plate.vrn");
-        WriteDesign(Design);
-        EXPECT_TRUE(said.empty());
-        return ReadFile("plate.vrn");
-    }
-
     // The written line that begins with the label, without the label; each label only once.
     std::string WrittenValue(const std::string& label) {
         const std::string text = Written();
@@ -37,56 +25,97 @@ TEST_F(WrittenDesignTest, ADefaultPlate) {
     EXPECT_EQ(Written(), expected.Text());
 }
 
+struct ChangedNumber {
+    FieldPlace field; // of the first scale, if it is one of a scale
+    double value;
+    const char* label;
+    const char* written;
+};
+
+constexpr ChangedNumber kChangedNumbers[] = {
+    {At<&D::PlateWidth>, 61.5, "Plate width: ", "61.5"},
+    {At<&D::PlateHeight>, 41.25, "Plate height: ", "41.25"},
+    {At<&D::BottomToBearing>, -7.5, "Bottom to bearing: ", "-7.5"},
+    {At<&D::BottomToHoles>, 12, "Bottom to mounting holes: ", "12"},
+    {At<&D::HoleSeparation>, 33.3, "Hole separation: ", "33.3"},
+    {At<&D::PointerDeflection>, 85, "Pointer deflection: ", "85"},
+    {At<&D::MinorTicLength>, 1.5, "Minor ticmark length: ", "1.5"},
+    {At<&D::MinorTicWidth>, 0.5, "Minor ticmark width: ", ".5"},
+    {At<&D::MajorTicLength>, 3.25, "Major ticmark length: ", "3.25"},
+    {At<&D::MajorTicWidth>, 4.5, "Major ticmark width: ", "4.5"},
+    {At<&D::FontSize>, 7, "Font size: ", "7"},
+    {At<&D::ActualVirtualOffset>, -0.03333333, "Actual/virtual offset: ", "-3.333333E-02"},
+    {At<&D::PlateStyle>, 1, "Plate style: ", "1"},
+    {At<&D::LabelSpacing>, -0.5, "Label spacing: ", "-.5"},
+    {At<&D::NumberOfScales>, 1, "Number of scales: ", "1"},
+    {At<&D::ScaleColor>, 255, "Scale color: ", "255"},
+    {At<&D::ScaleLeftEnd>, -10, "Scale left end (units): ", "-10"},
+    {At<&D::ScaleLengthUnits>, 12345678, "Scale length (units): ", "1.234568E+07"},
+    {At<&D::BottomToTitle>, 21.5, "Bottom to title: ", "21.5"},
+    {At<&D::BottomToScaleCeiling>, 31.5, "Bottom to scale ceiling: ", "31.5"},
+    {At<&D::NrOfTicmarks>, 40, "Number of ticmarks: ", "40"},
+    {At<&D::MajorEveryHowMany>, 4, "Major ticmarks every how often: ", "4"},
+    {At<&D::LabelsEveryHowMany>, 8, "Labels every how many ticmarks: ", "8"},
+    {At<&D::LinearityExponent>, 0.5, "Linearity exponent: ", ".5"},
+    {At<&D::LeftToGraphic>, 11.5, "Left to graphic: ", "11.5"},
+    {At<&D::BottomToGraphic>, 12.5, "Bottom to graphic: ", "12.5"},
+    {At<&D::GraphicWidth>, 13.5, "Graphic width: ", "13.5"},
+    {At<&D::GraphicHeight>, 14.5, "Graphic height: ", "14.5"},
+    {At<&D::ArcWidth>, 2.5, "Arc width: ", "2.5"},
+    {At<&D::MessageLevel>, 2, "Messages: ", "2"},
+    {At<&D::PlateBackground>, 1, "Plate background: ", "1"},
+    {At<&D::RelativeFontSize>, 0.8, "Scale 1: ", ".8"},
+    {At<&D::AspectRatio>, 1.5, "Aspect ratio: ", "1.5"},
+    {At<&D::NumberOfCorrectionPoints>, 5, "Number of correction points: ", "5"},
+};
+
+struct ChangedText {
+    std::string D::*field;
+    const char* label;
+    const char* text;
+};
+
+constexpr ChangedText kChangedTexts[] = {
+    {&D::DrawArcs, "Draw arcs Y/N:", "N"},
+    {&D::LabelRotation, "Label rotation H/V/B:", "B"},
+    {&D::PrintText, "Print text Y/N:", "N"},
+    {&D::FontName, "Font style: ", "Courier New"},
+    {&D::DrawGraphic, "Draw graphic Y/N:", "Y"},
+    {&D::GraphicFileName, "Graphic filename:", "C:\\logo.bmp"},
+};
+
 TEST_F(WrittenDesignTest, AStandardScaleWithEveryFieldChanged) {
-    Design.PlateWidth = 61.5F;
-    Design.PlateHeight = 41.25F;
-    Design.BottomToBearing = -7.5F;
-    Design.BottomToHoles = 12;
-    Design.HoleSeparation = 33.3F;
-    Design.PointerDeflection = 85;
-    Design.MinorTicLength = 1.5F;
-    Design.MinorTicWidth = 0.5F;
-    Design.MajorTicLength = 3.25F;
-    Design.MajorTicWidth = 4.5F;
-    Design.FontSize = 7;
-    Design.ActualVirtualOffset = -0.03333333F;
-    Design.PlateStyle = 1;
-    Design.DrawArcs = "N";
-    Design.LabelRotation = "B";
-    Design.PrintText = "N";
-    Design.LabelSpacing = -0.5F;
-    Design.FontName = "Courier New";
-    Design.NumberOfScales = 1;
-    Design.ScaleColor[1] = 255;
-    Design.ScaleLeftEnd[1] = -10;
-    Design.ScaleLengthUnits[1] = 12345678;
-    Design.BottomToTitle[1] = 21.5F;
-    Design.BottomToScaleCeiling[1] = 31.5F;
+    DesignFile expected = DesignFile().Set("Filename: ", Path("plate.vrn"));
+    for (const auto& [field, value, label, written] : kChangedNumbers) {
+        StoreIn(field.In(Design, 1), value);
+        expected.Set(label, written);
+    }
+    for (const auto& [field, label, text] : kChangedTexts) {
+        Design.*field = text;
+        expected.Set(label, text);
+    }
     Design.ScaleTitle[1] = " \u00B5A: DC ";
-    Design.NrOfTicmarks[1] = 40;
-    Design.MajorEveryHowMany[1] = 4;
-    Design.LabelsEveryHowMany[1] = 8;
-    Design.LinearityExponent[1] = 0.5F;
-    Design.DrawGraphic = "Y";
-    Design.GraphicFileName = "C:\\logo.bmp";
-    Design.LeftToGraphic = 11.5F;
-    Design.BottomToGraphic = 12.5F;
-    Design.GraphicWidth = 13.5F;
-    Design.GraphicHeight = 14.5F;
-    Design.ArcWidth = 2.5F;
-    Design.MessageLevel = 2;
+    expected.Set("Scale title:", " \xB5"
+                                 "A: DC ");
     Design.NumberOfTexts = 2;
     Design.TextString[1] = "R = 10 k";
     Design.LeftToText[1] = 15.25F;
     Design.BottomToText[1] = -0.5F;
     Design.TextRelativeSize[1] = 1.25F;
     Design.TextColor[1] = 8421504;
+    expected.Set("Texts: ", "2")
+        .AddBehind("Texts: ",
+                   {"Text 1:R = 10 k", "Left to text:  15.25 ", "Bottom to text: -.5 ",
+                    "Relative size:  1.25 ", "Color: 8421504", "Text 2:", "Left to text:  0 ",
+                    "Bottom to text:  0 ", "Relative size:  1 ", "Color: 0"});
     Design.HighlightStart[1] = 10.5F;
     Design.HighlightStop[1] = 90;
     Design.HighlightCeiling[1] = 12.5F;
     Design.HighlightLength[1] = 0.75F;
     Design.HighlightColor[1] = 65535;
-    Design.PlateBackground = 1;
+    expected.Set("Highlights: ", "1")
+        .AddBehind("Highlights: ", {"Starting percentage: 10.5", "Stopping percentage: 90",
+                                    "Ceiling: 12.5", "Length: .75", "Color: 65535"});
     for (const int tic : {0, 3, 360}) {
         Design.StandardTicYN[1][tic] = "N";
     }
@@ -96,104 +125,20 @@ TEST_F(WrittenDesignTest, AStandardScaleWithEveryFieldChanged) {
     Design.StandardLabelYN[4][30] = "N";
     Design.StandardLabelYN[4][40] = "N";
     Design.StandardLabelYN[6][50] = "N";
-    Design.RelativeFontSize[1] = 0.8F;
-    Design.AspectRatio = 1.5F;
-    Design.NumberOfCorrectionPoints = 5;
+    expected.Set("Scale 1 - deleted tics: ", "3")
+        .AddBehind("Scale 1 - deleted tics: ",
+                   {"Tic deleted: 0", "Tic deleted: 3", "Tic deleted: 360"})
+        .Set("Scale 3 - deleted tics: ", "1")
+        .AddBehind("Scale 3 - deleted tics: ", {"Tic deleted: 7"})
+        .Set("Scale 2 - deleted labels: ", "1")
+        .AddBehind("Scale 2 - deleted labels: ", {"Label deleted: 20"})
+        .Set("Scale 4 - deleted labels: ", "2")
+        .AddBehind("Scale 4 - deleted labels: ", {"Label deleted: 30", "Label deleted: 40"});
     Design.CorrectionPair[3] = 1.0F / 3;
     Design.CorrectionPair[4] = -0.25F;
     Design.PrintTicsAndArcs[1] = std::int16_t{2};
-
-    const char* expected = "11/21/26 10:08:00\r\n"
-                           "Plate width: 61.5\r\n"
-                           "Plate height: 41.25\r\n"
-                           "Bottom to bearing: -7.5\r\n"
-                           "Bottom to mounting holes: 12\r\n"
-                           "Hole separation: 33.3\r\n"
-                           "Pointer deflection: 85\r\n"
-                           "Dummy1: 1\r\n"
-                           "Dummy2: 2 \r\n"
-                           "Minor ticmark length: 1.5\r\n"
-                           "Minor ticmark width: .5\r\n"
-                           "Major ticmark length: 3.25\r\n"
-                           "Major ticmark width: 4.5\r\n"
-                           "Font size: 7\r\n"
-                           "Actual/virtual offset: -3.333333E-02\r\n"
-                           "Dummy3: 3\r\n"
-                           "Dummy4: 4\r\n"
-                           "Plate style: 1\r\n"
-                           "Draw arcs Y/N:N\r\n"
-                           "Label rotation H/V/B:B\r\n"
-                           "Print text Y/N:N\r\n"
-                           "Label spacing: -.5\r\n"
-                           "Font style: Courier New\r\n"
-                           "Number of scales: 1\r\n"
-                           "Scale color: 255\r\n"
-                           "Scale left end (units): -10\r\n"
-                           "Scale length (units): 1.234568E+07\r\n"
-                           "Bottom to title: 21.5\r\n"
-                           "Bottom to scale ceiling: 31.5\r\n"
-                           "Scale title: \xB5"
-                           "A: DC \r\n"
-                           "Number of ticmarks: 40\r\n"
-                           "Major ticmarks every how often: 4\r\n"
-                           "Labels every how many ticmarks: 8\r\n"
-                           "Linearity exponent: .5\r\n"
-                           "Draw graphic Y/N:Y\r\n"
-                           "Graphic filename:C:\\logo.bmp\r\n"
-                           "Left to graphic: 11.5\r\n"
-                           "Bottom to graphic: 12.5\r\n"
-                           "Graphic width: 13.5\r\n"
-                           "Graphic height: 14.5\r\n"
-                           "Arc width: 2.5\r\n"
-                           "Messages: 2\r\n"
-                           "Texts: 2\r\n"
-                           "Text 1:R = 10 k\r\n"
-                           "Left to text:  15.25 \r\n"
-                           "Bottom to text: -.5 \r\n"
-                           "Relative size:  1.25 \r\n"
-                           "Color: 8421504\r\n"
-                           "Text 2:\r\n"
-                           "Left to text:  0 \r\n"
-                           "Bottom to text:  0 \r\n"
-                           "Relative size:  1 \r\n"
-                           "Color: 0\r\n"
-                           "Highlights: 1\r\n"
-                           "Starting percentage: 10.5\r\n"
-                           "Stopping percentage: 90\r\n"
-                           "Ceiling: 12.5\r\n"
-                           "Length: .75\r\n"
-                           "Color: 65535\r\n"
-                           "Plate background: 1\r\n"
-                           "Scale 1 - deleted tics: 3\r\n"
-                           "Tic deleted: 0\r\n"
-                           "Tic deleted: 3\r\n"
-                           "Tic deleted: 360\r\n"
-                           "Scale 2 - deleted tics: 0\r\n"
-                           "Scale 3 - deleted tics: 1\r\n"
-                           "Tic deleted: 7\r\n"
-                           "Scale 4 - deleted tics: 0\r\n"
-                           "Scale 1 - deleted labels: 0\r\n"
-                           "Scale 2 - deleted labels: 1\r\n"
-                           "Label deleted: 20\r\n"
-                           "Scale 3 - deleted labels: 0\r\n"
-                           "Scale 4 - deleted labels: 2\r\n"
-                           "Label deleted: 30\r\n"
-                           "Label deleted: 40\r\n"
-                           "Relative font sizes:\r\n"
-                           "Scale 1: .8\r\n"
-                           "Aspect ratio: 1.5\r\n"
-                           "Number of correction points: 5\r\n"
-                           "Pair #1: 0 \\ 0\r\n"
-                           "Pair #2: .3333333 \\ -.25\r\n"
-                           "Pair #3: .3 \\ .3\r\n"
-                           "Pair #4: .5 \\ .5\r\n"
-                           "Pair #5: .7 \\ .7\r\n"
-                           "Pair #6: .85 \\ .85\r\n"
-                           "Pair #7: 1 \\ 1\r\n"
-                           "Print ticmarks and arcs:\r\n"
-                           "Scale 1: 2\r\n"
-                           "\r\n";
-    EXPECT_EQ(Written(), "Filename: " + Path("plate.vrn") + "\r\n" + expected);
+    expected.Set("Pair #2: ", ".3333333 \\ -.25").Set("Scale 1: ", "2", 2);
+    EXPECT_EQ(Written(), expected.Text());
 }
 
 void SetTic(int tic, float deflection, const char* label, const char* tick, const char* major,
@@ -236,11 +181,7 @@ TEST_F(WrittenDesignTest, ASpecialScaleTicByTic) {
 }
 
 TEST_F(WrittenDesignTest, TheSignOfTheColourChoosesTheBlock) {
-    struct Row {
-        std::int32_t colour;
-        bool special;
-    };
-    for (const auto& [colour, special] : {Row{0, false}, Row{1, false}, Row{-1, true}}) {
+    for (const auto& [colour, special] : {std::pair{0, false}, {1, false}, {-1, true}}) {
         Design.ScaleColor[1] = colour;
         const std::string text = Written();
         EXPECT_EQ(text.find("Scale exponent: ") != std::string::npos, special) << colour;

@@ -3,15 +3,11 @@
 #include "engine/designfile/readwrite.h"
 
 #include "designfile.h"
-#include "engine/core/design.h"
-#include "engine/core/show.h"
-#include "support/enginetest.h"
 
 namespace vernacle::test {
 namespace {
 
 using D = DesignRecord;
-using Getter = std::string (*)();
 
 struct SampleLine {
     const char* line;
@@ -20,124 +16,102 @@ struct SampleLine {
     const char* otherwise = nullptr; // the field of a file that ends before it
 };
 
-template <auto Field>
-std::string OfDesign() {
-    return Show(Design.*Field);
-}
-
-template <auto Field, int Index>
-std::string Entry() {
-    return Show((Design.*Field)[Index]);
-}
-
 template <int Tic>
 std::string SpecialTic() {
-    return Show(Design.TicDeflection[2][Tic]) + "|" + Design.TicLabelYN[2][Tic] + "|" +
-           Design.TicPrintYN[2][Tic] + "|" + Design.TicMajorYN[2][Tic] + "|" +
-           Design.TicLabelText[2][Tic];
-}
-
-template <int Scale, int Tic>
-std::string TicFlag() {
-    return Design.StandardTicYN[Scale][Tic];
-}
-
-template <int Scale, int Tic>
-std::string LabelFlag() {
-    return Design.StandardLabelYN[Scale][Tic];
+    return Of<&D::TicDeflection, 2, Tic>() + "|" + TicFields(2, Tic);
 }
 
 const SampleLine kSample[] = {
-    {"Filename: elsewhere.vrn", OfDesign<&D::DesignFileName>, "mine", "mine"},
+    {"Filename: elsewhere.vrn", Of<&D::DesignFileName>, "mine", "mine"},
     {"1/2/2003 4:05:06 PM"},
-    {"Plate width: 61.5", OfDesign<&D::PlateWidth>, "61.5", "75"},
-    {"Plate height: 41.5", OfDesign<&D::PlateHeight>, "41.5", "50"},
-    {"Bottom to bearing: -7.5", OfDesign<&D::BottomToBearing>, "-7.5", "10"},
-    {"Bottom to mounting holes: 12.5", OfDesign<&D::BottomToHoles>, "12.5", "15"},
-    {"Hole separation: 33.5", OfDesign<&D::HoleSeparation>, "33.5", "50"},
-    {"Pointer deflection: 85.5", OfDesign<&D::PointerDeflection>, "85.5", "99"},
+    {"Plate width: 61.5", Of<&D::PlateWidth>, "61.5", "75"},
+    {"Plate height: 41.5", Of<&D::PlateHeight>, "41.5", "50"},
+    {"Bottom to bearing: -7.5", Of<&D::BottomToBearing>, "-7.5", "10"},
+    {"Bottom to mounting holes: 12.5", Of<&D::BottomToHoles>, "12.5", "15"},
+    {"Hole separation: 33.5", Of<&D::HoleSeparation>, "33.5", "50"},
+    {"Pointer deflection: 85.5", Of<&D::PointerDeflection>, "85.5", "99"},
     {"Dummy1: 1"},
     {"Dummy2: 2 "},
-    {"Minor ticmark length: 1.5", OfDesign<&D::MinorTicLength>, "1.5", "2"},
-    {"Minor ticmark width: 2.5", OfDesign<&D::MinorTicWidth>, "2.5", "2"},
-    {"Major ticmark length: 3.5", OfDesign<&D::MajorTicLength>, "3.5", "3"},
-    {"Major ticmark width: 4.5", OfDesign<&D::MajorTicWidth>, "4.5", "4"},
-    {"Font size: 7.5", OfDesign<&D::FontSize>, "7.5", "8"},
-    {"Actual/virtual offset: 22.5", OfDesign<&D::ActualVirtualOffset>, "22.5", "30"},
+    {"Minor ticmark length: 1.5", Of<&D::MinorTicLength>, "1.5", "2"},
+    {"Minor ticmark width: 2.5", Of<&D::MinorTicWidth>, "2.5", "2"},
+    {"Major ticmark length: 3.5", Of<&D::MajorTicLength>, "3.5", "3"},
+    {"Major ticmark width: 4.5", Of<&D::MajorTicWidth>, "4.5", "4"},
+    {"Font size: 7.5", Of<&D::FontSize>, "7.5", "8"},
+    {"Actual/virtual offset: 22.5", Of<&D::ActualVirtualOffset>, "22.5", "30"},
     {"Dummy3: 3"},
     {"Dummy4: 4"},
-    {"Plate style: 1", OfDesign<&D::PlateStyle>, "0", "0"},
-    {"Draw arcs Y/N:N", OfDesign<&D::DrawArcs>, "N", "Y"},
-    {"Label rotation H/V/B:B", OfDesign<&D::LabelRotation>, "B", "H"},
-    {"Print text Y/N: N", OfDesign<&D::PrintText>, " N", "Y"},
-    {"Label spacing: 4.5", OfDesign<&D::LabelSpacing>, "4.5", "6"},
-    {"Font style: Courier", OfDesign<&D::FontName>, "Arial", "Times"}, // no reset of its own
-    {"Number of scales: 2", OfDesign<&D::NumberOfScales>, "2", "1"},
-    {"Scale color: 255", Entry<&D::ScaleColor, 1>, "255", "0"},
-    {"Scale left end (units): -5.5", Entry<&D::ScaleLeftEnd, 1>, "-5.5", "0"},
-    {"Scale length (units): 20.5", Entry<&D::ScaleLengthUnits, 1>, "20.5", "50"},
-    {"Bottom to title: 21.5", Entry<&D::BottomToTitle, 1>, "21.5", "30"},
-    {"Bottom to scale ceiling: 31.5", Entry<&D::BottomToScaleCeiling, 1>, "31.5", "35"},
-    {"Scale title: Volts: DC ", Entry<&D::ScaleTitle, 1>, " Volts: DC ", "Default Scale 1"},
-    {"Number of ticmarks: 40", Entry<&D::NrOfTicmarks, 1>, "40", "50"},
-    {"Major ticmarks every how often: 4", Entry<&D::MajorEveryHowMany, 1>, "4", "5"},
-    {"Labels every how many ticmarks: 8", Entry<&D::LabelsEveryHowMany, 1>, "8", "10"},
-    {"Linearity exponent: 1.5", Entry<&D::LinearityExponent, 1>, "1.5", "1"},
-    {"Scale color: -65280", Entry<&D::ScaleColor, 2>, "-65280", "0"},
-    {"Bottom to scale title: 26.5", Entry<&D::BottomToTitle, 2>, "26.5", "35"},
-    {"Bottom to scale ceiling: 36.5", Entry<&D::BottomToScaleCeiling, 2>, "36.5", "40"},
-    {"Scale title:Ohms", Entry<&D::ScaleTitle, 2>, "Ohms", "Default Scale 2"},
-    {"Number of ticmarks: 2", Entry<&D::SpecialNrOfTicmarks, 2>, "2", "0"},
+    {"Plate style: 1", Of<&D::PlateStyle>, "0", "0"},
+    {"Draw arcs Y/N:N", Of<&D::DrawArcs>, "N", "Y"},
+    {"Label rotation H/V/B:B", Of<&D::LabelRotation>, "B", "H"},
+    {"Print text Y/N: N", Of<&D::PrintText>, " N", "Y"},
+    {"Label spacing: 4.5", Of<&D::LabelSpacing>, "4.5", "6"},
+    {"Font style: Courier", Of<&D::FontName>, "Arial", "Times"}, // no reset of its own
+    {"Number of scales: 2", Of<&D::NumberOfScales>, "2", "1"},
+    {"Scale color: 255", Of<&D::ScaleColor, 1>, "255", "0"},
+    {"Scale left end (units): -5.5", Of<&D::ScaleLeftEnd, 1>, "-5.5", "0"},
+    {"Scale length (units): 20.5", Of<&D::ScaleLengthUnits, 1>, "20.5", "50"},
+    {"Bottom to title: 21.5", Of<&D::BottomToTitle, 1>, "21.5", "30"},
+    {"Bottom to scale ceiling: 31.5", Of<&D::BottomToScaleCeiling, 1>, "31.5", "35"},
+    {"Scale title: Volts: DC ", Of<&D::ScaleTitle, 1>, " Volts: DC ", "Default Scale 1"},
+    {"Number of ticmarks: 40", Of<&D::NrOfTicmarks, 1>, "40", "50"},
+    {"Major ticmarks every how often: 4", Of<&D::MajorEveryHowMany, 1>, "4", "5"},
+    {"Labels every how many ticmarks: 8", Of<&D::LabelsEveryHowMany, 1>, "8", "10"},
+    {"Linearity exponent: 1.5", Of<&D::LinearityExponent, 1>, "1.5", "1"},
+    {"Scale color: -65280", Of<&D::ScaleColor, 2>, "-65280", "0"},
+    {"Bottom to scale title: 26.5", Of<&D::BottomToTitle, 2>, "26.5", "35"},
+    {"Bottom to scale ceiling: 36.5", Of<&D::BottomToScaleCeiling, 2>, "36.5", "40"},
+    {"Scale title:Ohms", Of<&D::ScaleTitle, 2>, "Ohms", "Default Scale 2"},
+    {"Number of ticmarks: 2", Of<&D::SpecialNrOfTicmarks, 2>, "2", "0"},
     {"* Deflection, Label Y/N, Tic Y/N, Major Y/N, Label:"},
     {" 0\\N\\Y\\Y\\/", SpecialTic<0>, "0|N|Y|Y| ", "0|Y|Y|N|"},
-    {" .25\\Y\\N\\N\\1k", SpecialTic<1>, "0.25|Y|N|N|1k", "0|Y|Y|N|"},
+    {" .25\\Y\\N\\N\\1k", SpecialTic<1>, ".25|Y|N|N|1k", "0|Y|Y|N|"},
     {"-1\\ N \\ N \\ Y \\ a b ", SpecialTic<2>, "-1|N|N|Y|a b", "0|Y|Y|N|"},
-    {"Unlabelled ticmark at scale bottom Y/N: N", Entry<&D::UnlabelledBottomTic, 2>, " N", "Y"},
-    {"Scale exponent: 2.5", Entry<&D::LinearityExponent, 2>, "2.5", "1"},
-    {"Fullscale multiplier: 10.5", Entry<&D::FullscaleMultiplier, 2>, "10.5", "1"},
-    {"Draw graphic Y/N:Y", OfDesign<&D::DrawGraphic>, "N", "N"},
-    {"Graphic filename:new.bmp", OfDesign<&D::GraphicFileName>, "", "old.bmp"},
-    {"Left to graphic: 11.5", OfDesign<&D::LeftToGraphic>, "11.5", "10"},
-    {"Bottom to graphic: 12.5", OfDesign<&D::BottomToGraphic>, "12.5", "1"},
-    {"Graphic width: 13.5", OfDesign<&D::GraphicWidth>, "13.5", "1"},
-    {"Graphic height: 14.5", OfDesign<&D::GraphicHeight>, "14.5", "1"},
-    {"Arc width: 2.5", OfDesign<&D::ArcWidth>, "2.5", "1"},
-    {"Messages: 2", OfDesign<&D::MessageLevel>, "2", "0"},
-    {"Texts: 1", OfDesign<&D::NumberOfTexts>, "1", "0"},
-    {"Text 1:R: 10 k", Entry<&D::TextString, 1>, "R: 10 k", ""},
-    {"Left to text:  15.25 ", Entry<&D::LeftToText, 1>, "15.25", "0"},
-    {"Bottom to text: -16.25 ", Entry<&D::BottomToText, 1>, "-16.25", "0"},
-    {"Relative size:  1.25 ", Entry<&D::TextRelativeSize, 1>, "1.25", "1"},
-    {"Color: 8421504", Entry<&D::TextColor, 1>, "8421504", "0"},
+    {"Unlabelled ticmark at scale bottom Y/N: N", Of<&D::UnlabelledBottomTic, 2>, " N", "Y"},
+    {"Scale exponent: 2.5", Of<&D::LinearityExponent, 2>, "2.5", "1"},
+    {"Fullscale multiplier: 10.5", Of<&D::FullscaleMultiplier, 2>, "10.5", "1"},
+    {"Draw graphic Y/N:Y", Of<&D::DrawGraphic>, "N", "N"},
+    {"Graphic filename:new.bmp", Of<&D::GraphicFileName>, "", "old.bmp"},
+    {"Left to graphic: 11.5", Of<&D::LeftToGraphic>, "11.5", "10"},
+    {"Bottom to graphic: 12.5", Of<&D::BottomToGraphic>, "12.5", "1"},
+    {"Graphic width: 13.5", Of<&D::GraphicWidth>, "13.5", "1"},
+    {"Graphic height: 14.5", Of<&D::GraphicHeight>, "14.5", "1"},
+    {"Arc width: 2.5", Of<&D::ArcWidth>, "2.5", "1"},
+    {"Messages: 2", Of<&D::MessageLevel>, "2", "0"},
+    {"Texts: 1", Of<&D::NumberOfTexts>, "1", "0"},
+    {"Text 1:R: 10 k", Of<&D::TextString, 1>, "R: 10 k", ""},
+    {"Left to text:  15.25 ", Of<&D::LeftToText, 1>, "15.25", "0"},
+    {"Bottom to text: -16.25 ", Of<&D::BottomToText, 1>, "-16.25", "0"},
+    {"Relative size:  1.25 ", Of<&D::TextRelativeSize, 1>, "1.25", "1"},
+    {"Color: 8421504", Of<&D::TextColor, 1>, "8421504", "0"},
     {"Highlights: 1"},
-    {"Starting percentage: 10.5", Entry<&D::HighlightStart, 1>, "10.5", "0"},
-    {"Stopping percentage: 90.5", Entry<&D::HighlightStop, 1>, "90.5", "0"},
-    {"Ceiling: 12.5", Entry<&D::HighlightCeiling, 1>, "12.5", "10"},
-    {"Length: 1.5", Entry<&D::HighlightLength, 1>, "1.5", "0"},
-    {"Color: 65535", Entry<&D::HighlightColor, 1>, "65535", "1"},
-    {"Plate background: 1", OfDesign<&D::PlateBackground>, "16777215", "16777215"},
-    {"Scale 1 - deleted tics: 2", Entry<&D::DeletedTicCount, 1>, "2", "0"},
-    {"Tic deleted: 3", TicFlag<1, 3>, "N", "Y"},
-    {"Tic deleted: 360", TicFlag<1, 360>, "N", "Y"},
-    {"Scale 2 - deleted tics: 1", Entry<&D::DeletedTicCount, 2>, "1", "0"},
-    {"Tic deleted: 4", TicFlag<2, 4>, "N", "Y"},
-    {"Scale 3 - deleted tics: 1", Entry<&D::DeletedTicCount, 3>, "1", "0"},
-    {"Tic deleted: 5", TicFlag<3, 5>, "N", "Y"},
-    {"Scale 4 - deleted tics: 1", Entry<&D::DeletedTicCount, 4>, "1", "0"},
-    {"Tic deleted: 0", TicFlag<4, 0>, "N", "Y"},
-    {"Scale 1 - deleted labels: 1", Entry<&D::DeletedLabelCount, 1>, "1", "0"},
-    {"Label deleted: 6", LabelFlag<1, 6>, "N", "Y"},
-    {"Scale 2 - deleted labels: 1", Entry<&D::DeletedLabelCount, 2>, "1", "0"},
-    {"Label deleted: 7", LabelFlag<2, 7>, "N", "Y"},
-    {"Scale 3 - deleted labels: 1", Entry<&D::DeletedLabelCount, 3>, "1", "0"},
-    {"Label deleted: 8", LabelFlag<3, 8>, "N", "Y"},
-    {"Scale 4 - deleted labels: 1", Entry<&D::DeletedLabelCount, 4>, "1", "0"},
-    {"Label deleted: 9", LabelFlag<4, 9>, "N", "Y"},
+    {"Starting percentage: 10.5", Of<&D::HighlightStart, 1>, "10.5", "0"},
+    {"Stopping percentage: 90.5", Of<&D::HighlightStop, 1>, "90.5", "0"},
+    {"Ceiling: 12.5", Of<&D::HighlightCeiling, 1>, "12.5", "10"},
+    {"Length: 1.5", Of<&D::HighlightLength, 1>, "1.5", "0"},
+    {"Color: 65535", Of<&D::HighlightColor, 1>, "65535", "1"},
+    {"Plate background: 1", Of<&D::PlateBackground>, "16777215", "16777215"},
+    {"Scale 1 - deleted tics: 2", Of<&D::DeletedTicCount, 1>, "2", "0"},
+    {"Tic deleted: 3", Of<&D::StandardTicYN, 1, 3>, "N", "Y"},
+    {"Tic deleted: 360", Of<&D::StandardTicYN, 1, 360>, "N", "Y"},
+    {"Scale 2 - deleted tics: 1", Of<&D::DeletedTicCount, 2>, "1", "0"},
+    {"Tic deleted: 4", Of<&D::StandardTicYN, 2, 4>, "N", "Y"},
+    {"Scale 3 - deleted tics: 1", Of<&D::DeletedTicCount, 3>, "1", "0"},
+    {"Tic deleted: 5", Of<&D::StandardTicYN, 3, 5>, "N", "Y"},
+    {"Scale 4 - deleted tics: 1", Of<&D::DeletedTicCount, 4>, "1", "0"},
+    {"Tic deleted: 0", Of<&D::StandardTicYN, 4, 0>, "N", "Y"},
+    {"Scale 1 - deleted labels: 1", Of<&D::DeletedLabelCount, 1>, "1", "0"},
+    {"Label deleted: 6", Of<&D::StandardLabelYN, 1, 6>, "N", "Y"},
+    {"Scale 2 - deleted labels: 1", Of<&D::DeletedLabelCount, 2>, "1", "0"},
+    {"Label deleted: 7", Of<&D::StandardLabelYN, 2, 7>, "N", "Y"},
+    {"Scale 3 - deleted labels: 1", Of<&D::DeletedLabelCount, 3>, "1", "0"},
+    {"Label deleted: 8", Of<&D::StandardLabelYN, 3, 8>, "N", "Y"},
+    {"Scale 4 - deleted labels: 1", Of<&D::DeletedLabelCount, 4>, "1", "0"},
+    {"Label deleted: 9", Of<&D::StandardLabelYN, 4, 9>, "N", "Y"},
     {"Relative font sizes:"},
-    {"Scale 1: .8", Entry<&D::RelativeFontSize, 1>, "0.8", "1"},
-    {"Scale 2: 1.2", Entry<&D::RelativeFontSize, 2>, "1.2", "1"},
-    {"Aspect ratio: .9", OfDesign<&D::AspectRatio>, "0.9", "0.75"},
-    {"Number of correction points: 5", OfDesign<&D::NumberOfCorrectionPoints>, "7", "7"},
+    {"Scale 1: .8", Of<&D::RelativeFontSize, 1>, ".8", "1"},
+    {"Scale 2: 1.2", Of<&D::RelativeFontSize, 2>, "1.2", "1"},
+    {"Aspect ratio: .9", Of<&D::AspectRatio>, ".9", ".75"},
+    {"Number of correction points: 5", Of<&D::NumberOfCorrectionPoints>, "7", "7"},
     {"Pair #1: 0 \\ 0"},
     {"Pair #2: .1 \\ .2"},
     {"Pair #3: .3 \\ .4"},

@@ -9,24 +9,26 @@
 #include "designfile.h"
 #include "engine/base/bytesink.h"
 #include "engine/base/hostservices.h"
-#include "engine/core/design.h"
-#include "support/enginetest.h"
 #include "support/filelimit.h"
 
 namespace vernacle::test {
 namespace {
 
-const std::vector<std::string> kNotWritten = {
-    "beep", "failure: The Vernacle file was not written correctly.\nReadWrite 364"};
-
-class ReadWriteTest : public EngineTest {
+class ReadWriteTest : public DesignFileTest {
 protected:
-    ReadWriteTest() { ResetDesign(Design); }
-
     // The file behind the line of its name.
     std::string Body(const std::string& name) const {
         const std::string text = ReadFile(name);
         return text.substr(text.find('\n') + 1);
+    }
+
+    // That its reading ends at its opening, with defaults in every field.
+    void ExpectNotOpened(const std::string& name) {
+        said.clear();
+        Design.PlateWidth = 61.5F;
+        ReadDesign(Design, name);
+        EXPECT_EQ(said, (Texts{"beep", kNotRead + "407"})) << name;
+        EXPECT_EQ(Design.PlateWidth, 75) << name;
     }
 };
 
@@ -183,9 +185,7 @@ TEST_F(ReadWriteTest, TheBareNameThatACalibrationLeavesIsAFileOfTheWorkingFolder
 
 TEST_F(ReadWriteTest, APipeIsADesignThatCannotBeOpened) {
     ASSERT_EQ(mkfifo(Path("plate.vrn").c_str(), 0600), 0);
-    ReadDesign(Design, Path("plate.vrn"));
-    ASSERT_EQ(said.size(), 2U);
-    EXPECT_TRUE(said[1].ends_with("ReadWrite 407")) << said[1];
+    ExpectNotOpened(Path("plate.vrn"));
 }
 
 TEST_F(ReadWriteTest, ReportsASizeLimit) {
@@ -254,13 +254,8 @@ TEST_F(ReadWriteTest, ReportsAFailureAmongTheLinesOnceThoughTheDiskIsFull) {
 }
 
 TEST_F(ReadWriteTest, AMissingFileIsReportedWithTheStageOfItsOpening) {
-    const std::string text = "failure: We were not successful in reading that Vernacle file.\n"
-                             "Default values for all items have been put in place.\n\n"
-                             "ReadWrite 407";
-    Design.PlateWidth = 61.5F;
-    ReadDesign(Design, Path("none.vrn"));
-    EXPECT_EQ(said, (std::vector<std::string>{"beep", text}));
-    EXPECT_EQ(Design.PlateWidth, 75);
+    Design.ScaleTitle[1] = "mA";
+    ExpectNotOpened(Path("none.vrn"));
     EXPECT_EQ(Design.ScaleTitle[1], "Default Scale 1");
 }
 
@@ -268,12 +263,7 @@ TEST_F(ReadWriteTest, WhatCannotBeReadIsReportedAlike) {
     WriteFile("large.vrn", "");
     std::filesystem::resize_file(Path("large.vrn"), kLargestFile + 1);
     for (const std::string& name : {Path("none/plate.vrn"), Path(""), Path("large.vrn")}) {
-        said.clear();
-        Design.PlateWidth = 61.5F;
-        ReadDesign(Design, name);
-        ASSERT_EQ(said.size(), 2U) << name;
-        EXPECT_TRUE(said[1].ends_with("\n\nReadWrite 407")) << said[1];
-        EXPECT_EQ(Design.PlateWidth, 75) << name;
+        ExpectNotOpened(name);
     }
 }
 
@@ -283,9 +273,7 @@ TEST_F(ReadWriteTest, AFileThatMayNotBeReadIsReportedAlike) {
     }
     const std::string name = WriteFile("plate.vrn", DesignFile().Text());
     std::filesystem::permissions(name, std::filesystem::perms::none);
-    ReadDesign(Design, name);
-    ASSERT_EQ(said.size(), 2U);
-    EXPECT_TRUE(said[1].ends_with("\n\nReadWrite 407")) << said[1];
+    ExpectNotOpened(name);
 }
 
 TEST_F(ReadWriteTest, TheBodyIsTheSameWhateverTheName) {

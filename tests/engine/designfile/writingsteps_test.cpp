@@ -13,11 +13,10 @@ namespace {
 
 constexpr float kUnwritableNumber = std::numeric_limits<float>::infinity();
 
-class WritingStepsTest : public EngineTest {
+class WritingStepsTest : public NewDesignTest {
 protected:
     // A design that each of the steps changes.
     WritingStepsTest() {
-        ResetDesign(Design);
         Design.DesignFileName = Path("plate.vrn");
         Design.ScaleColor[1] = -1;
         Design.SpecialNrOfTicmarks[1] = 1;
