@@ -40,6 +40,14 @@ void RecordingSurface::Record(const std::string& name, const std::string& argume
     }
 }
 
+void RecordingSurface::Forget() {
+    calls.clear();
+    texts.clear();
+    keptTop = keptBottom = 0;
+    x_ = y_ = 0;
+    points_ = 0;
+}
+
 std::vector<std::string> RecordingSurface::CallsOf(const std::string& name) const {
     std::vector<std::string> found;
     std::copy_if(

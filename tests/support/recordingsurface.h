@@ -35,6 +35,9 @@ public:
     static constexpr float kUnitsAcross = 6;
     static constexpr float kUnitsDown = 11;
 
+    // Forgets what was recorded; the failures asked for stay.
+    void Forget();
+
     void Clear() override;
     void SetLineWidth(int pixels) override;
     void SetForeColor(Colour colour) override;

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "engine/base/numbertext.h"
+#include "engine/output/print.h"
 
 namespace vernacle::test {
 
@@ -99,7 +100,13 @@ RenderTest::RenderTest() {
 }
 
 void RenderTest::Draw(const DrawingTraits& traits) {
+    surface.Forget();
     DrawPage(Design, surface, traits, {Design.FontSize, Design.LabelSpacing}, Drawing);
+}
+
+bool RenderTest::Print() {
+    surface.Forget();
+    return PrintPlate(Design, surface);
 }
 
 void RenderTest::DrawStages(std::initializer_list<DrawingStage> stages, DrawingTraits traits) {
@@ -179,6 +186,14 @@ std::string Last(const Calls& calls) {
 
 ::testing::AssertionResult SameCalls(const Calls& calls, const std::string& expected) {
     return SameCalls(calls, LinesOf(expected));
+}
+
+::testing::AssertionResult IsAt(SurfacePoint point, double x, double y, double tolerance) {
+    if (std::fabs(point.x - x) <= tolerance && std::fabs(point.y - y) <= tolerance) {
+        return ::testing::AssertionSuccess();
+    }
+    return ::testing::AssertionFailure() << "it is at (" << point.x << ", " << point.y
+                                         << "), expected (" << x << ", " << y << ")";
 }
 
 double DegreesInRadian() {

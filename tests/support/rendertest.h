@@ -4,8 +4,6 @@
 
 #include <initializer_list>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "engine/core/design.h"
 #include "engine/render/drawing.h"
@@ -15,7 +13,7 @@
 
 namespace vernacle::test {
 
-using Calls = std::vector<std::string>;
+using Calls = Texts;
 
 // A plate of 10 x 5 mm, stretched by 0.5. On the preview half a millimetre is 160 units across and
 // 320 up, the plate reaches from (4400, 2700) to (7600, 5900), and its bearings are at (6000, 5260)
@@ -24,7 +22,10 @@ class RenderTest : public EngineTest {
 protected:
     RenderTest();
 
+    // Each drawing is recorded anew.
     void Draw(const DrawingTraits& traits);
+
+    bool Print();
 
     // Draws these stages alone, without preparation of the design.
     void DrawStages(std::initializer_list<DrawingStage> stages,
@@ -67,6 +68,9 @@ std::string Last(const Calls& calls);
 // width that is set to what it is already does not count.
 ::testing::AssertionResult SameCalls(const Calls& calls, const Calls& expected);
 ::testing::AssertionResult SameCalls(const Calls& calls, const std::string& expected);
+
+// Whether the point is there, within so many units each way.
+::testing::AssertionResult IsAt(SurfacePoint point, double x, double y, double tolerance = 0);
 
 // The plate of the design on a surface, by the sine rule and plain trigonometry.
 struct Reference {

@@ -17,10 +17,8 @@ constexpr Point kBent[] = {{0, 0},       {0.125F, 0.25F},   {0.25F, 0.375F},
                            {0.5F, 0.5F}, {0.625F, 0.6875F}, {0.75F, 0.71875F},
                            {1, 0.90625F}};
 
-class CurveTest : public EngineTest {
+class CurveTest : public NewDesignTest {
 protected:
-    CurveTest() { ResetDesign(Design); }
-
     static void UseBentCurve() {
         for (int point = 1; point <= 7; ++point) {
             Design.CorrectionPair[2 * point - 1] = kBent[point - 1].x;
@@ -58,11 +56,7 @@ TEST_F(CurveTest, SlopesAreRoundedOnce) {
 
 TEST_F(CurveTest, EachSegmentHasItsOwnLine) {
     UseBentCurve();
-    struct Row {
-        float f;
-        float corrected;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<float, float> kRows[] = {
         {0, 0},
         {0.0625F, 0.125F},
         {0.125F, 0.25F}, // a point belongs to the segment above it

@@ -1,6 +1,5 @@
 // The correction file: what is written, and what is taken for a curve when one is read.
 #include <limits>
-#include <vector>
 
 #include "engine/core/design.h"
 #include "engine/correction/curve.h"
@@ -10,14 +9,11 @@
 namespace vernacle::test {
 namespace {
 
-const std::vector<std::string> kNotWritten = {"beep",
-                                              "failure: We had a problem writing the curve data"};
+const Texts kNotWritten = {"beep", "failure: We had a problem writing the curve data"};
 constexpr const char* kNotRead = "failure: We did not read the linearity-correction file";
 
-class CurveFileTest : public EngineTest {
+class CurveFileTest : public NewDesignTest {
 protected:
-    CurveFileTest() { ResetDesign(Design); }
-
     void Read(const std::string& text) { ReadCorrectionFile(Design, WriteFile("curve.cor", text)); }
 
     void ExpectNotRead() const {
@@ -138,11 +134,7 @@ TEST_F(CurveFileTest, ReadsSignificantLinesAndTokens) {
 }
 
 TEST_F(CurveFileTest, FiveCharactersMakeTheHeader) {
-    struct Row {
-        const char* header;
-        bool reads;
-    };
-    constexpr Row kRows[] = {
+    constexpr std::pair<const char*, bool> kRows[] = {
         {"Meter", true},  {"Meters and more", true}, {"  Meter", true},  {"Mete", false},
         {"meter", false}, {"METER", false},          {"A Meter", false}, {"Met er", false},
     };
@@ -177,14 +169,14 @@ TEST_F(CurveFileTest, ValuesAreNotJudged) {
 }
 
 TEST_F(CurveFileTest, AnEarlyEndIsAFailureThatKeepsThePointsRead) {
-    const std::vector<std::string> lines = {"Meter", "d", "3", "h", ".1 .2", ".3 .4", ".5 .6"};
+    const Texts lines = {"Meter", "d", "3", "h", ".1 .2", ".3 .4", ".5 .6"};
     std::string text;
     for (std::size_t count = 0; count < lines.size(); ++count) {
         SCOPED_TRACE(count);
         said.clear();
         ResetDesign(Design);
         Read(text + "* no line of the curve\n\n");
-        EXPECT_EQ(said, (std::vector<std::string>{"beep", kNotRead}));
+        EXPECT_EQ(said, (Texts{"beep", kNotRead}));
         EXPECT_EQ(Design.NumberOfCorrectionPoints, count > 2 ? 3 : 7);
         ExpectPair(1, count > 4 ? 0.1F : 0, count > 4 ? 0.2F : 0);
         ExpectPair(2, count > 5 ? 0.3F : 0.15F, count > 5 ? 0.4F : 0.15F);

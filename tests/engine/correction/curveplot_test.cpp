@@ -1,25 +1,21 @@
 #include "engine/correction/curveplot.h"
 
 #include "engine/base/runtimeerror.h"
-#include "engine/core/design.h"
 #include "engine/correction/curve.h"
-#include "support/enginetest.h"
-#include "support/recordingsurface.h"
+#include "support/rendertest.h"
 
 namespace vernacle::test {
 namespace {
 
-class CurvePlotTest : public EngineTest {
+class CurvePlotTest : public NewDesignTest {
 protected:
-    CurvePlotTest() { ResetDesign(Design); }
-
     static void Put(int point, float current, float deflection) {
         Design.CorrectionPair[2 * point + 1] = current;
         Design.CorrectionPair[2 * point + 2] = deflection;
     }
 
     CurveVerdict Draw() {
-        surface = RecordingSurface();
+        surface.Forget();
         ComputeCorrectionSlopes(Design);
         return DrawCurvePlot(Design, surface);
     }
@@ -36,10 +32,8 @@ protected:
 };
 
 TEST_F(CurvePlotTest, FractionsLieInThePlotsUnits) {
-    EXPECT_EQ(CurvePlace(0, 0).x, 5000);
-    EXPECT_EQ(CurvePlace(0, 0).y, 6000);
-    EXPECT_EQ(CurvePlace(1, 1).x, 10000);
-    EXPECT_EQ(CurvePlace(1, 1).y, 1000);
+    EXPECT_TRUE(IsAt(CurvePlace(0, 0), 5000, 6000));
+    EXPECT_TRUE(IsAt(CurvePlace(1, 1), 10000, 1000));
     EXPECT_EQ(CurrentAt(6250), 0.25F);
     EXPECT_EQ(DeflectionAt(1000), 1);
     EXPECT_EQ(DeflectionAt(4750), 0.25F);
@@ -57,30 +51,27 @@ TEST_F(CurvePlotTest, DropsPutAPointWhereverTheyAre) {
 
 TEST_F(CurvePlotTest, HandlesStandOnTheirPoints) {
     Put(3, 0.5F, 0.25F);
-    EXPECT_EQ(HandleMiddle(Design, 3).x, 7500);
-    EXPECT_EQ(HandleMiddle(Design, 3).y, 4750);
-    EXPECT_EQ(HandleMiddle(Design, 0).x, 4985) << "15 further to the left";
-    EXPECT_EQ(HandleMiddle(Design, 0).y, 6000);
-    EXPECT_EQ(HandleMiddle(Design, 6).x, 10000);
-    EXPECT_EQ(HandleMiddle(Design, 6).y, 985) << "15 higher";
+    EXPECT_TRUE(IsAt(HandleMiddle(Design, 3), 7500, 4750));
+    EXPECT_TRUE(IsAt(HandleMiddle(Design, 0), 4985, 6000)) << "15 further to the left";
+    EXPECT_TRUE(IsAt(HandleMiddle(Design, 6), 10000, 985)) << "15 higher";
 }
 
 TEST_F(CurvePlotTest, PlotHasFrameGridIdealCurveAndStrip) {
     EXPECT_EQ(Draw(), CurveVerdict::Allowed);
     EXPECT_EQ(surface.calls.at(0), "Clear");
-    EXPECT_EQ(surface.CallsOf("Box"), (std::vector<std::string>{"Box 5000 1000 10000 6000 ff0000",
-                                                                "Box 5000 6500 10000 6800 1"}));
+    EXPECT_EQ(surface.CallsOf("Box"),
+              (Texts{"Box 5000 1000 10000 6000 ff0000", "Box 5000 6500 10000 6800 1"}));
     EXPECT_EQ(LinesIn("bbbbbb"), 20U) << "the added tenths pass 1 just before it";
     EXPECT_EQ(LinesIn("991111"), 1U);
     EXPECT_EQ(LinesIn("111199"), 6U);
     EXPECT_EQ(LinesIn("ff0000"), 51U);
-    const std::vector<std::string>& calls = surface.calls;
+    const Texts& calls = surface.calls;
     const auto indexOf = [&calls](const std::string& call) {
         return std::find(calls.begin(), calls.end(), call) - calls.begin();
     };
     EXPECT_LT(indexOf("SetLineWidth 2"), indexOf("Line 5000 6000 5750 5250 111199"));
     EXPECT_EQ(surface.CallsOf("SetLineWidth"),
-              (std::vector<std::string>{"SetLineWidth 1", "SetLineWidth 2", "SetLineWidth 1"}));
+              (Texts{"SetLineWidth 1", "SetLineWidth 2", "SetLineWidth 1"}));
     EXPECT_NE(indexOf("Line 5000 6000 10000 1000 991111"),
               static_cast<std::ptrdiff_t>(calls.size()));
 }
@@ -88,14 +79,14 @@ TEST_F(CurvePlotTest, PlotHasFrameGridIdealCurveAndStrip) {
 TEST_F(CurvePlotTest, StripShowsTheCorrectedScale) {
     Put(3, 0.5F, 0.6F);
     EXPECT_EQ(Draw(), CurveVerdict::Allowed);
-    const std::vector<std::string> lines = surface.CallsOf("Line");
+    const Texts lines = surface.CallsOf("Line");
     EXPECT_NE(std::find(lines.begin(), lines.end(), "Line 8000 6500 8000 6800 ff0000"), lines.end())
         << "the middle tic";
 }
 
 TEST_F(CurvePlotTest, StripIsDrawnByTheSlopesAsTheyAreStored) {
     Draw();
-    const std::vector<std::string> before = surface.CallsOf("Line");
+    const Texts before = surface.CallsOf("Line");
     Design.CorrectionSlope[1] = 2;
     surface = RecordingSurface();
     EXPECT_EQ(DrawCurvePlot(Design, surface), CurveVerdict::Allowed);

@@ -7,10 +7,8 @@
 namespace vernacle::test {
 namespace {
 
-class CurveTableTest : public EngineTest {
+class CurveTableTest : public NewDesignTest {
 protected:
-    CurveTableTest() { ResetDesign(Design); }
-
     // As the table makes it.
     static std::string Row(int row) {
         const Slopes slopes = RefreshSlopes(Design);
@@ -18,41 +16,22 @@ protected:
     }
 };
 
-struct FormRow {
-    double value;
-    const char* text;
-};
-
 TEST_F(CurveTableTest, EntriesArePercentWithTwoPlaces) {
-    for (const FormRow& row : {FormRow{0, "0.0"},
-                               {0.0009, "0.0"},
-                               {-0.5, "0.0"},
-                               {0.001, ".1 "},
-                               {0.0005, "0.0"},
-                               {0.15, "15. "},
-                               {0.12345, "12.35 "},
-                               {0.5, "50. "},
-                               {0.9991, "100.0"},
-                               {1, "100.0"},
-                               {3, "100.0"},
-                               {0.0123, "1.23 "},
-                               {0.00456, ".46 "}}) {
-        EXPECT_EQ(FormatPercentEntry(static_cast<float>(row.value)), row.text) << row.value;
+    constexpr std::pair<double, const char*> kRows[] = {
+        {0, "0.0"},     {0.0009, "0.0"},     {-0.5, "0.0"},    {0.001, ".1 "},    {0.0005, "0.0"},
+        {0.15, "15. "}, {0.12345, "12.35 "}, {0.5, "50. "},    {0.9991, "100.0"}, {1, "100.0"},
+        {3, "100.0"},   {0.0123, "1.23 "},   {0.00456, ".46 "}};
+    for (const auto& [value, text] : kRows) {
+        EXPECT_EQ(FormatPercentEntry(static_cast<float>(value)), text) << value;
     }
 }
 
 TEST_F(CurveTableTest, TableValuesAreCutAtHundred) {
-    for (const FormRow& row : {FormRow{0, "0."},
-                               {0.0009, "0."},
-                               {-3, "0."},
-                               {1, "1. "},
-                               {0.25, ".25 "},
-                               {1.005, "1.01 "},
-                               {33.333, "33.33 "},
-                               {99.99, "99.99 "},
-                               {99.995, "100."},
-                               {250, "100."}}) {
-        EXPECT_EQ(FormatTableValue(row.value), row.text) << row.value;
+    constexpr std::pair<double, const char*> kRows[] = {
+        {0, "0."},        {0.0009, "0."},     {-3, "0."},        {1, "1. "},       {0.25, ".25 "},
+        {1.005, "1.01 "}, {33.333, "33.33 "}, {99.99, "99.99 "}, {99.995, "100."}, {250, "100."}};
+    for (const auto& [value, text] : kRows) {
+        EXPECT_EQ(FormatTableValue(value), text) << value;
     }
 }
 
@@ -91,8 +70,7 @@ TEST_F(CurveTableTest, FailingCurveIsReportedOnceARowAndLeftUncorrected) {
         EXPECT_EQ(Row(row), std::to_string(row) + "       " + FormatTableValue(2. * row) +
                                 "       " + FormatTableValue(2. * row));
         EXPECT_EQ(said,
-                  (std::vector<std::string>{
-                      "beep", "failure: An error was found in the Correction Table routine"}));
+                  (Texts{"beep", "failure: An error was found in the Correction Table routine"}));
         said.clear();
     }
 }

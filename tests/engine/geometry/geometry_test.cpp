@@ -4,7 +4,6 @@
 #include <numbers>
 
 #include "engine/base/runtimeerror.h"
-#include "engine/core/design.h"
 #include "support/rendertest.h"
 
 namespace vernacle::test {
@@ -36,12 +35,9 @@ TEST(GeometryTest, PlateAndItsPointsGrowUpwardFromTheBottomEdge) {
     EXPECT_EQ(frame.Top(), 120);
     EXPECT_EQ(frame.Bottom(), 280);
     EXPECT_EQ(PlatePoint(frame, 30, 0).x, 100); // half the width is the centre line
-    EXPECT_EQ(PlatePoint(frame, 12, 7).x, 64);
-    EXPECT_EQ(PlatePoint(frame, 12, 7).y, 252);
-    EXPECT_EQ(RealBearing(frame).x, 100);
-    EXPECT_EQ(RealBearing(frame).y, 240);
-    EXPECT_EQ(VirtualBearing(frame).x, 100);
-    EXPECT_EQ(VirtualBearing(frame).y, 260);
+    EXPECT_TRUE(IsAt(PlatePoint(frame, 12, 7), 64, 252));
+    EXPECT_TRUE(IsAt(RealBearing(frame), 100, 240));
+    EXPECT_TRUE(IsAt(VirtualBearing(frame), 100, 260));
 }
 
 TEST(GeometryTest, DegreesPerRadianIsA32BitFloat) {
@@ -100,8 +96,8 @@ TEST(GeometryTest, WithoutOffsetTheArcIsCentredOnTheRealBearing) {
         const ArcPlace place = PlaceOnArc(frame, t, 20);
         EXPECT_EQ(place.arcAngleRad, t);
         EXPECT_EQ(place.pointerAngleRad, t);
-        EXPECT_NEAR(place.point.x, 100 - 2 * 20 * std::cos(t), 1e-9);
-        EXPECT_NEAR(place.point.y, 240 - 4 * 20 * std::sin(t), 1e-9);
+        EXPECT_TRUE(
+            IsAt(place.point, 100 - 2 * 20 * std::cos(t), 240 - 4 * 20 * std::sin(t), 1e-9));
     }
 }
 
@@ -144,8 +140,7 @@ TEST(GeometryTest, AnOffsetBeyondTheRadiusStaysDrawable) {
 
 TEST(GeometryTest, NegativeRadiusIsDrawnBelowTheBearing) {
     const ArcPlace place = PlaceOnArc(SmallFrame(), kRightAngle, -15);
-    EXPECT_NEAR(place.point.x, 100, 1e-9);
-    EXPECT_NEAR(place.point.y, 280 + 4 * (15 + 5 - 10), 1e-9);
+    EXPECT_TRUE(IsAt(place.point, 100, 280 + 4 * (15 + 5 - 10), 1e-9));
 }
 
 TEST(GeometryTest, RadiusOfZeroIsARunTimeError) {
@@ -158,11 +153,9 @@ TEST(GeometryTest, RadiusOfZeroIsARunTimeError) {
 TEST(GeometryTest, LengthsRunAlongThePointer) {
     const PlateFrame frame = SmallFrame();
     const SurfacePoint out = AlongPointer(frame, {70, 90}, 1, 3, Direction::Outward);
-    EXPECT_NEAR(out.x, 70 - 2 * 3 * std::cos(1.0), 1e-12);
-    EXPECT_NEAR(out.y, 90 - 4 * 3 * std::sin(1.0), 1e-12);
+    EXPECT_TRUE(IsAt(out, 70 - 2 * 3 * std::cos(1.0), 90 - 4 * 3 * std::sin(1.0), 1e-12));
     const SurfacePoint in = AlongPointer(frame, {70, 90}, 1, 3, Direction::Inward);
-    EXPECT_NEAR(in.x, 70 + 2 * 3 * std::cos(1.0), 1e-12);
-    EXPECT_NEAR(in.y, 90 + 4 * 3 * std::sin(1.0), 1e-12);
+    EXPECT_TRUE(IsAt(in, 70 + 2 * 3 * std::cos(1.0), 90 + 4 * 3 * std::sin(1.0), 1e-12));
 }
 
 TEST(GeometryTest, OddScalesPointOutwardAndEvenOnesInward) {
@@ -201,11 +194,9 @@ TEST_F(FrameTest, MillimetresCountFromTheLowerLeftCorner) {
     EXPECT_EQ(frame.Right(), 10);
     EXPECT_EQ(frame.Bottom(), 0);
     EXPECT_EQ(frame.Top(), -5);
-    EXPECT_EQ(PlatePoint(frame, 3, 2).x, 3);
-    EXPECT_EQ(PlatePoint(frame, 3, 2).y, -2);
+    EXPECT_TRUE(IsAt(PlatePoint(frame, 3, 2), 3, -2));
     const SurfacePoint crown = PlaceOnArc(frame, kRightAngle, ScaleRadius(frame, 4)).point;
-    EXPECT_NEAR(crown.x, 5, 1e-9);
-    EXPECT_NEAR(crown.y, -4, 1e-9);
+    EXPECT_TRUE(IsAt(crown, 5, -4, 1e-9));
 }
 
 } // namespace

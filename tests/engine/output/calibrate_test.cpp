@@ -1,8 +1,5 @@
 #include "engine/output/calibrate.h"
 
-#include <string>
-#include <vector>
-
 #include <sys/stat.h>
 
 #include "engine/base/hostservices.h"
@@ -21,6 +18,7 @@ protected:
         Design.CalibrationX = x;
         Design.CalibrationY = y;
     }
+    static std::pair<float, float> Factors() { return {Design.CalibrationX, Design.CalibrationY}; }
 };
 
 TEST_F(CalibrateTest, FileHasSevenLines) {
@@ -46,8 +44,7 @@ TEST_F(CalibrateTest, WrittenFactorsAreReadBack) {
     WriteCalibrate(Design);
     SetFactors(0, 0);
     ReadCalibrate(Design);
-    EXPECT_EQ(Design.CalibrationX, 1.234567F);
-    EXPECT_EQ(Design.CalibrationY, 0.5F);
+    EXPECT_EQ(Factors(), std::pair(1.234567F, 0.5F));
     EXPECT_EQ(Design.DesignFileName, "Calibrate.txt");
 }
 
@@ -83,8 +80,7 @@ TEST_F(CalibrateTest, ReadingTakesTheThirdAndFourthDataLine) {
         SetFactors(7, 7);
         WriteFile("Calibrate.txt", row.text);
         ReadCalibrate(Design);
-        EXPECT_EQ(Design.CalibrationX, row.x) << row.name;
-        EXPECT_EQ(Design.CalibrationY, row.y) << row.name;
+        EXPECT_EQ(Factors(), std::pair(row.x, row.y)) << row.name;
     }
     EXPECT_TRUE(said.empty());
     EXPECT_EQ(Design.DesignFileName, "mine.vrn");
@@ -92,8 +88,7 @@ TEST_F(CalibrateTest, ReadingTakesTheThirdAndFourthDataLine) {
 
 TEST_F(CalibrateTest, MissingFileIsNotReported) {
     ReadCalibrate(Design);
-    EXPECT_EQ(Design.CalibrationX, 0);
-    EXPECT_EQ(Design.CalibrationY, 0);
+    EXPECT_EQ(Factors(), std::pair(0.F, 0.F));
     EXPECT_TRUE(said.empty());
 }
 
@@ -131,8 +126,7 @@ TEST_F(CalibrateTest, OneThatIsNotWholeIsReadFromTheNextPlace) {
         Host.calibrationsToRead = [this] { return std::vector{Path("first"), Path("second")}; };
         SetFactors(0, 0);
         ReadCalibrate(Design);
-        EXPECT_EQ(Design.CalibrationX, row.x) << row.name;
-        EXPECT_EQ(Design.CalibrationY, row.y) << row.name;
+        EXPECT_EQ(Factors(), std::pair(row.x, row.y)) << row.name;
     }
     EXPECT_TRUE(said.empty());
 }
@@ -149,8 +143,7 @@ TEST_F(CalibrateTest, APipeIsAFileThatCannotBeOpened) {
 TEST_F(CalibrateTest, ReadingByNamePassesTheFailureOn) {
     EXPECT_THROW(ReadCalibration(Design, Path("none.txt")), RunTimeError);
     ReadCalibration(Design, WriteFile("other.txt", "h\nd\n1.25\n1.5\n"));
-    EXPECT_EQ(Design.CalibrationX, 1.25F);
-    EXPECT_EQ(Design.CalibrationY, 1.5F);
+    EXPECT_EQ(Factors(), std::pair(1.25F, 1.5F));
 }
 
 TEST_F(CalibrateTest, WriteFailureIsNotReported) {
@@ -223,12 +216,10 @@ TEST_F(CalibrateTest, FactorsAreHeldInTheDesign) {
     for (const MeasureRow& row : rows) {
         SetFactors(row.factor, 1);
         HoldCalibration(Design);
-        EXPECT_EQ(Design.CalibrationX, row.after);
-        EXPECT_EQ(Design.CalibrationY, 1);
+        EXPECT_EQ(Factors(), std::pair(row.after, 1.F));
         SetFactors(1, row.factor);
         HoldCalibration(Design);
-        EXPECT_EQ(Design.CalibrationX, 1);
-        EXPECT_EQ(Design.CalibrationY, row.after);
+        EXPECT_EQ(Factors(), std::pair(1.F, row.after));
     }
 }
 
@@ -248,19 +239,17 @@ TEST_F(CalibrateTest, TestSquareIs100MillimetresByTheFactors) {
     };
     for (const SquareRow& row : rows) {
         SetFactors(row.x, row.y);
-        surface = RecordingSurface();
+        surface.Forget();
         EXPECT_TRUE(PrintTestSquare(Design, surface));
         EXPECT_TRUE(
             SameCalls(surface.calls, Calls{"StartSheet", "SetLineWidth 1", row.box, "EndDoc"}));
-        EXPECT_EQ(Design.CalibrationX, row.x == 0 ? 1 : row.x);
-        EXPECT_EQ(Design.CalibrationY, row.y == 0 ? 1 : row.y);
+        EXPECT_EQ(Factors(), std::pair(row.x == 0 ? 1 : row.x, row.y == 0 ? 1 : row.y));
     }
     EXPECT_TRUE(said.empty());
 }
 
 TEST_F(CalibrateTest, FailedTestSquareIsReportedWithASoundIfSoundsAreOn) {
-    const std::vector<std::string> report = {"beep",
-                                             "failure: We had a problem driving the printer."};
+    const Texts report = {"beep", "failure: We had a problem driving the printer."};
     for (int call = 1; call <= 4; ++call) {
         for (const bool sounds : {false, true}) {
             Design.MessageLevel = sounds ? 1 : 0;
@@ -268,7 +257,7 @@ TEST_F(CalibrateTest, FailedTestSquareIsReportedWithASoundIfSoundsAreOn) {
             surface.failAt = call;
             said.clear();
             EXPECT_FALSE(PrintTestSquare(Design, surface));
-            std::vector<std::string> expected = report;
+            Texts expected = report;
             if (sounds) {
                 expected.insert(expected.begin(), "sound: warningprinter.wav");
             }

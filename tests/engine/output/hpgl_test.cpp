@@ -1,8 +1,5 @@
 #include "engine/output/hpgl.h"
 
-#include <string>
-#include <vector>
-
 #include "engine/base/hostservices.h"
 #include "hpgltest.h"
 
@@ -15,7 +12,7 @@ using HpglStreamTest = HpglTest;
 // virtual one 80 units lower, the arc's radius 200 units. A pointer at 45 degrees crosses it 135.26
 // units from the bearing, 95.65 to the left and above: at (4004.35, 8475.65). A major tic of 0.3 mm
 // ends 8.49 units further out each way, the label's anchor stands 14.14 units further.
-constexpr const char* kSmallPlate[] = {
+const Calls kStreamStart = {
     "IN",
     "SP1",
     "LT",
@@ -28,30 +25,9 @@ constexpr const char* kSmallPlate[] = {
     "PD 4330  8240 ",
     "PU 4400  8310 ",
     "PD 3800  8310 ",
-    "PU 3930  8360 ", // left hole
-    "PD 4030  8360 ",
-    "PU 3980  8310 ",
-    "PD 3980  8410 ",
-    "PU 3980  8360 ",
-    "CI 30.5  3 ",
-    "PU 4170  8360 ", // right hole
-    "PD 4270  8360 ",
-    "PU 4220  8310 ",
-    "PD 4220  8410 ",
-    "PU 4220  8360 ",
-    "CI 30.5  3 ",
-    "PU 4050  8380 ", // real bearing
-    "PD 4150  8380 ",
-    "PU 4100  8330 ",
-    "PD 4100  8430 ",
-    "PU 4100  8380 ",
-    "CI 30.5  3 ",
-    "PU 4050  8300 ", // virtual bearing
-    "PD 4150  8300 ",
-    "PU 4100  8250 ",
-    "PD 4100  8350 ",
-    "PU 4100  8300 ",
-    "CI 30.5  3 ",
+};
+
+const Calls kStreamOfScale = {
     "SD 1,21 2,1 7,4",
     "PW .8 ", // tic 0: major, and labelled
     "PW .8 ",
@@ -85,45 +61,9 @@ constexpr const char* kSmallPlate[] = {
     "SI .15625 .20833",
     "PU 4000  8380 ",
     "LBHz\x03",
-    "PW.5", // ruler
-    "PU 3900  7960 ",
-    "PD 3900  8060 ",
-    "PU 4300  7960 ",
-    "PD 4300  8060 ",
-    "LO5",
-    "SI.15,.2;",
-    "PU 3900  7875 ",
-    "LB0\x03",
-    "PU 4300  7875 ",
-    "LB10\x03",
-    "PW.2",
-    "SI.15,.2;",
-    "PU 3900  7960 ",
-    "PD 3900  8010 ",
-    "PU 3940  7960 ",
-    "PD 3940  8010 ",
-    "PU 3980  7960 ",
-    "PD 3980  8010 ",
-    "PU 4020  7960 ",
-    "PD 4020  8010 ",
-    "PU 4060  7960 ",
-    "PD 4060  8010 ",
-    "PU 4100  7960 ",
-    "PD 4100  8010 ",
-    "PU 4140  7960 ",
-    "PD 4140  8010 ",
-    "PU 4180  7960 ",
-    "PD 4180  8010 ",
-    "PU 4220  7960 ",
-    "PD 4220  8010 ",
-    "PU 4260  7960 ",
-    "PD 4260  8010 ",
-    "PU 4300  7960 ",
-    "PD 4300  8010 ",
-    "PU 3900  7960 ",
-    "PD 4300  7960 ",
-    "PU 4460  7840 ",
-    "LO",
+};
+
+const Calls kStreamEnd = {
     "LBmm\x03",
     "SI .15 .2",
     "PU 800  7540 ",
@@ -135,9 +75,18 @@ constexpr const char* kSmallPlate[] = {
     "PUSP0PG;",
 };
 
+// The cross and the circle of a hole or a bearing.
+Calls Crossed(int x, int y) {
+    return {Move("PU", x - 50, y), Move("PD", x + 50, y), Move("PU", x, y - 50),
+            Move("PD", x, y + 50), Move("PU", x, y),      "CI 30.5  3 "};
+}
+
 std::string SmallPlateStream() {
+    const Calls holes = Crossed(3980, 8360) + Crossed(4220, 8360);
+    const Calls bearings = Crossed(4100, 8380) + Crossed(4100, 8300); // the real, the virtual one
     std::string stream;
-    for (const char* statement : kSmallPlate) {
+    for (const std::string& statement : kStreamStart + holes + bearings + kStreamOfScale +
+                                            RulerStatements(3900, 10, 4300, 4460) + kStreamEnd) {
         stream.append(statement).append("\r\n");
     }
     return stream;
@@ -171,21 +120,19 @@ protected:
     }
 
     SinkScript script;
-    std::vector<std::string> opened;
+    Texts opened;
 };
 
-const std::vector<std::string> kFailure = {"beep",
-                                           "failure: The HPGL file was not written correctly."};
+const Texts kFailure = {"beep", "failure: The HPGL file was not written correctly."};
 
 TEST_F(HpglFileTest, FileIsWrittenAndAnnounced) {
     WriteHpgl(Design, "out/plate.hpgl", HpglMode::File);
-    EXPECT_EQ(opened, (std::vector<std::string>{"out/plate.hpgl"}));
+    EXPECT_EQ(opened, (Texts{"out/plate.hpgl"}));
     EXPECT_EQ(script.bytes, Stream());
     EXPECT_EQ(script.closes, 1);
     EXPECT_EQ(script.open, 0);
-    EXPECT_EQ(said,
-              (std::vector<std::string>{"information: THE HPGL FILE WAS SUCCESSFULLY WRITTEN TO\r\n"
-                                        "out/plate.hpgl"}));
+    EXPECT_EQ(said, (Texts{"information: THE HPGL FILE WAS SUCCESSFULLY WRITTEN TO\r\n"
+                           "out/plate.hpgl"}));
 }
 
 TEST_F(HpglFileTest, PrinterIsFedThroughItsPort) {
@@ -194,11 +141,11 @@ TEST_F(HpglFileTest, PrinterIsFedThroughItsPort) {
         said.clear();
         script = SinkScript();
         WriteHpgl(Design, path, HpglMode::PclPrinter);
-        EXPECT_EQ(opened, (std::vector<std::string>{"LPT1"}));
+        EXPECT_EQ(opened, (Texts{"LPT1"}));
         EXPECT_EQ(script.bytes, Stream(HpglMode::PclPrinter));
-        EXPECT_EQ(said, (std::vector<std::string>{
-                            "information: THE HPGL FILE WITH PCL HEADER/FOOTER WAS SENT DIRECTLY "
-                            "TO THE PCL PRINTER ON LPT1"}));
+        EXPECT_EQ(said,
+                  (Texts{"information: THE HPGL FILE WITH PCL HEADER/FOOTER WAS SENT DIRECTLY "
+                         "TO THE PCL PRINTER ON LPT1"}));
     }
 }
 

@@ -2,8 +2,6 @@
 // plotter units.
 #pragma once
 
-#include <string>
-
 #include "engine/output/hpgl.h"
 #include "support/rendertest.h"
 #include "support/scriptedsink.h"
@@ -22,5 +20,11 @@ protected:
     static int CountOf(const std::string& statement);
     static bool HasText(const std::string& text); // as a label
 };
+
+// The statement that moves the pen, up ("PU") or down ("PD"), to the unit next to that place.
+std::string Move(const char* word, double x, double y);
+
+// Those of the ruler of a plate whose corner is there, and so far across its line's end and unit.
+Calls RulerStatements(int corner, int lastMm, int lineEnd, int unitAt);
 
 } // namespace vernacle::test

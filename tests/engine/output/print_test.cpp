@@ -1,8 +1,6 @@
 #include "engine/output/print.h"
 
 #include <cmath>
-#include <string>
-#include <vector>
 
 #include "support/rendertest.h"
 
@@ -99,7 +97,7 @@ constexpr const char* kFooter = R"(
 )";
 
 TEST_F(PrintTest, PageOfAOneTicPlate) {
-    EXPECT_TRUE(PrintPlate(Design, surface));
+    EXPECT_TRUE(Print());
     const double t = kPaper.T(0.25);
     const double x = kPaper.X(t, 4);
     const double y = kPaper.Y(t, 4);
@@ -122,14 +120,14 @@ TEST_F(PrintTest, PageOfAOneTicPlate) {
 TEST_F(PrintTest, PageWithoutText) {
     Design.PrintText = "N";
     Design.PrintTicsAndArcs[1] = std::int16_t{1};
-    EXPECT_TRUE(PrintPlate(Design, surface));
+    EXPECT_TRUE(Print());
     EXPECT_TRUE(SameCalls(surface.calls, LinesOf(kMarks) + Calls{"SetFontName [Arial]"} +
                                              RulerCalls(10) + LinesOf(kFooter)));
 }
 
 TEST_F(PrintTest, CircularPlatesGetTheirOutline) {
     Design.PlateOutlineCircular = 1;
-    PrintPlate(Design, surface);
+    Print();
     Calls outline = {"Dot 5717.11 4000 0"}; // round: the unit across counts both ways
     double fromX = 6000 - 282.89;
     double fromY = 4000;
@@ -147,25 +145,19 @@ TEST_F(PrintTest, CircularPlatesGetTheirOutline) {
 
 TEST_F(PrintTest, QuadrantPlatesHaveNoHoles) {
     Design.PlateStyle = 1;
-    PrintPlate(Design, surface);
+    Print();
     EXPECT_EQ(surface.Count("Circle"), 1U);
 }
 
-struct FactorRow {
-    float before;
-    float held;
-};
-
 TEST_F(PrintTest, CalibrationIsHeldBeforeUseAndStaysSo) {
-    const FactorRow rows[] = {{0, 0.5F}, {-1, 0.5F}, {0.75F, 0.75F}, {1.3F, 1.3F}, {5, 2}};
-    for (const FactorRow& row : rows) {
-        Design.CalibrationX = row.before;
-        Design.CalibrationY = row.before;
-        surface = RecordingSurface();
-        PrintPlate(Design, surface);
-        EXPECT_EQ(Design.CalibrationX, row.held);
-        EXPECT_EQ(Design.CalibrationY, row.held);
-        const double half = 282.89 * double{row.held};
+    constexpr std::pair<float, float> kRows[] = {
+        {0, 0.5F}, {-1, 0.5F}, {0.75F, 0.75F}, {1.3F, 1.3F}, {5, 2}};
+    for (const auto& [before, held] : kRows) {
+        Design.CalibrationX = Design.CalibrationY = before;
+        Print();
+        EXPECT_EQ(Design.CalibrationX, held);
+        EXPECT_EQ(Design.CalibrationY, held);
+        const double half = 282.89 * double{held};
         EXPECT_TRUE(
             SameCalls({At(surface.calls, 1)}, Calls{Call("FilledBox", 5950 - half, 3950 - half / 2,
                                                          6050 + half, 4050 + half / 2, "e0e0e0")}));
@@ -176,34 +168,29 @@ TEST_F(PrintTest, CalibrationIsHeldEvenIfThePrinterDoesNotStart) {
     Design.CalibrationX = 0;
     Design.CalibrationY = 9;
     surface.failCall = "StartSheet";
-    EXPECT_FALSE(PrintPlate(Design, surface));
+    EXPECT_FALSE(Print());
     EXPECT_EQ(Design.CalibrationX, 0.5F);
     EXPECT_EQ(Design.CalibrationY, 2);
 }
 
-struct PenRow {
-    float arcWidth;
-    const char* width;
-};
-
 TEST_F(PrintTest, ArcsHaveTheirOwnPen) {
-    const PenRow rows[] = {{0.5F, "2"}, {1, "3"}, {2, "6"}, {2.7F, "7"}, {3, "8"}, {10, "25"}};
+    constexpr std::pair<float, const char*> kRows[] = {{0.5F, "2"}, {1, "3"}, {2, "6"},
+                                                       {2.7F, "7"}, {3, "8"}, {10, "25"}};
     Design.DrawArcs = "Y";
-    for (const PenRow& row : rows) {
-        Design.ArcWidth = row.arcWidth;
-        surface = RecordingSurface();
-        PrintPlate(Design, surface);
+    for (const auto& [arcWidth, pixels] : kRows) {
+        Design.ArcWidth = arcWidth;
+        Print();
         const Calls pens = surface.CallsOf("SetLineWidth"); // marks, tic, arc
         ASSERT_GE(pens.size(), 5U);
         EXPECT_EQ(At(pens, 3), "SetLineWidth 3"); // 4 x 0.7 + 0.5
-        EXPECT_EQ(At(pens, 4), std::string("SetLineWidth ") + row.width);
+        EXPECT_EQ(At(pens, 4), std::string("SetLineWidth ") + pixels);
     }
 }
 
 TEST_F(PrintTest, ArcsAreChordsInTheScalesColour) {
     Design.DrawArcs = "Y";
     Design.ScaleColor[1] = 0x123456;
-    PrintPlate(Design, surface);
+    Print();
     Calls lines = surface.CallsOf("Line");
     std::erase_if(lines, [](const std::string& line) { return !line.ends_with(" 123456"); });
     ASSERT_EQ(lines.size(), 102U); // a tic, a dot and 100 chords
@@ -214,9 +201,7 @@ TEST_F(PrintTest, ArcsAreChordsInTheScalesColour) {
 }
 
 TEST_F(PrintTest, TicsFollowFlagsCorrectionAndScales) {
-    for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 0.5F; // below 0.15 a fraction is halved
-    }
+    Design.CorrectionSlope.fill(0.5F); // below 0.15 a fraction is halved
     Design.NumberOfScales = 3;
     GiveTics(1, 10);
     for (int tic = 0; tic <= 10; ++tic) {
@@ -226,7 +211,7 @@ TEST_F(PrintTest, TicsFollowFlagsCorrectionAndScales) {
     Design.TicDeflection[2][0] = 0.1F;
     Design.ScaleColor[2] = -0x00FF00;
     Design.PrintTicsAndArcs[3] = std::int16_t{1};
-    PrintPlate(Design, surface);
+    Print();
     const Calls lines = surface.CallsOf("Line");
     const double t = kPaper.T(0.05);
     const auto tic = [&](double mm, const char* colour) {
@@ -239,19 +224,14 @@ TEST_F(PrintTest, TicsFollowFlagsCorrectionAndScales) {
     EXPECT_EQ(Design.ScaleColor[2], -0x00FF00);
 }
 
-struct RulerRow {
-    float plateWidth;
-    int lastMm;
-};
-
 TEST_F(PrintTest, RulerIsAsLongAsThePlateUpTo180) {
-    const RulerRow rows[] = {{250, 180}, {180, 180}, {75, 75}, {100.5F, 100}, {99.6F, 99}};
-    for (const RulerRow& row : rows) {
-        SCOPED_TRACE(row.plateWidth);
-        Design.PlateWidth = row.plateWidth;
-        surface = RecordingSurface();
-        PrintPlate(Design, surface);
-        const Calls expected = RulerCalls(row.lastMm);
+    constexpr std::pair<float, int> kRows[] = {
+        {250, 180}, {180, 180}, {75, 75}, {100.5F, 100}, {99.6F, 99}};
+    for (const auto& [plateWidth, lastMm] : kRows) {
+        SCOPED_TRACE(plateWidth);
+        Design.PlateWidth = plateWidth;
+        Print();
+        const Calls expected = RulerCalls(lastMm);
         const std::size_t count = expected.size() + 1; // a width is set anew
         const Calls ruler = Slice(Tail(surface.calls, count + 14), 0, count);
         EXPECT_TRUE(SameCalls(ruler, expected));
@@ -261,21 +241,20 @@ TEST_F(PrintTest, RulerIsAsLongAsThePlateUpTo180) {
 TEST_F(PrintTest, PlateLargerThanThePageIsNotScaledDown) {
     Design.PlateWidth = 300;
     Design.PlateHeight = 200;
-    PrintPlate(Design, surface);
+    Print();
     EXPECT_TRUE(
         SameCalls({At(surface.calls, 1)}, "FilledBox -2536.7 -7365.6 14536.7 15365.6 e0e0e0"));
 }
 
 TEST_F(PrintTest, StagesInReserveAreNotPrinted) {
-    PrintPlate(Design, surface);
+    Print();
     const Calls bare = surface.calls;
     Design.TextString[1] = "free";
     Design.HighlightStart[1] = 1;
     Design.HighlightStop[1] = 90;
     Design.DrawGraphic = "Y";
     Drawing.GridShown = Drawing.PointerShown = 1;
-    surface = RecordingSurface();
-    PrintPlate(Design, surface);
+    Print();
     EXPECT_EQ(surface.calls, bare);
 }
 
@@ -285,29 +264,29 @@ TEST_F(PrintTest, TwoPrintsAreEqual) {
         Design.NumberOfScales = 3;
         Design.RelativeFontSize[1] = 2;
         Design.RelativeFontSize[3] = 0.5F;
-        surface = RecordingSurface();
-        PrintPlate(Design, surface);
+        Print();
         const Calls first = surface.calls;
         EXPECT_EQ(Design.FontSize, 3);
         EXPECT_EQ(Design.LabelSpacing, 0.5F);
-        surface = RecordingSurface();
-        PrintPlate(Design, surface);
+        Print();
         EXPECT_EQ(surface.calls, first);
     }
 }
 
-struct FailingRow {
-    int marker;
-    int calls;
-};
+// What the printer's trouble at that marker is told as.
+Texts TroubleAt(int marker) {
+    return {"failure: We had a problem driving the printer.\n\nPrintScaleErrorHandler 1026 " +
+            std::to_string(marker)};
+}
 
 TEST_F(PrintTest, FailureAtAnyCallEndsTheDocumentAndIsReportedWithoutASound) {
     Design.DrawArcs = "Y";
     Design.RelativeFontSize[1] = 2;
-    PrintPlate(Design, surface);
+    Print();
     const int count = static_cast<int>(surface.calls.size());
     const int rulerAndFooter = count - (2 + 9 + 13 + 6) - 2 - 103 - 4 - 3 - 6 - 1;
-    const FailingRow rows[] = {
+    // The markers, and how many calls are made at each.
+    const std::pair<int, int> rows[] = {
         {265, 2 + 9 + 13 + 6}, // page and background, trim marks, holes, bearings
         {425, 2},              // the tic
         {483, 103},            // the arc between its widths
@@ -318,17 +297,14 @@ TEST_F(PrintTest, FailureAtAnyCallEndsTheDocumentAndIsReportedWithoutASound) {
         {675, 1},              // the document's end
     };
     int call = 0;
-    for (const FailingRow& row : rows) {
-        for (int last = call + row.calls; call < last;) {
+    for (const auto& [marker, calls] : rows) {
+        for (const int last = call + calls; call < last;) {
             ++call;
-            surface = RecordingSurface();
             surface.failAt = call;
             said.clear();
-            EXPECT_FALSE(PrintPlate(Design, surface));
-            const std::vector<std::string> message = {
-                "failure: We had a problem driving the printer.\n\nPrintScaleErrorHandler 1026 " +
-                std::to_string(row.marker)};
-            EXPECT_EQ(said, message) << call << " " << At(surface.calls, surface.calls.size() - 2);
+            EXPECT_FALSE(Print());
+            EXPECT_EQ(said, TroubleAt(marker))
+                << call << " " << At(surface.calls, surface.calls.size() - 2);
             EXPECT_EQ(static_cast<int>(surface.calls.size()), call + 1);
             EXPECT_EQ(Last(surface.calls), "EndDoc");
             EXPECT_EQ(Design.FontSize, 3);
@@ -340,9 +316,8 @@ TEST_F(PrintTest, FailureAtAnyCallEndsTheDocumentAndIsReportedWithoutASound) {
 
 TEST_F(PrintTest, DocumentThatCannotBeEndedIsReportedOnce) {
     surface.failCall = "EndDoc";
-    EXPECT_FALSE(PrintPlate(Design, surface));
-    EXPECT_EQ(said, (std::vector<std::string>{"failure: We had a problem driving the printer.\n\n"
-                                              "PrintScaleErrorHandler 1026 675"}));
+    EXPECT_FALSE(Print());
+    EXPECT_EQ(said, TroubleAt(675));
 }
 
 struct SpecialRow {
@@ -360,12 +335,9 @@ TEST_F(PrintTest, RadiusOfZeroIsReported) {
             GiveSpecialTics(1, 0);
         }
         Design.PrintTicsAndArcs[1] = row.printTicsAndArcs;
-        surface = RecordingSurface();
         said.clear();
-        EXPECT_FALSE(PrintPlate(Design, surface));
-        EXPECT_EQ(said, (std::vector<std::string>{"failure: We had a problem driving the printer."
-                                                  "\n\nPrintScaleErrorHandler 1026 " +
-                                                  std::to_string(row.marker)}));
+        EXPECT_FALSE(Print());
+        EXPECT_EQ(said, TroubleAt(row.marker));
         EXPECT_EQ(Last(surface.calls), "EndDoc");
     }
 }

@@ -1,8 +1,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <string>
-#include <vector>
 
 #include "engine/output/print.h"
 #include "support/rendertest.h"
@@ -60,8 +58,7 @@ TEST_F(PrintLabelsTest, UprightLabelsAreCentredOnTheirAnchor) {
         Design.StandardLabel[row.scale][0] = row.text;
         Design.StandardDeflection[row.scale][0] = row.deflection;
         Design.RelativeFontSize[row.scale] = row.relative;
-        surface = RecordingSurface();
-        PrintPlate(Design, surface);
+        Print();
         const double t = kPaper.T(double{row.deflection});
         const double out = row.scale % 2 == 0 ? -0.5 : 0.5;
         const double gap = 2 * out * double{row.relative};
@@ -81,7 +78,7 @@ TEST_F(PrintLabelsTest, UprightLabelsAreCentredOnTheirAnchor) {
 // not a ten-millionth beside it where cutting would lose a whole unit.
 TEST_F(PrintLabelsTest, UprightLabelAtMidScaleStandsOnTheCentreLine) {
     Design.StandardDeflection[1][0] = 0.5F;
-    PrintPlate(Design, surface);
+    Print();
     EXPECT_EQ(At(surface.CallsOf("SetCurrentX"), 0), "SetCurrentX 5991"); // half of 18 units
 }
 
@@ -153,9 +150,7 @@ TEST_F(PrintLabelsTest, TurnedLabelsArePlacedInPixels) {
 
 TEST_F(PrintLabelsTest, TurnedLabelsAreCorrected) {
     const TurnedRow row = {"corrected", "B", 1, false, 0.05F, 1};
-    for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 0.5F;
-    }
+    Design.CorrectionSlope.fill(0.5F);
     Design.LabelRotation = "B";
     Design.StandardLabel[1][0] = "12";
     Design.StandardDeflection[1][0] = 0.1F;
@@ -164,21 +159,16 @@ TEST_F(PrintLabelsTest, TurnedLabelsAreCorrected) {
     EXPECT_TRUE(SameCalls(LabelCalls(printer, 4), TurnedCalls(row, kPaper)));
 }
 
-struct TextRow {
-    const char* label;
-    const char* printed;
-};
-
 TEST_F(PrintLabelsTest, LoneSlashIsABlank) {
-    const TextRow rows[] = {{"/", " "}, {" / ", " "}, {"1/2", "1/2"}, {"//", "//"}, {"1,5", "1.5"}};
+    constexpr std::pair<const char*, const char*> kRows[] = {
+        {"/", " "}, {" / ", " "}, {"1/2", "1/2"}, {"//", "//"}, {"1,5", "1.5"}};
     for (const char* rotation : {"H", "B", "V"}) {
-        for (const TextRow& row : rows) {
+        for (const auto& [label, printed] : kRows) {
             Design.LabelRotation = rotation;
-            Design.StandardLabel[1][0] = row.label;
-            surface = RecordingSurface();
-            PrintPlate(Design, surface);
+            Design.StandardLabel[1][0] = label;
+            Print();
             const bool turned = *rotation != 'H';
-            EXPECT_EQ(At(surface.texts, turned ? 1 : 0), row.printed) << rotation << row.label;
+            EXPECT_EQ(At(surface.texts, turned ? 1 : 0), printed) << rotation << label;
             EXPECT_EQ(surface.Count("TextOutA"), turned ? 1U : 0U);
         }
     }
@@ -193,7 +183,7 @@ TEST_F(PrintLabelsTest, DeletedLabelsStayDeletedAndColoursAreKept) {
     GiveSpecialTics(2, 2);
     Design.TicLabelYN[2][1] = "N";
     Design.ScaleColor[2] = -0x00FF00;
-    PrintPlate(Design, surface);
+    Print();
     EXPECT_EQ(Slice(surface.texts, 0, 7), (Calls{"0", "1", "3", "s0", "s2", "mA", "mA"}));
     EXPECT_EQ(surface.CallsOf("SetForeColor"),
               (Calls{"SetForeColor ff", "SetForeColor ff00", "SetForeColor ff", "SetForeColor ff00",
@@ -207,7 +197,7 @@ TEST_F(PrintLabelsTest, DeletedLabelsStayDeletedAndColoursAreKept) {
 TEST_F(PrintLabelsTest, SizesNotAboveZeroBecomeOne) {
     Design.PrintTicsAndArcs[1] = std::int16_t{1}; // so that the tics do not see to it
     Design.RelativeFontSize[1] = -2;
-    PrintPlate(Design, surface);
+    Print();
     EXPECT_EQ(At(surface.CallsOf("SetFontSize"), 0), "SetFontSize 3");
     EXPECT_EQ(Design.RelativeFontSize[1], 1);
 }
@@ -215,7 +205,7 @@ TEST_F(PrintLabelsTest, SizesNotAboveZeroBecomeOne) {
 TEST_F(PrintLabelsTest, FontHasTheNameOfTheDesign) {
     Design.FontName = " Courier New ";
     Design.LabelRotation = "B";
-    PrintPlate(Design, surface);
+    Print();
     EXPECT_EQ(Last(surface.CallsOf("SetFontName")), "SetFontName [ Courier New ]");
     EXPECT_EQ(Last(surface.CallsOf("BeginFont")), "BeginFont -25 0 225 [Courier New]");
 }
@@ -249,8 +239,7 @@ TEST_F(PrintLabelsTest, TitlesAreHeldOnThePage) {
         Design.PlateStyle = row.plateStyle;
         Design.BottomToTitle[1] = row.bottomToTitle;
         Design.ScaleTitle[1] = std::string(row.length, 'x');
-        surface = RecordingSurface();
-        PrintPlate(Design, surface);
+        Print();
         // The first position is the label's, the second the title's.
         EXPECT_EQ(At(surface.CallsOf("SetCurrentX"), 1), Call("SetCurrentX", row.x)) << row.name;
         EXPECT_EQ(At(surface.CallsOf("SetCurrentY"), 1), Call("SetCurrentY", row.y)) << row.name;
@@ -261,7 +250,7 @@ TEST_F(PrintLabelsTest, QuadrantTitlesGoByTheScalesNumber) {
     Design.PlateStyle = 1;
     Design.NumberOfScales = 5;
     Design.RelativeFontSize[5] = 2;
-    PrintPlate(Design, surface);
+    Print();
     const Calls all = surface.CallsOf("SetCurrentX");
     const Calls titles = Slice(all, 5, 5);
     // 6000 less 0.8, 0.4, 0.4 and 0.2 of 282.89; then 6000 - 72 x 28.289 x 0.018

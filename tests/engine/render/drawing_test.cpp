@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <string>
 
 #include "engine/base/runtimeerror.h"
 #include "support/rendertest.h"
@@ -173,7 +172,7 @@ struct PageRow {
     bool ruler;
     bool onTheLeft;
     bool ticsInColour;
-    std::vector<std::string> texts; // behind the ruler's, with labels 1 "N", 2 "" and tic 1 deleted
+    Texts texts; // behind the ruler's, with labels 1 "N", 2 "" and tic 1 deleted
     std::size_t tics;
 };
 
@@ -194,7 +193,6 @@ TEST_F(DrawingTest, PagesDifferInTheirTraits) {
         Design.StandardLabelYN[1][1] = "N";
         Design.StandardLabelYN[1][2] = "";
         Design.PlateStyle = 1;
-        surface = RecordingSurface();
         Draw(row.traits);
         // The ruler writes two numbers and its unit.
         const Calls texts = Slice(surface.texts, row.ruler ? 3 : 0, surface.texts.size());
@@ -213,9 +211,7 @@ TEST_F(DrawingTest, PagesDifferInTheirTraits) {
 }
 
 TEST_F(DrawingTest, CorrectionIsAppliedButByTheWizard) {
-    for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 0.5F; // below 0.15 a fraction is halved
-    }
+    Design.CorrectionSlope.fill(0.5F); // below 0.15 a fraction is halved
     const std::map<bool, std::vector<DrawingTraits>> pages = {
         {true, {PreviewTraits(), ScalesTraits(), TextTraits(), HighlightsTraits()}},
         {false, {WizardTraits()}},
@@ -228,8 +224,7 @@ TEST_F(DrawingTest, CorrectionIsAppliedButByTheWizard) {
             const double k = page.extent / 10;
             const Reference at{k * 0.5, k, page.centre.x, page.centre.y};
             const double t = at.T(corrected ? 0.05 : 0.1);
-            EXPECT_NEAR(Drawing.LastArcPoint.x, at.X(t, 4), 0.002) << page.extent;
-            EXPECT_NEAR(Drawing.LastArcPoint.y, at.Y(t, 4), 0.002) << page.extent;
+            EXPECT_TRUE(IsAt(Drawing.LastArcPoint, at.X(t, 4), at.Y(t, 4), 0.002)) << page.extent;
         }
     }
     EXPECT_EQ(Design.StandardDeflection[1][0], 0.1F); // the table stays uncorrected
@@ -342,26 +337,18 @@ TEST_F(DrawingTest, StagesInReserveDoNotShow) {
     GiveTics(1, 2);
     for (const DrawingTraits& traits :
          {PreviewTraits(), ScalesTraits(), TextTraits(), HighlightsTraits(), WizardTraits()}) {
-        Design.TextString[1] = "";
-        Design.HighlightStop[1] = 0;
-        Design.DrawGraphic = "N";
-        Design.PlateOutlineCircular = 0;
-        Drawing.GridShown = Drawing.PointerShown = 0;
-        Design.ScaleColor[1] = 0xFF;
-        surface = RecordingSurface();
-        Draw(traits);
-        const Calls bare = surface.calls;
-
-        Design.TextString[1] = "free";
-        Design.HighlightStart[1] = 1;
-        Design.HighlightStop[1] = 90;
-        Design.DrawGraphic = "Y";
-        Design.PlateOutlineCircular = 1;
-        Drawing.GridShown = Drawing.PointerShown = 1;
-        Design.ScaleColor[1] = 0xFF;
-        surface = RecordingSurface();
-        Draw(traits);
-        EXPECT_EQ(surface.calls, bare);
+        const auto drawn = [&](bool given) {
+            Design.TextString[1] = given ? "free" : "";
+            Design.HighlightStart[1] = given ? 1 : 0;
+            Design.HighlightStop[1] = given ? 90 : 0;
+            Design.DrawGraphic = given ? "Y" : "N";
+            Design.PlateOutlineCircular = given ? 1 : 0;
+            Drawing.GridShown = Drawing.PointerShown = given ? 1 : 0;
+            Design.ScaleColor[1] = 0xFF;
+            Draw(traits);
+            return surface.calls;
+        };
+        EXPECT_EQ(drawn(true), drawn(false));
     }
 }
 

@@ -1,7 +1,6 @@
 #include "engine/render/drawing.h"
 
 #include <algorithm>
-#include <string>
 
 #include "engine/base/runtimeerror.h"
 #include "support/rendertest.h"
@@ -51,7 +50,6 @@ TEST_F(DrawingFailureTest, RadiusOfZeroEndsTheDrawingWhereItStands) {
         for (int tic = 0; tic <= 2; ++tic) {
             Design.StandardTicYN[2][tic] = row.ticsDeleted ? "N" : "Y";
         }
-        surface = RecordingSurface();
         DrawingTraits traits = TextTraits();
         traits.preparation = Preparation::None;
         Draw(traits);
@@ -67,10 +65,9 @@ TEST_F(DrawingFailureTest, FailedTicLeavesThePointerAtTheLastOneDrawn) {
     Drawing.PointerLength = 77;
     Draw(PreviewTraits());
     const Reference at = PreviewReference();
-    EXPECT_NEAR(Drawing.LastArcPoint.x, at.X(at.T(1), 4), 0.002);
-    EXPECT_NEAR(Drawing.LastArcPoint.y, at.Y(at.T(1), 4), 0.002);
-    EXPECT_NEAR(Drawing.LastTicEnd.x, at.AlongX(at.T(1), 4, 0.3), 0.002);
-    EXPECT_NEAR(Drawing.LastTicEnd.y, at.AlongY(at.T(1), 4, 0.3), 0.002);
+    const double t = at.T(1);
+    EXPECT_TRUE(IsAt(Drawing.LastArcPoint, at.X(t, 4), at.Y(t, 4), 0.002));
+    EXPECT_TRUE(IsAt(Drawing.LastTicEnd, at.AlongX(t, 4, 0.3), at.AlongY(t, 4, 0.3), 0.002));
     EXPECT_EQ(Drawing.PointerLength, 77);
 }
 
@@ -112,7 +109,6 @@ TEST_F(DrawingFailureTest, FailureOfTheSurfaceEndsTheDrawingSilentlyAtAnyCall) {
     for (int call = 1; call <= count; ++call) {
         Design.ScaleColor[1] = 0xFF;
         Design.CurrentScale = 99;
-        surface = RecordingSurface();
         surface.failAt = call;
         Draw(PreviewTraits());
         EXPECT_EQ(static_cast<int>(surface.calls.size()), call);

@@ -47,29 +47,26 @@ TEST_F(DrawingFrameTest, AspectStretchesAcrossOnly) {
     EXPECT_NEAR(frame.Bottom() - frame.Top(), 3200, 0.001);
 }
 
-struct AspectRow {
-    float before;
-    float after;
-};
+using Aspects = std::pair<float, float>; // before and after
 
 TEST_F(DrawingFrameTest, AspectRatioIsHeldToWholeHundredths) {
-    const AspectRow rows[] = {
+    constexpr Aspects kRows[] = {
         {0.4F, 0.5F},   {0.5F, 0.5F},     {0.777F, 0.78F}, {0.774F, 0.77F}, {0.80F, 0.8F},
         {1.15F, 1.15F}, {1.1499F, 1.15F}, {1.2F, 1.15F},   {50, 1.15F},     {1, 1},
         {0, 0.5F},      {-0.7F, 0.5F},    {0.001F, 0.5F},  {0.505F, 0.51F}, {0.705F, 0.71F},
     };
-    for (const AspectRow& row : rows) {
-        Design.AspectRatio = row.before;
+    for (const auto& [before, after] : kRows) {
+        Design.AspectRatio = before;
         HoldAspectRatio(Design);
-        EXPECT_EQ(Design.AspectRatio, row.after) << row.before;
+        EXPECT_EQ(Design.AspectRatio, after) << before;
     }
 }
 
 TEST_F(DrawingFrameTest, AnAspectRatioThatWasNeverSetBecomes1) {
-    for (const AspectRow& row : {AspectRow{0, 1}, AspectRow{-0.7F, 1}, AspectRow{0.2F, 0.2F}}) {
-        Design.AspectRatio = row.before;
+    for (const auto& [before, after] : {Aspects{0, 1}, {-0.7F, 1}, {0.2F, 0.2F}}) {
+        Design.AspectRatio = before;
         RaiseAspectRatio(Design);
-        EXPECT_EQ(Design.AspectRatio, row.after) << row.before;
+        EXPECT_EQ(Design.AspectRatio, after) << before;
     }
 }
 

@@ -1,6 +1,5 @@
 #include <cmath>
 #include <numbers>
-#include <string>
 
 #include "support/rendertest.h"
 
@@ -65,7 +64,6 @@ protected:
         if (row.fit == Fit::Sampled) {
             traits.labelFitting = LabelFitting::Sampled;
         }
-        surface = RecordingSurface();
         DrawStages({FontStage, LabelsStage}, traits);
     }
 
@@ -161,7 +159,6 @@ TEST_F(LabelStagesTest, EscapementFollowsThePointerOrTheRadius) {
     for (const TurnRow& row : rows) {
         Design.LabelRotation = row.rotation;
         Design.StandardDeflection[1][0] = row.deflection;
-        surface = RecordingSurface();
         DrawStages({FontStage, LabelsStage});
         EXPECT_EQ(surface.CallsOf("BeginFont"),
                   (Calls{Call("BeginFont", 25, 21, row.escapement, "[Arial]")}))
@@ -170,9 +167,7 @@ TEST_F(LabelStagesTest, EscapementFollowsThePointerOrTheRadius) {
 }
 
 TEST_F(LabelStagesTest, LabelsAreCorrected) {
-    for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 0.5F;
-    }
+    Design.CorrectionSlope.fill(0.5F);
     Design.LabelRotation = "V";
     Design.StandardDeflection[1][0] = 0.1F;
     DrawStages({FontStage, LabelsStage}, TextTraits());
@@ -207,13 +202,12 @@ TEST_F(LabelStagesTest, ScalesAreWrittenUpwardInTheMagnitudeOfTheirColour) {
     Design.ScaleTitle[2] = "V";
     Design.ScaleTitle[3] = "";
     DrawStages({FontStage, LabelsStage}, TextTraits());
-    EXPECT_EQ(surface.texts, (std::vector<std::string>{"7", "s0", "7"}));
+    EXPECT_EQ(surface.texts, (Texts{"7", "s0", "7"}));
     EXPECT_EQ(Design.CurrentScale, 4);
     const Calls colours = {"SetForeColor 111111", "SetForeColor 222222", "SetForeColor 333333"};
     EXPECT_EQ(surface.CallsOf("SetForeColor"), colours);
-    surface = RecordingSurface();
     DrawStages({TitlesStage}, TextTraits());
-    EXPECT_EQ(surface.texts, (std::vector<std::string>{"mA", "V", ""}));
+    EXPECT_EQ(surface.texts, (Texts{"mA", "V", ""}));
     EXPECT_EQ(surface.CallsOf("SetForeColor"), colours);
     EXPECT_EQ(Design.CurrentScale, 4);
     EXPECT_EQ(Drawing.WhereMarker, 602);
@@ -274,7 +268,7 @@ public:
         RecordingSurface::BeginFont(height, width, escapement, face);
     }
 
-    std::vector<std::string> faces;
+    Texts faces;
 };
 
 TEST_F(LabelStagesTest, FacesAreTrimmedAndEndWithOneNul) {
@@ -282,7 +276,7 @@ TEST_F(LabelStagesTest, FacesAreTrimmedAndEndWithOneNul) {
     FaceSurface faceSurface;
     DrawPage(Design, faceSurface, PreviewTraits(), {3, 1}, Drawing);
     const std::string face("Courier New\0", 12);
-    EXPECT_EQ(faceSurface.faces, (std::vector<std::string>{face, face}));
+    EXPECT_EQ(faceSurface.faces, (Texts{face, face}));
     EXPECT_EQ(Drawing.LabelFontFace, face);
     EXPECT_EQ(FontFace(" Courier New  "), face);
 }
@@ -291,7 +285,6 @@ TEST_F(LabelStagesTest, FontStageNamesTheOrdinaryFont) {
     Design.FontName = "Courier New";
     DrawStages({FontStage}, WizardTraits());
     EXPECT_EQ(surface.calls, (Calls{"SetFontName [Arial]"})) << "the wizard's own";
-    surface = RecordingSurface();
     DrawStages({FontStage});
     EXPECT_EQ(surface.calls, (Calls{"SetFontName [Courier New]"}));
     EXPECT_EQ(Drawing.WhereMarker, 541);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 #include "support/rendertest.h"
 
@@ -118,23 +117,18 @@ TEST_F(OverlaysTest, PointerShowsItsPlacesAndLength) {
     )"));
 }
 
-struct LengthRow {
-    float length;
-    const char* text;
-};
-
 TEST_F(OverlaysTest, PointerLengthIsRoundedToATenth) {
-    const LengthRow rows[] = {
+    constexpr std::pair<float, const char*> kRows[] = {
         {0, "Pointer length: 0mm"},       {0.04F, "Pointer length: 0mm"},
         {0.06F, "Pointer length: .1mm"},  {2.36F, "Pointer length: 2.4mm"},
         {35.04F, "Pointer length: 35mm"}, {62.5F, "Pointer length: 62.5mm"},
         {0.25F, "Pointer length: .3mm"},  {123.456F, "Pointer length: 123.5mm"},
     };
-    for (const LengthRow& row : rows) {
+    for (const auto& [length, text] : kRows) {
         DrawingState state;
-        state.PointerLength = row.length;
+        state.PointerLength = length;
         DrawPointer(surface, Frame(), state);
-        EXPECT_EQ(Last(surface.texts), row.text);
+        EXPECT_EQ(Last(surface.texts), text);
     }
 }
 

@@ -1,5 +1,3 @@
-#include <string>
-
 #include "support/rendertest.h"
 
 namespace vernacle::test {
@@ -34,7 +32,6 @@ TEST_F(PlateStagesTest, OnlyStandardPlatesHaveHoles) {
     DrawStages({HolesStage});
     EXPECT_EQ(surface.Count("Circle"), 4U);
     EXPECT_EQ(surface.Count("Line"), 8U);
-    surface = RecordingSurface();
     Design.PlateStyle = 1;
     DrawStages({HolesStage});
     EXPECT_TRUE(surface.calls.empty());
@@ -67,42 +64,36 @@ TEST_F(PlateStagesTest, BearingsStandOnTheCentreLine) {
     )"));
 }
 
-struct RulerRow {
-    float plateWidth;
-    int length; // mm
-};
-
 TEST_F(PlateStagesTest, RulerIsAsLongAsThePlateUpTo180) {
     // The width is rounded to the nearest millimetre, halves to the even one.
-    const RulerRow rows[] = {
+    constexpr std::pair<float, int> kRows[] = {
         {250, 180},  {180.4F, 180}, {180, 180},    {179.4F, 179}, {179.6F, 180}, {75, 75},
         {74.5F, 74}, {75.5F, 76},   {100.5F, 100}, {9.4F, 9},     {0.4F, 0},
     };
-    for (const RulerRow& row : rows) {
-        SCOPED_TRACE(row.plateWidth);
-        Design.PlateWidth = row.plateWidth;
-        surface = RecordingSurface();
+    for (const auto& [plateWidth, lengthMm] : kRows) {
+        SCOPED_TRACE(plateWidth);
+        Design.PlateWidth = plateWidth;
         DrawStages({RulerStage});
         const Reference at = PreviewReference();
         const auto x = [&](int mm) { return at.Left() + 2 * at.across * mm; };
         const double y1 = at.Bottom() + 500;
         const double y2 = at.Bottom() + 600;
         Calls expected = {"SetForeColor ff0000", "SetFontSize 10", "SetLineWidth 1"};
-        for (int mm = 0; mm <= row.length; ++mm) {
+        for (int mm = 0; mm <= lengthMm; ++mm) {
             expected.push_back(Call("Line", x(mm), y1, x(mm), y2, "ff0000"));
         }
         expected.push_back("SetLineWidth 2");
-        for (int mm = 0; mm <= row.length; mm += 10) {
+        for (int mm = 0; mm <= lengthMm; mm += 10) {
             expected.push_back(Call("Line", x(mm), y1, x(mm), y2, "ff0000"));
         }
-        expected.push_back(Call("Line", at.Left(), y2, x(row.length), y2, "ff0000"));
+        expected.push_back(Call("Line", at.Left(), y2, x(lengthMm), y2, "ff0000"));
         expected.push_back("SetLineWidth 1");
-        for (int mm = 0; mm <= row.length; mm += 10) {
+        for (int mm = 0; mm <= lengthMm; mm += 10) {
             const int digits = mm < 10 ? 1 : mm < 100 ? 2 : 3;
             expected.push_back(Call("Dot", x(mm) - 45 * digits, y2 + 30, "ffffff"));
             expected.push_back(Call("PrintText", "[" + std::to_string(mm) + "]"));
         }
-        expected.push_back(Call("Dot", x(row.length / 10 * 10) + 180, y2 + 30, "ffffff"));
+        expected.push_back(Call("Dot", x(lengthMm / 10 * 10) + 180, y2 + 30, "ffffff"));
         expected.push_back("PrintText [mm]");
         expected.push_back("SetForeColor 0");
         EXPECT_TRUE(SameCalls(surface.calls, expected));

@@ -1,5 +1,4 @@
 #include <cmath>
-#include <string>
 
 #include "support/rendertest.h"
 
@@ -48,10 +47,8 @@ TEST_F(ReserveStagesTest, HighlightsOfAWholeScaleTakeFiveThousandSteps) {
 }
 
 TEST_F(ReserveStagesTest, HighlightEndsAreCorrectedAndWhatIsBetweenIsNot) {
-    for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 0.5F; // below 15 percent a fraction is halved
-    }
-    GiveHighlight(1, 10, 10.05F); // 0.05 to 0.05025
+    Design.CorrectionSlope.fill(0.5F); // below 15 percent a fraction is halved
+    GiveHighlight(1, 10, 10.05F);      // 0.05 to 0.05025
     DrawStages({HighlightsStage});
     EXPECT_TRUE(SameCalls(surface.CallsOf("Line"), Calls{HighlightLine(0.05, 3, 0.5, "ff01"),
                                                          HighlightLine(0.0502, 3, 0.5, "ff01")}));
@@ -130,7 +127,6 @@ TEST_F(ReserveStagesTest, OverlaysFollowTheirToggles) {
         Drawing.GridShown = row.grid;
         Drawing.PointerShown = row.pointer;
         Design.PlateOutlineCircular = row.circle;
-        surface = RecordingSurface();
         DrawStages({OverlaysStage});
         Calls kinds; // in order: the grid's first line, the pointer's width, the circle's start
         for (const std::string& call : surface.calls) {

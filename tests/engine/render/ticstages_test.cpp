@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 #include "support/rendertest.h"
 
@@ -20,29 +19,25 @@ protected:
     Calls Lines() const { return surface.CallsOf("Line"); }
 };
 
-struct WidthRow {
-    float tenths;
-    const char* width;
-};
+// Tenths of a millimetre, and the pixels they are drawn with.
+using Width = std::pair<float, const char*>;
 
 TEST_F(TicStagesTest, WidthsAreHeldAndTurnedIntoPixels) {
-    const WidthRow rows[] = {
+    constexpr Width kRows[] = {
         {-4, "1"}, {0, "1"},    {0.2F, "1"}, {1, "1"},   {1.5F, "1"},
         {2, "1"},  {2.2F, "2"}, {3, "2"},    {4, "3"},   {5, "4"},
         {10, "7"}, {19, "13"},  {20, "14"},  {21, "14"}, {500, "14"},
     };
     GiveTics(1, 1);
     Design.MajorEveryHowMany[1] = Design.LabelsEveryHowMany[1] = 2;
-    for (const WidthRow& row : rows) {
-        const std::string width = std::string("SetLineWidth ") + row.width;
-        surface = RecordingSurface();
-        Design.MajorTicWidth = row.tenths;
+    for (const auto& [tenths, pixels] : kRows) {
+        const std::string width = std::string("SetLineWidth ") + pixels;
+        Design.MajorTicWidth = tenths;
         Design.MinorTicWidth = 30;
         DrawStages({TicsStage});
         EXPECT_EQ(surface.CallsOf("SetLineWidth"), (Calls{width, "SetLineWidth 14"}));
-        surface = RecordingSurface();
         Design.MajorTicWidth = 30;
-        Design.MinorTicWidth = row.tenths;
+        Design.MinorTicWidth = tenths;
         DrawStages({TicsStage});
         EXPECT_EQ(surface.CallsOf("SetLineWidth"), (Calls{"SetLineWidth 14", width}));
     }
@@ -95,7 +90,6 @@ TEST_F(TicStagesTest, RelativeSizeScalesTheLengths) {
     DrawStages({TicsStage});
     EXPECT_TRUE(SameCalls(Lines(), Calls{TicLine(0.5, 4, 0.75)}));
     GiveSpecialTics(1, 1);
-    surface = RecordingSurface();
     DrawStages({TicsStage});
     EXPECT_TRUE(SameCalls(Lines(), Calls{TicLine(0, 4, 0.5), TicLine(1, 4, 0.5)}));
 }
@@ -113,13 +107,8 @@ TEST_F(TicStagesTest, RelativeSizeNotAboveZeroBecomesOne) {
     EXPECT_TRUE(SameCalls(Lines(), Calls{TicLine(0.5, 4, -0.3), TicLine(0.5, 4, 0.3)}));
 }
 
-struct SwitchRow {
-    DynamicValue value;
-    bool drawn;
-};
-
 TEST_F(TicStagesTest, TicsAndArcsNeedASwitchOfZero) {
-    const SwitchRow rows[] = {
+    const std::pair<DynamicValue, bool> rows[] = {
         {DynamicValue{}, true},
         {std::int16_t{0}, true},
         {std::int16_t{1}, false},
@@ -131,14 +120,12 @@ TEST_F(TicStagesTest, TicsAndArcsNeedASwitchOfZero) {
         {"anything", true},
     };
     Design.DrawArcs = "Y";
-    for (const SwitchRow& row : rows) {
-        Design.PrintTicsAndArcs[1] = row.value;
-        surface = RecordingSurface();
+    for (const auto& [value, drawn] : rows) {
+        Design.PrintTicsAndArcs[1] = value;
         DrawStages({TicsStage, ArcsStage});
-        EXPECT_EQ(Lines().size(), row.drawn ? 102U : 0U);
-        surface = RecordingSurface();
+        EXPECT_EQ(Lines().size(), drawn ? 102U : 0U);
         DrawStages({FontStage, LabelsStage, TitlesStage}); // these are written all the same
-        EXPECT_EQ(surface.texts, (std::vector<std::string>{"7", "mA"}));
+        EXPECT_EQ(surface.texts, (Texts{"7", "mA"}));
     }
 }
 
@@ -153,15 +140,12 @@ TEST_F(TicStagesTest, SpecialTicsReplaceTheStandardOnes) {
     ASSERT_EQ(Lines().size(), 2U);
     EXPECT_TRUE(At(Lines(), 0).ends_with(" ff")); // the magnitude of the colour
     EXPECT_EQ(Drawing.WhereMarker, 435);
-    surface = RecordingSurface();
     DrawStages({TicsStage});
     EXPECT_TRUE(SameCalls(Lines(), Calls{TicLine(0.5, 4, 0.3), TicLine(1, 4, 0.2)}));
 }
 
 TEST_F(TicStagesTest, SpecialTicsAreCorrectedToo) {
-    for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 0.5F;
-    }
+    Design.CorrectionSlope.fill(0.5F);
     GiveSpecialTics(1, 0);
     Design.TicDeflection[1][0] = 0.1F;
     DrawStages({TicsStage});
@@ -196,9 +180,7 @@ TEST_F(TicStagesTest, PointerLengthWithoutTicsComesFromWhatWasLeft) {
 }
 
 TEST_F(TicStagesTest, ArcsAreChordsBetweenTheEndDeflections) {
-    for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 0.5F; // no matter for an arc
-    }
+    Design.CorrectionSlope.fill(0.5F); // no matter for an arc
     Design.DrawArcs = "Y";
     Design.NumberOfScales = 2;
     Design.BottomToScaleCeiling[2] = 3;
@@ -218,15 +200,14 @@ TEST_F(TicStagesTest, ArcsAreChordsBetweenTheEndDeflections) {
 }
 
 TEST_F(TicStagesTest, ArcWidthIsRounded) {
-    const WidthRow rows[] = {{0.5F, "1"}, {1, "1"}, {1.4F, "1"},
-                             {1.5F, "2"}, {3, "3"}, {3.7F, "4"}};
+    constexpr Width kRows[] = {{0.5F, "1"}, {1, "1"}, {1.4F, "1"},
+                               {1.5F, "2"}, {3, "3"}, {3.7F, "4"}};
     Design.DrawArcs = "Y";
-    for (const WidthRow& row : rows) {
-        Design.ArcWidth = row.tenths;
-        surface = RecordingSurface();
+    for (const auto& [tenths, pixels] : kRows) {
+        Design.ArcWidth = tenths;
         DrawStages({ArcsStage});
         EXPECT_EQ(surface.CallsOf("SetLineWidth"),
-                  (Calls{std::string("SetLineWidth ") + row.width, "SetLineWidth 1"}));
+                  (Calls{std::string("SetLineWidth ") + pixels, "SetLineWidth 1"}));
         EXPECT_EQ(Last(surface.calls), "SetLineWidth 1");
     }
 }
@@ -246,7 +227,6 @@ TEST_F(TicStagesTest, ArcsTakeTheColourByThePage) {
     for (const std::string& line : Lines()) {
         EXPECT_TRUE(line.ends_with(" 123456")) << line;
     }
-    surface = RecordingSurface();
     DrawStages({ArcsStage}, PreviewTraits());
     for (const std::string& line : Lines()) {
         EXPECT_TRUE(line.ends_with(" 0")) << line;
