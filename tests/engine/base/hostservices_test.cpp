@@ -12,7 +12,7 @@ class HostServicesTest : public EngineTest {};
 
 TEST_F(HostServicesTest, AFailureBeepsAndThenShowsItsText) {
     ReportFailure("It went wrong");
-    EXPECT_EQ(said, (std::vector<std::string>{"beep", "failure: It went wrong"}));
+    EXPECT_EQ(said, (Texts{"beep", "failure: It went wrong"}));
 }
 
 TEST_F(HostServicesTest, TheDefaultHostUsesPlainFiles) {

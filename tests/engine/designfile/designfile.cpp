@@ -76,7 +76,7 @@ DesignFile::DesignFile()
             "Scale 1: 0",
             ""} {}
 
-std::vector<std::string>::iterator DesignFile::Find(const std::string& label, int occurrence) {
+Texts::iterator DesignFile::Find(const std::string& label, int occurrence) {
     for (auto line = lines.begin(); line != lines.end(); ++line) {
         if (line->starts_with(label) && --occurrence == 0) {
             return line;
@@ -90,18 +90,18 @@ DesignFile& DesignFile::Set(const std::string& label, const std::string& value, 
     return *this;
 }
 
-DesignFile& DesignFile::AddBehind(const std::string& label, const std::vector<std::string>& added) {
+DesignFile& DesignFile::AddBehind(const std::string& label, const Texts& added) {
     lines.insert(Find(label) + 1, added.begin(), added.end());
     return *this;
 }
 
-DesignFile& DesignFile::AddBefore(const std::string& label, const std::vector<std::string>& added) {
+DesignFile& DesignFile::AddBefore(const std::string& label, const Texts& added) {
     lines.insert(Find(label), added.begin(), added.end());
     return *this;
 }
 
 DesignFile& DesignFile::Replace(const std::string& first, const std::string& behind,
-                                const std::vector<std::string>& by) {
+                                const Texts& by) {
     lines.erase(Find(first), Find(behind));
     return AddBefore(behind, by);
 }
@@ -115,7 +115,7 @@ std::string DesignFile::Text(const std::string& lineEnd) const {
     return Joined(lines, lineEnd);
 }
 
-std::vector<std::string> StandardScaleBlock(const std::string& title) {
+Texts StandardScaleBlock(const std::string& title) {
     return {"Scale color: 0",
             "Scale left end (units): 0",
             "Scale length (units): 50",
@@ -128,14 +128,13 @@ std::vector<std::string> StandardScaleBlock(const std::string& title) {
             "Linearity exponent: 1"};
 }
 
-std::vector<std::string> SpecialScaleBlock(const std::vector<std::string>& tics) {
-    std::vector<std::string> block = {"Scale color: -255",
-                                      "Bottom to scale title: 20",
-                                      "Bottom to scale ceiling: 25",
-                                      "Scale title:Special",
-                                      "Number of ticmarks: " +
-                                          std::to_string(static_cast<int>(tics.size()) - 1),
-                                      "* Deflection, Label Y/N, Tic Y/N, Major Y/N, Label:"};
+Texts SpecialScaleBlock(const Texts& tics) {
+    Texts block = {"Scale color: -255",
+                   "Bottom to scale title: 20",
+                   "Bottom to scale ceiling: 25",
+                   "Scale title:Special",
+                   "Number of ticmarks: " + std::to_string(static_cast<int>(tics.size()) - 1),
+                   "* Deflection, Label Y/N, Tic Y/N, Major Y/N, Label:"};
     block.insert(block.end(), tics.begin(), tics.end());
     for (const char* line : {"Unlabelled ticmark at scale bottom Y/N: N", "Scale exponent: 2",
                              "Fullscale multiplier: 10"}) {
@@ -144,7 +143,7 @@ std::vector<std::string> SpecialScaleBlock(const std::vector<std::string>& tics)
     return block;
 }
 
-std::string Joined(const std::vector<std::string>& lines, const std::string& lineEnd) {
+std::string Joined(const Texts& lines, const std::string& lineEnd) {
     std::string text;
     for (const std::string& line : lines) {
         text += line + lineEnd;

@@ -17,31 +17,30 @@ public:
     // Replaces what follows the label on its line.
     DesignFile& Set(const std::string& label, const std::string& value, int occurrence = 1);
     // Adds lines behind that line, or before it.
-    DesignFile& AddBehind(const std::string& label, const std::vector<std::string>& added);
-    DesignFile& AddBefore(const std::string& label, const std::vector<std::string>& added);
+    DesignFile& AddBehind(const std::string& label, const Texts& added);
+    DesignFile& AddBefore(const std::string& label, const Texts& added);
     // Makes the lines from one label's to just before the other's these.
-    DesignFile& Replace(const std::string& first, const std::string& behind,
-                        const std::vector<std::string>& by);
+    DesignFile& Replace(const std::string& first, const std::string& behind, const Texts& by);
     // Ends the file behind that line.
     DesignFile& CutBehind(const std::string& label, int occurrence = 1);
 
     // All lines, each with its end.
     std::string Text(const std::string& lineEnd = "\r\n") const;
 
-    std::vector<std::string> lines;
+    Texts lines;
 
 private:
-    std::vector<std::string>::iterator Find(const std::string& label, int occurrence = 1);
+    Texts::iterator Find(const std::string& label, int occurrence = 1);
 };
 
 // The block of a standard scale, with that title.
-std::vector<std::string> StandardScaleBlock(const std::string& title);
+Texts StandardScaleBlock(const std::string& title);
 
 // The block of a special scale with these tic lines.
-std::vector<std::string> SpecialScaleBlock(const std::vector<std::string>& tics);
+Texts SpecialScaleBlock(const Texts& tics);
 
 // Line after line with its end.
-std::string Joined(const std::vector<std::string>& lines, const std::string& lineEnd = "\r\n");
+std::string Joined(const Texts& lines, const std::string& lineEnd = "\r\n");
 
 // What is said of a file that cannot be written, and of one that cannot be read, less the stage.
 inline const Texts kNotWritten = {

@@ -10,7 +10,7 @@ namespace {
 
 class LineDoubtsTest : public DesignFileTest {
 protected:
-    using Reports = std::vector<std::string>;
+    using Reports = Texts;
 
     // "line: reason" of each doubt; failures begin with "failed at ".
     static Reports ReportsOn(const std::string& text) {

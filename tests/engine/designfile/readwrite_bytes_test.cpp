@@ -198,7 +198,7 @@ TEST_F(WrittenDesignTest, EveryScaleHasItsBlockAndItsLinesOfTheTail) {
     Design.PrintTicsAndArcs[3] = std::string("rubbish");
     DesignFile expected;
     expected.Set("Filename: ", Path("plate.vrn")).Set("Number of scales: ", "3");
-    std::vector<std::string> third = StandardScaleBlock("Default Scale 3");
+    Texts third = StandardScaleBlock("Default Scale 3");
     third[3] = "Bottom to title: 40";
     third[4] = "Bottom to scale ceiling: 45";
     expected.AddBehind("Linearity exponent: ", third);

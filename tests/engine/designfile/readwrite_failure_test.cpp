@@ -22,21 +22,18 @@ protected:
     }
 };
 
-std::vector<std::string> Blocks(int count, const std::vector<std::string>& block) {
-    std::vector<std::string> lines;
+Texts Blocks(int count, const Texts& block) {
+    Texts lines;
     for (int i = 0; i < count; ++i) {
         lines.insert(lines.end(), block.begin(), block.end());
     }
     return lines;
 }
 
-const std::vector<std::string> kTextBlock = {"Text:t", "Left: 0", "Bottom: 0", "Size: 1",
-                                             "Color: 0"};
-const std::vector<std::string> kHighlightBlock = {"Starting: 0", "Stopping: 0", "Ceiling: 0",
-                                                  "Length: 0", "Color: 0"};
+const Texts kTextBlock = {"Text:t", "Left: 0", "Bottom: 0", "Size: 1", "Color: 0"};
+const Texts kHighlightBlock = {"Starting: 0", "Stopping: 0", "Ceiling: 0", "Length: 0", "Color: 0"};
 
-std::vector<std::string> With(std::vector<std::string> block, std::size_t line,
-                              const std::string& text) {
+Texts With(Texts block, std::size_t line, const std::string& text) {
     block[line] = text;
     return block;
 }
@@ -148,8 +145,8 @@ TEST_F(ReadFailureTest, DeletionsOutsideTheTable) {
     }
 }
 
-std::vector<std::string> Numbered(const std::string& label, int last) {
-    std::vector<std::string> lines;
+Texts Numbered(const std::string& label, int last) {
+    Texts lines;
     for (int number = 0; number <= last; ++number) {
         lines.push_back(label + std::to_string(number));
     }

@@ -327,7 +327,7 @@ TEST_F(ReadLineTest, ASpecialScaleMayHaveNoTicsOrAll) {
              .Set("Aspect ratio: ", "1.5"));
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], -1);
     EXPECT_EQ(Design.AspectRatio, 1.5F);
-    const std::vector<std::string> tics(361, " .5\\N\\N\\N\\x");
+    const Texts tics(361, " .5\\N\\N\\N\\x");
     Read(DesignFile()
              .Replace("Scale color: ", "Draw graphic", SpecialScaleBlock(tics))
              .Set("Aspect ratio: ", "1.5"));

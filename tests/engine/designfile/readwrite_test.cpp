@@ -147,7 +147,7 @@ TEST_F(ReadWriteTest, ASessionIsKeptWithoutAWordAndWithNothingChanged) {
 TEST_F(ReadWriteTest, TheCalibrationIsNotWrittenOverByAnyName) {
     const std::string own = WriteFile("Calibrate.txt", "factors");
     const std::string shipped = WriteFile("shipped.txt", "factors");
-    Host.calibrationsToRead = [=] { return std::vector<std::string>{own, shipped}; };
+    Host.calibrationsToRead = [=] { return Texts{own, shipped}; };
     std::filesystem::create_symlink(own, Path("link.VRN"));
     std::filesystem::create_hard_link(own, Path("hard.VRN"));
     const std::filesystem::path before = std::filesystem::current_path();

@@ -5,8 +5,6 @@
 #include <new>
 #include <set>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "engine/base/hostservices.h"
 #include "support/rendertest.h"
@@ -363,7 +361,7 @@ TEST_F(SamplesTest, LettersKeepTheirShape) {
 }
 
 TEST_F(SamplesTest, AreTheSameOnEveryScreen) {
-    const std::vector<std::string> usual = Draw(Sample::RotatedBearing).calls;
+    const Texts usual = Draw(Sample::RotatedBearing).calls;
     for (const ScreenSize& screen : {ScreenSize{15360, 11520}, {36000, 9000}, {57600, 32400}}) {
         Host.screenSize = [screen] { return screen; };
         SetVersionAndScreenScale(Design);

@@ -15,9 +15,8 @@ TEST_F(SchematicTest, PlateOfThePlatePageIsGrey) {
 
 TEST_F(SchematicTest, PlateOfTheHelpPageIsWhiteInGreyWithABluePointer) {
     Draw(1, kHelpPageLook);
-    EXPECT_EQ(surface.CallsOf("FilledBox"),
-              (std::vector<std::string>{"FilledBox 1118 818 5382 4242 c0ccd0",
-                                        "FilledBox 1150 850 5350 4210 ffffff"}));
+    EXPECT_EQ(surface.CallsOf("FilledBox"), (Texts{"FilledBox 1118 818 5382 4242 c0ccd0",
+                                                   "FilledBox 1150 850 5350 4210 ffffff"}));
     const std::vector<Stroke> blue = surface.Strokes("ff0000");
     ASSERT_EQ(blue.size(), 1U);
     EXPECT_TRUE(Same(blue[0].from, At(kMiddle, kModel.bottomToBearing)));
@@ -27,8 +26,8 @@ TEST_F(SchematicTest, PlateOfTheHelpPageIsWhiteInGreyWithABluePointer) {
 
 TEST_F(SchematicTest, TitleNameAndLabelsAreWritten) {
     Draw(0);
-    EXPECT_EQ(surface.texts, (std::vector<std::string>{"0", "5", "10", "15", "20", "25", "30",
-                                                       "VOLTS", "HarrowgateSoftware"}));
+    EXPECT_EQ(surface.texts,
+              (Texts{"0", "5", "10", "15", "20", "25", "30", "VOLTS", "HarrowgateSoftware"}));
     const TextBox title = surface.BoxOf("VOLTS");
     EXPECT_NEAR(title.corner.x + title.width / 2, At(kMiddle, 0).x, kNear);
     EXPECT_NEAR(title.corner.y, At(0, kModel.bottomToTitle).y, kNear);
@@ -84,8 +83,7 @@ TEST_F(SchematicTest, HolesAndBearingsAreCircledAndCrossed) {
         EXPECT_TRUE(HasStroke(black, {at.x, at.y - 130}, {at.x, at.y + 130}));
     }
     EXPECT_EQ(surface.CallsOf("Circle"),
-              (std::vector<std::string>{"Circle 1600 3610 90 0", "Circle 4900 3610 90 0",
-                                        "Circle 3250 3190 60 0"}));
+              (Texts{"Circle 1600 3610 90 0", "Circle 4900 3610 90 0", "Circle 3250 3190 60 0"}));
 }
 
 TEST_F(SchematicTest, NothingLeavesItsArea) {
@@ -109,7 +107,7 @@ TEST_F(SchematicTest, NothingLeavesItsArea) {
 
 TEST_F(SchematicTest, DesignHasNoPartInIt) {
     SetOpeningValues(Design);
-    const std::vector<std::string> calls = Draw(6).calls;
+    const Texts calls = Draw(6).calls;
     ResetDesign(Design);
     Design.PlateWidth = 33;
     Design.PlateStyle = 1;

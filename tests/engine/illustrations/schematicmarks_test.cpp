@@ -222,7 +222,7 @@ TEST_F(SchematicMarksTest, CaptionsAreTheTopics) {
 }
 
 TEST_F(SchematicMarksTest, NumbersWithoutATopicShowTheBarePlate) {
-    const std::vector<std::string> bare = Draw(0).calls;
+    const Texts bare = Draw(0).calls;
     EXPECT_TRUE(surface.Strokes(kRed).empty());
     std::set<int> topics;
     for (const Measure& measure : Measures(surface)) {

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <locale>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "engine/illustrations/schematic.h"
 #include "support/enginetest.h"

@@ -1,7 +1,6 @@
 #include "engine/scale/scale.h"
 
 #include <cmath>
-#include <vector>
 
 #include "engine/base/runtimeerror.h"
 #include "engine/core/design.h"
@@ -10,10 +9,8 @@
 namespace vernacle::test {
 namespace {
 
-class ScaleTest : public EngineTest {
+class ScaleTest : public NewDesignTest {
 protected:
-    ScaleTest() { ResetDesign(Design); }
-
     static void Compute() {
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);
@@ -45,11 +42,7 @@ TEST_F(ScaleTest, ADefaultScaleHasSixLabels) {
 
 TEST_F(ScaleTest, DeflectionsFollowTheExponent) {
     Design.NrOfTicmarks[1] = 4;
-    struct Row {
-        float exponent;
-        std::vector<double> deflections;
-    };
-    const Row rows[] = {
+    const std::pair<float, std::vector<double>> rows[] = {
         {1, {0, 0.25, 0.5, 0.75, 1}},
         {2, {0, 0.0625, 0.25, 0.5625, 1}},
         {0.5F, {0, 0.5, std::sqrt(0.5), std::sqrt(0.75), 1}},

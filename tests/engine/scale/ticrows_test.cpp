@@ -8,10 +8,11 @@
 namespace vernacle::test {
 namespace {
 
-class TicRowsTest : public EngineTest {
+class TicRowsTest : public NewDesignTest {
 protected:
-    TicRowsTest() {
-        ResetDesign(Design);
+    TicRowsTest() { Compute(); }
+
+    static void Compute() {
         ComputeTicDeflections(Design);
         ComputeTicLabels(Design);
     }
@@ -61,8 +62,7 @@ TEST_F(TicRowsTest, InformationRowsHaveNarrowerColumns) {
         << "no label, 50 percent";
     EXPECT_EQ(InformationRow(Design, 1, 50), "Scale 1   50    50   100         ");
     UseScales(1, 360);
-    ComputeTicDeflections(Design);
-    ComputeTicLabels(Design);
+    Compute();
     Design.StandardLabel[1][359] = "longer";
     EXPECT_EQ(InformationRow(Design, 1, 359), "Scale 1   359   longer99.722         ");
 }
@@ -78,9 +78,7 @@ TEST_F(TicRowsTest, PercentIsThatOfTheTableBeforeAnyCorrection) {
     Design.LinearityExponent[1] = 2;
     ComputeTicDeflections(Design);
     EXPECT_EQ(InformationRow(Design, 1, 25), "Scale 1   25         25         ");
-    for (int segment = 1; segment < kCurvePoints; ++segment) {
-        Design.CorrectionSlope[segment] = 0.5F;
-    }
+    Design.CorrectionSlope.fill(0.5F);
     EXPECT_EQ(InformationRow(Design, 1, 25), "Scale 1   25         25         ");
 }
 

@@ -1,8 +1,5 @@
 #include "engine/scale/ticwalk.h"
 
-#include <string>
-#include <vector>
-
 #include "engine/base/runtimeerror.h"
 #include "engine/scale/scale.h"
 #include "engine/scale/ticrows.h"

@@ -5,7 +5,7 @@
 namespace vernacle::test {
 namespace {
 
-class DecibelTest : public SetupTablesTest {
+class DecibelTest : public NewDesignTest {
 protected:
     // As the page shows them for a new scale.
     DecibelTest() {
@@ -18,8 +18,8 @@ protected:
         entries.tics[0].major = Answer::Yes;
     }
 
-    std::vector<std::string> Labels() const {
-        std::vector<std::string> labels;
+    Texts Labels() const {
+        Texts labels;
         for (int tic = 0; tic < Design.SpecialNrOfTicmarks[1]; ++tic) {
             labels.push_back(Design.TicLabelText[1][tic]);
         }
@@ -32,8 +32,7 @@ protected:
 TEST_F(DecibelTest, ANewScaleGoesDownFromZero) {
     ComputeDecibelTics(Design, 1, entries);
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 11);
-    EXPECT_EQ(Labels(), (std::vector<std::string>{"0", "-1", "-2", "-3", "-4", "-5", "-6", "-7",
-                                                  "-8", "-9", "-10"}));
+    EXPECT_EQ(Labels(), (Texts{"0", "-1", "-2", "-3", "-4", "-5", "-6", "-7", "-8", "-9", "-10"}));
     EXPECT_EQ(DeflectionsOf(1, 11),
               (std::vector<float>{1, 0.891250908F, 0.794328213F, 0.707945764F, 0.630957365F,
                                   0.562341332F, 0.501187205F, 0.446683586F, 0.398107171F,
@@ -86,46 +85,42 @@ TEST_F(DecibelTest, PositiveLabelsHaveAPlusWhereAskedFor) {
     entries.fullScale = 3;
     entries.ticmarks = 5;
     ComputeDecibelTics(Design, 1, entries);
-    EXPECT_EQ(Labels(), (std::vector<std::string>{"+3", "+2", "+1", "0", "-1"}));
+    EXPECT_EQ(Labels(), (Texts{"+3", "+2", "+1", "0", "-1"}));
     entries.plusSigns = Answer::No;
     ComputeDecibelTics(Design, 1, entries);
-    EXPECT_EQ(Labels(), (std::vector<std::string>{"3", "2", "1", "0", "-1"}));
+    EXPECT_EQ(Labels(), (Texts{"3", "2", "1", "0", "-1"}));
 }
 
-struct LimitRow {
-    float entered;
-    float held;
-};
+using Held = std::pair<float, float>; // what was entered, and what it is held to
 
 TEST_F(DecibelTest, NumbersAreHeldToTheirLimits) {
-    for (const LimitRow& row : {LimitRow{-201, -200},
-                                {-200, -200},
-                                {-0.5F, -1},
-                                {3.7F, 3},
-                                {200, 200},
-                                {200.5F, 200},
-                                {1e9F, 200}}) {
-        entries.fullScale = row.entered;
+    constexpr Held kFullScales[] = {{-201, -200}, {-200, -200},  {-0.5F, -1}, {3.7F, 3},
+                                    {200, 200},   {200.5F, 200}, {1e9F, 200}};
+    for (const auto& [entered, held] : kFullScales) {
+        entries.fullScale = entered;
         ComputeDecibelTics(Design, 1, entries);
-        EXPECT_EQ(entries.fullScale, row.held) << row.entered;
+        EXPECT_EQ(entries.fullScale, held) << entered;
     }
-    for (const LimitRow& row :
-         {LimitRow{30, 24}, {-30, 24}, {24, 24}, {-5, 5}, {2.7F, 2}, {0.9F, 0}, {0, 0}}) {
-        entries.ticmarks = row.entered;
+    constexpr Held kTicmarks[] = {{30, 24},  {-30, 24}, {24, 24}, {-5, 5},
+                                  {2.7F, 2}, {0.9F, 0}, {0, 0}};
+    for (const auto& [entered, held] : kTicmarks) {
+        entries.ticmarks = entered;
         ComputeDecibelTics(Design, 1, entries);
-        EXPECT_EQ(entries.ticmarks, row.held) << row.entered;
-        EXPECT_EQ(Design.SpecialNrOfTicmarks[1], static_cast<std::int16_t>(row.held));
+        EXPECT_EQ(entries.ticmarks, held) << entered;
+        EXPECT_EQ(Design.SpecialNrOfTicmarks[1], static_cast<std::int16_t>(held));
     }
-    for (const LimitRow& row : {LimitRow{-5, -4}, {-4, -4}, {1.5F, 1.5F}, {9, 4}}) {
-        entries.exponent = row.entered;
+    constexpr Held kExponents[] = {{-5, -4}, {-4, -4}, {1.5F, 1.5F}, {9, 4}};
+    for (const auto& [entered, held] : kExponents) {
+        entries.exponent = entered;
         ComputeDecibelTics(Design, 1, entries);
-        EXPECT_EQ(Design.LinearityExponent[1], row.held) << row.entered;
+        EXPECT_EQ(Design.LinearityExponent[1], held) << entered;
     }
-    for (const LimitRow& row : {LimitRow{0, 0.7F}, {0.7F, 0.7F}, {1, 1}, {1.1F, 1.1F}, {2, 1.1F}}) {
-        entries.multiplier = row.entered;
+    constexpr Held kMultipliers[] = {{0, 0.7F}, {0.7F, 0.7F}, {1, 1}, {1.1F, 1.1F}, {2, 1.1F}};
+    for (const auto& [entered, held] : kMultipliers) {
+        entries.multiplier = entered;
         ComputeDecibelTics(Design, 1, entries);
-        EXPECT_EQ(entries.multiplier, row.held) << row.entered;
-        EXPECT_EQ(Design.FullscaleMultiplier[1], row.held);
+        EXPECT_EQ(entries.multiplier, held) << entered;
+        EXPECT_EQ(Design.FullscaleMultiplier[1], held);
     }
 }
 
@@ -135,8 +130,7 @@ TEST_F(DecibelTest, ChoicesOfEachTicAreStored) {
     entries.tics[1] = {Answer::Yes, Answer::Yes, Answer::Yes};
     entries.tics[2] = {Answer::No, Answer::Yes, Answer::No};
     ComputeDecibelTics(Design, 1, entries);
-    EXPECT_EQ(TicsInWords(1, 2),
-              (std::vector<std::string>{"[0] label", "[-1] print label major", "[-2] major"}));
+    EXPECT_EQ(TicsInWords(1, 2), (Texts{"[0] label", "[-1] print label major", "[-2] major"}));
 }
 
 TEST_F(DecibelTest, BottomTicStandsBehindTheLastAndIsNotCounted) {

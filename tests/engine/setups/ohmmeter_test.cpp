@@ -1,14 +1,12 @@
 #include "engine/setups/ohmmeter.h"
 
-#include <cmath>
-
 #include "engine/setups/setup.h"
 #include "engine/setups/setuptables.h"
 
 namespace vernacle::test {
 namespace {
 
-class OhmmeterTest : public SetupTablesTest {};
+class OhmmeterTest : public NewDesignTest {};
 
 struct OhmsRow {
     float midscale;
@@ -67,9 +65,8 @@ TEST_F(OhmmeterTest, ListIsStoredByWhatItsTextsSay) {
     EXPECT_EQ(Design.SpecialNrOfTicmarks[2], 3) << "the last tic's number";
     EXPECT_EQ(DeflectionsOf(2, 4), (std::vector<float>{1, 0.25F, 0.5F, 0, 7}));
     EXPECT_EQ(TicsInWords(2, 4),
-              (std::vector<std::string>{"[0] print label major", "[300 k] print label",
-                                        "[] print label major", "[\u221E] print label",
-                                        "[old] print label major"}))
+              (Texts{"[0] print label major", "[300 k] print label", "[] print label major",
+                     "[\u221E] print label", "[old] print label major"}))
         << "what is undecided, and what is behind, stays";
 }
 

@@ -1,13 +1,11 @@
 #include "engine/setups/setup.h"
 
-#include <cmath>
-
 #include "engine/setups/setuptables.h"
 
 namespace vernacle::test {
 namespace {
 
-class SetupTest : public SetupTablesTest {};
+class SetupTest : public NewDesignTest {};
 
 TEST_F(SetupTest, MarkingMakesTheColourNegative) {
     const std::pair<std::int32_t, std::int32_t> rows[] = {
@@ -44,20 +42,15 @@ TEST_F(SetupTest, ZeroToANegativePowerIsImpossible) {
     }
 }
 
-struct LabelRow {
-    float value;
-    const char* label;
-};
-
 TEST_F(SetupTest, ShortLabelsHaveOnePlaceAtMost) {
-    const LabelRow rows[] = {
+    constexpr std::pair<float, const char*> kRows[] = {
         {0, "0"},          {1, "1"},           {9, "9"},
         {10, "10"},        {1.2F, "1.2"},      {1.4000001F, "1.4"},
         {2.0000002F, "2"}, {9.9999952F, "10"}, {9.79999F, "9.8"},
         {2.5F, "2.5"},
     };
-    for (const LabelRow& row : rows) {
-        EXPECT_EQ(ShortLabel(row.value), row.label);
+    for (const auto& [value, label] : kRows) {
+        EXPECT_EQ(ShortLabel(value), label);
     }
 }
 

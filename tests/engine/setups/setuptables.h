@@ -1,21 +1,10 @@
-// What the tests of the setups share: a fresh design, and a scale's tables read as words.
+// What the tests of the setups share: a scale's tables read as words.
 #pragma once
-
-#include <string>
-#include <vector>
 
 #include "engine/core/design.h"
 #include "support/enginetest.h"
 
 namespace vernacle::test {
-
-class SetupTablesTest : public EngineTest {
-protected:
-    SetupTablesTest() {
-        SetOpeningValues(Design);
-        ResetDesign(Design);
-    }
-};
 
 // Deflections of tics 0 to last.
 inline std::vector<float> DeflectionsOf(int scale, int last) {
@@ -35,8 +24,8 @@ inline std::string TicInWords(int scale, int tic) {
     return words;
 }
 
-inline std::vector<std::string> TicsInWords(int scale, int last) {
-    std::vector<std::string> tics;
+inline Texts TicsInWords(int scale, int last) {
+    Texts tics;
     for (int tic = 0; tic <= last; ++tic) {
         tics.push_back(TicInWords(scale, tic));
     }

@@ -6,7 +6,7 @@
 namespace vernacle::test {
 namespace {
 
-class SmeterTest : public SetupTablesTest {
+class SmeterTest : public NewDesignTest {
 protected:
     void Compute(int type, float exponent, int scale = 1) {
         setup.ScaleType = static_cast<std::int16_t>(type);

@@ -5,7 +5,7 @@
 namespace vernacle::test {
 namespace {
 
-class SpecialTableTest : public SetupTablesTest {
+class SpecialTableTest : public NewDesignTest {
 protected:
     float Apply(float ticmarks) {
         ApplySpecialTable(Design, 1, ticmarks, rows);
@@ -15,24 +15,13 @@ protected:
     std::array<SpecialRow, kSpecialRows> rows;
 };
 
-struct CountRow {
-    float entered;
-    float held;
-};
-
 TEST_F(SpecialTableTest, CountIsHeldAndWhole) {
-    for (const CountRow& row : {CountRow{0, 1},
-                                {0.4F, 1},
-                                {1, 1},
-                                {-5, 5},
-                                {2.7F, 2},
-                                {-2.7F, 2},
-                                {30, 30},
-                                {30.9F, 30},
-                                {31, 30},
-                                {1e10F, 30}}) {
-        EXPECT_EQ(Apply(row.entered), row.held) << row.entered;
-        EXPECT_EQ(Design.SpecialNrOfTicmarks[1], static_cast<std::int16_t>(row.held));
+    constexpr std::pair<float, float> kCounts[] = {{0, 1},    {0.4F, 1},  {1, 1},   {-5, 5},
+                                                   {2.7F, 2}, {-2.7F, 2}, {30, 30}, {30.9F, 30},
+                                                   {31, 30},  {1e10F, 30}};
+    for (const auto& [entered, held] : kCounts) {
+        EXPECT_EQ(Apply(entered), held) << entered;
+        EXPECT_EQ(Design.SpecialNrOfTicmarks[1], static_cast<std::int16_t>(held));
     }
 }
 
@@ -46,8 +35,7 @@ TEST_F(SpecialTableTest, RowsAreStoredPrintedAndLabelled) {
     EXPECT_EQ(DeflectionsOf(1, 4), (std::vector<float>{0, 0.125F, 1.5F, 0, 0}))
         << "this routine knows no limit";
     EXPECT_EQ(TicsInWords(1, 3),
-              (std::vector<std::string>{"[E] print label major", "[ ] print label",
-                                        "[] print label", "[old] major"}));
+              (Texts{"[E] print label major", "[ ] print label", "[] print label", "[old] major"}));
 }
 
 TEST_F(SpecialTableTest, TheOtherOfItsRowsAreEmptied) {

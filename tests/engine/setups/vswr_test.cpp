@@ -1,14 +1,12 @@
 #include "engine/setups/vswr.h"
 
-#include <span>
-
 #include "engine/setups/setup.h"
 #include "engine/setups/setuptables.h"
 
 namespace vernacle::test {
 namespace {
 
-class VswrTest : public SetupTablesTest {
+class VswrTest : public NewDesignTest {
 protected:
     void Compute(float step, float exponent = 1) {
         setup.StepSize = step;
@@ -48,26 +46,12 @@ TEST_F(VswrTest, WholeSteps) {
 TEST_F(VswrTest, HalfSteps) {
     Compute(0.5F);
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 19);
-    EXPECT_EQ(DeflectionsOf(1, 19), (std::vector<float>{0,
-                                                        0.200000003F,
-                                                        0.333333343F,
-                                                        0.428571433F,
-                                                        0.5F,
-                                                        0.555555582F,
-                                                        0.600000024F,
-                                                        0.636363626F,
-                                                        0.666666687F,
-                                                        0.692307711F,
-                                                        0.714285731F,
-                                                        0.733333349F,
-                                                        0.75F,
-                                                        0.764705896F,
-                                                        0.777777791F,
-                                                        0.789473712F,
-                                                        0.800000012F,
-                                                        0.809523821F,
-                                                        0.818181813F,
-                                                        1}));
+    const std::vector<float> expected = {0.F,          0.200000003F, 0.333333343F, 0.428571433F,
+                                         0.5F,         0.555555582F, 0.600000024F, 0.636363626F,
+                                         0.666666687F, 0.692307711F, 0.714285731F, 0.733333349F,
+                                         0.75F,        0.764705896F, 0.777777791F, 0.789473712F,
+                                         0.800000012F, 0.809523821F, 0.818181813F, 1.F};
+    EXPECT_EQ(DeflectionsOf(1, 19), expected);
     EXPECT_EQ(Labelled(), "1 2 3 4 5 10 ");
     EXPECT_EQ(Major(), "1 2 3 4 5 6 7 8 9 10 ");
     EXPECT_EQ(Printed(), "1 1.5 2 2.5 3 3.5 4 4.5 5 6 7 8 9 10 ");
@@ -88,53 +72,15 @@ TEST_F(VswrTest, FifthSteps) {
 // The counter gathers its roundings.
 TEST_F(VswrTest, FifthStepsDeflectAsTheCounterStands) {
     Compute(0.2F);
-    const std::vector<float> expected = {0,
-                                         0.0909091085F,
-                                         0.166666701F,
-                                         0.230769277F,
-                                         0.285714328F,
-                                         0.333333373F,
-                                         0.37500006F,
-                                         0.411764771F,
-                                         0.444444507F,
-                                         0.473684281F,
-                                         0.50000006F,
-                                         0.523809612F,
-                                         0.545454621F,
-                                         0.565217435F,
-                                         0.583333373F,
-                                         0.600000024F,
-                                         0.615384638F,
-                                         0.629629612F,
-                                         0.642857134F,
-                                         0.655172408F,
-                                         0.666666627F,
-                                         0.677419305F,
-                                         0.68749994F,
-                                         0.696969628F,
-                                         0.705882311F,
-                                         0.714285672F,
-                                         0.722222149F,
-                                         0.729729652F,
-                                         0.736842036F,
-                                         0.743589699F,
-                                         0.74999994F,
-                                         0.756097496F,
-                                         0.761904657F,
-                                         0.767441809F,
-                                         0.772727191F,
-                                         0.777777672F,
-                                         0.782608628F,
-                                         0.787233949F,
-                                         0.791666567F,
-                                         0.795918286F,
-                                         0.799999952F,
-                                         0.803921521F,
-                                         0.80769223F,
-                                         0.811320662F,
-                                         0.814814746F,
-                                         0.818181753F,
-                                         1};
+    const std::vector<float> expected = {
+        0.F,          0.0909091085F, 0.166666701F, 0.230769277F, 0.285714328F, 0.333333373F,
+        0.37500006F,  0.411764771F,  0.444444507F, 0.473684281F, 0.50000006F,  0.523809612F,
+        0.545454621F, 0.565217435F,  0.583333373F, 0.600000024F, 0.615384638F, 0.629629612F,
+        0.642857134F, 0.655172408F,  0.666666627F, 0.677419305F, 0.68749994F,  0.696969628F,
+        0.705882311F, 0.714285672F,  0.722222149F, 0.729729652F, 0.736842036F, 0.743589699F,
+        0.74999994F,  0.756097496F,  0.761904657F, 0.767441809F, 0.772727191F, 0.777777672F,
+        0.782608628F, 0.787233949F,  0.791666567F, 0.795918286F, 0.799999952F, 0.803921521F,
+        0.80769223F,  0.811320662F,  0.814814746F, 0.818181753F, 1.F};
     EXPECT_EQ(DeflectionsOf(1, 46), expected);
     EXPECT_GT(setup.CurrentRatio, 10);
 }

@@ -6,11 +6,9 @@
 namespace vernacle::test {
 namespace {
 
-class NudgesTest : public EngineTest {
+class NudgesTest : public NewDesignTest {
 protected:
     NudgesTest() {
-        SetOpeningValues(Design);
-        ResetDesign(Design);
         Design.BottomToBearing = 30;
         Design.PlateHeight = 50;
         Design.MinorTicLength = 2;
