@@ -3,10 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <ostream>
-#include <string>
-#include <vector>
 
 #include <QPainterPath>
 
@@ -24,17 +21,6 @@ constexpr QSize kSize(1200, 900); // ten units to the pixel
 
 class CutTest : public SurfaceTest {
 protected:
-    using Painting = std::function<void(QPainter& painter)>;
-
-    static QImage Paint(const Painting& paint) {
-        QImage picture(kSize, QImage::Format_RGB32);
-        picture.fill(Qt::white);
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
-        paint(painter);
-        return picture;
-    }
-
     // Points in pixels.
     static void DrawPolyline(DrawingSurface& surface, const std::vector<QPointF>& points) {
         const auto units = [](double pixels) { return static_cast<float>(pixels * 10); };
@@ -86,7 +72,7 @@ TEST_P(CutLineTest, ShowsNothingOfIt) {
         surface.SetLineWidth(line.width);
         DrawPolyline(surface, line.points);
     });
-    const QImage whole = Paint([&](QPainter& painter) {
+    const QImage whole = Painted(kSize, [&](QPainter& painter) {
         painter.setPen(QPen(Qt::black, line.width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
         const bool isCrisp = line.points.size() == 2 && (line.points[0].x() == line.points[1].x() ||
                                                          line.points[0].y() == line.points[1].y());
@@ -117,13 +103,13 @@ TEST_F(CutTest, BoxesAreCutOutOfSight) {
                                     units(box.bottom()), kBlueInk);
                 });
             };
-            const QImage outline = Paint([&](QPainter& painter) {
+            const QImage outline = Painted(kSize, [&](QPainter& painter) {
                 painter.setRenderHint(QPainter::Antialiasing, false);
                 painter.setPen(QPen(Qt::blue, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
                 painter.drawRect(box);
             });
             const QImage filled =
-                Paint([&](QPainter& painter) { painter.fillRect(box, Qt::blue); });
+                Painted(kSize, [&](QPainter& painter) { painter.fillRect(box, Qt::blue); });
             EXPECT_EQ(draw(false), outline) << box.left() << " " << width;
             EXPECT_EQ(draw(true), filled) << box.left();
         }
@@ -139,14 +125,14 @@ TEST_F(CutTest, CirclesAreCutOutOfSight) {
                            static_cast<float>(radius * 10), kBlackInk);
         });
     };
-    const QImage ordinary = Paint([](QPainter& painter) {
+    const QImage ordinary = Painted(kSize, [](QPainter& painter) {
         painter.setPen(QPen(Qt::black, 3, Qt::SolidLine, Qt::FlatCap));
         painter.drawEllipse(QPointF(-1000, 450), 1500, 1500);
     });
     EXPECT_EQ(draw({-1000, 450}, 1500, 3), ordinary);
     for (const double radius : {20000., 100000., 3e6}) {
         const QPointF centre(600 - radius, 450);
-        const QImage whole = Paint([&](QPainter& painter) {
+        const QImage whole = Painted(kSize, [&](QPainter& painter) {
             QPolygonF points;
             for (int step = -4000; step <= 4000; ++step) {
                 const double angle = step * 0.25 / radius;
@@ -164,23 +150,20 @@ TEST_F(CutTest, CirclesAreCutOutOfSight) {
 
 // Text of that many letters M, its middle in the middle of the picture.
 QImage DrawLongText(QSize size, int letters, int escapement) {
-    QImage picture(size, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
     DeviceMap map; // a pixel is a unit
     map.originX = size.width() / 2.0;
     map.originY = size.height() / 2.0;
-    PainterSurface surface(painter, map);
     const double pixelsPerLetter = 1706 / 2048.0 * 40; // its advance at 40 pixels to the em
     const double start = -letters / 2.0 * pixelsPerLetter;
     const double turn = escapement / 10.0 * 3.14159265358979 / 180;
-    surface.SetCurrentX(static_cast<float>(start * std::cos(turn)));
-    surface.SetCurrentY(static_cast<float>(-start * std::sin(turn)));
-    surface.BeginFont(-40, 0, escapement, "Arial");
-    surface.PrintText(std::string(static_cast<std::size_t>(letters), 'M'));
-    surface.EndFont();
-    return picture;
+    return Painted(size, [&](QPainter& painter) {
+        PainterSurface surface(painter, map);
+        surface.BeginFont(-40, 0, escapement, "Arial");
+        WriteAt(surface, static_cast<float>(start * std::cos(turn)),
+                static_cast<float>(-start * std::sin(turn)),
+                std::string(static_cast<std::size_t>(letters), 'M'));
+        surface.EndFont();
+    });
 }
 
 // In a picture that is large enough to show all of it nothing is cut.
@@ -214,19 +197,16 @@ QImage DrawDesignWith(float ticMm, const char* rotation, Sight sight) {
     Design.BottomToTitle[1] = -10;
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
-    QImage picture(800, 450, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (sight == Sight::OfAll) {
-        const QRect all(-400000000, -400000000, 800000000, 800000000);
-        painter.setWindow(all);
-        painter.setViewport(all);
-    }
-    PainterSurface surface(painter, DeviceMap::OfScreen(800, 450));
-    DrawPage(Design, surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing}, Drawing);
-    surface.Flush();
-    return picture;
+    return Painted(QSize(800, 450), [&](QPainter& painter) {
+        if (sight == Sight::OfAll) {
+            const QRect all(-400000000, -400000000, 800000000, 800000000);
+            painter.setWindow(all);
+            painter.setViewport(all);
+        }
+        PainterSurface surface(painter, DeviceMap::OfScreen(800, 450));
+        DrawPage(Design, surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing}, Drawing);
+        surface.Flush();
+    });
 }
 
 TEST_F(CutTest, ADesignThatReachesOutOfSightLooksAsIfItWereAllSeen) {
@@ -246,8 +226,7 @@ TEST_F(CutTest, ADesignThatReachesOutOfSightLooksAsIfItWereAllSeen) {
 
 // Numbers of a document stay near its sheet, and so do those that a screen's raster works on.
 TEST_F(CutTest, NothingIsPaintedFarAway) {
-    const std::string svg = MakeSvg(kSheets[0], "", [](PrinterSurface& printer) {
-        printer.StartSheet();
+    const PrintOn print = OneSheet([](PrinterSurface& printer) {
         for (const float far : {1e5F, 1e7F, 1e10F, 1e30F}) {
             for (const int width : {1, 30, 1000000}) {
                 printer.SetLineWidth(width);
@@ -259,8 +238,8 @@ TEST_F(CutTest, NothingIsPaintedFarAway) {
                 printer.Circle(far, 0, far, kBlackInk);
             }
         }
-        printer.EndDoc();
     });
+    const std::string svg = MakeSvg(kSheets[0], "", print);
     int count = 0;
     for (const char* name : {" points=\"", " d=\"", " x=\"", " width=\"", " height=\"", " r=\""}) {
         for (auto at = svg.find(name); at != svg.npos; at = svg.find(name, at)) {
@@ -279,18 +258,13 @@ TEST_F(CutTest, NothingIsPaintedFarAway) {
 }
 
 TEST_F(CutTest, LettersOutOfSightAreNotPainted) {
-    const std::string svg = MakeSvg(kSheets[0], "", [](PrinterSurface& printer) {
-        printer.StartSheet();
-        printer.SetCurrentX(-50000);
-        printer.SetCurrentY(5000);
-        printer.PrintText(std::string(1U << 20U, 'M'));
+    const PrintOn print = OneSheet([](PrinterSurface& printer) {
+        WriteAt(printer, -50000, 5000, std::string(1U << 20U, 'M'));
         printer.SetCurrentY(-1e6);
         printer.PrintText("Ohm");
-        printer.SetCurrentX(1e6);
-        printer.SetCurrentY(5000);
-        printer.PrintText("Ohm");
-        printer.EndDoc();
+        WriteAt(printer, 1e6, 5000, "Ohm");
     });
+    const std::string svg = MakeSvg(kSheets[0], "", print);
     EXPECT_LT(std::count(svg.begin(), svg.end(), 'M'), 20000);
     EXPECT_GT(std::count(svg.begin(), svg.end(), 'M'), 20);
     EXPECT_EQ(svg.find("Ohm"), svg.npos);

@@ -1,6 +1,8 @@
 // Documents made in memory: their frame, their date, and the plate and the test square on them.
 #include "surfaces/documents.h"
 
+#include <limits>
+
 #include <QXmlStreamReader>
 
 #include "engine/base/runtimeerror.h"
@@ -9,7 +11,6 @@
 #include "engine/output/calibrate.h"
 #include "engine/output/print.h"
 #include "engine/scale/scale.h"
-#include "support/pdfreader.h"
 #include "support/process.h"
 #include "support/sourcetree.h"
 #include "surfaces/surfacetest.h"
@@ -37,10 +38,11 @@ void PrintPlate(PrinterSurface& printer) {
     EXPECT_TRUE(PrintPlate(Design, printer));
 }
 
-void PrintNothing(PrinterSurface& printer) {
-    printer.StartSheet();
-    printer.EndDoc();
+void PrintSquare(PrinterSurface& printer) {
+    EXPECT_TRUE(PrintTestSquare(Design, printer));
 }
+
+const PrintOn kPrintNothing = OneSheet([](PrinterSurface&) {});
 
 bool IsWellFormed(const std::string& xml) {
     QXmlStreamReader reader(QByteArray::fromStdString(xml));
@@ -64,7 +66,7 @@ TEST_F(DocumentsTest, APdfIsOneSheetWithATitle) {
         WriteFile("sheet.pdf", MakePdf(sheet,
                                        "C:/plates/\xC2\xB5"
                                        "A.VRN",
-                                       kAt, PrintNothing));
+                                       kAt, kPrintNothing));
         const std::string about = RunProgram("pdfinfo", {"-rawdates", Path("sheet.pdf")}).out;
         EXPECT_NE(about.find(name), std::string::npos) << about;
         EXPECT_NE(about.find("C:/plates/\xC2\xB5"
@@ -109,6 +111,16 @@ std::vector<Shape> BlueStrokes(const SvgPicture& page) {
     return strokes;
 }
 
+double TopOf(const std::vector<Shape>& shapes) {
+    double top = std::numeric_limits<double>::max();
+    for (const Shape& shape : shapes) {
+        for (const MmPoint& point : shape.points) {
+            top = std::min(top, point.y);
+        }
+    }
+    return top;
+}
+
 struct HighRow {
     double heightMm;
     bool movesOnA4;
@@ -127,14 +139,10 @@ TEST_F(DocumentsTest, APlateOfAnyHeightKeepsItsMarksRulerAndFooterOnTheSheet) {
         for (const Sheet& sheet : kSheets) {
             SCOPED_TRACE(std::to_string(row.heightMm) + " on " + sheet.name);
             Design.PlateHeight = static_cast<float>(row.heightMm);
-            WriteFile("plate.pdf", MakePdf(sheet, "", kAt, PrintPlate));
-            const SvgPicture page = ReadPdf(Path("plate.pdf"));
-            const std::vector<Shape> strokes = BlueStrokes(page);
+            const std::vector<Shape> strokes = BlueStrokes(ReadSheet(sheet, PrintPlate));
             EXPECT_EQ(strokes.size(), 8U + 181 + 19 + 1);
-            double top = sheet.heightMm;
             for (const Shape& stroke : strokes) {
                 for (const MmPoint& point : stroke.points) {
-                    top = std::min(top, point.y);
                     EXPECT_GE(point.y, kWhiteMm - 0.001);
                     EXPECT_LE(point.y, sheet.heightMm - kWhiteMm);
                     EXPECT_GE(point.x, kWhiteMm);
@@ -144,8 +152,8 @@ TEST_F(DocumentsTest, APlateOfAnyHeightKeepsItsMarksRulerAndFooterOnTheSheet) {
             const double usual =
                 sheet.heightMm / 2 - 3900 / 56.578 - row.heightMm / 2; // to the marks' ends
             const bool moves = sheet.widthMm == 210 ? row.movesOnA4 : row.movesOnLetter;
-            EXPECT_NEAR(top, moves ? kWhiteMm : usual, 0.001);
-            for (const Word& word : ReadPdfWords(Path("plate.pdf"))) {
+            EXPECT_NEAR(TopOf(strokes), moves ? kWhiteMm : usual, 0.001);
+            for (const Word& word : ReadPdfWords(Path("sheet.pdf"))) {
                 EXPECT_LE(word.bottomRight.y, sheet.heightMm - kWhiteMm) << word.text;
             }
         }
@@ -157,13 +165,7 @@ TEST_F(DocumentsTest, AHighPlateStaysInTheMiddleOfALandscapeSheet) {
     ReadExample("VOLTS-0-15.VRN");
     Design.PlateHeight = 180;
     for (const Sheet& sheet : {Sheet{"", 297, 210}, Sheet{"", 279.4, 215.9}}) {
-        WriteFile("plate.pdf", MakePdf(sheet, "", kAt, PrintPlate));
-        double top = sheet.heightMm;
-        for (const Shape& stroke : BlueStrokes(ReadPdf(Path("plate.pdf")))) {
-            for (const MmPoint& point : stroke.points) {
-                top = std::min(top, point.y);
-            }
-        }
+        const double top = TopOf(BlueStrokes(ReadSheet(sheet, PrintPlate)));
         EXPECT_NEAR(top, sheet.heightMm / 2 - 90 - 300 / 56.578, 0.001);
     }
 }
@@ -175,22 +177,15 @@ TEST_F(DocumentsTest, AWideCircularPlateKeepsItsOutlineOnTheSheet) {
     Design.PlateWidth = 180;
     Design.PlateHeight = 60;
     Design.DrawArcs = "N";
-    WriteFile("plate.pdf", MakePdf(kSheets[1], "", kAt, PrintPlate));
-    double top = kSheets[1].heightMm;
-    for (const Shape& shape : ReadPdf(Path("plate.pdf")).shapes) {
-        for (const MmPoint& point : shape.points) {
-            top = shape.points.size() > 50 ? std::min(top, point.y) : top;
-        }
-    }
-    EXPECT_NEAR(top, kWhiteMm, 0.06); // the corners of its chords miss the uppermost point
+    std::vector<Shape> shapes = ReadSheet(kSheets[1], PrintPlate).shapes;
+    std::erase_if(shapes, [](const Shape& shape) { return shape.points.size() <= 50; });
+    // The corners of its chords miss the uppermost point.
+    EXPECT_NEAR(TopOf(shapes), kWhiteMm, 0.06);
 }
 
 TEST_F(DocumentsTest, ATestSquareOfLargeFactorsStaysOnTheSheet) {
     Design.CalibrationX = Design.CalibrationY = 1.9F;
-    WriteFile("square.pdf", MakePdf(kSheets[1], "", "", [](PrinterSurface& printer) {
-                  EXPECT_TRUE(PrintTestSquare(Design, printer));
-              }));
-    const SvgPicture page = ReadPdf(Path("square.pdf"));
+    const SvgPicture page = ReadSheet(kSheets[1], PrintSquare);
     ASSERT_EQ(page.shapes.size(), 1U);
     EXPECT_NEAR(page.shapes[0].HeightOfBox(), 190, 0.02);
     EXPECT_NEAR(page.shapes[0].Centre().y, kWhiteMm + 95, 0.02);
@@ -208,7 +203,7 @@ TEST_F(DocumentsTest, EqualInputGivesEqualBytes) {
 }
 
 TEST_F(DocumentsTest, WithoutADateAPdfHasThePresentOne) {
-    const std::string pdf = MakePdf(kSheets[0], "", "", PrintNothing);
+    const std::string pdf = MakePdf(kSheets[0], "", "", kPrintNothing);
     const std::size_t date = pdf.find("/CreationDate (D:20");
     ASSERT_NE(date, std::string::npos);
     EXPECT_EQ(pdf.find("/CreationDate (D:20260102030405"), std::string::npos);
@@ -220,7 +215,7 @@ TEST_F(DocumentsTest, AnSvgIsASheetInMillimetres) {
         {kSheets[1], "width=\"215.9mm\" height=\"279.4mm\""},
     };
     for (const auto& [sheet, size] : rows) {
-        const std::string svg = MakeSvg(sheet, "a < b & c", PrintNothing);
+        const std::string svg = MakeSvg(sheet, "a < b & c", kPrintNothing);
         EXPECT_NE(svg.find(size), std::string::npos) << svg.substr(0, 300);
         EXPECT_TRUE(IsWellFormed(svg)) << svg.substr(0, 400);
         EXPECT_EQ(ReadSvg(svg).shapes.size(), 0U);
@@ -228,11 +223,8 @@ TEST_F(DocumentsTest, AnSvgIsASheetInMillimetres) {
 }
 
 TEST_F(DocumentsTest, ControlCharactersDoNotSpoilAnSvg) {
-    const auto print = [](PrinterSurface& printer) {
-        printer.StartSheet();
-        printer.PrintText("1\x01\x1B 2");
-        printer.EndDoc();
-    };
+    const PrintOn print =
+        OneSheet([](PrinterSurface& printer) { printer.PrintText("1\x01\x1B 2"); });
     const std::string svg = MakeSvg(kSheets[0], "a\x02 b", print);
     EXPECT_TRUE(IsWellFormed(svg));
     EXPECT_NE(svg.find("<title>a b</title>"), std::string::npos);
@@ -281,14 +273,10 @@ TEST_F(DocumentsTest, TheTestSquareIsTrueToSize) {
     for (const Factors& row : rows) {
         for (const Sheet& sheet : kSheets) {
             SCOPED_TRACE(std::string(row.name) + " on " + sheet.name);
-            const auto print = [](PrinterSurface& printer) {
-                EXPECT_TRUE(PrintTestSquare(Design, printer));
-            };
             Design.CalibrationX = row.x;
             Design.CalibrationY = row.y;
-            WriteFile("square.pdf", MakePdf(sheet, "", "", print));
             for (const SvgPicture& page :
-                 {ReadPdf(Path("square.pdf")), ReadSvg(MakeSvg(sheet, "", print))}) {
+                 {ReadSheet(sheet, PrintSquare), ReadSvg(MakeSvg(sheet, "", PrintSquare))}) {
                 ASSERT_EQ(page.shapes.size(), 1U);
                 const Shape& square = page.shapes[0];
                 EXPECT_TRUE(square.stroked);
@@ -311,10 +299,7 @@ TEST_F(DocumentsTest, AMeasuredPrinterPrintsTheSquareInItsSize) {
     Design.CalibrationX = 1;
     Recalibrate(Design.CalibrationX, 100 * kStretch);
     Design.CalibrationY = 1;
-    WriteFile("square.pdf", MakePdf(kSheets[0], "", "", [](PrinterSurface& printer) {
-                  EXPECT_TRUE(PrintTestSquare(Design, printer));
-              }));
-    const SvgPicture page = ReadPdf(Path("square.pdf"));
+    const SvgPicture page = ReadSheet(kSheets[0], PrintSquare);
     ASSERT_EQ(page.shapes.size(), 1U);
     EXPECT_NEAR(page.shapes[0].WidthOfBox() * kStretch, 100, 0.02);
     EXPECT_NEAR(page.shapes[0].HeightOfBox(), 100, 0.02);
@@ -325,9 +310,8 @@ TEST_F(DocumentsTest, ACircularPlateHasItsOutline) {
     ReadExample("DEGREES-0-360.VRN");
     Design.PlateOutlineCircular = 1;
     Design.DrawArcs = "N";
-    WriteFile("plate.pdf", MakePdf(kSheets[0], "", kAt, PrintPlate));
     std::vector<Shape> outlines;
-    for (const Shape& shape : ReadPdf(Path("plate.pdf")).shapes) {
+    for (const Shape& shape : ReadSheet(kSheets[0], PrintPlate).shapes) {
         if (shape.stroked && !shape.curved && shape.points.size() > 2) {
             outlines.push_back(shape);
         }

@@ -14,12 +14,12 @@
 namespace vernacle::test {
 namespace {
 
-class DrawingRecordTest : public EngineTest {
+class DrawingRecordTest : public SurfaceTest {
 protected:
     DrawingRecord record{DeviceMap::OfScreen(1920, 1080), [this] { ++changes; }};
     int changes = 0;
 
-    std::vector<std::string> Replayed() const {
+    Texts Replayed() const {
         RecordingSurface surface;
         record.Replay(surface);
         return surface.calls;
@@ -57,7 +57,7 @@ TEST_F(DrawingRecordTest, MakesEveryCallAgain) {
 TEST_F(DrawingRecordTest, ClearForgetsWhatWasBefore) {
     MakeEveryCall(record);
     record.Clear();
-    EXPECT_EQ(Replayed(), std::vector<std::string>{"Clear"});
+    EXPECT_EQ(Replayed(), Texts{"Clear"});
 }
 
 TEST_F(DrawingRecordTest, KnowsTheCurrentPosition) {
@@ -108,20 +108,13 @@ TEST_F(DrawingRecordTest, ARecordedDesignPaintsTheSamePicture) {
     ResetDesign(Design);
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
-    const auto paint = [](const std::function<void(DrawingSurface&)>& draw) {
-        QImage image(1600, 900, QImage::Format_RGB32);
-        QPainter painter(&image);
-        PainterSurface surface(painter, DeviceMap::OfScreen(1600, 900));
-        draw(surface);
-        surface.Flush();
-        return image;
-    };
+    constexpr QSize kSize(1600, 900);
     const PageCopies sizes{Design.FontSize, Design.LabelSpacing};
     DrawingRecord kept(DeviceMap::OfScreen(1600, 900), [] {});
-    DrawPage(Design, kept, ScalesTraits(), sizes, Drawing);
-    const QImage replayed = paint([&](DrawingSurface& surface) { kept.Replay(surface); });
-    const QImage direct = paint([&](DrawingSurface& surface) {
-        DrawPage(Design, surface, ScalesTraits(), sizes, Drawing);
+    DrawPage(Design, kept, ScalesTraits(), sizes, vernacle::Drawing);
+    const QImage replayed = Draw(kSize, [&](DrawingSurface& surface) { kept.Replay(surface); });
+    const QImage direct = Draw(kSize, [&](DrawingSurface& surface) {
+        DrawPage(Design, surface, ScalesTraits(), sizes, vernacle::Drawing);
     });
     EXPECT_EQ(replayed, direct);
 }

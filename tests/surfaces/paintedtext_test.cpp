@@ -25,15 +25,12 @@ protected:
 };
 
 constexpr QSize kWide{1600, 900};
-constexpr QSize kSquareUnits{1200, 900};
 
 TEST_F(PaintedTextTest, TheCornerIsTheTopLeftOfTheCell) {
     for (const QSize size : {kWide, kSquareUnits}) {
         const QRect ink = InkOf(Draw(size, [](DrawingSurface& surface) {
             surface.SetFontSize(60);
-            surface.SetCurrentX(3000);
-            surface.SetCurrentY(4500);
-            surface.PrintText("H");
+            WriteAt(surface, 3000, 4500, "H");
         }));
         const double em = 80; // pixels, of 60 points
         EXPECT_NEAR(ink.left(), size.width() / 4.0 + em * 168 / 2048, 1);
@@ -71,9 +68,7 @@ TEST_F(PaintedTextTest, WhatIsMeasuredIsWhatIsDrawn) {
     const auto inkOf = [&measured](const std::string& text) {
         return InkOf(Draw(kWide, [&](DrawingSurface& surface) {
             surface.SetFontSize(30);
-            surface.SetCurrentX(1000);
-            surface.SetCurrentY(4000);
-            surface.PrintText(text);
+            WriteAt(surface, 1000, 4000, text);
             measured = double{surface.TextWidth("HHHHH")} - double{surface.TextWidth("H")};
         }));
     };
@@ -96,25 +91,20 @@ TEST_F(PaintedTextTest, AMadeFontDoesNotMeasure) {
 
 // Positive, the height is that of the cell; negative, that of the em.
 TEST_F(PaintedTextTest, TheHeightIsOfTheCellOrOfTheCharacter) {
-    struct Row {
-        int height;
-        double em;
-    };
-    const Row rows[] = {
+    const std::pair<int, double> rows[] = {
         {100, 100 * arial::kEm / arial::kCell},
         {33, 33 * arial::kEm / arial::kCell},
         {-100, 100},
         {-33, 33},
     };
     for (const QSize size : {kWide, kSquareUnits}) {
-        for (const Row& row : rows) {
-            const QRect ink = InkOfMade(size, row.height, 0, 0, 1000, 1000);
-            EXPECT_NEAR(ink.height(), row.em * arial::kCapital / arial::kEm, 1.5) << row.height;
+        for (const auto& [height, em] : rows) {
+            const QRect ink = InkOfMade(size, height, 0, 0, 1000, 1000);
+            EXPECT_NEAR(ink.height(), em * arial::kCapital / arial::kEm, 1.5) << height;
             EXPECT_NEAR(ink.top(),
-                        size.height() / 9.0 +
-                            row.em * (arial::kAscent - arial::kCapital) / arial::kEm,
+                        size.height() / 9.0 + em * (arial::kAscent - arial::kCapital) / arial::kEm,
                         1.01)
-                << row.height;
+                << height;
         }
     }
 }
@@ -202,9 +192,7 @@ TEST_F(PaintedTextTest, EndFontGivesTheOrdinaryFontBack) {
                 surface.BeginFont(100, 10, 450, "Liberation Mono");
                 surface.EndFont();
             }
-            surface.SetCurrentX(2000);
-            surface.SetCurrentY(2000);
-            surface.PrintText("Plate");
+            WriteAt(surface, 2000, 2000, "Plate");
         });
     };
     EXPECT_TRUE(draw(true) == draw(false));

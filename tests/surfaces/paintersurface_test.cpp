@@ -32,15 +32,9 @@ TEST_F(PainterSurfaceTest, ALineIsSoManyPixelsWide) {
     for (const QSize size : kScreens) {
         const int pixel = size.width() > 1920 ? size.width() / 1920 : 1;
         for (const int width : {1, 2, 3, 5, 14}) {
-            const QImage upright = Draw(size, [width](DrawingSurface& surface) {
-                surface.SetLineWidth(width);
-                surface.Line(6000, 1000, 6000, 8000, kBlackInk);
-            });
+            const QImage upright = DrawLine(size, width, {6000, 1000, 6000, 8000});
             EXPECT_EQ(InkAcross(upright, size.height() / 2), width * pixel);
-            const QImage level = Draw(size, [width](DrawingSurface& surface) {
-                surface.SetLineWidth(width);
-                surface.Line(1000, 4500, 11000, 4500, kBlackInk);
-            });
+            const QImage level = DrawLine(size, width, {1000, 4500, 11000, 4500});
             EXPECT_EQ(InkDown(level, size.width() / 2), width * pixel);
         }
     }
@@ -48,11 +42,7 @@ TEST_F(PainterSurfaceTest, ALineIsSoManyPixelsWide) {
 
 TEST_F(PainterSurfaceTest, ASlantedLineIsAsWide) {
     const auto inkOf = [](int width) {
-        const QImage picture = Draw([width](DrawingSurface& surface) { // a unit is square here
-            surface.SetLineWidth(width);
-            surface.Line(3000, 1000, 9000, 7000, kBlackInk);
-        });
-        return InkAcross(picture, 400);
+        return InkAcross(DrawLine(kSquareUnits, width, {3000, 1000, 9000, 7000}), 400);
     };
     EXPECT_NEAR(inkOf(1), 1.2, 0.25); // the toolkit's hairline
     EXPECT_NEAR(inkOf(3), 3 * std::numbers::sqrt2, 0.1);
@@ -61,19 +51,12 @@ TEST_F(PainterSurfaceTest, ASlantedLineIsAsWide) {
 
 TEST_F(PainterSurfaceTest, AWidthBelowOneIsOne) {
     for (const int width : {0, -7}) {
-        const QImage picture = Draw([width](DrawingSurface& surface) {
-            surface.SetLineWidth(width);
-            surface.Line(6000, 1000, 6000, 8000, kBlackInk);
-        });
-        EXPECT_EQ(InkAcross(picture, 450), 1);
+        EXPECT_EQ(InkAcross(DrawLine(kSquareUnits, width, {6000, 1000, 6000, 8000}), 450), 1);
     }
 }
 
 TEST_F(PainterSurfaceTest, LinesEndFlat) {
-    const QImage picture = Draw([](DrawingSurface& surface) {
-        surface.SetLineWidth(20);
-        surface.Line(2000, 3000, 7000, 3000, kBlackInk);
-    });
+    const QImage picture = DrawLine(kSquareUnits, 20, {2000, 3000, 7000, 3000});
     EXPECT_EQ(InkOf(picture), QRect(200, 290, 500, 20));
     EXPECT_EQ(InkAcross(picture, 291), 500); // at the edge as in the middle
     EXPECT_EQ(InkAcross(picture, 300), 500);
@@ -225,10 +208,8 @@ TEST_F(PainterSurfaceTest, ColoursHaveRedInTheirLowestByte) {
             surface.Box(7000, 1000, 9000, 3000, ink);
             surface.Circle(2000, 5000, 1000, ink);
             surface.SetForeColor(ink);
-            surface.SetCurrentX(4000);
-            surface.SetCurrentY(4000);
             surface.BeginFont(300, 0, 0, "Arial");
-            surface.PrintText("I");
+            WriteAt(surface, 4000, 4000, "I");
             surface.EndFont();
         });
         EXPECT_EQ(picture.pixelColor(200, 100), shown);

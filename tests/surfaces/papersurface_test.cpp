@@ -4,8 +4,6 @@
 #include <QPicture>
 
 #include "engine/base/runtimeerror.h"
-#include "support/pdfreader.h"
-#include "surfaces/documents.h"
 #include "surfaces/surfacetest.h"
 
 namespace vernacle::test {
@@ -20,26 +18,16 @@ class PaperSurfaceTest : public SurfaceTest {
 protected:
     // What the print leaves on the sheet, as a PDF and as an SVG.
     SvgPicture Pdf(const Sheet& sheet, const PrintOn& print) const {
-        WriteFile("sheet.pdf", MakePdf(sheet, "", "", OnPage(print)));
-        return ReadPdf(Path("sheet.pdf"));
+        return ReadSheet(sheet, OneSheet(print));
     }
 
     static SvgPicture Svg(const Sheet& sheet, const PrintOn& print) {
-        return ReadSvg(MakeSvg(sheet, "", OnPage(print)));
+        return ReadSvg(MakeSvg(sheet, "", OneSheet(print)));
     }
 
     static MmPoint OnSheet(const Sheet& sheet, double x, double y) {
         return {sheet.widthMm / 2 + (x - 5750) * kUnitMm,
                 sheet.heightMm / 2 + (y - 7600) * kUnitMm};
-    }
-
-private:
-    static PrintOn OnPage(const PrintOn& print) {
-        return [print](PrinterSurface& printer) {
-            printer.StartSheet();
-            print(printer);
-            printer.EndDoc();
-        };
     }
 };
 
@@ -130,9 +118,7 @@ TEST_F(PaperSurfaceTest, TextStandsBelowAndRightOfItsPosition) {
     for (const Sheet& sheet : kSheets) {
         const SvgPicture page = Pdf(sheet, [](PrinterSurface& printer) {
             printer.SetFontSize(72); // 600 pixels
-            printer.SetCurrentX(2000);
-            printer.SetCurrentY(3000);
-            printer.PrintText("H");
+            WriteAt(printer, 2000, 3000, "H");
         });
         ASSERT_EQ(page.glyphs.size(), 1U);
         const MmPoint corner = OnSheet(sheet, 2000, 3000);

@@ -1,7 +1,5 @@
 #include "surfaces/picturefile.h"
 
-#include <filesystem>
-
 #include "engine/base/runtimeerror.h"
 #include "surfaces/surfacetest.h"
 

@@ -1,9 +1,7 @@
 // Picture files on a surface, and what no plate has but a damaged design may ask for.
-#include <cmath>
 #include <limits>
 
 #include "engine/base/runtimeerror.h"
-#include "surfaces/documents.h"
 #include "surfaces/surfacetest.h"
 
 namespace vernacle::test {
@@ -59,17 +57,10 @@ TEST_F(PicturesTest, WhatDoesNotLoadIsARunTimeErrorAndTheSurfaceGoesOn) {
     }
 }
 
-constexpr float kAbsurd[] = {1e12F,
-                             -1e12F,
-                             1e30F,
-                             -1e30F,
-                             3e38F,
-                             -3e38F,
-                             std::numeric_limits<float>::infinity(),
-                             -std::numeric_limits<float>::infinity(),
-                             std::numeric_limits<float>::quiet_NaN(),
-                             1e-40F,
-                             2.2e9F};
+constexpr float kNoEnd = std::numeric_limits<float>::infinity();
+constexpr float kNoNumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float kAbsurd[] = {1e12F,  -1e12F,  1e30F,     -1e30F, 3e38F, -3e38F,
+                             kNoEnd, -kNoEnd, kNoNumber, 1e-40F, 2.2e9F};
 
 void DrawEverythingAt(DrawingSurface& surface, float far, int width) {
     surface.SetLineWidth(width);
@@ -84,9 +75,7 @@ void DrawEverythingAt(DrawingSurface& surface, float far, int width) {
     surface.Circle(far, far, 100, kBlackInk);
     surface.Circle(6000, 4500, far, kBlackInk);
     surface.Dot(far, -far, kBlackInk);
-    surface.SetCurrentX(far);
-    surface.SetCurrentY(far);
-    surface.PrintText("far away");
+    WriteAt(surface, far, far, "far away");
     surface.BeginFont(50, 20, 450, "Arial");
     surface.PrintText("far away");
     surface.EndFont();
@@ -111,14 +100,12 @@ TEST_F(PicturesTest, AbsurdCoordinatesDoNoHarm) {
 
 TEST_F(PicturesTest, AbsurdCoordinatesDoNoHarmOnPaper) {
     for (const float far : kAbsurd) {
-        const auto print = [far](PrinterSurface& printer) {
-            printer.StartSheet();
+        const PrintOn print = OneSheet([far](PrinterSurface& printer) {
             DrawEverythingAt(printer, far, 3);
             printer.BeginFont(-50, 0, 450, "Arial");
             printer.TextOutA(std::numeric_limits<int>::max(), std::numeric_limits<int>::min(), "x");
             printer.EndFont();
-            printer.EndDoc();
-        };
+        });
         EXPECT_TRUE(MakePdf(kSheets[0], "", "", print).ends_with("%%EOF\n")) << far;
         EXPECT_TRUE(MakeSvg(kSheets[0], "", print).ends_with("</svg>\n")) << far;
     }

@@ -15,14 +15,46 @@ constexpr unsigned char kGif[] = {
 } // namespace
 
 QImage SurfaceTest::Draw(QSize size, const Drawing& draw) {
+    return Painted(size, [&](QPainter& painter) {
+        PainterSurface surface(painter, DeviceMap::OfScreen(size.width(), size.height()));
+        draw(surface);
+        surface.Flush();
+    });
+}
+
+QImage SurfaceTest::DrawLine(QSize size, int width, QLineF line) {
+    return Draw(size, [&](DrawingSurface& surface) {
+        surface.SetLineWidth(width);
+        surface.Line(static_cast<float>(line.x1()), static_cast<float>(line.y1()),
+                     static_cast<float>(line.x2()), static_cast<float>(line.y2()), kBlackInk);
+    });
+}
+
+SvgPicture SurfaceTest::ReadSheet(const Sheet& sheet, const PrintOn& print) const {
+    return ReadPdf(WriteFile("sheet.pdf", MakePdf(sheet, "", "", print)));
+}
+
+QImage Painted(QSize size, const std::function<void(QPainter& painter)>& paint) {
     QImage picture(size, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    PainterSurface surface(painter, DeviceMap::OfScreen(size.width(), size.height()));
-    draw(surface);
-    surface.Flush();
+    paint(painter);
     return picture;
+}
+
+void WriteAt(DrawingSurface& surface, float x, float y, const std::string& text) {
+    surface.SetCurrentX(x);
+    surface.SetCurrentY(y);
+    surface.PrintText(text);
+}
+
+PrintOn OneSheet(const PrintOn& print) {
+    return [print](PrinterSurface& printer) {
+        printer.StartSheet();
+        print(printer);
+        printer.EndDoc();
+    };
 }
 
 std::string PictureBytes(const std::string& format) {

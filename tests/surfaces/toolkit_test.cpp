@@ -10,9 +10,7 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
-#include "support/pdfreader.h"
 #include "support/process.h"
-#include "surfaces/documents.h"
 #include "surfaces/surfacetest.h"
 
 namespace vernacle::test {
@@ -113,12 +111,10 @@ TEST_F(ToolkitTest, AFullDiskIsNotNoticedByThePdfWriter) {
 
 // So one date makes equal input equal bytes.
 TEST_F(ToolkitTest, APdfDiffersFromRunToRunOnlyInItsDate) {
-    const auto draw = [](PrinterSurface& printer) {
-        printer.StartSheet();
+    const PrintOn draw = OneSheet([](PrinterSurface& printer) {
         printer.Line(0, 0, 1000, 500, kBlackInk);
         printer.PrintText("text");
-        printer.EndDoc();
-    };
+    });
     const std::string first = MakePdf(kSheets[0], "title", "2026-01-02 03:04:05", draw);
     const std::string other = MakePdf(kSheets[0], "title", "1999-12-31 23:59:58", draw);
     ASSERT_EQ(first.size(), other.size());
@@ -131,12 +127,8 @@ TEST_F(ToolkitTest, APdfDiffersFromRunToRunOnlyInItsDate) {
 }
 
 TEST_F(ToolkitTest, FontsAreEmbedded) {
-    WriteFile("page.pdf", MakePdf(kSheets[0], "title", "", [](PrinterSurface& printer) {
-                  printer.StartSheet();
-                  printer.PrintText("text");
-                  printer.EndDoc();
-              }));
-    const ProcessResult fonts = RunProgram("pdffonts", {Path("page.pdf")});
+    ReadSheet(kSheets[0], OneSheet([](PrinterSurface& printer) { printer.PrintText("text"); }));
+    const ProcessResult fonts = RunProgram("pdffonts", {Path("sheet.pdf")});
     const std::regex embedded("LiberationSans +CID TrueType +Identity-H +yes ");
     EXPECT_TRUE(std::regex_search(fonts.out, embedded)) << fonts.out;
 }
