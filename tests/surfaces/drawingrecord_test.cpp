@@ -108,12 +108,12 @@ TEST_F(DrawingRecordTest, ARecordedDesignPaintsTheSamePicture) {
     ResetDesign(Design);
     ComputeTicDeflections(Design);
     ComputeTicLabels(Design);
-    constexpr QSize kSize(1600, 900);
+    constexpr QSize kWindow(1600, 900);
     const PageCopies sizes{Design.FontSize, Design.LabelSpacing};
     DrawingRecord kept(DeviceMap::OfScreen(1600, 900), [] {});
     DrawPage(Design, kept, ScalesTraits(), sizes, vernacle::Drawing);
-    const QImage replayed = Draw(kSize, [&](DrawingSurface& surface) { kept.Replay(surface); });
-    const QImage direct = Draw(kSize, [&](DrawingSurface& surface) {
+    const QImage replayed = Draw(kWindow, [&](DrawingSurface& surface) { kept.Replay(surface); });
+    const QImage direct = Draw(kWindow, [&](DrawingSurface& surface) {
         DrawPage(Design, surface, ScalesTraits(), sizes, vernacle::Drawing);
     });
     EXPECT_EQ(replayed, direct);

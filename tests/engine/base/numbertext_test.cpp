@@ -54,7 +54,7 @@ TEST(NumberTextTest, WritesFloatsInTheirShortestForm) {
         {1e-45F, "1.401298E-45"},
     };
     for (const auto& [value, text] : kRows) {
-        EXPECT_EQ(PlainNumber(value), text);
+        EXPECT_EQ(PlainNumber(value), text) << value;
     }
 }
 
@@ -103,7 +103,7 @@ TEST(NumberTextTest, PlotterFormNeverHasAnExponent) {
         {1234.56789, " 1234.568 "},
     };
     for (const auto& [value, text] : kRows) {
-        EXPECT_EQ(PlotterNumber(value), text);
+        EXPECT_EQ(PlotterNumber(value), text) << value;
     }
     EXPECT_EQ(PlotterDigits(-0.5), "-.5");
     EXPECT_EQ(PlotterDigits(3000), "3000");

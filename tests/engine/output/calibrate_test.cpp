@@ -216,10 +216,10 @@ TEST_F(CalibrateTest, FactorsAreHeldInTheDesign) {
     for (const MeasureRow& row : rows) {
         SetFactors(row.factor, 1);
         HoldCalibration(Design);
-        EXPECT_EQ(Factors(), std::pair(row.after, 1.F));
+        EXPECT_EQ(Factors(), std::pair(row.after, 1.F)) << row.factor;
         SetFactors(1, row.factor);
         HoldCalibration(Design);
-        EXPECT_EQ(Factors(), std::pair(1.F, row.after));
+        EXPECT_EQ(Factors(), std::pair(1.F, row.after)) << row.factor;
     }
 }
 

@@ -155,8 +155,8 @@ TEST_F(PrintTest, CalibrationIsHeldBeforeUseAndStaysSo) {
     for (const auto& [before, held] : kRows) {
         Design.CalibrationX = Design.CalibrationY = before;
         Print();
-        EXPECT_EQ(Design.CalibrationX, held);
-        EXPECT_EQ(Design.CalibrationY, held);
+        EXPECT_EQ(Design.CalibrationX, held) << before;
+        EXPECT_EQ(Design.CalibrationY, held) << before;
         const double half = 282.89 * double{held};
         EXPECT_TRUE(
             SameCalls({At(surface.calls, 1)}, Calls{Call("FilledBox", 5950 - half, 3950 - half / 2,
@@ -183,7 +183,7 @@ TEST_F(PrintTest, ArcsHaveTheirOwnPen) {
         const Calls pens = surface.CallsOf("SetLineWidth"); // marks, tic, arc
         ASSERT_GE(pens.size(), 5U);
         EXPECT_EQ(At(pens, 3), "SetLineWidth 3"); // 4 x 0.7 + 0.5
-        EXPECT_EQ(At(pens, 4), std::string("SetLineWidth ") + pixels);
+        EXPECT_EQ(At(pens, 4), std::string("SetLineWidth ") + pixels) << arcWidth;
     }
 }
 

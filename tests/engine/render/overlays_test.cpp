@@ -128,7 +128,7 @@ TEST_F(OverlaysTest, PointerLengthIsRoundedToATenth) {
         DrawingState state;
         state.PointerLength = length;
         DrawPointer(surface, Frame(), state);
-        EXPECT_EQ(Last(surface.texts), text);
+        EXPECT_EQ(Last(surface.texts), text) << length;
     }
 }
 

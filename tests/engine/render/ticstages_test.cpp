@@ -35,11 +35,11 @@ TEST_F(TicStagesTest, WidthsAreHeldAndTurnedIntoPixels) {
         Design.MajorTicWidth = tenths;
         Design.MinorTicWidth = 30;
         DrawStages({TicsStage});
-        EXPECT_EQ(surface.CallsOf("SetLineWidth"), (Calls{width, "SetLineWidth 14"}));
+        EXPECT_EQ(surface.CallsOf("SetLineWidth"), (Calls{width, "SetLineWidth 14"})) << tenths;
         Design.MajorTicWidth = 30;
         Design.MinorTicWidth = tenths;
         DrawStages({TicsStage});
-        EXPECT_EQ(surface.CallsOf("SetLineWidth"), (Calls{"SetLineWidth 14", width}));
+        EXPECT_EQ(surface.CallsOf("SetLineWidth"), (Calls{"SetLineWidth 14", width})) << tenths;
     }
     EXPECT_EQ(Design.MinorTicWidth, 500); // held in the drawing alone
 }
@@ -123,7 +123,7 @@ TEST_F(TicStagesTest, TicsAndArcsNeedASwitchOfZero) {
     for (const auto& [value, drawn] : rows) {
         Design.PrintTicsAndArcs[1] = value;
         DrawStages({TicsStage, ArcsStage});
-        EXPECT_EQ(Lines().size(), drawn ? 102U : 0U);
+        EXPECT_EQ(Lines().size(), drawn ? 102U : 0U) << ::testing::PrintToString(value);
         DrawStages({FontStage, LabelsStage, TitlesStage}); // these are written all the same
         EXPECT_EQ(surface.texts, (Texts{"7", "mA"}));
     }

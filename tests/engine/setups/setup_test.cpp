@@ -50,7 +50,7 @@ TEST_F(SetupTest, ShortLabelsHaveOnePlaceAtMost) {
         {2.5F, "2.5"},
     };
     for (const auto& [value, label] : kRows) {
-        EXPECT_EQ(ShortLabel(value), label);
+        EXPECT_EQ(ShortLabel(value), label) << value;
     }
 }
 
