@@ -6,14 +6,8 @@
 #include <QWindow>
 
 #include "desktop/app/forms.h"
-#include "desktop/kit/entrybox.h"
-#include "desktop/kit/optionbutton.h"
-#include "desktop/kit/picturebox.h"
-#include "desktop/navigation/navigator.h"
 #include "desktop/system/desktophost.h"
 #include "engine/base/hostservices.h"
-#include "engine/core/design.h"
-#include "support/recordingsurface.h"
 
 namespace vernacle::test {
 
@@ -24,7 +18,18 @@ constexpr int kMostWaits = 200;           // for a dialog to be active, as a use
 constexpr const char* kAnswer = "answer"; // a dialog's property: the number of its last answer
 constexpr double kClockStep = 10;         // seconds: longer than any wait
 
+std::string ShownBy(const QWidget& control) {
+    const QVariant title = control.property("title");
+    return (title.isValid() ? title : control.property("text")).toString().toStdString();
+}
+
 } // namespace
+
+RecordingSurface Recorded(const PictureBox& picture) {
+    RecordingSurface surface;
+    picture.Record().Replay(surface);
+    return surface;
+}
 
 FormTest::FormTest() {
     const HostServices desktop = DesktopHost();
@@ -90,6 +95,11 @@ void FormTest::Click(const std::string& control) const {
     Click(Find(control));
 }
 
+void FormTest::ClickAndSettle(const std::string& control) const {
+    Click(control);
+    Settle();
+}
+
 void FormTest::Click(QWidget& control) {
     // Beside its left edge, where an option has its mark.
     const QPoint at(std::min(control.width() / 2, 10), control.height() / 2);
@@ -100,16 +110,37 @@ std::string FormTest::TextOf(const std::string& box) const {
     return Box(box).Text();
 }
 
-std::vector<std::string> FormTest::CallsOf(const std::string& picture) const {
-    RecordingSurface surface;
-    Picture(picture).Record().Replay(surface);
-    return surface.calls;
+std::string FormTest::Shown(const std::string& control) const {
+    return ShownBy(Find(control));
 }
 
-std::vector<std::string> FormTest::TextsOf(const std::string& picture) const {
-    RecordingSurface surface;
-    Picture(picture).Record().Replay(surface);
-    return surface.texts;
+void FormTest::ExpectShown(const QWidget& form, ShownTexts texts) const {
+    for (const auto& [control, text] : texts) {
+        EXPECT_EQ(ShownBy(On<QWidget>(form, control)), text) << control;
+    }
+}
+
+void FormTest::ExpectEnabled(std::initializer_list<const char*> controls, bool enabled) const {
+    for (const char* control : controls) {
+        EXPECT_EQ(IsEnabled(control), enabled) << control;
+    }
+}
+
+void FormTest::ExpectSelected(std::initializer_list<const char*> options, bool selected) const {
+    for (const char* option : options) {
+        EXPECT_EQ(IsSelected(option), selected) << option;
+    }
+}
+
+void FormTest::ExpectTabOrder(const QWidget& form, const std::string& names) const {
+    const QStringList expected = QString::fromStdString(names).split(QLatin1Char(' '));
+    On<QWidget>(form, expected.first().toStdString()).setFocus();
+    QStringList walked;
+    while (walked.size() < expected.size() && form.focusWidget()) {
+        walked.push_back(form.focusWidget()->objectName());
+        QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(walked.join(QLatin1Char(' ')).toStdString(), names);
 }
 
 void FormTest::Answer(std::function<void(QWidget&)> answer) {
