@@ -1,6 +1,5 @@
 #include "desktop/setups/frmSetupMenu.h"
 
-#include "desktop/navigation/navigator.h"
 #include "desktop/setups/setuptest.h"
 
 namespace vernacle::test {
@@ -41,7 +40,7 @@ TEST_F(SetupMenuTest, ButtonsLeadToTheirPages) {
     for (const MenuRow& row : kRows) {
         const QPointer<QWidget> menu = &OpenPage("frmSetupMenu");
         Design.CurrentScale = 1;
-        Press(row.button);
+        ClickAndSettle(row.button);
         EXPECT_EQ(PageName(), row.page);
         EXPECT_TRUE(menu.isNull());
     }
@@ -60,7 +59,7 @@ TEST_F(SetupMenuTest, MenuChangesNothing) {
 
 // Each picture is the drawing of a real setup of its kind.
 TEST_F(SetupMenuTest, PicturesShowTheirKinds) {
-    const std::pair<const char*, std::vector<std::string>> rows[] = {
+    const std::pair<const char*, Strings> rows[] = {
         {"Image1", {"0", "20", "\u221E", "OHMS"}},
         {"Image2", {"E", "1/2", "F"}},
         {"Image3", {"9", "+60"}},
@@ -69,7 +68,7 @@ TEST_F(SetupMenuTest, PicturesShowTheirKinds) {
     };
     OpenPage("frmSetupMenu");
     for (const auto& [picture, texts] : rows) {
-        const std::vector<std::string> shown = TextsIn(Picture(picture));
+        const Strings shown = TextsOf(picture);
         for (const std::string& text : texts) {
             EXPECT_NE(std::find(shown.begin(), shown.end(), text), shown.end())
                 << picture << " " << text;
@@ -80,18 +79,7 @@ TEST_F(SetupMenuTest, PicturesShowTheirKinds) {
 
 TEST_F(SetupMenuTest, TabFollowsReadingOrder) {
     OpenPage("frmSetupMenu");
-    Find("cmdOhms").setFocus();
-    for (const MenuRow& row : kRows) {
-        EXPECT_EQ(Page().focusWidget()->objectName(), QLatin1String(row.button));
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-    }
-}
-
-TEST_F(SetupMenuTest, CloseBoxKeepsTheSession) {
-    OpenPage("frmSetupMenu");
-    CloseByUser(Page());
-    EXPECT_TRUE(TakeProcessEnd());
-    EXPECT_TRUE(Exists("LASTSESSION.VRN"));
+    ExpectTabOrder("cmdOhms cmdSpecial cmdSmeter cmdVSWR cmddB cmdExit");
 }
 
 } // namespace

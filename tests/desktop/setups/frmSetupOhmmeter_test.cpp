@@ -36,8 +36,8 @@ protected:
     }
 
     // "Tic# | deflection | label" of the rows that show.
-    std::vector<std::string> Rows() const {
-        std::vector<std::string> rows;
+    Strings Rows() const {
+        Strings rows;
         for (int row = 0; row < kOhmmeterRows; ++row) {
             const bool shown = IsShown(RowName("Tic", row));
             for (const char* part : {"lblDeflection", "fraMajorMinor", "txtLabel"}) {
@@ -50,12 +50,6 @@ protected:
         }
         return rows;
     }
-
-    void ExpectEnabled(std::initializer_list<const char*> controls, bool enabled) const {
-        for (const char* control : controls) {
-            EXPECT_EQ(IsEnabled(control), enabled) << control;
-        }
-    }
 };
 
 TEST_F(OhmmeterPageTest, CaptionsAndStartingState) {
@@ -67,8 +61,7 @@ TEST_F(OhmmeterPageTest, CaptionsAndStartingState) {
         {"lblResultingDeflection", ""},
         {"lblClickToRemoveItem", "To remove an item click on its Tic#."},
         {"lblRemoveLabel", "Each label may be edited or removed"}};
-    EXPECT_EQ(Headings(),
-              (std::vector<std::string>{"Tic#:", "Deflection:", "Label:", "Major/minor?"}));
+    EXPECT_EQ(Headings(), (Strings{"Tic#:", "Deflection:", "Label:", "Major/minor?"}));
     for (const auto& [label, text] : labels) {
         EXPECT_EQ(Shown(label), text) << label;
     }
@@ -92,7 +85,7 @@ TEST_F(OhmmeterPageTest, CaptionsAndStartingState) {
 
 TEST_F(OhmmeterPageTest, AStandardScaleStartsWithTwoRows) {
     OpenOhmmeter();
-    EXPECT_EQ(Rows(), (std::vector<std::string>{"0 | 1 | 0", "1 | 0 | 1"}));
+    EXPECT_EQ(Rows(), (Strings{"0 | 1 | 0", "1 | 0 | 1"}));
     for (int row = 0; row < kOhmmeterRows; ++row) {
         EXPECT_EQ(IsSelected(RowName("Major", row)), row < 2);
         EXPECT_EQ(IsSelected(RowName("Minor", row)), row >= 2);
@@ -170,7 +163,7 @@ TEST_F(OhmmeterPageTest, ThirtyRowsAreTheMost) {
     EXPECT_TRUE(said.empty());
     Compute("100", "7");
     Click("cmdAddToList");
-    EXPECT_EQ(said, std::vector<std::string>{kFull});
+    EXPECT_EQ(said, Strings{kFull});
     EXPECT_EQ(Rows().size(), 30U);
     EXPECT_EQ(TextOf("txtEnterResistance"), "7") << "stays in its box";
     EXPECT_TRUE(Rows().back().ends_with("| 29"));
@@ -180,7 +173,7 @@ TEST_F(OhmmeterPageTest, LastOfThirtyCannotBeRemoved) {
     OpenOhmmeter();
     FillUpTo(29);
     Click("Tic29");
-    EXPECT_EQ(said, std::vector<std::string>{kLast});
+    EXPECT_EQ(said, Strings{kLast});
     EXPECT_EQ(Rows().size(), 30U);
     const std::string last = Rows().back();
     Click("Tic28");
@@ -197,7 +190,7 @@ TEST_F(OhmmeterPageTest, RemovingMovesRowsWithTheirNumbersAndChoices) {
     Add("100");
     Click("Major3");
     Click("Tic2");
-    EXPECT_EQ(Rows(), (std::vector<std::string>{"0 | 1 | 0", "1 | 0 | 1", "3 | .5 | 100"}));
+    EXPECT_EQ(Rows(), (Strings{"0 | 1 | 0", "1 | 0 | 1", "3 | .5 | 100"}));
     EXPECT_TRUE(IsSelected("Major2"));
     EXPECT_FALSE(IsSelected("Minor2"));
     Add("0");
@@ -208,13 +201,13 @@ TEST_F(OhmmeterPageTest, RemovingMovesRowsWithTheirNumbersAndChoices) {
 TEST_F(OhmmeterPageTest, EveryRowCanBeRemoved) {
     OpenOhmmeter();
     Click("Tic0");
-    EXPECT_EQ(Rows(), std::vector<std::string>{"1 | 0 | 1"});
+    EXPECT_EQ(Rows(), Strings{"1 | 0 | 1"});
     Click("Tic0");
     EXPECT_TRUE(Rows().empty());
     PressPreview();
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], -1);
     Add("300");
-    EXPECT_EQ(Rows(), std::vector<std::string>{"0 | .25 | 300"});
+    EXPECT_EQ(Rows(), Strings{"0 | .25 | 300"});
 }
 
 TEST_F(OhmmeterPageTest, AcceptingAnEmptyListStoresMinusOne) {
@@ -223,7 +216,7 @@ TEST_F(OhmmeterPageTest, AcceptingAnEmptyListStoresMinusOne) {
     Click("Tic0");
     Click("Tic0");
     Click("Tic0");
-    Press("cmdAccept");
+    ClickAndSettle("cmdAccept");
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], -1);
     EXPECT_EQ(PageName(), "frmScales");
 }
@@ -231,10 +224,7 @@ TEST_F(OhmmeterPageTest, AcceptingAnEmptyListStoresMinusOne) {
 TEST_F(OhmmeterPageTest, PreviewStoresAndMarksAndAllowsAccepting) {
     OpenOhmmeter();
     Type("txtLabel1", "inf");
-    PressPreview([this](QWidget& form) {
-        EXPECT_EQ(TextsIn(On<PictureBox>(form, "picPlate")),
-                  (std::vector<std::string>{"0", "inf"}));
-    });
+    PressPreview([this](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"0", "inf"})); });
     EXPECT_EQ(Design.ScaleColor[1], -1);
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 1);
     EXPECT_TRUE(IsEnabled("cmdAccept"));
@@ -247,11 +237,10 @@ TEST_F(OhmmeterPageTest, AcceptStoresTheListAsItStands) {
     Type("txtLabel0", "");
     Click("Minor0");
     Design.ActiveScale = 2;
-    Press("cmdAccept");
+    ClickAndSettle("cmdAccept");
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 2);
     EXPECT_EQ(TicsInWords(1, 2),
-              (std::vector<std::string>{"[] print label", "[1] print label major",
-                                        "[300 ohms] print label"}));
+              (Strings{"[] print label", "[1] print label major", "[300 ohms] print label"}));
     EXPECT_EQ(DeflectionsOf(1, 2), (std::vector<float>{1, 0, 0.25F}))
         << "a label changes no deflection";
     EXPECT_EQ(Design.ScaleColor[1], -1);
@@ -277,8 +266,7 @@ TEST_F(OhmmeterPageTest, AStoredScaleIsReadBack) {
         Design.TicMajorYN[1][tic] = tic == 1 ? "N" : "Y";
     }
     OpenOhmmeter();
-    EXPECT_EQ(Rows(),
-              (std::vector<std::string>{"0 | 1 | 0", "1 | .5 |  ", "2 | .25 |  ", "3 | 0 | x"}))
+    EXPECT_EQ(Rows(), (Strings{"0 | 1 | 0", "1 | .5 |  ", "2 | .25 |  ", "3 | 0 | x"}))
         << "the backup writes a mark for an empty label too";
     EXPECT_EQ(Design.TicLabelText[1][1], " ");
     EXPECT_EQ(Design.LinearityExponent[1], 1);
@@ -303,7 +291,7 @@ TEST_F(OhmmeterPageTest, AScaleWithoutTicsGivesAnEmptyList) {
         OpenOhmmeter();
         EXPECT_TRUE(Rows().empty());
         Add("300");
-        EXPECT_EQ(Rows(), std::vector<std::string>{"0 | .25 | 300"});
+        EXPECT_EQ(Rows(), Strings{"0 | .25 | 300"});
     }
 }
 
@@ -360,16 +348,8 @@ TEST_F(OhmmeterPageTest, NegativeResistancesAreNotRefused) {
 TEST_F(OhmmeterPageTest, TabFollowsReadingOrder) {
     OpenOhmmeter();
     Compute("100", "100");
-    std::vector<std::string> order;
-    Find("txtEnterMidscale").setFocus();
-    for (int control = 0; control < 10; ++control) {
-        order.push_back(Page().focusWidget()->objectName().toStdString());
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, (std::vector<std::string>{"txtEnterMidscale", "txtEnterResistance",
-                                               "cmdComputeDeflection", "cmdAddToList",
-                                               "cmdIgnoreEntry", "cmdPreview", "cmdIgnoreAndReturn",
-                                               "Tic0", "txtLabel0", "Major0"}));
+    ExpectTabOrder("txtEnterMidscale txtEnterResistance cmdComputeDeflection cmdAddToList "
+                   "cmdIgnoreEntry cmdPreview cmdIgnoreAndReturn Tic0 txtLabel0 Major0");
 }
 
 } // namespace

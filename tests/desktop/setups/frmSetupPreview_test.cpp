@@ -3,9 +3,7 @@
 
 #include <cmath>
 
-#include "desktop/navigation/navigator.h"
 #include "desktop/setups/setuptest.h"
-#include "engine/base/runtimeerror.h"
 #include "engine/render/drawing.h"
 
 namespace vernacle::test {
@@ -41,9 +39,9 @@ protected:
     }
 
     // The lines of the tics alone, without arcs and crosses.
-    static std::vector<std::string> TicLines() {
+    static Strings TicLines() {
         Design.DrawArcs = "N";
-        std::vector<std::string> lines = Draw().CallsOf("Line");
+        Strings lines = Draw().CallsOf("Line");
         const std::size_t crosses = Design.PlateStyle == 0 ? 6 : 2;
         lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(crosses));
         return lines;
@@ -62,16 +60,16 @@ protected:
 
 TEST_F(SetupPreviewTest, PlateIsABlackOutlineOnTheLargerDimension) {
     // 3200 units for the 40 mm beside the centre
-    EXPECT_EQ(Draw().CallsOf("Box"), std::vector<std::string>{"Box 2800 2300 9200 6300 0"});
+    EXPECT_EQ(Draw().CallsOf("Box"), Strings{"Box 2800 2300 9200 6300 0"});
     EXPECT_EQ(Draw().Count("FilledBox"), 0U);
     Design.AspectRatio = 0.5F; // plays no part
-    EXPECT_EQ(Draw().CallsOf("Box"), std::vector<std::string>{"Box 2800 2300 9200 6300 0"});
+    EXPECT_EQ(Draw().CallsOf("Box"), Strings{"Box 2800 2300 9200 6300 0"});
     EXPECT_EQ(Design.AspectRatio, 0.5F);
     Design.PlateWidth = 50;
     Design.PlateHeight = 80;
-    EXPECT_EQ(Draw().CallsOf("Box"), std::vector<std::string>{"Box 4000 1100 8000 7500 0"});
+    EXPECT_EQ(Draw().CallsOf("Box"), Strings{"Box 4000 1100 8000 7500 0"});
     Design.PlateWidth = 80;
-    EXPECT_EQ(Draw().CallsOf("Box"), std::vector<std::string>{"Box 2800 1100 9200 7500 0"});
+    EXPECT_EQ(Draw().CallsOf("Box"), Strings{"Box 2800 1100 9200 7500 0"});
     Design.PlateWidth = 80.004F; // wider, if by little
     EXPECT_EQ(NumbersIn(Draw().CallsOf("Box").at(0)).at(0), 2800);
 }
@@ -79,7 +77,7 @@ TEST_F(SetupPreviewTest, PlateIsABlackOutlineOnTheLargerDimension) {
 TEST_F(SetupPreviewTest, MarksAreBlackCirclesWithCrossesInThePlatesColour) {
     Design.PlateBackground = 0xCCDDEE;
     const RecordingSurface surface = Draw();
-    const std::vector<std::string> circles = surface.CallsOf("Circle");
+    const Strings circles = surface.CallsOf("Circle");
     ASSERT_EQ(circles.size(), 3U); // two holes and the real bearing
     const double k = 40;           // units per half millimetre
     EXPECT_NEAR(NumbersIn(circles[0])[2], 60 * k / 32, 0.001);
@@ -87,7 +85,7 @@ TEST_F(SetupPreviewTest, MarksAreBlackCirclesWithCrossesInThePlatesColour) {
     for (const std::string& circle : circles) {
         EXPECT_TRUE(circle.ends_with(" 0")) << circle;
     }
-    const std::vector<std::string> lines = surface.CallsOf("Line");
+    const Strings lines = surface.CallsOf("Line");
     for (std::size_t line = 0; line < 6; ++line) {
         EXPECT_TRUE(lines[line].ends_with(" ccddee")) << lines[line];
     }
@@ -114,7 +112,7 @@ TEST_F(SetupPreviewTest, TicsStandAtTheirDeflections) {
         const PlateFrame frame = FrameOfDesign(Design, 40, {6000, 4300});
         const double radius = ScaleRadius(frame, double{Design.BottomToScaleCeiling[1]});
         const double shares[] = {0, 0.25, 1};
-        const std::vector<std::string> lines = TicLines();
+        const Strings lines = TicLines();
         ASSERT_EQ(lines.size(), 3U);
         for (std::size_t index = 0; index < 3; ++index) {
             const SurfacePoint at =
@@ -134,7 +132,7 @@ TEST_F(SetupPreviewTest, ScalesThatAreSwitchedOffHaveNoTicsAndArcs) {
 }
 
 TEST_F(SetupPreviewTest, NoCorrectionIsApplied) {
-    const std::vector<std::string> before = TicLines();
+    const Strings before = TicLines();
     for (int segment = 1; segment < kCurvePoints; ++segment) {
         Design.CorrectionSlope[segment] = 0.5F;
     }
@@ -142,7 +140,7 @@ TEST_F(SetupPreviewTest, NoCorrectionIsApplied) {
 }
 
 TEST_F(SetupPreviewTest, LabelSwitchesAreHonoured) {
-    EXPECT_EQ(Draw().texts, (std::vector<std::string>{"zero", "unprinted", "one.5"}));
+    EXPECT_EQ(Draw().texts, (Strings{"zero", "unprinted", "one.5"}));
     EXPECT_EQ(Design.TicLabelYN[1][1], "N") << "and stay";
     Design.PrintText = "N";
     EXPECT_TRUE(Draw().texts.empty());
@@ -154,7 +152,7 @@ TEST_F(SetupPreviewTest, ColourIsTheMagnitude) {
         for (const std::string& line : TicLines()) {
             EXPECT_TRUE(line.ends_with(" ff")) << line;
         }
-        EXPECT_EQ(Draw().CallsOf("SetForeColor"), std::vector<std::string>{"SetForeColor ff"});
+        EXPECT_EQ(Draw().CallsOf("SetForeColor"), Strings{"SetForeColor ff"});
     }
 }
 
@@ -164,7 +162,7 @@ TEST_F(SetupPreviewTest, ArcsComeLastAndForAllScales) {
     Design.ArcWidth = 2.6F;
     Design.NumberOfScales = 2;
     const RecordingSurface surface = Draw();
-    const std::vector<std::string>& calls = surface.calls;
+    const Strings& calls = surface.calls;
     EXPECT_EQ(surface.Count("Line"), 6U + 3U + 2 * 101U);
     const auto lastText = std::find(calls.rbegin(), calls.rend(), "EndFont");
     const auto width = std::find(calls.rbegin(), calls.rend(), "SetLineWidth 3");
@@ -182,9 +180,9 @@ TEST_F(SetupPreviewTest, OnlyTheCurrentScaleHasTicsAndLabels) {
         Design.TicLabelText[2][tic] = "second";
         Design.TicPrintYN[2][tic] = Design.TicLabelYN[2][tic] = "Y";
     }
-    EXPECT_EQ(Draw().texts, (std::vector<std::string>{"zero", "unprinted", "one.5"}));
+    EXPECT_EQ(Draw().texts, (Strings{"zero", "unprinted", "one.5"}));
     Design.CurrentScale = 2;
-    EXPECT_EQ(Draw().texts, std::vector<std::string>(4, "second"));
+    EXPECT_EQ(Draw().texts, Strings(4, "second"));
     EXPECT_EQ(Design.CurrentScale, 2) << "left alone";
 }
 
@@ -198,7 +196,7 @@ TEST_F(SetupPreviewTest, NothingElseIsDrawn) {
     Design.GraphicFileName = Path("x.bmp");
     Design.DrawArcs = "N";
     const RecordingSurface surface = Draw();
-    EXPECT_EQ(surface.texts, (std::vector<std::string>{"zero", "unprinted", "one.5"}));
+    EXPECT_EQ(surface.texts, (Strings{"zero", "unprinted", "one.5"}));
     EXPECT_EQ(surface.Count("PaintPicture"), 0U);
     EXPECT_EQ(surface.Count("Line"), 9U);
 }
@@ -219,8 +217,7 @@ TEST_F(SetupPreviewTest, FormShowsTheDrawing) {
         EXPECT_EQ(form.windowTitle(), QLatin1String("Vernacle - Setup Preview"));
         EXPECT_EQ(On<QLabel>(form, "lblHeading").text(), QString());
         EXPECT_EQ(On<QPushButton>(form, "cmdExit").text(), QLatin1String("Return"));
-        EXPECT_EQ(TextsIn(On<PictureBox>(form, "picPlate")),
-                  (std::vector<std::string>{"zero", "unprinted", "one.5"}));
+        EXPECT_EQ(TextsOn(form), (Strings{"zero", "unprinted", "one.5"}));
         Click(On<QPushButton>(form, "cmdExit"));
         EXPECT_FALSE(form.isVisible());
     });
@@ -237,16 +234,16 @@ TEST_F(SetupPreviewTest, FailingDrawingIsReportedOnceAndStaysOpen) {
     Design.CurrentScale = 1;
     said.clear();
     Answer([this](QWidget& form) {
-        EXPECT_EQ(CountIn(On<PictureBox>(form, "picPlate"), "Box"), 1U) << "what came before";
-        EXPECT_EQ(CountIn(On<PictureBox>(form, "picPlate"), "PrintText"), 0U);
+        EXPECT_EQ(Recorded(On<PictureBox>(form, "picPlate")).Count("Box"), 1U)
+            << "what came before";
+        EXPECT_EQ(Recorded(On<PictureBox>(form, "picPlate")).Count("PrintText"), 0U);
         Click(On<QPushButton>(form, "cmdExit"));
     });
     Design.BottomToScaleCeiling[1] = -20;
     LastStepTrace.argument = 0.5;
     ShowModal("frmSetupPreview");
-    EXPECT_EQ(said, std::vector<std::string>{
-                        "failure: We have a problem.\n\nWe are at SetupPreview errorhandler "
-                        "337\nIn ArcSin, X=.5"});
+    EXPECT_EQ(said, Strings{"failure: We have a problem.\n\nWe are at SetupPreview errorhandler "
+                            "337\nIn ArcSin, X=.5"});
 }
 
 } // namespace

@@ -63,8 +63,8 @@ TEST_F(DecibelPageTest, CaptionsAndStartingState) {
         EXPECT_EQ(Find<QPushButton>(button).text(), QLatin1String(caption));
         EXPECT_TRUE(IsEnabled(button));
     }
-    EXPECT_EQ(Headings(), (std::vector<std::string>{"Tic#:", "Deflection:", "Label:",
-                                                    "Print label?", "Major/minor?", "Print tic?"}));
+    EXPECT_EQ(Headings(), (Strings{"Tic#:", "Deflection:", "Label:", "Print label?", "Major/minor?",
+                                   "Print tic?"}));
     for (int row = 0; row < kDecibelRows; ++row) {
         EXPECT_TRUE(IsSelected(RowName("PrintTicYes", row)));
         EXPECT_EQ(IsSelected(RowName("Major", row)), row == 0);
@@ -166,9 +166,7 @@ TEST_F(DecibelPageTest, PreviewComputesAndShows) {
     Type("txtFullScaledB", "6");
     Click("PrintLabelYes0");
     Click("PrintLabelYes6");
-    PressPreview([this](QWidget& form) {
-        EXPECT_EQ(TextsIn(On<PictureBox>(form, "picPlate")), (std::vector<std::string>{"+6", "0"}));
-    });
+    PressPreview([this](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"+6", "0"})); });
     EXPECT_EQ(Design.TicLabelText[1][0], "+6");
 }
 
@@ -177,7 +175,7 @@ TEST_F(DecibelPageTest, AcceptDropsWhatWasTypedAfterwards) {
     Enter("txtFullScaledB", "3");
     Type("txtFullScaledB", "20");
     Design.ActiveScale = 2;
-    Press("cmdAccept");
+    ClickAndSettle("cmdAccept");
     EXPECT_EQ(Design.TicLabelText[1][0], "+3");
     EXPECT_EQ(Design.ScaleColor[1], -1);
 }
@@ -195,12 +193,12 @@ TEST_F(DecibelPageTest, AStoredScaleIsReadBack) {
     Type("txtLinearityExponent", "2");
     Enter("txtFullscaleMultiplier", ".9");
     Design.ActiveScale = 2;
-    Press("cmdAccept");
+    ClickAndSettle("cmdAccept");
     OpenDecibel();
-    EXPECT_EQ(TextOf("txtFullScaledB"), "3");
-    EXPECT_EQ(TextOf("txtNrOfTicmarks"), "8");
-    EXPECT_EQ(TextOf("txtLinearityExponent"), "2");
-    EXPECT_EQ(TextOf("txtFullscaleMultiplier"), ".9");
+    ExpectShown({{"txtFullScaledB", "3"},
+                 {"txtNrOfTicmarks", "8"},
+                 {"txtLinearityExponent", "2"},
+                 {"txtFullscaleMultiplier", ".9"}});
     EXPECT_TRUE(IsSelected("PrintLabelYes0"));
     EXPECT_FALSE(IsSelected("PrintLabelYes1"));
     EXPECT_FALSE(IsSelected("PrintTicYes2"));
@@ -255,25 +253,15 @@ TEST_F(DecibelPageTest, BottomTicIsDrawnWithoutALabel) {
     for (const int row : {0, 23, 24}) {
         Click(RowName("PrintLabelYes", row));
     }
-    PressPreview([this](QWidget& form) {
-        EXPECT_EQ(TextsIn(On<PictureBox>(form, "picPlate")),
-                  (std::vector<std::string>{"0", "-23"}));
-    });
+    PressPreview([this](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"0", "-23"})); });
     EXPECT_EQ(RowShown(24), "(bottom) | 0 | ");
 }
 
 TEST_F(DecibelPageTest, TabFollowsReadingOrder) {
     OpenDecibel();
-    std::vector<std::string> order;
-    Find("txtFullScaledB").setFocus();
-    for (int control = 0; control < 11; ++control) {
-        order.push_back(Page().focusWidget()->objectName().toStdString());
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, (std::vector<std::string>{
-                         "txtFullScaledB", "txtNrOfTicmarks", "txtLinearityExponent",
-                         "txtFullscaleMultiplier", "optUnlabelledAtBottomYes", "optY", "cmdEnter",
-                         "cmdPreview", "cmdIgnore", "cmdAccept", "PrintLabelYes0"}));
+    ExpectTabOrder("txtFullScaledB txtNrOfTicmarks txtLinearityExponent txtFullscaleMultiplier "
+                   "optUnlabelledAtBottomYes optY cmdEnter cmdPreview cmdIgnore cmdAccept "
+                   "PrintLabelYes0");
 }
 
 TEST_F(DecibelPageTest, AStandardScaleIsNotReadBack) {

@@ -46,13 +46,10 @@ TEST_F(SpecialPageTest, CaptionsAndStartingState) {
         EXPECT_EQ(Find<QPushButton>(button).text(), QLatin1String(text));
         EXPECT_TRUE(IsEnabled(button));
     }
-    EXPECT_EQ(Headings(),
-              (std::vector<std::string>{"Tic#:", "Deflection:", "Label:", "Major/minor?"}));
+    EXPECT_EQ(Headings(), (Strings{"Tic#:", "Deflection:", "Label:", "Major/minor?"}));
     EXPECT_EQ(TextOf("txtNrOfTicmarks"), "1") << "of the design's 0";
     EXPECT_EQ(RowsShown(), 2);
-    EXPECT_EQ(Shown("Tic0"), "0");
-    EXPECT_EQ(Shown("Tic1"), "1 (top)");
-    EXPECT_EQ(Shown("Tic2"), "");
+    ExpectShown({{"Tic0", "0"}, {"Tic1", "1 (top)"}, {"Tic2", ""}});
     for (int row = 0; row < kSpecialRows; ++row) {
         EXPECT_FALSE(IsSelected(RowName("Major", row)));
     }
@@ -130,13 +127,11 @@ TEST_F(SpecialPageTest, PreviewShowsWhatWasTyped) {
     TypeRow(2, "0", "start");
     Click("Major0");
     PressPreview([this](QWidget& form) {
-        EXPECT_EQ(TextsIn(On<PictureBox>(form, "picPlate")),
-                  (std::vector<std::string>{"end", "", "start"}));
+        EXPECT_EQ(TextsOn(form), (Strings{"end", "", "start"}));
     });
     EXPECT_EQ(DeflectionsOf(1, 2), (std::vector<float>{1, 0.25F, 0}));
     EXPECT_EQ(TicsInWords(1, 2),
-              (std::vector<std::string>{"[end] print label major", "[ ] print label",
-                                        "[start] print label"}));
+              (Strings{"[end] print label major", "[ ] print label", "[start] print label"}));
     EXPECT_TRUE(said.empty());
     EXPECT_GE(Design.ScaleColor[1], 0) << "marked on Accept";
 }
@@ -157,14 +152,14 @@ TEST_F(SpecialPageTest, FaultsAreCorrectedAndToldInTwoWays) {
         TypeRow(1, row.typed, "x");
         said.clear();
         PressPreview();
-        EXPECT_EQ(said, std::vector<std::string>{kRange + std::string(row.stopOfPreview)});
+        EXPECT_EQ(said, Strings{kRange + std::string(row.stopOfPreview)});
         EXPECT_EQ(TextOf("txtDeflection1"), row.shown);
         EXPECT_EQ(Design.TicDeflection[1][1], row.stored);
         Type("txtDeflection1", row.typed);
         said.clear();
         Design.ActiveScale = 2;
-        Press("cmdAccept");
-        EXPECT_EQ(said, std::vector<std::string>{kRange});
+        ClickAndSettle("cmdAccept");
+        EXPECT_EQ(said, Strings{kRange});
         EXPECT_EQ(Design.TicDeflection[1][1], row.stored);
         EXPECT_EQ(Design.ScaleColor[1], -1);
         EXPECT_EQ(PageName(), "frmScales") << "a wrong entry stops nothing";
@@ -179,8 +174,7 @@ TEST_F(SpecialPageTest, EachFaultyRowHasItsOwnMessage) {
     TypeRow(2, "-2", "c");
     TypeRow(3, "3", "d");
     PressPreview();
-    EXPECT_EQ(said, (std::vector<std::string>{kRange + std::string("."), kRange,
-                                              kRange + std::string(".")}));
+    EXPECT_EQ(said, (Strings{kRange + std::string("."), kRange, kRange + std::string(".")}));
     EXPECT_EQ(DeflectionsOf(1, 3), (std::vector<float>{1, 0.5F, 0, 1}));
 }
 
@@ -211,15 +205,14 @@ TEST_F(SpecialPageTest, AStoredScaleIsReadBack) {
         Design.TicMajorYN[1][tic] = tic == 1 ? "N" : "Y";
     }
     OpenSpecial();
-    EXPECT_EQ(TextOf("txtNrOfTicmarks"), "2");
-    EXPECT_EQ(TextOf("txtDeflection1"), ".5");
-    EXPECT_EQ(TextOf("txtLabel1"), " ");
-    EXPECT_EQ(TextOf("txtLabel2"), "F");
+    ExpectShown({{"txtNrOfTicmarks", "2"},
+                 {"txtDeflection1", ".5"},
+                 {"txtLabel1", " "},
+                 {"txtLabel2", "F"}});
     EXPECT_TRUE(IsSelected("Major0"));
     EXPECT_FALSE(IsSelected("Major1"));
     EXPECT_EQ(TicsInWords(1, 2),
-              (std::vector<std::string>{"[E] print label major", "[ ] print label",
-                                        "[F] print label major"}));
+              (Strings{"[E] print label major", "[ ] print label", "[F] print label major"}));
     EXPECT_EQ(DeflectionsOf(1, 2), (std::vector<float>{0, 0.5F, 1}));
 }
 
@@ -237,23 +230,15 @@ TEST_F(SpecialPageTest, AcceptTakesWhatIsTyped) {
     TypeRow(1, "1", "H");
     Click("Major1");
     Design.ActiveScale = 2;
-    Press("cmdAccept");
-    EXPECT_EQ(TicsInWords(1, 1),
-              (std::vector<std::string>{"[L] print label", "[H] print label major"}));
+    ClickAndSettle("cmdAccept");
+    EXPECT_EQ(TicsInWords(1, 1), (Strings{"[L] print label", "[H] print label major"}));
     EXPECT_EQ(Design.ScaleColor[1], -1);
 }
 
 TEST_F(SpecialPageTest, TabFollowsTheRows) {
     OpenSpecial();
-    std::vector<std::string> order;
-    Find("txtNrOfTicmarks").setFocus();
-    for (int control = 0; control < 8; ++control) {
-        order.push_back(Page().focusWidget()->objectName().toStdString());
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, (std::vector<std::string>{"txtNrOfTicmarks", "cmdPreview", "cmdIgnore",
-                                               "cmdAccept", "txtDeflection0", "txtLabel0", "Major0",
-                                               "txtDeflection1"}));
+    ExpectTabOrder("txtNrOfTicmarks cmdPreview cmdIgnore cmdAccept txtDeflection0 txtLabel0 "
+                   "Major0 txtDeflection1");
 }
 
 } // namespace

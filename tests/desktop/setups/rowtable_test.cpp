@@ -1,8 +1,6 @@
 // A table of real controls: names, headings in view, keyboard.
 #include "desktop/setups/rowtable.h"
 
-#include <QHeaderView>
-#include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
 

@@ -3,7 +3,6 @@
 
 #include "desktop/setups/setuptest.h"
 
-#include "desktop/navigation/navigator.h"
 #include "engine/base/hostservices.h"
 #include "engine/base/runtimeerror.h"
 #include "engine/correction/curve.h"
@@ -28,20 +27,25 @@ constexpr SetupRow kSetups[] = {
     {"cmddB", "frmSetupdB", "cmdIgnore", nullptr},
 };
 
-class SetupPageTest : public SetupFormTest {
+class SetupPageTest : public SetupFormTest {};
+
+class EachSetupTest : public SetupPageTest, public ::testing::WithParamInterface<SetupRow> {
 protected:
-    // Walks from the scales page to the setup.
-    void WalkTo(const SetupRow& row) {
+    const SetupRow& row = GetParam();
+
+    // Walks from the scales page to the setup, for that scale.
+    void WalkToSetup(std::int16_t active = 1) {
         OpenPage("frmScales");
+        Design.ActiveScale = active;
         Find("cmddBsetup").setEnabled(true);
-        Press("cmddBsetup");
+        ClickAndSettle("cmddBsetup");
         ASSERT_EQ(PageName(), "frmSetupMenu");
-        Press(row.button);
+        ClickAndSettle(row.button);
         ASSERT_EQ(PageName(), row.page);
     }
 
     // So that it can be accepted, whatever its page asks for first.
-    void MakeTics(const SetupRow& row) {
+    void MakeTics() {
         if (row.option) {
             Click(row.option);
         }
@@ -51,8 +55,8 @@ protected:
     }
 
     // The lines of a file, but for its own name and the correction curve, which the reader forces.
-    std::vector<std::string> ScaleLinesIn(const std::string& file) const {
-        std::vector<std::string> lines;
+    Strings ScaleLinesIn(const std::string& file) const {
+        Strings lines;
         std::istringstream text(ReadFile(file));
         for (std::string line; std::getline(text, line);) {
             if (!line.starts_with("Filename: ") && !line.starts_with("Pair #")) {
@@ -63,111 +67,87 @@ protected:
     }
 };
 
-TEST_F(SetupPageTest, EnteringBacksTheDesignUpAndNamesTheScale) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        std::filesystem::remove(Path("Backup.DAT"));
-        ResetDesign(Design);
-        Design.DesignFileName = "/designs/mine.VRN";
-        Design.PlateWidth = 63;
-        WalkTo(row);
-        EXPECT_TRUE(Exists("Backup.DAT"));
-        EXPECT_EQ(Design.DesignFileName, "");
-        EXPECT_EQ(Shown("lblWorking"), "Working with scale # 1");
-        EXPECT_EQ(Design.CurrentScale, 1);
-        const DesignRecord now = Design;
-        ReadDesign(Design, "Backup.DAT");
-        EXPECT_EQ(Design.PlateWidth, 63);
-        EXPECT_EQ(Design.DesignFileName, "");
-        Design = now;
-    }
+INSTANTIATE_TEST_SUITE_P(Setups, EachSetupTest, ::testing::ValuesIn(kSetups),
+                         [](const auto& row) { return std::string(row.param.page); });
+
+TEST_P(EachSetupTest, EnteringBacksTheDesignUpAndNamesTheScale) {
+    Design.DesignFileName = "/designs/mine.VRN";
+    Design.PlateWidth = 63;
+    WalkToSetup();
+    EXPECT_TRUE(Exists("Backup.DAT"));
+    EXPECT_EQ(Design.DesignFileName, "");
+    EXPECT_EQ(Shown("lblWorking"), "Working with scale # 1");
+    EXPECT_EQ(Design.CurrentScale, 1);
+    const DesignRecord now = Design;
+    ReadDesign(Design, "Backup.DAT");
+    EXPECT_EQ(Design.PlateWidth, 63);
+    EXPECT_EQ(Design.DesignFileName, "");
+    Design = now;
 }
 
-TEST_F(SetupPageTest, BackupIsTakenBeforeTheFirstWrite) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        ResetDesign(Design);
-        Design.NumberOfScales = 2;
-        Design.ScaleColor[2] = -5;
-        Design.SpecialNrOfTicmarks[2] = 3;
-        for (int tic = 0; tic <= 3; ++tic) {
-            Design.TicDeflection[2][tic] = static_cast<float>(tic) / 4;
-            Design.TicLabelText[2][tic] = "tic " + std::to_string(tic);
-        }
-        OpenSetup(row.page, 2);
-        EXPECT_EQ(Shown("lblWorking"), "Working with scale # 2");
-        MakeTics(row);
-        ReadDesign(Design, "Backup.DAT");
-        EXPECT_EQ(Design.SpecialNrOfTicmarks[2], 3);
-        EXPECT_EQ(Design.TicDeflection[2][1], 0.25F);
-        EXPECT_EQ(Design.TicLabelText[2][3], "tic 3");
+TEST_P(EachSetupTest, BackupIsTakenBeforeTheFirstWrite) {
+    Design.NumberOfScales = 2;
+    Design.ScaleColor[2] = -5;
+    Design.SpecialNrOfTicmarks[2] = 3;
+    for (int tic = 0; tic <= 3; ++tic) {
+        Design.TicDeflection[2][tic] = static_cast<float>(tic) / 4;
+        Design.TicLabelText[2][tic] = "tic " + std::to_string(tic);
     }
+    OpenSetup(row.page, 2);
+    EXPECT_EQ(Shown("lblWorking"), "Working with scale # 2");
+    MakeTics();
+    ReadDesign(Design, "Backup.DAT");
+    EXPECT_EQ(Design.SpecialNrOfTicmarks[2], 3);
+    EXPECT_EQ(Design.TicDeflection[2][1], 0.25F);
+    EXPECT_EQ(Design.TicLabelText[2][3], "tic 3");
 }
 
 // What the accepting marks the load of the scales page takes back, as it does for a scale that is
 // selected there; the tables stay.
-TEST_F(SetupPageTest, AcceptMarksBeforeTheScalesPageLoads) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        ResetDesign(Design);
-        Design.ActiveScale = 1;
-        WalkTo(row);
-        MakeTics(row);
-        Design.ActiveScale = 2; // another: the load clears that one's mark
-        Design.ScaleColor[1] = 0;
-        Press("cmdAccept");
-        EXPECT_EQ(PageName(), "frmScales");
-        EXPECT_EQ(Design.ScaleColor[1], -1) << "black has no sign before";
-        EXPECT_EQ(Design.ActiveScale, 2);
-        EXPECT_EQ(Design.DesignFileName, "");
-    }
+TEST_P(EachSetupTest, AcceptMarksBeforeTheScalesPageLoads) {
+    WalkToSetup();
+    MakeTics();
+    Design.ActiveScale = 2; // another: the load clears that one's mark
+    Design.ScaleColor[1] = 0;
+    ClickAndSettle("cmdAccept");
+    EXPECT_EQ(PageName(), "frmScales");
+    EXPECT_EQ(Design.ScaleColor[1], -1) << "black has no sign before";
+    EXPECT_EQ(Design.ActiveScale, 2);
+    EXPECT_EQ(Design.DesignFileName, "");
 }
 
-TEST_F(SetupPageTest, ScalesPageClearsTheMarkOfTheActiveScale) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        ResetDesign(Design);
-        Design.ActiveScale = 1;
-        WalkTo(row);
-        MakeTics(row);
-        const std::vector<std::string> tics = TicsInWords(1, 30);
-        Press("cmdAccept");
-        EXPECT_EQ(PageName(), "frmScales");
-        EXPECT_EQ(Design.ScaleColor[1], 0);
-        EXPECT_EQ(TicsInWords(1, 30), tics) << "the tables stay";
-        EXPECT_FALSE(IsSpecial(Design, 1));
-    }
+TEST_P(EachSetupTest, ScalesPageClearsTheMarkOfTheActiveScale) {
+    WalkToSetup();
+    MakeTics();
+    const Strings tics = TicsInWords(1, 30);
+    ClickAndSettle("cmdAccept");
+    EXPECT_EQ(PageName(), "frmScales");
+    EXPECT_EQ(Design.ScaleColor[1], 0);
+    EXPECT_EQ(TicsInWords(1, 30), tics) << "the tables stay";
+    EXPECT_FALSE(IsSpecial(Design, 1));
 }
 
-TEST_F(SetupPageTest, SpecialScalesKeepTheirColour) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        ResetDesign(Design);
-        OpenSetup(row.page);
-        MakeTics(row);
-        Design.ScaleColor[1] = -0x804020;
-        Design.ActiveScale = 2;
-        Press("cmdAccept");
-        EXPECT_EQ(Design.ScaleColor[1], -0x804020);
-    }
+TEST_P(EachSetupTest, SpecialScalesKeepTheirColour) {
+    OpenSetup(row.page);
+    MakeTics();
+    Design.ScaleColor[1] = -0x804020;
+    Design.ActiveScale = 2;
+    ClickAndSettle("cmdAccept");
+    EXPECT_EQ(Design.ScaleColor[1], -0x804020);
 }
 
-TEST_F(SetupPageTest, IgnoreBringsTheDesignBack) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        ResetDesign(Design);
-        Design.DesignFileName = "/designs/mine.VRN";
-        Design.PlateWidth = 63;
-        Design.ScaleColor[1] = 0;
-        WalkTo(row);
-        MakeTics(row);
-        Design.PlateWidth = 99;
-        Press(row.ignore);
-        EXPECT_EQ(PageName(), "frmScales");
-        EXPECT_EQ(Design.PlateWidth, 63);
-        EXPECT_EQ(Design.ScaleColor[1], 0);
-        EXPECT_EQ(Design.DesignFileName, "") << "the name is gone all the same";
-    }
+TEST_P(EachSetupTest, IgnoreBringsTheDesignBack) {
+    Design.DesignFileName = "/designs/mine.VRN";
+    Design.PlateWidth = 63;
+    Design.ScaleColor[1] = 0;
+    WalkToSetup();
+    MakeTics();
+    Design.PlateWidth = 99;
+    ClickAndSettle(row.ignore);
+    EXPECT_EQ(PageName(), "frmScales");
+    EXPECT_EQ(Design.PlateWidth, 63);
+    EXPECT_EQ(Design.ScaleColor[1], 0);
+    EXPECT_EQ(Design.DesignFileName, "") << "the name is gone all the same";
     EXPECT_TRUE(said.empty());
 }
 
@@ -176,7 +156,7 @@ TEST_F(SetupPageTest, IgnoreLosesTheCorrectionCurve) {
     Design.CorrectionPair[3] = 0.1F;
     Design.CorrectionPair[4] = 0.2F;
     OpenSetup("frmSetupdB");
-    Press("cmdIgnore");
+    ClickAndSettle("cmdIgnore");
     EXPECT_NE(Design.CorrectionPair[3], 0.1F);
     float share = 0.1F;
     EXPECT_FLOAT_EQ(CorrectDeflection(Design, share), 0.1F);
@@ -187,22 +167,14 @@ TEST_F(SetupPageTest, IgnoreTakesBackAMarkOfThePreview) {
     PressPreview();
     EXPECT_EQ(Design.ScaleColor[1], -1);
     Design.ActiveScale = 2;
-    Press("cmdIgnoreAndReturn");
+    ClickAndSettle("cmdIgnoreAndReturn");
     EXPECT_GE(Design.ScaleColor[1], 0);
 }
 
-TEST_F(SetupPageTest, SetupsWorkOnTheActiveScale) {
-    OpenPage("frmScales");
-    for (const SetupRow& row : kSetups) {
-        for (const std::int16_t active : {std::int16_t{0}, std::int16_t{3}}) {
-            OpenPage("frmScales");
-            Design.ActiveScale = active;
-            Find("cmddBsetup").setEnabled(true);
-            Press("cmddBsetup");
-            Press(row.button);
-            EXPECT_EQ(Shown("lblWorking"),
-                      "Working with scale # " + std::to_string(active == 0 ? 1 : active));
-        }
+TEST_P(EachSetupTest, WorksOnTheActiveScale) {
+    for (const auto& [active, working] : {std::pair(0, 1), {3, 3}}) {
+        WalkToSetup(static_cast<std::int16_t>(active));
+        EXPECT_EQ(Shown("lblWorking"), "Working with scale # " + std::to_string(working));
     }
 }
 
@@ -211,7 +183,7 @@ TEST_F(SetupPageTest, AcceptedSmeterPageComesBackAsItWasLeft) {
     const QPointer<QWidget> page = &OpenSetup("frmSetupSmeter", 2);
     Click("Option3");
     std::filesystem::remove(Path("Backup.DAT"));
-    Press("cmdAccept");
+    ClickAndSettle("cmdAccept");
     ASSERT_FALSE(page.isNull());
     EXPECT_FALSE(page->isVisible());
     Design.PlateWidth = 71;
@@ -226,7 +198,7 @@ TEST_F(SetupPageTest, AcceptedSmeterPageComesBackAsItWasLeft) {
 // The process ends with the page behind, by whatever way.
 TEST_F(SetupPageTest, EndingUnloadsThePageBehind) {
     const QPointer<QWidget> page = &OpenSetup("frmSetupSmeter");
-    Press("cmdAccept");
+    ClickAndSettle("cmdAccept");
     ASSERT_FALSE(page.isNull());
     CloseByUser(Page());
     EXPECT_TRUE(page.isNull());
@@ -237,10 +209,10 @@ TEST_F(SetupPageTest, IgnoreOnItsSecondVisitReturnsToTheBackupOfTheFirst) {
     Design.PlateWidth = 63;
     const QPointer<QWidget> page = &OpenSetup("frmSetupSmeter");
     Click("Option3");
-    Press("cmdAccept");
+    ClickAndSettle("cmdAccept");
     Design.PlateWidth = 71;
     OpenSetup("frmSetupSmeter");
-    Press("cmdIgnore");
+    ClickAndSettle("cmdIgnore");
     EXPECT_EQ(PageName(), "frmScales");
     EXPECT_EQ(Design.PlateWidth, 63);
     EXPECT_TRUE(page.isNull()) << "ignoring unloads it";
@@ -248,26 +220,11 @@ TEST_F(SetupPageTest, IgnoreOnItsSecondVisitReturnsToTheBackupOfTheFirst) {
     EXPECT_FALSE(IsSelected("Option3"));
 }
 
-TEST_F(SetupPageTest, OtherPagesAreUnloadedWhenLeft) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        const QPointer<QWidget> page = &OpenSetup(row.page);
-        MakeTics(row);
-        Press("cmdAccept");
-        EXPECT_EQ(page.isNull(), row.page != std::string("frmSetupSmeter"));
-    }
-}
-
-TEST_F(SetupPageTest, CloseBoxKeepsTheSession) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        std::filesystem::remove(Path("LASTSESSION.VRN"));
-        OpenSetup(row.page);
-        CloseByUser(Page());
-        EXPECT_TRUE(TakeProcessEnd());
-        EXPECT_TRUE(Exists("LASTSESSION.VRN"));
-        EXPECT_EQ(CurrentPage(), nullptr);
-    }
+TEST_P(EachSetupTest, OtherPagesAreUnloadedWhenLeft) {
+    const QPointer<QWidget> page = &OpenSetup(row.page);
+    MakeTics();
+    ClickAndSettle("cmdAccept");
+    EXPECT_EQ(page.isNull(), row.page != std::string("frmSetupSmeter"));
 }
 
 TEST_F(SetupPageTest, FailingBackupIsReportedAndThePageOpens) {
@@ -283,44 +240,39 @@ TEST_F(SetupPageTest, FailingBackupIsReportedAndThePageOpens) {
 TEST_F(SetupPageTest, MissingBackupIsReportedAndTheScalesPageOpens) {
     OpenSetup("frmSetupVSWR");
     std::filesystem::remove(Path("Backup.DAT"));
-    Press("cmdIgnore");
+    ClickAndSettle("cmdIgnore");
     EXPECT_EQ(said.size(), 2U);
     EXPECT_EQ(PageName(), "frmScales");
 }
 
 // A special scale of each kind goes through a design file without loss.
-TEST_F(SetupPageTest, AcceptedScalesGoThroughAFile) {
-    for (const SetupRow& row : kSetups) {
-        SCOPED_TRACE(row.page);
-        ResetDesign(Design);
-        OpenSetup(row.page);
-        MakeTics(row);
-        Design.ActiveScale = 2;
-        Press("cmdAccept");
-        const int last = Design.SpecialNrOfTicmarks[1];
-        ASSERT_GT(last, 0);
-        std::vector<std::string> tics = TicsInWords(1, last);
-        for (std::string& tic : tics) {
-            if (tic.starts_with("[]")) {
-                tic.insert(1, " "); // an empty label comes back as a blank
-            }
+TEST_P(EachSetupTest, AcceptedScalesGoThroughAFile) {
+    OpenSetup(row.page);
+    MakeTics();
+    Design.ActiveScale = 2;
+    ClickAndSettle("cmdAccept");
+    const int last = Design.SpecialNrOfTicmarks[1];
+    ASSERT_GT(last, 0);
+    Strings tics = TicsInWords(1, last);
+    for (std::string& tic : tics) {
+        if (tic.starts_with("[]")) {
+            tic.insert(1, " "); // an empty label comes back as a blank
         }
-        const std::vector<float> deflections = DeflectionsOf(1, last);
-        Design.DesignFileName = Path("first.VRN");
-        WriteDesign(Design);
-        ResetDesign(Design);
-        ReadDesign(Design, Path("first.VRN"));
-        EXPECT_EQ(Design.SpecialNrOfTicmarks[1], last);
-        EXPECT_EQ(Design.ScaleColor[1], -1);
-        EXPECT_EQ(TicsInWords(1, last), tics);
-        for (int tic = 0; tic <= last; ++tic) { // a file has seven digits
-            EXPECT_FLOAT_EQ(Design.TicDeflection[1][tic],
-                            deflections[static_cast<std::size_t>(tic)]);
-        }
-        Design.DesignFileName = Path("again.VRN");
-        WriteDesign(Design);
-        EXPECT_EQ(ScaleLinesIn("again.VRN"), ScaleLinesIn("first.VRN"));
     }
+    const std::vector<float> deflections = DeflectionsOf(1, last);
+    Design.DesignFileName = Path("first.VRN");
+    WriteDesign(Design);
+    ResetDesign(Design);
+    ReadDesign(Design, Path("first.VRN"));
+    EXPECT_EQ(Design.SpecialNrOfTicmarks[1], last);
+    EXPECT_EQ(Design.ScaleColor[1], -1);
+    EXPECT_EQ(TicsInWords(1, last), tics);
+    for (int tic = 0; tic <= last; ++tic) { // a file has seven digits
+        EXPECT_FLOAT_EQ(Design.TicDeflection[1][tic], deflections[static_cast<std::size_t>(tic)]);
+    }
+    Design.DesignFileName = Path("again.VRN");
+    WriteDesign(Design);
+    EXPECT_EQ(ScaleLinesIn("again.VRN"), ScaleLinesIn("first.VRN"));
     EXPECT_TRUE(said.empty());
 }
 
