@@ -2,21 +2,15 @@
 #include "desktop/correction/frmCorrectionEntry.h"
 
 #include <QPlainTextEdit>
-#include <QPushButton>
 
 #include "desktop/correction/curvehandle.h"
 #include "desktop/correction/curvepicture.h"
-#include "desktop/kit/entrybox.h"
-#include "desktop/navigation/navigator.h"
 #include "engine/base/hostservices.h"
 #include "engine/base/numbertext.h"
-#include "engine/correction/curve.h"
 #include "engine/output/hpgl.h"
 #include "engine/output/print.h"
 #include "engine/render/drawing.h"
-#include "support/answers.h"
 #include "support/formtest.h"
-#include "support/recordingsurface.h"
 
 namespace vernacle::test {
 namespace {
@@ -45,14 +39,15 @@ protected:
         EXPECT_TRUE(AllAnswered());
     }
 
+    QWidget& Form() const { return *form_; }
     template <typename Control = QWidget>
     Control& The(const std::string& name) const {
         return On<Control>(*form_, name);
     }
     EntryBox& Text(int number) const { return The<EntryBox>("Text" + std::to_string(number)); }
     std::string TextIn(int number) const { return Text(number).Text(); }
-    std::vector<std::string> Texts(int first, int last) const {
-        std::vector<std::string> texts;
+    Strings Texts(int first, int last) const {
+        Strings texts;
         for (int number = first; number <= last; ++number) {
             texts.push_back(TextIn(number));
         }
@@ -68,11 +63,7 @@ protected:
     CurveHandle& Handle(int point) const {
         return The<CurveHandle>("Image" + std::to_string(point));
     }
-    std::vector<std::string> Drawn() const {
-        RecordingSurface surface;
-        Plot().Record().Replay(surface);
-        return surface.calls;
-    }
+    Strings Drawn() const { return Recorded(Plot()).calls; }
 
     // Drags the handle to those fractions, as a user does.
     void Drag(int point, double current, double deflection) const {
@@ -101,40 +92,37 @@ private:
 
 TEST_F(CorrectionEntryTest, CaptionsAndTitle) {
     OnPage([this] {
-        const std::pair<const char*, const char*> labels[] = {
-            {"Label5", "Movement nonlinearity correction"},
-            {"Label8", "Current %:"},
-            {"Label9", "Deflection %:"},
-            {"Label0", "Point 0:"},
-            {"Label4", "Point 4:"},
-            {"Label11", "Point 5:"},
-            {"Label12", "Point 6:"},
-            {"Label6", "Current %"},
-            {"Label7", "Deflection %:"},
-            {"LabelZero", "0"},
-            {"Label60", "60"},
-            {"Label100", "100"},
-            {"LabelZeroV", "0"},
-            {"Label20V", "20"},
-            {"Label100V", "100"},
-            {"Label10",
-             "Use either drag / drop or textbox entry to enter the new transfer function."}};
-        for (const auto& [label, text] : labels) {
-            EXPECT_EQ(The<QLabel>(label).text(), QLatin1String(text)) << label;
-        }
-        const std::pair<const char*, const char*> buttons[] = {
-            {"cmdAcceptXY", "Apply these entries"}, {"cmdRead", "Get old curve"},
-            {"cmdWrite", "Save this curve"},        {"cmdRestore", "Restore to linear"},
-            {"cmdShowTable", "Show table"},         {"cmdExitNo", "Return to Plate design"}};
-        for (const auto& [button, text] : buttons) {
-            EXPECT_EQ(The<QPushButton>(button).text(), QLatin1String(text));
-        }
-        EXPECT_EQ(Text(1).window()->windowTitle(), QLatin1String("Vernacle - Correction Entry"));
-        EXPECT_TRUE(Text(1).window()->isModal());
+        ExpectShown(
+            Form(),
+            {{"Label5", "Movement nonlinearity correction"},
+             {"Label8", "Current %:"},
+             {"Label9", "Deflection %:"},
+             {"Label0", "Point 0:"},
+             {"Label4", "Point 4:"},
+             {"Label11", "Point 5:"},
+             {"Label12", "Point 6:"},
+             {"Label6", "Current %"},
+             {"Label7", "Deflection %:"},
+             {"LabelZero", "0"},
+             {"Label60", "60"},
+             {"Label100", "100"},
+             {"LabelZeroV", "0"},
+             {"Label20V", "20"},
+             {"Label100V", "100"},
+             {"Label10",
+              "Use either drag / drop or textbox entry to enter the new transfer function."},
+             {"cmdAcceptXY", "Apply these entries"},
+             {"cmdRead", "Get old curve"},
+             {"cmdWrite", "Save this curve"},
+             {"cmdRestore", "Restore to linear"},
+             {"cmdShowTable", "Show table"},
+             {"cmdExitNo", "Return to Plate design"}});
+        EXPECT_EQ(Form().windowTitle(), QLatin1String("Vernacle - Correction Entry"));
+        EXPECT_TRUE(Form().isModal());
     });
     Design.DesignFileName = "/designs/mine.VRN";
     OnPage([this] {
-        EXPECT_EQ(Text(1).window()->windowTitle(),
+        EXPECT_EQ(Form().windowTitle(),
                   QLatin1String("Vernacle - Correction Entry - /designs/mine.VRN"));
     });
 }
@@ -143,9 +131,8 @@ TEST_F(CorrectionEntryTest, OpensOnTheDesignsCurve) {
     Design.CorrectionPair[3] = 0.1F;
     Design.CorrectionPair[4] = 0.2F;
     OnPage([this] {
-        EXPECT_EQ(Texts(1, 6),
-                  (std::vector<std::string>{"0.0", "0.0", "10. ", "20. ", "30. ", "30. "}));
-        EXPECT_EQ(Texts(13, 14), (std::vector<std::string>{"100.0", "100.0"}));
+        EXPECT_EQ(Texts(1, 6), (Strings{"0.0", "0.0", "10. ", "20. ", "30. ", "30. "}));
+        EXPECT_EQ(Texts(13, 14), (Strings{"100.0", "100.0"}));
         EXPECT_GT(Drawn().size(), 70U);
         const QPointF at = Plot().ToWidget(5500, 5000);
         EXPECT_LE((Handle(1).geometry().center() - at.toPoint()).manhattanLength(), 2);
@@ -187,7 +174,7 @@ TEST_F(CorrectionEntryTest, BadDropsAreDisallowedAndStay) {
     OnPage([this] {
         const std::string before = TextIn(11);
         Drag(5, 1.05, 0.9); // right of the plot's end
-        EXPECT_EQ(said, std::vector<std::string>{kDisallowed});
+        EXPECT_EQ(said, Strings{kDisallowed});
         EXPECT_NEAR(Current(5), 1.05, 0.002) << "the bad value stays";
         EXPECT_EQ(TextIn(11), before) << "and the old box";
         const QPointF dropped = Plot().ToWidget(5000 + 5000 * 1.05, 6000 - 5000 * 0.9);
@@ -197,13 +184,13 @@ TEST_F(CorrectionEntryTest, BadDropsAreDisallowedAndStay) {
         Press("cmdRestore");
         EXPECT_TRUE(said.empty());
         Drag(1, 0.15, -0.05); // below the plot
-        EXPECT_EQ(said, std::vector<std::string>{kDisallowed});
+        EXPECT_EQ(said, Strings{kDisallowed});
         EXPECT_LT(Deflection(1), 0);
         said.clear();
         Press("cmdRestore");
         Drag(2, 0.1, 0.3); // left of its neighbour
-        EXPECT_EQ(said, std::vector<std::string>{kDisallowed});
-        std::vector<std::string> calls = Drawn();
+        EXPECT_EQ(said, Strings{kDisallowed});
+        Strings calls = Drawn();
         std::erase_if(calls, [](const std::string& call) { return !call.ends_with(" 111199"); });
         EXPECT_TRUE(calls.empty()) << "no curve";
     });
@@ -212,7 +199,7 @@ TEST_F(CorrectionEntryTest, BadDropsAreDisallowedAndStay) {
 TEST_F(CorrectionEntryTest, ReleasesElsewhereChangeNothing) {
     OnPage([this] {
         const QPoint home = Handle(2).pos();
-        const std::vector<std::string> before = Drawn();
+        const Strings before = Drawn();
         QTest::mouseClick(&Handle(2), Qt::LeftButton); // pressed only
         DragTo(2, {-60, 40});                          // beside the surface
         DragTo(2, {40, -200});
@@ -232,7 +219,7 @@ TEST_F(CorrectionEntryTest, ReleasesElsewhereChangeNothing) {
 
 TEST_F(CorrectionEntryTest, EscapeEndsADragAndNotThePage) {
     OnPage([this] {
-        const std::vector<std::string> before = Drawn();
+        const Strings before = Drawn();
         CurveHandle& handle = Handle(3);
         const QPoint home = handle.pos();
         const QPoint grip = handle.rect().center();
@@ -284,7 +271,7 @@ TEST_F(CorrectionEntryTest, EntriesAreApplied) {
         EXPECT_EQ(Current(0), 0);
         EXPECT_EQ(Deflection(6), 1);
         EXPECT_EQ(Design.NumberOfCorrectionPoints, 7);
-        EXPECT_EQ(Texts(1, 4), (std::vector<std::string>{"0.0", "0.0", "10. ", "12.5 "}));
+        EXPECT_EQ(Texts(1, 4), (Strings{"0.0", "0.0", "10. ", "12.5 "}));
         EXPECT_EQ(TextIn(14), "100.0");
         EXPECT_TRUE(said.empty());
     });
@@ -314,20 +301,20 @@ TEST_F(CorrectionEntryTest, BadEntriesAreDisallowed) {
         Enter(3, "30");
         Enter(5, "20");
         Press("cmdAcceptXY");
-        EXPECT_EQ(said, std::vector<std::string>{kDisallowed});
+        EXPECT_EQ(said, Strings{kDisallowed});
         EXPECT_EQ(TextIn(5), "20") << "what was typed stays to be corrected";
         said.clear();
         Press("cmdRestore");
         Enter(8, "half");
         Press("cmdAcceptXY");
-        EXPECT_EQ(said, std::vector<std::string>{kDisallowed}) << "reads as 0";
+        EXPECT_EQ(said, Strings{kDisallowed}) << "reads as 0";
         EXPECT_EQ(Deflection(3), 0);
     });
 }
 
 TEST_F(CorrectionEntryTest, EqualCurrentsAreToldAndThePictureStays) {
     OnPage([this] {
-        const std::vector<std::string> before = Drawn();
+        const Strings before = Drawn();
         Enter(5, "15");
         Press("cmdAcceptXY");
         ASSERT_EQ(said.size(), 2U);
@@ -345,9 +332,8 @@ TEST_F(CorrectionEntryTest, RestoreShowsTheLinearCurve) {
     Design.CorrectionPair[3] = 0.05F;
     OnPage([this] {
         Press("cmdRestore");
-        EXPECT_EQ(Texts(1, 14), (std::vector<std::string>{"0.0", "0.0", "15. ", "15. ", "30. ",
-                                                          "30. ", "50. ", "50. ", "70. ", "70. ",
-                                                          "85. ", "85. ", "100.0", "100.0"}))
+        EXPECT_EQ(Texts(1, 14), (Strings{"0.0", "0.0", "15. ", "15. ", "30. ", "30. ", "50. ",
+                                         "50. ", "70. ", "70. ", "85. ", "85. ", "100.0", "100.0"}))
             << "not the literal texts";
     });
     EXPECT_EQ(Design.CorrectionSlope[1], 1);
@@ -357,7 +343,7 @@ TEST_F(CorrectionEntryTest, RestoreShowsTheLinearCurve) {
 TEST_F(CorrectionEntryTest, OpensOnABadCurveToo) {
     Design.CorrectionPair[7] = 0.1F;
     OnPage([this] {
-        EXPECT_EQ(said, std::vector<std::string>{kDisallowed});
+        EXPECT_EQ(said, Strings{kDisallowed});
         EXPECT_EQ(TextIn(7), "10. ");
         EXPECT_EQ(TextIn(9), "70. ");
         EXPECT_TRUE(Plot().rect().contains(Handle(3).geometry()));
@@ -405,13 +391,13 @@ TEST_F(CorrectionEntryTest, CurvesAreSavedAndReadBack) {
 TEST_F(CorrectionEntryTest, CancelledReadLeavesALinearCurveBehindTheOldPicture) {
     Design.CorrectionPair[4] = 0.3F;
     OnPage([this] {
-        const std::vector<std::string> before = Drawn();
+        const Strings before = Drawn();
         Answer(Cancel);
         Press("cmdRead");
         EXPECT_EQ(Deflection(1), 0.15F);
         EXPECT_FLOAT_EQ(Design.CorrectionSlope[1], 2) << "those of the old curve";
-        EXPECT_EQ(Texts(1, 12), (std::vector<std::string>{"0", "0", "20", "20", "50", "50", "80",
-                                                          "80", "100", "100", "85. ", "85. "}));
+        EXPECT_EQ(Texts(1, 12), (Strings{"0", "0", "20", "20", "50", "50", "80", "80", "100", "100",
+                                         "85. ", "85. "}));
         EXPECT_EQ(Drawn(), before);
     });
 }
@@ -442,8 +428,8 @@ TEST_F(CorrectionEntryTest, BadFilesAreReported) {
         said.clear();
         Answer(TypeFile(falling));
         Press("cmdRead");
-        EXPECT_EQ(said, std::vector<std::string>{kDisallowed}) << "judged by the redraw";
-        EXPECT_EQ(Texts(3, 6), (std::vector<std::string>{".3", ".5", ".4", ".4"}));
+        EXPECT_EQ(said, Strings{kDisallowed}) << "judged by the redraw";
+        EXPECT_EQ(Texts(3, 6), (Strings{".3", ".5", ".4", ".4"}));
     });
 }
 
@@ -461,16 +447,10 @@ TEST_F(CorrectionEntryTest, UnwritableFilesAreReported) {
 
 TEST_F(CorrectionEntryTest, TabFollowsReadingOrder) {
     OnPage([this] {
-        std::vector<std::string> order;
-        Text(1).setFocus();
-        for (int control = 0; control < 20; ++control) {
-            order.push_back(Text(1).window()->focusWidget()->objectName().toStdString());
-            QTest::keyClick(Text(1).window()->focusWidget(), Qt::Key_Tab);
-        }
-        EXPECT_EQ(order.at(1), "Text2");
-        EXPECT_EQ(order.at(13), "Text14");
-        EXPECT_EQ(order.at(14), "cmdAcceptXY");
-        EXPECT_EQ(order.at(19), "cmdExitNo");
+        ExpectTabOrder(Form(),
+                       "Text1 Text2 Text3 Text4 Text5 Text6 Text7 Text8 Text9 Text10 Text11 "
+                       "Text12 Text13 Text14 cmdAcceptXY cmdRead cmdWrite cmdRestore cmdShowTable "
+                       "cmdExitNo");
     });
 }
 
@@ -495,10 +475,10 @@ TEST_F(CorrectionEntryTest, CurveReachesPreviewAndPrintAlone) {
         return surface.CallsOf("Line");
     };
     OpenPage("frmPreview");
-    const std::vector<std::string> preview = CallsOf("picPlate");
-    const std::vector<std::string> print = printed();
+    const Strings preview = CallsOf("picPlate");
+    const Strings print = printed();
     const std::string plot = plotted();
-    const std::vector<std::string> setup = setUp();
+    const Strings setup = setUp();
     EXPECT_GT(plot.size(), 1000U);
     EXPECT_GT(setup.size(), 100U);
     OnPage([this] { Drag(3, 0.5, 0.6); });
@@ -532,8 +512,7 @@ protected:
 TEST_F(CorrectionShowTest, ThreeBlocksShowTheCurve) {
     OnTable([this](QWidget& form) {
         EXPECT_EQ(form.windowTitle(), QLatin1String("Vernacle - Correction table"));
-        EXPECT_EQ(On<QLabel>(form, "Label5").text(), QLatin1String("Movement correction table"));
-        EXPECT_EQ(On<QPushButton>(form, "cmdExit").text(), QLatin1String("Close"));
+        ExpectShown(form, {{"Label5", "Movement correction table"}, {"cmdExit", "Close"}});
         const std::string left = Block(form, "txtRows0");
         EXPECT_TRUE(left.starts_with("Point:  Current:  Deflection:\n0       0.        0.\n"));
         EXPECT_TRUE(left.ends_with("\n25      50.       50. ")) << left;
@@ -564,20 +543,14 @@ TEST_F(CorrectionShowTest, BlocksCanBeCopiedAndShowAllTheirLines) {
     });
 }
 
-TEST_F(CorrectionShowTest, FewerPointsGiveFewerSegments) {
-    Design.NumberOfCorrectionPoints = 4;
-    OnTable([](QWidget& form) {
-        const std::string segments = Block(form, "txtSegments");
-        EXPECT_EQ(std::count(segments.begin(), segments.end(), '\n'), 3);
-    });
-}
-
-TEST_F(CorrectionShowTest, MorePointsGiveNoMoreSegments) {
-    Design.NumberOfCorrectionPoints = 10;
-    OnTable([](QWidget& form) {
-        const std::string segments = Block(form, "txtSegments");
-        EXPECT_EQ(std::count(segments.begin(), segments.end(), '\n'), 6);
-    });
+TEST_F(CorrectionShowTest, FewerPointsGiveFewerSegmentsAndMoreGiveNoMore) {
+    for (const auto& [points, segments] : {std::pair(4, 3), {10, 6}}) {
+        Design.NumberOfCorrectionPoints = static_cast<std::int16_t>(points);
+        OnTable([wanted = segments](QWidget& form) {
+            const std::string shown = Block(form, "txtSegments");
+            EXPECT_EQ(std::count(shown.begin(), shown.end(), '\n'), wanted) << "segments";
+        });
+    }
 }
 
 TEST_F(CorrectionShowTest, FailingCurveIsReportedOncePerRow) {
