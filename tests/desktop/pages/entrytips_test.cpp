@@ -3,13 +3,9 @@
 #include <algorithm>
 #include <optional>
 
-#include <QPushButton>
-
-#include "desktop/navigation/navigator.h"
 #include "desktop/pages/pagedrawing.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/fieldplace.h"
-#include "support/answers.h"
 
 namespace vernacle::test {
 namespace {
@@ -99,21 +95,29 @@ const TipPage kPages[] = {
 };
 // clang-format on
 
-// The ends that a tip speaks of.
+// The ends that a tip speaks of, be they open ones.
 struct Ends {
     std::optional<double> lowest;
     std::optional<double> highest;
 };
 
 Ends EndsOf(const std::string& tip) {
-    const QStringList words = QString::fromStdString(tip).split(QLatin1Char(' '));
+    std::vector<double> numbers;
+    for (const QString& word :
+         QString::fromStdString(tip).remove(QLatin1Char(',')).split(QLatin1Char(' '))) {
+        bool isNumber = false;
+        const double value = word.toDouble(&isNumber);
+        if (isNumber) {
+            numbers.push_back(value);
+        }
+    }
     if (tip.starts_with("at least ")) {
-        return {words[2].toDouble(), {}};
+        return {numbers.at(0), {}};
     }
     if (tip.starts_with("at most ")) {
-        return {{}, words[2].toDouble()};
+        return {{}, numbers.at(0)};
     }
-    return {words[0].toDouble(), words[2].toDouble()};
+    return {numbers.at(0), numbers.at(1)};
 }
 
 class EntryTipsTest : public DrawingPageTest {
@@ -312,18 +316,7 @@ TEST_F(EntryTipsTest, WizardsStepsTellWhatTheyAccept) {
         SCOPED_TRACE(step.box);
         EXPECT_EQ(Box(step.box).toolTip(), QLatin1String(step.tip));
         EXPECT_EQ(Box(step.box).accessibleDescription(), QLatin1String(step.tip));
-        const Ends ends = [&] { // both, an open one too
-            std::vector<double> numbers;
-            for (const QString& word :
-                 QString::fromLatin1(step.tip).remove(QLatin1Char(',')).split(QLatin1Char(' '))) {
-                bool isNumber = false;
-                const double value = word.toDouble(&isNumber);
-                if (isNumber) {
-                    numbers.push_back(value);
-                }
-            }
-            return Ends{numbers.at(0), numbers.at(1)};
-        }();
+        const Ends ends = EndsOf(step.tip);
         for (const double refused : {*ends.lowest - 0.25, *ends.highest + 0.25}) {
             said.clear();
             Type(step.box, PlainNumber(static_cast<float>(refused)));

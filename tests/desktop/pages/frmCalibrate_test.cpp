@@ -1,15 +1,7 @@
 #include "desktop/pages/frmCalibrate.h"
 
-#include <QLabel>
-#include <QPushButton>
-
-#include "desktop/kit/entrybox.h"
-#include "desktop/navigation/navigator.h"
 #include "engine/base/hostservices.h"
-#include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 #include "engine/output/calibrate.h"
-#include "support/answers.h"
 #include "support/formtest.h"
 #include "support/pdfreader.h"
 
@@ -55,6 +47,28 @@ protected:
         });
     }
 
+    // In that working folder; gives the file of the factors as the calibration left it.
+    std::string CancelASaveAfterCalibrating(const std::string& folder) {
+        const std::filesystem::path before = std::filesystem::current_path();
+        std::filesystem::current_path(Path(folder));
+        SetFactors(1, 1);
+        Measure("80", "125");
+        const std::string factors = ReadFile("Calibrate.txt");
+        ClickAndAnswer("Save", Cancel);
+        std::filesystem::current_path(before);
+        return factors;
+    }
+
+    // Prints, and looks at which of the steps show then.
+    void PrintSquare(bool nextSteps, const std::vector<DialogAnswer>& answers) {
+        OnPage(
+            [&](QWidget& form) {
+                Click(On<QPushButton>(form, "cmdPrint"));
+                ExpectNextSteps(form, nextSteps);
+            },
+            answers);
+    }
+
     void SetFactors(float x, float y) const {
         Design.CalibrationX = x;
         Design.CalibrationY = y;
@@ -71,29 +85,19 @@ protected:
     }
 };
 
-struct TextRow {
-    const char* label;
-    const char* text;
-};
-
-constexpr TextRow kTexts[] = {
-    {"lblHeading", "Printer/Program calibration"},
-    {"lblStep1", "Step 1"},
-    {"lblStep2", "Step 2"},
-    {"lblStep3", "Step 3"},
-    {"lblStep4", "Step 4"},
-    {"lblMeasure", "Now measure the width and height of the printed box, in millimeters."},
-    {"lblEnter", "Enter the actual width and height into the boxes below:"},
-};
-
 TEST_F(CalibratePageTest, Texts) {
     OnPage([this](QWidget& form) {
         EXPECT_EQ(form.windowTitle().toStdString(), "Vernacle - Calibration routine");
-        for (const TextRow& row : kTexts) {
-            EXPECT_EQ(On<QLabel>(form, row.label).text().toStdString(), row.text);
-        }
-        EXPECT_EQ(On<QPushButton>(form, "cmdPrint").text().toStdString(), "Print test square");
-        EXPECT_EQ(On<QPushButton>(form, "cmdReturn").text().toStdString(), "Return");
+        ExpectShown(form, {{"lblHeading", "Printer/Program calibration"},
+                           {"lblStep1", "Step 1"},
+                           {"lblStep2", "Step 2"},
+                           {"lblStep3", "Step 3"},
+                           {"lblStep4", "Step 4"},
+                           {"lblMeasure",
+                            "Now measure the width and height of the printed box, in millimeters."},
+                           {"lblEnter", "Enter the actual width and height into the boxes below:"},
+                           {"cmdPrint", "Print test square"},
+                           {"cmdReturn", "Return"}});
         EXPECT_FALSE(On<EntryBox>(form, "txtActualWidth").accessibleName().isEmpty());
         EXPECT_FALSE(On<EntryBox>(form, "txtActualHeight").accessibleName().isEmpty());
     });
@@ -117,22 +121,14 @@ TEST_F(CalibratePageTest, NextStepsShowOnceTheSquareIsPrinted) {
             Click(On<QPushButton>(form, "cmdPrint"));
             ExpectNextSteps(form, true);
             EXPECT_EQ(form.focusWidget()->objectName().toStdString(), "txtActualWidth");
-            for (const char* next : {"txtActualHeight", "cmdReturn", "cmdPrint"}) {
-                QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-                EXPECT_EQ(form.focusWidget()->objectName().toStdString(), next);
-            }
+            ExpectTabOrder(form, "txtActualWidth txtActualHeight cmdReturn cmdPrint");
         },
         {PrintTo(Path("square.pdf"))});
     EXPECT_TRUE(said.empty());
 }
 
 TEST_F(CalibratePageTest, CancelledPrinterShowsNothing) {
-    OnPage(
-        [this](QWidget& form) {
-            Click(On<QPushButton>(form, "cmdPrint"));
-            ExpectNextSteps(form, false);
-        },
-        {Cancel});
+    PrintSquare(false, {Cancel});
     EXPECT_TRUE(said.empty());
 }
 
@@ -149,8 +145,7 @@ TEST_F(CalibratePageTest, SquarePrintsByTheFactors) {
     for (const SquareRow& row : rows) {
         SetFactors(row.x, row.y);
         const std::string file = Path("square" + std::to_string(++number) + ".pdf");
-        OnPage([this](QWidget& form) { Click(On<QPushButton>(form, "cmdPrint")); },
-               {PrintTo(file)});
+        PrintSquare(true, {PrintTo(file)});
         const SvgPicture page = ReadPdf(file);
         ASSERT_EQ(page.shapes.size(), 1U);
         EXPECT_NEAR(page.shapes[0].WidthOfBox(), row.widthMm, 0.05);
@@ -160,8 +155,7 @@ TEST_F(CalibratePageTest, SquarePrintsByTheFactors) {
 
 TEST_F(CalibratePageTest, PrintingRaisesFactorsOfZero) {
     SetFactors(0, 0);
-    OnPage([this](QWidget& form) { Click(On<QPushButton>(form, "cmdPrint")); },
-           {PrintTo(Path("square.pdf"))});
+    PrintSquare(true, {PrintTo(Path("square.pdf"))});
     EXPECT_EQ(Design.CalibrationX, 1);
     EXPECT_EQ(Design.CalibrationY, 1);
 }
@@ -170,14 +164,8 @@ TEST_F(CalibratePageTest, FailingPrinterIsHeardOnlyAboveMessageLevelZero) {
     for (const int level : {0, 1, 2, -1}) {
         said.clear();
         Design.MessageLevel = static_cast<std::int16_t>(level);
-        OnPage(
-            [this](QWidget& form) {
-                Click(On<QPushButton>(form, "cmdPrint"));
-                ExpectNextSteps(form, false);
-            },
-            {PrintTo("/dev/full"), Press(QMessageBox::Yes)}); // the file exists
-        std::vector<std::string> expected = {"beep",
-                                             "failure: We had a problem driving the printer."};
+        PrintSquare(false, {PrintTo("/dev/full"), Press(QMessageBox::Yes)}); // the file exists
+        Strings expected = {"beep", "failure: We had a problem driving the printer."};
         if (level > 0) {
             expected.insert(expected.begin(), "sound: warningprinter.wav");
         }
@@ -256,14 +244,7 @@ TEST_F(CalibratePageTest, ReturnWritesTheSevenLines) {
 // name in the working folder.
 TEST_F(CalibratePageTest, NextSaveWithoutANameGoesToTheWorkingFolder) {
     std::filesystem::create_directory(Path("work"));
-    const std::filesystem::path before = std::filesystem::current_path();
-    std::filesystem::current_path(Path("work"));
-    SetFactors(1, 1);
-    Measure("80", "125");
-    const std::string factors = ReadFile("Calibrate.txt");
-    Answer(Cancel);
-    Click("Save");
-    std::filesystem::current_path(before);
+    const std::string factors = CancelASaveAfterCalibrating("work");
     EXPECT_EQ(ReadFile("Calibrate.txt"), factors);
     EXPECT_NE(ReadFile("work/Calibrate.txt").find("\r\nPlate width:"), std::string::npos);
     EXPECT_TRUE(said.empty());
@@ -271,17 +252,9 @@ TEST_F(CalibratePageTest, NextSaveWithoutANameGoesToTheWorkingFolder) {
 
 // Where that is the factors' own file they stay, and the user is told.
 TEST_F(CalibratePageTest, NextSaveWithoutANameDoesNotGoOverTheFactors) {
-    const std::filesystem::path before = std::filesystem::current_path();
-    std::filesystem::current_path(Path(""));
-    SetFactors(1, 1);
-    Measure("80", "125");
-    const std::string factors = ReadFile("Calibrate.txt");
-    Answer(Cancel);
-    Click("Save");
-    std::filesystem::current_path(before);
-    EXPECT_EQ(said, (std::vector<std::string>{
-                        "beep", "failure: The Vernacle file was not written correctly.\n"
-                                "ReadWrite 364"}));
+    const std::string factors = CancelASaveAfterCalibrating("");
+    EXPECT_EQ(said, (Strings{"beep", "failure: The Vernacle file was not written correctly.\n"
+                                     "ReadWrite 364"}));
     EXPECT_EQ(ReadFile("Calibrate.txt"), factors);
     SetFactors(0, 0);
     ReadCalibrate(Design);

@@ -4,13 +4,11 @@
 
 #include <QComboBox>
 #include <QImage>
-#include <QPushButton>
 
 #include "desktop/pages/pagedrawing.h"
 #include "engine/base/numbertext.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/render/stages.h"
-#include "support/answers.h"
 #include "surfaces/surfacetest.h"
 
 namespace vernacle::test {
@@ -62,8 +60,7 @@ protected:
     void PressOwnKey() const { Click("Graphic"); }
 
     void GetGraphic(const std::string& file) {
-        Answer(file.empty() ? DialogAnswer(Cancel) : TypeFile(file));
-        Click("cmdGetGraphic");
+        ClickAndAnswer("cmdGetGraphic", file.empty() ? DialogAnswer(Cancel) : TypeFile(file));
     }
 
     static std::string Upper(const std::string& text) {
@@ -73,15 +70,15 @@ protected:
 
 TEST_F(GraphicPageTest, CaptionsAndTips) {
     OpenPage("frmGraphic");
-    EXPECT_EQ(Shown("lblHeading"), "Graphic entry");
     for (const Measure& measure : kMeasures) {
         EXPECT_EQ(Shown(measure.Label()), measure.caption);
         EXPECT_FALSE(Box(measure.Box()).accessibleName().isEmpty());
     }
-    EXPECT_EQ(Find<QPushButton>("cmdGetGraphic").text(), QLatin1String("Browse to get graphic"));
+    ExpectShown({{"lblHeading", "Graphic entry"},
+                 {"cmdGetGraphic", "Browse to get graphic"},
+                 {"cmdRemoveGraphic", "Remove graphic"}});
     EXPECT_EQ(Find("cmdGetGraphic").toolTip(),
               QLatin1String("Get a graphic to place on the plate"));
-    EXPECT_EQ(Find<QPushButton>("cmdRemoveGraphic").text(), QLatin1String("Remove graphic"));
     EXPECT_EQ(Find("cmdRemoveGraphic").toolTip(), QString());
 }
 
@@ -93,10 +90,8 @@ TEST_F(GraphicPageTest, AllEntriesStartDisabled) {
             EXPECT_FALSE(Find(control).isEnabled()) << control;
         }
     }
-    ExpectEnabled({"cmdGetGraphic", "cmdRemoveGraphic", "Print"}, false);
-    ExpectEnabled({"Open", "Save", "Plate", "Scales", "Text", "Graphic", "Highlights", "Preview",
-                   "Help", "Exit", "About"},
-                  true);
+    ExpectEnabled({"cmdGetGraphic", "cmdRemoveGraphic"}, false);
+    ExpectOnlyPrintIsGreyed();
 }
 
 TEST_F(GraphicPageTest, ShowsWhatTheDesignBrought) {
@@ -121,10 +116,10 @@ TEST_F(GraphicPageTest, SizesOutOfRangeAreLimitedAtTheLoad) {
     OpenPage("frmGraphic");
     EXPECT_EQ(Design.GraphicWidth, 2);
     EXPECT_EQ(Design.GraphicHeight, 180);
-    EXPECT_EQ(TextOf("txtGraphicWidth"), "2");
-    EXPECT_EQ(TextOf("txtGraphicWidthUpDown"), "2");
-    EXPECT_EQ(TextOf("txtGraphicHeight"), "180");
-    EXPECT_EQ(TextOf("txtGraphicHeightUpDown"), "180");
+    ExpectShown({{"txtGraphicWidth", "2"},
+                 {"txtGraphicWidthUpDown", "2"},
+                 {"txtGraphicHeight", "180"},
+                 {"txtGraphicHeightUpDown", "180"}});
 }
 
 TEST_F(GraphicPageTest, DrawingPassesTheGraphicBy) {
@@ -133,9 +128,7 @@ TEST_F(GraphicPageTest, DrawingPassesTheGraphicBy) {
     OpenPage("frmGraphic");
     EXPECT_TRUE(WasRedrawn());
     EXPECT_EQ(ShownPlate(), DrawnPlate(TextTraits(), {Design.FontSize, Design.LabelSpacing}));
-    RecordingSurface surface;
-    Picture("picPlate").Record().Replay(surface);
-    EXPECT_EQ(surface.Count("PaintPicture"), 0U);
+    EXPECT_EQ(Recorded(Picture("picPlate")).Count("PaintPicture"), 0U);
 }
 
 struct TypedRow {
@@ -221,7 +214,7 @@ TEST_F(GraphicPageTest, ShortcutsLeaveTheTypedBox) {
             Click("Highlights");
         }
         Settle();
-        EXPECT_EQ(Page().objectName(), QLatin1String("frmHighlights"));
+        EXPECT_EQ(PageName(), "frmHighlights");
         EXPECT_EQ(Design.GraphicWidth, 2);
         Design.GraphicWidth = 33;
     }
@@ -342,15 +335,13 @@ TEST_F(GraphicPageTest, DistancesAreLimitedWithTheToolbarAndNotBefore) {
 }
 
 TEST_F(GraphicPageTest, EveryKeyOfTheToolbarLimits) {
-    for (const char* key : {"Open", "Save", "Plate", "Scales", "Text", "Graphic", "Highlights",
-                            "Preview", "Help", "Exit", "About"}) {
+    for (const char* key : kPageKeys) {
         SCOPED_TRACE(key);
         Design.DesignFileName.clear(); // so that a cancelled Save writes nothing
         OpenGraphic();
         Paste("txtLeftToImage", "-20");
         EXPECT_EQ(Design.LeftToGraphic, -20);
-        const std::string name = key;
-        if (name == "Open" || name == "Save" || name == "Exit" || name == "About") {
+        if (OpensADialog(key)) {
             Answer(Cancel);
         }
         Click(key);
@@ -364,8 +355,7 @@ TEST_F(GraphicPageTest, SavedFileHoldsTheLimits) {
     Design.GraphicFileName = "MARK.BMP";
     OpenGraphic();
     Paste("txtBottomToImage", "150");
-    Answer(TypeFile(Path("saved.VRN")));
-    Click("Save");
+    ClickAndAnswer("Save", TypeFile(Path("saved.VRN")));
     EXPECT_NE(ReadFile("saved.VRN").find("Bottom to graphic: 120"), std::string::npos);
 }
 
@@ -401,9 +391,7 @@ TEST_F(GraphicPageTest, OpenReadsWithTheFirstScaleActive) {
     ResetDesign(Design);
     OpenPage("frmGraphic");
     Design.ActiveScale = 3;
-    Answer(TypeFile(Path("graphic.VRN")));
-    Click("Open");
-    Settle();
+    ClickAndAnswer("Open", TypeFile(Path("graphic.VRN")));
     EXPECT_EQ(Design.ActiveScale, 1);
     EXPECT_EQ(TextOf("txtGraphicWidth"), "77");
 }
@@ -412,14 +400,13 @@ TEST_F(GraphicPageTest, ChosenFileIsStoredInUpperCase) {
     const std::string file = WriteFile("Logo mark.Bmp", "x");
     OpenGraphic();
     Wipe();
-    Answer([&](QWidget& dialog) {
+    ClickAndAnswer("cmdGetGraphic", [&](QWidget& dialog) {
         EXPECT_EQ(dialog.windowTitle(), QLatin1String("Get graphic"));
         const auto* kinds = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
         EXPECT_EQ(kinds->currentText().trimmed(),
                   QLatin1String("Graphic files (.bmp, .gif, .ico, .jpg)"));
         TypeFile(file)(dialog);
     });
-    Click("cmdGetGraphic");
     EXPECT_EQ(Design.GraphicFileName, Upper(file));
     EXPECT_EQ(Shown("lblGraphicName"), Upper(file));
     EXPECT_EQ(Design.DrawGraphic, "Y");
@@ -461,15 +448,8 @@ TEST_F(GraphicPageTest, RemovingLeavesTheBoxes) {
 
 TEST_F(GraphicPageTest, TabFollowsReadingOrder) {
     OpenGraphic();
-    std::vector<std::string> order;
-    Find("txtLeftToImage").setFocus();
-    for (int control = 0; control < 6; ++control) {
-        order.push_back(Page().focusWidget()->objectName().toStdString());
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order,
-              (std::vector<std::string>{"txtLeftToImage", "txtBottomToImage", "txtGraphicWidth",
-                                        "txtGraphicHeight", "cmdGetGraphic", "cmdRemoveGraphic"}));
+    ExpectTabOrder("txtLeftToImage txtBottomToImage txtGraphicWidth txtGraphicHeight "
+                   "cmdGetGraphic cmdRemoveGraphic");
 }
 
 TEST_F(GraphicPageTest, CloseBoxKeepsTheSession) {
@@ -490,13 +470,7 @@ protected:
     // The plate of the page with the graphic's stage in service.
     static QImage Draw() {
         const DrawingStage stages[] = {ClearStage, TicsStage, GraphicStage, TitlesStage};
-        DrawingTraits traits = TextTraits();
-        traits.stages = stages;
-        PictureBox picture("drawn", {0, 0, 12000, 9000}, UnitShape::OfScreen);
-        picture.resize(kPixelsAcross, kPixelsAcross * 9 / 16);
-        DrawPage(Design, picture.Surface(), traits, {Design.FontSize, Design.LabelSpacing},
-                 Drawing);
-        return picture.grab().toImage();
+        return ImageOfPlate(stages, kPixelsAcross);
     }
 
     // The box around all that is red or blue, as the picture and nothing else, in mm from the

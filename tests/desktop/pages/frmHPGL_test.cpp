@@ -1,20 +1,13 @@
 #include "desktop/pages/frmHPGL.h"
 
-#include <QComboBox>
 #include <QInputDialog>
-#include <QLabel>
-#include <QPointer>
-#include <QProgressDialog>
-#include <QPushButton>
 #include <QTimer>
 
-#include "desktop/navigation/navigator.h"
 #include "desktop/system/desktophost.h"
 #include "desktop/system/programfiles.h"
 #include "engine/base/hostservices.h"
-#include "engine/core/design.h"
 #include "engine/output/hpgl.h"
-#include "support/answers.h"
+#include "support/environment.h"
 #include "support/formtest.h"
 #include "support/scriptedsink.h"
 
@@ -26,7 +19,6 @@ constexpr const char* kFailure = "failure: The HPGL file was not written correct
 class HpglPageTest : public FormTest {
 protected:
     HpglPageTest() {
-        qputenv("PATH", QByteArray::fromStdString(Path("bin"))); // the machine's queues stay out
         OpenPage("frmPreview");
         Host.openForOutput = [this](const std::string& name) {
             opened.push_back(name);
@@ -34,20 +26,16 @@ protected:
         };
     }
 
-    ~HpglPageTest() override { qputenv("PATH", usualPath_); }
-
     // With the page open above the preview.
     void OnPage(const DialogAnswer& use) {
-        Answer([&](QWidget& form) {
+        ClickAndAnswer("cmdHPGL", [&](QWidget& form) {
             ASSERT_EQ(form.objectName().toStdString(), "frmHPGL");
             use(form);
             EXPECT_TRUE(form.isVisible()) << "stays open";
             Click(On<QPushButton>(form, "cmdExit"));
             EXPECT_FALSE(form.isVisible());
         });
-        Click("cmdHPGL");
-        EXPECT_TRUE(AllAnswered());
-        EXPECT_EQ(Page().objectName().toStdString(), "frmPreview");
+        EXPECT_EQ(PageName(), "frmPreview");
     }
 
     void PressOnPage(const char* button) {
@@ -61,33 +49,32 @@ protected:
     }
 
     SinkScript script;
-    std::vector<std::string> opened;
+    Strings opened;
 
 private:
-    const QByteArray usualPath_ = qgetenv("PATH");
+    const EnvironmentVariable path_{"PATH", Path("bin")}; // the machine's queues stay out
 };
 
 TEST_F(HpglPageTest, FileGetsTheStream) {
     PressOnPage("cmdHPGL");
-    EXPECT_EQ(opened, std::vector<std::string>{PlotterFileName()});
+    EXPECT_EQ(opened, Strings{PlotterFileName()});
     EXPECT_TRUE(PlotterFileName().ends_with("/HPGLfile.HPGL"));
     EXPECT_EQ(script.bytes, Stream(HpglMode::File));
     EXPECT_TRUE(script.bytes.starts_with("IN"));
     EXPECT_EQ(script.closes, 1);
-    EXPECT_EQ(said, std::vector<std::string>{
-                        "information: THE HPGL FILE WAS SUCCESSFULLY WRITTEN TO\r\n" +
-                        PlotterFileName()});
+    EXPECT_EQ(said, Strings{"information: THE HPGL FILE WAS SUCCESSFULLY WRITTEN TO\r\n" +
+                            PlotterFileName()});
 }
 
 TEST_F(HpglPageTest, PrinterGetsTheWrappedStream) {
     PressOnPage("cmdPCL");
-    EXPECT_EQ(opened, std::vector<std::string>{"LPT1"});
+    EXPECT_EQ(opened, Strings{"LPT1"});
     EXPECT_EQ(script.bytes, Stream(HpglMode::PclPrinter));
     EXPECT_TRUE(script.bytes.starts_with("\x1B"
                                          "E\r\n"));
-    EXPECT_EQ(said, std::vector<std::string>{
-                        "information: THE HPGL FILE WITH PCL HEADER/FOOTER WAS SENT DIRECTLY TO "
-                        "THE PCL PRINTER ON LPT1"});
+    EXPECT_EQ(said,
+              Strings{"information: THE HPGL FILE WITH PCL HEADER/FOOTER WAS SENT DIRECTLY TO "
+                      "THE PCL PRINTER ON LPT1"});
 }
 
 struct FailureRow {
@@ -118,7 +105,7 @@ TEST_F(HpglPageTest, FailuresAreReportedAndThePageStays) {
                 return OpenScriptedSink(script);
             };
             PressOnPage(button);
-            EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
+            EXPECT_EQ(said, (Strings{"beep", kFailure}));
             EXPECT_EQ(script.open, 0) << "closed";
         }
     }
@@ -138,7 +125,7 @@ TEST_F(HpglPageTest, MachineWithoutAPrinterFailsAtOnce) {
     }
     Host.openForOutput = DesktopHost().openForOutput;
     PressOnPage("cmdPCL");
-    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
+    EXPECT_EQ(said, (Strings{"beep", kFailure}));
     ASSERT_EQ(reasons.size(), 1U);
     EXPECT_NE(reasons[0].find("/dev/lp0: "), std::string::npos) << reasons[0];
     EXPECT_NE(reasons[0].find("lp: not found"), std::string::npos) << reasons[0];
@@ -150,7 +137,7 @@ TEST_F(HpglPageTest, BothButtonsWorkInOneVisit) {
         Click(On<QPushButton>(form, "cmdHPGL"));
         Click(On<QPushButton>(form, "cmdHPGL"));
     });
-    EXPECT_EQ(opened, (std::vector<std::string>{"LPT1", PlotterFileName(), PlotterFileName()}));
+    EXPECT_EQ(opened, (Strings{"LPT1", PlotterFileName(), PlotterFileName()}));
     EXPECT_EQ(said.size(), 3U);
 }
 
@@ -174,13 +161,11 @@ TEST_F(HpglPageTest, ReturnPressesTheButtonWithTheFocus) {
         button.setFocus();
         QTest::keyClick(&button, Qt::Key_Return);
     });
-    EXPECT_EQ(opened, std::vector<std::string>{"LPT1"});
+    EXPECT_EQ(opened, Strings{"LPT1"});
 }
 
 TEST_F(HpglPageTest, CloseBoxJustCloses) {
-    Answer([](QWidget& form) { CloseByUser(form); });
-    Click("cmdHPGL");
-    EXPECT_TRUE(AllAnswered());
+    ClickAndAnswer("cmdHPGL", [](QWidget& form) { CloseByUser(form); });
     EXPECT_TRUE(opened.empty());
     EXPECT_FALSE(TakeProcessEnd());
     EXPECT_FALSE(Exists("LASTSESSION.VRN"));
@@ -257,8 +242,8 @@ TEST_F(QueuePageTest, ACancelledChoiceSendsNothing) {
 TEST_F(QueuePageTest, AFailureHasItsReasonBesideTheText) {
     Program("lp", "echo 'lp: Destination \"one\" is not accepting jobs.' >&2; exit 1");
     Send({Choose(QStringLiteral("one"))});
-    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
-    EXPECT_EQ(reasons, std::vector<std::string>{"lp: Destination \"one\" is not accepting jobs."});
+    EXPECT_EQ(said, (Strings{"beep", kFailure}));
+    EXPECT_EQ(reasons, Strings{"lp: Destination \"one\" is not accepting jobs."});
 }
 
 // The program lives on while it waits: its clocks run, and no page takes what is pressed.
@@ -281,8 +266,8 @@ TEST_F(QueuePageTest, ASpoolerThatHangsIsLeftByCancel) {
     };
     Send({Choose(QStringLiteral("one")), cancel});
     EXPECT_GT(turns, 10);
-    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
-    EXPECT_EQ(reasons, std::vector<std::string>{"lp: cancelled"});
+    EXPECT_EQ(said, (Strings{"beep", kFailure}));
+    EXPECT_EQ(reasons, Strings{"lp: cancelled"});
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 
     // One that does not even tell its queues.
@@ -290,7 +275,7 @@ TEST_F(QueuePageTest, ASpoolerThatHangsIsLeftByCancel) {
     said.clear();
     reasons.clear();
     Send({cancel});
-    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
+    EXPECT_EQ(said, (Strings{"beep", kFailure}));
     ASSERT_EQ(reasons.size(), 1U);
     EXPECT_NE(reasons[0].find("lpstat: cancelled"), std::string::npos) << reasons[0];
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -301,7 +286,7 @@ TEST_F(QueuePageTest, TheWaitingWindowIsLeftByEscapeToo) {
     Program("lp", "exec /bin/sleep 120");
     Send({Choose(QStringLiteral("one")),
           [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }});
-    EXPECT_EQ(said, (std::vector<std::string>{"beep", kFailure}));
+    EXPECT_EQ(said, (Strings{"beep", kFailure}));
 }
 
 } // namespace

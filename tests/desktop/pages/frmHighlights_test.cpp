@@ -4,17 +4,12 @@
 #include <locale>
 #include <sstream>
 
-#include <QColorDialog>
-#include <QGroupBox>
-#include <QPushButton>
-
 #include "desktop/pages/pagedrawing.h"
 #include "engine/base/numbertext.h"
 #include "engine/base/runtimeerror.h"
 #include "engine/core/fieldplace.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/render/stages.h"
-#include "support/answers.h"
 
 namespace vernacle::test {
 namespace {
@@ -67,8 +62,8 @@ protected:
     }
 
     // The calls behind the plate's drawing.
-    std::vector<std::string> Sample() const {
-        std::vector<std::string> calls = ShownPlate();
+    Strings Sample() const {
+        Strings calls = ShownPlate();
         std::erase_if(calls, [](const std::string& call) {
             return !call.starts_with(kSample) && call != kSampleOutline;
         });
@@ -80,15 +75,14 @@ protected:
 
 TEST_F(HighlightsPageTest, CaptionsAndTips) {
     OpenPage("frmHighlights");
-    EXPECT_EQ(Shown("lblHeading"), "Highlight entry");
     for (const Entry& entry : kEntries) {
         EXPECT_EQ(Shown(entry.label), entry.caption);
         EXPECT_FALSE(Box(entry.box).accessibleName().isEmpty());
     }
-    EXPECT_EQ(Shown("Label1"), "Highlight #:");
-    EXPECT_EQ(Find<QPushButton>("cmdGetColor").text(), QLatin1String("Color"));
-    EXPECT_EQ(Find<QPushButton>("cmdShowTicInfo").text(),
-              QLatin1String("Show ticmark information"));
+    ExpectShown({{"lblHeading", "Highlight entry"},
+                 {"Label1", "Highlight #:"},
+                 {"cmdGetColor", "Color"},
+                 {"cmdShowTicInfo", "Show ticmark information"}});
     ExpectEditOptions(kHighlights);
 }
 
@@ -99,7 +93,7 @@ TEST_F(HighlightsPageTest, OnlyTheTicInformationStartsEnabled) {
         ExpectEnabled({entry.box, entry.label, entry.arrows}, false);
         EXPECT_EQ(TextOf(entry.box), "") << "whatever the design holds";
     }
-    ExpectEnabled({"txtLength10", "cmdGetColor", "Label1", "fraTextNumber", "Print"}, false);
+    ExpectEnabled({"txtLength10", "cmdGetColor", "Label1", "fraTextNumber"}, false);
     EXPECT_EQ(TextOf("txtLength10"), "");
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
         const auto& option = Option("Option" + std::to_string(highlight));
@@ -108,10 +102,9 @@ TEST_F(HighlightsPageTest, OnlyTheTicInformationStartsEnabled) {
         EXPECT_EQ(option.palette().color(QPalette::Active, QPalette::WindowText),
                   QColor(0xF0 + highlight, 0, 0));
     }
-    ExpectEnabled({"cmdShowTicInfo", "Open", "Save", "Plate", "Scales", "Text", "Graphic",
-                   "Highlights", "Preview", "Help", "Exit", "About"},
-                  true);
-    EXPECT_EQ(Sample(), std::vector<std::string>{});
+    EXPECT_TRUE(IsEnabled("cmdShowTicInfo"));
+    ExpectOnlyPrintIsGreyed();
+    EXPECT_EQ(Sample(), Strings{});
 }
 
 TEST_F(HighlightsPageTest, DrawingPassesHighlightsBy) {
@@ -338,29 +331,12 @@ TEST_F(HighlightsPageTest, PartnerTakesNothingButNumbers) {
     }
 }
 
-struct HighlightArrowRow {
-    const char* arrows;
-    const char* box;
-    const char* highest;
-};
-
 TEST_F(HighlightsPageTest, ArrowsHaveTheirRanges) {
-    const HighlightArrowRow rows[] = {{"UpDown1", "txtStart1", "100"},
-                                      {"UpDown2", "txtStop1", "100"},
-                                      {"UpDown3", "txtCeiling1", "180"}};
     OpenHighlights();
     Click("Option1");
-    for (const HighlightArrowRow& row : rows) {
-        Type(row.box, "10");
-        StepUp(row.arrows);
-        EXPECT_EQ(TextOf(row.box), "11");
-        Type(row.box, row.highest);
-        StepUp(row.arrows);
-        EXPECT_EQ(TextOf(row.box), row.highest);
-        Type(row.box, "0");
-        StepDown(row.arrows);
-        EXPECT_EQ(TextOf(row.box), "0");
-    }
+    ExpectRange("UpDown1", "txtStart1", "0", "100");
+    ExpectRange("UpDown2", "txtStop1", "0", "100");
+    ExpectRange("UpDown3", "txtCeiling1", "0", "180");
 }
 
 TEST_F(HighlightsPageTest, ArrowsStepFromThePlainNumber) {
@@ -379,17 +355,17 @@ TEST_F(HighlightsPageTest, WithoutASelectionEntriesGoNowhere) {
         Type(entry.box, "12");
     }
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
-        EXPECT_EQ(Design.HighlightStart[highlight], before.HighlightStart[highlight]);
-        EXPECT_EQ(Design.HighlightStop[highlight], before.HighlightStop[highlight]);
-        EXPECT_EQ(Design.HighlightCeiling[highlight], before.HighlightCeiling[highlight]);
-        EXPECT_EQ(Design.HighlightLength[highlight], before.HighlightLength[highlight]);
+        for (const Entry& entry : kEntries) {
+            EXPECT_EQ(NumberIn(entry.field.In(Design, highlight)),
+                      NumberIn(entry.field.In(before, highlight)))
+                << entry.box;
+        }
     }
     EXPECT_EQ(Design.HighlightStart[0], 12) << "which nothing reads";
     EXPECT_EQ(Design.NumberOfHighlights, 0);
-    EXPECT_EQ(Sample(), std::vector<std::string>{});
-    Answer(Cancel);
-    Click("cmdGetColor");
-    EXPECT_EQ(Sample(), std::vector<std::string>{});
+    EXPECT_EQ(Sample(), Strings{});
+    ClickAndAnswer("cmdGetColor", Cancel);
+    EXPECT_EQ(Sample(), Strings{});
 }
 
 TEST_F(HighlightsPageTest, SampleShowsTheColourOfTheSelected) {
@@ -398,7 +374,7 @@ TEST_F(HighlightsPageTest, SampleShowsTheColourOfTheSelected) {
     for (const int highlight : {2, 9}) {
         Click("Option" + std::to_string(highlight));
         const std::string colour = highlight == 2 ? "f2" : "f9";
-        EXPECT_EQ(Sample(), (std::vector<std::string>{kSample + colour, kSampleOutline}));
+        EXPECT_EQ(Sample(), (Strings{kSample + colour, kSampleOutline}));
         EXPECT_EQ(ShownPlate().back(), kSampleOutline) << "behind the plate";
     }
 }
@@ -413,19 +389,10 @@ TEST_F(HighlightsPageTest, ColourComesFromItsDialog) {
     };
     std::int32_t before = 0xF6;
     for (const Row& row : {Row{nullptr, 0xF6}, Row{"#804020", 0x204080}, Row{"#000000", 0}}) {
-        Answer([&](QWidget& dialog) {
-            auto& chooser = dynamic_cast<QColorDialog&>(dialog);
-            EXPECT_EQ(dialog.windowTitle(), QLatin1String("Get Highlight color"));
-            const QColor start = chooser.currentColor();
-            EXPECT_EQ(start.red() + 256 * start.green() + 65536 * start.blue(), before);
-            if (!row.colour) {
-                return chooser.reject();
-            }
-            chooser.setCurrentColor(QColor(QLatin1String(row.colour)));
-            chooser.accept();
-        });
+        QColor start;
         Wipe();
-        Click("cmdGetColor");
+        ClickAndAnswer("cmdGetColor", ChooseColour("Get Highlight color", row.colour, start));
+        EXPECT_EQ(start.red() + 256 * start.green() + 65536 * start.blue(), before);
         EXPECT_EQ(Design.HighlightColor[6], row.stored);
         EXPECT_TRUE(WasRedrawn());
         before = row.stored;
@@ -439,7 +406,7 @@ TEST_F(HighlightsPageTest, SelectionDoesNotSurviveThePage) {
     Click("Option3");
     OpenPage("frmPreview");
     OpenHighlights();
-    EXPECT_EQ(Sample(), std::vector<std::string>{});
+    EXPECT_EQ(Sample(), Strings{});
     EXPECT_EQ(TextOf("txtStart1"), "");
 }
 
@@ -464,23 +431,14 @@ TEST_F(HighlightsPageTest, OpenReadsWithTheFirstScaleActive) {
     WriteDesign(Design);
     OpenPage("frmHighlights");
     Design.ActiveScale = 3;
-    Answer(TypeFile(Path("highlights.VRN")));
-    Click("Open");
-    Settle();
+    ClickAndAnswer("Open", TypeFile(Path("highlights.VRN")));
     EXPECT_EQ(Design.ActiveScale, 1);
 }
 
 TEST_F(HighlightsPageTest, TabFollowsReadingOrder) {
     OpenHighlights();
     Click("Option1");
-    std::vector<std::string> order;
-    Find("Option1").setFocus();
-    for (int control = 0; control < 7; ++control) {
-        order.push_back(Page().focusWidget()->objectName().toStdString());
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, (std::vector<std::string>{"Option1", "txtStart1", "txtStop1", "txtCeiling1",
-                                               "txtLength1", "cmdGetColor", "cmdShowTicInfo"}));
+    ExpectTabOrder("Option1 txtStart1 txtStop1 txtCeiling1 txtLength1 cmdGetColor cmdShowTicInfo");
 }
 
 TEST_F(HighlightsPageTest, CloseBoxKeepsTheSession) {
@@ -509,7 +467,7 @@ TEST_F(HighlightsPageTest, EnteredBandStandsWhereItsEntriesSay) {
     traits.stages = stages;
     RecordingSurface surface;
     DrawPage(Design, surface, traits, {Design.FontSize, Design.LabelSpacing}, Drawing);
-    const std::vector<std::string> lines = surface.CallsOf("Line");
+    const Strings lines = surface.CallsOf("Line");
     EXPECT_NEAR(static_cast<double>(lines.size()), 2001, 1); // 40 percent in steps of .02
     const PlateFrame frame = FrameOf(Design, traits);
     const double radius = 30 - double{Design.BottomToBearing} + double{Design.ActualVirtualOffset};

@@ -2,10 +2,8 @@
 // the order of the keyboard through all of it.
 #include <QColorDialog>
 #include <QFontDialog>
-#include <QPushButton>
 #include <QToolButton>
 
-#include "desktop/navigation/navigator.h"
 #include "desktop/pages/platetest.h"
 #include "engine/designfile/readwrite.h"
 
@@ -47,7 +45,7 @@ protected:
         });
         EnableAndClick(button);
         EXPECT_TRUE(AllAnswered());
-        EXPECT_EQ(Page().objectName(), QStringLiteral("frmPlate"));
+        EXPECT_EQ(PageName(), "frmPlate");
         return opened;
     }
 
@@ -74,8 +72,6 @@ protected:
         EnableAndClick("cmdGetBackgroundColor");
         EXPECT_TRUE(AllAnswered());
     }
-
-    std::string ShownFont() const { return Find<QLabel>("lblShowFont").text().toStdString(); }
 
     QColor SwatchColour() const {
         const QImage swatch = Find<QLabel>("lblShowBackground").grab().toImage();
@@ -127,7 +123,7 @@ TEST_F(PlateButtonsTest, MovementLinearityLeadsToTheCorrectionEntry) {
     });
     EnableAndClick("cmdLinearity");
     EXPECT_EQ(opened, "frmCorrectionEntry");
-    EXPECT_EQ(Page().objectName(), QStringLiteral("frmPlate"));
+    EXPECT_EQ(PageName(), "frmPlate");
 }
 
 TEST_F(PlateButtonsTest, IllustrationsLeaveTheDesignAndThePage) {
@@ -135,7 +131,7 @@ TEST_F(PlateButtonsTest, IllustrationsLeaveTheDesignAndThePage) {
     Click("cmdFontSize");
     Type("txtPlateWidth", "200");
     SaveDesign(Design, Path("before.VRN"));
-    const std::vector<std::string> schematic = ShownSchematic();
+    const Strings schematic = ShownSchematic();
     FormBehind("cmdRotateHelp", "Command1");
     FormBehind("cmdStyleHelp", "cmdReturn");
     SaveDesign(Design, Path("after.VRN"));
@@ -152,7 +148,7 @@ TEST_F(PlateButtonsTest, FontDialogOpensOnTheFontAndGivesItsName) {
     EXPECT_EQ(fontTitle, "Get font");
     EXPECT_EQ(fontAtStart, "DejaVu Sans Mono");
     EXPECT_EQ(Design.FontName, "DejaVu Serif");
-    EXPECT_EQ(ShownFont(), "    DejaVu Serif");
+    EXPECT_EQ(Shown("lblShowFont"), "    DejaVu Serif");
     EXPECT_TRUE(said.empty());
 }
 
@@ -161,7 +157,7 @@ TEST_F(PlateButtonsTest, CancelledFontDialogKeepsTheNameTrimmed) {
     Design.FontName = "  Courier New ";
     AnswerFont("DejaVu Serif", QDialog::Rejected);
     EXPECT_EQ(Design.FontName, "Courier New");
-    EXPECT_EQ(ShownFont(), "     Courier New");
+    EXPECT_EQ(Shown("lblShowFont"), "     Courier New");
     EXPECT_TRUE(said.empty());
 }
 
@@ -172,9 +168,8 @@ TEST_F(PlateButtonsTest, NoFontBecomesArialWithAMessage) {
         said.clear();
         AnswerFont("DejaVu Serif", QDialog::Rejected);
         EXPECT_EQ(Design.FontName, "Arial");
-        EXPECT_EQ(ShownFont(), "           Arial");
-        const std::vector<std::string> message = {
-            "information: No font was selected; Arial is being used"};
+        EXPECT_EQ(Shown("lblShowFont"), "           Arial");
+        const Strings message = {"information: No font was selected; Arial is being used"};
         EXPECT_EQ(said, message);
     }
 }
@@ -224,9 +219,8 @@ TEST_F(PlateButtonsTest, PrintKeyIsGreyedAndPlateKeyStays) {
     EXPECT_TRUE(Find<QToolButton>("Plate").isEnabled());
     Click("Plate");
     EXPECT_EQ(&Page(), page);
-    Click("Scales");
-    Settle();
-    EXPECT_EQ(Page().objectName(), QStringLiteral("frmScales"));
+    ClickAndSettle("Scales");
+    EXPECT_EQ(PageName(), "frmScales");
 }
 
 TEST_F(PlateButtonsTest, PrintKeyThatIsEnabledAsksForThePrinter) {
@@ -245,21 +239,13 @@ TEST_F(PlateButtonsTest, PrintKeyThatIsEnabledAsksForThePrinter) {
 
 TEST_F(PlateButtonsTest, TabWalksInReadingOrder) {
     OpenPlate();
-    std::vector<std::string> expected;
+    std::string order;
     for (const Measure& measure : kMeasures) {
-        expected.push_back(measure.Named("txt"));
-        expected.push_back(measure.Named("cmd"));
+        order += measure.Named("txt") + " " + measure.Named("cmd") + " ";
     }
-    for (const char* name : {"optArcsYes", "optPrintTextYes", "optLabelRotationHorizontal",
-                             "cmdRotateHelp", "Option1", "cmdCalibrate", "Open"}) {
-        expected.emplace_back(name);
-    }
-    std::vector<std::string> walked = {Page().focusWidget()->objectName().toStdString()};
-    while (walked.size() < expected.size()) {
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-        walked.push_back(Page().focusWidget()->objectName().toStdString());
-    }
-    EXPECT_EQ(walked, expected);
+    EXPECT_TRUE(Box("txtPlateWidth").hasFocus()) << "where it starts";
+    ExpectTabOrder(order + "optArcsYes optPrintTextYes optLabelRotationHorizontal cmdRotateHelp "
+                           "Option1 cmdCalibrate Open");
 }
 
 TEST_F(PlateButtonsTest, EnterInABoxPressesNoButton) {

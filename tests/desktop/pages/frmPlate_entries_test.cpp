@@ -1,8 +1,6 @@
 // The fourteen measures of the plate page: their parts, limits and arrows.
 #include <cmath>
 
-#include <QPushButton>
-
 #include "desktop/pages/platetest.h"
 #include "engine/base/numbertext.h"
 
@@ -229,12 +227,12 @@ TEST_F(PlateEntriesTest, IllustrationButtonShowsTheMeasureAndLeavesTheValue) {
 TEST_F(PlateEntriesTest, SchematicIsTheGreyModelPlateWhateverTheDesign) {
     OpenPlate();
     Click("cmdPlateWidth");
-    const std::vector<std::string> before = ShownSchematic();
+    const Strings before = ShownSchematic();
     Type("txtPlateWidth", "60");
     Type("txtPointerDeflection", "270");
     Click("cmdPlateWidth");
     EXPECT_EQ(ShownSchematic(), before);
-    const std::vector<std::string> texts = TextsOf("picSchematic");
+    const Strings texts = TextsOf("picSchematic");
     for (const char* sample : {"VOLTS", "HarrowgateSoftware", "30"}) {
         EXPECT_NE(std::find(texts.begin(), texts.end(), sample), texts.end()) << sample;
     }

@@ -1,8 +1,6 @@
 // Loading the plate page: what it repairs, fills, fires and shows, and in which order.
 #include <QGroupBox>
-#include <QPushButton>
 
-#include "desktop/navigation/navigator.h"
 #include "desktop/pages/platetest.h"
 #include "engine/base/numbertext.h"
 #include "engine/designfile/readwrite.h"
@@ -114,7 +112,7 @@ TEST_F(PlateLoadTest, EachBoxFiresAndTheLastOneLeavesItsTopic) {
 TEST_F(PlateLoadTest, SchematicIsClearedAtTheEnd) {
     Design.HelpTopic = 3;
     OpenPlate();
-    EXPECT_EQ(ShownSchematic(), std::vector<std::string>{"Clear"});
+    EXPECT_EQ(ShownSchematic(), Strings{"Clear"});
     const QImage shown = Picture("picSchematic").grab().toImage();
     EXPECT_EQ(shown.pixelColor(shown.width() / 2, shown.height() / 2), Qt::white);
 }
@@ -149,39 +147,36 @@ TEST_F(PlateLoadTest, LongFontNameIsShownWhole) {
     EXPECT_EQ(Find<QLabel>("lblShowFont").text(), QStringLiteral("Liberation Sans Narrow"));
 }
 
-TEST_F(PlateLoadTest, EmptyFlagsAreFilled) {
-    Design.DrawArcs.clear();
-    Design.LabelRotation.clear();
-    Design.PrintText.clear();
-    Design.DrawHighlights.clear();
-    Design.DrawGraphic.clear();
-    OpenPlate();
-    EXPECT_EQ(Design.DrawArcs, "Y");
-    EXPECT_EQ(Design.LabelRotation, "H");
-    EXPECT_EQ(Design.PrintText, "Y");
-    EXPECT_EQ(Design.DrawHighlights, "Y");
-    EXPECT_EQ(Design.DrawGraphic, "N");
-    for (const char* option :
-         {"optArcsYes", "optLabelRotationHorizontal", "optPrintTextYes", "optGraphicNo"}) {
-        EXPECT_TRUE(IsSelected(option)) << option;
-    }
-}
+struct PlateFlag {
+    const char* name;
+    std::string DesignRecord::*flag;
+    const char* filled;       // where it is empty
+    const char* filledOption; // none if null
+    const char* other;
+    const char* otherOption;
+};
 
-TEST_F(PlateLoadTest, SetFlagsAreKept) {
-    Design.DrawArcs = "N";
-    Design.LabelRotation = "B";
-    Design.PrintText = "N";
-    Design.DrawHighlights = "N";
-    Design.DrawGraphic = "Y";
-    OpenPlate();
-    EXPECT_EQ(Design.DrawArcs, "N");
-    EXPECT_EQ(Design.LabelRotation, "B");
-    EXPECT_EQ(Design.PrintText, "N");
-    EXPECT_EQ(Design.DrawHighlights, "N");
-    EXPECT_EQ(Design.DrawGraphic, "Y");
-    for (const char* option :
-         {"optArcsNo", "optLabelRotationBearing", "optPrintTextNo", "optGraphicYes"}) {
-        EXPECT_TRUE(IsSelected(option)) << option;
+constexpr PlateFlag kPlateFlags[] = {
+    {"arcs", &D::DrawArcs, "Y", "optArcsYes", "N", "optArcsNo"},
+    {"rotation", &D::LabelRotation, "H", "optLabelRotationHorizontal", "B",
+     "optLabelRotationBearing"},
+    {"labels", &D::PrintText, "Y", "optPrintTextYes", "N", "optPrintTextNo"},
+    {"highlights", &D::DrawHighlights, "Y", nullptr, "N", nullptr},
+    {"graphic", &D::DrawGraphic, "N", "optGraphicNo", "Y", "optGraphicYes"},
+};
+
+TEST_F(PlateLoadTest, EmptyFlagsAreFilledAndSetOnesKept) {
+    for (const bool set : {false, true}) {
+        SCOPED_TRACE(set ? "set" : "empty");
+        for (const PlateFlag& row : kPlateFlags) {
+            Design.*row.flag = set ? row.other : "";
+        }
+        OpenPlate();
+        for (const PlateFlag& row : kPlateFlags) {
+            EXPECT_EQ(Design.*row.flag, set ? row.other : row.filled) << row.name;
+            const char* const option = set ? row.otherOption : row.filledOption;
+            EXPECT_TRUE(!option || IsSelected(option)) << row.name;
+        }
     }
 }
 
@@ -227,9 +222,7 @@ TEST_F(PlateLoadTest, ValueWithoutAnOptionSelectsNoneAndStays) {
     Design.LabelRotation = "V";
     Design.MessageLevel = 7;
     OpenPlate();
-    EXPECT_FALSE(IsSelected("optLabelRotationHorizontal"));
-    EXPECT_FALSE(IsSelected("optLabelRotationBearing"));
-    EXPECT_FALSE(IsSelected("optSoundOff"));
+    ExpectSelected({"optLabelRotationHorizontal", "optLabelRotationBearing", "optSoundOff"}, false);
     EXPECT_EQ(Design.LabelRotation, "V");
     EXPECT_EQ(Design.MessageLevel, 7);
 }

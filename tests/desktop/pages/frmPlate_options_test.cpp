@@ -2,17 +2,10 @@
 #include <QGroupBox>
 
 #include "desktop/pages/platetest.h"
+#include "engine/core/fieldplace.h"
 
 namespace vernacle::test {
 namespace {
-
-// What the design says, as a text.
-std::string Said(std::int16_t value) {
-    return std::to_string(value);
-}
-std::string Said(const std::string& value) {
-    return value;
-}
 
 struct PlateOption {
     const char* frame;
@@ -20,58 +13,35 @@ struct PlateOption {
     const char* caption;
     bool enabled;
     const char* value; // of the field
-    std::string (*field)();
+    FieldPlace field;
     const char* other; // of its group
-};
 
-std::string Arcs() {
-    return Said(Design.DrawArcs);
-}
-std::string Labels() {
-    return Said(Design.PrintText);
-}
-std::string Rotation() {
-    return Said(Design.LabelRotation);
-}
-std::string Style() {
-    return Said(Design.PlateStyle);
-}
-std::string Scales() {
-    return Said(Design.NumberOfScales);
-}
-std::string Outline() {
-    return Said(Design.PlateOutlineCircular);
-}
-std::string Graphic() {
-    return Said(Design.DrawGraphic);
-}
-std::string Sound() {
-    return Said(Design.MessageLevel);
-}
+    std::string Kept() const { return PlainText(field.In(Design)); }
+};
 
 // clang-format off
 constexpr PlateOption kPlateOptions[] = {
-    {"Arcs",         "optArcsYes",                 "Yes",         true,  "Y", Arcs,     "optArcsNo"},
-    {"Arcs",         "optArcsNo",                  "No",          true,  "N", Arcs,     "optArcsYes"},
-    {"Labels",       "optPrintTextYes",            "Yes",         true,  "Y", Labels,   "optPrintTextNo"},
-    {"Labels",       "optPrintTextNo",             "No",          true,  "N", Labels,   "optPrintTextYes"},
-    {"Label rotate", "optLabelRotationHorizontal", "Horizontal",  true,  "H", Rotation, "optLabelRotationBearing"},
-    {"Label rotate", "optLabelRotationBearing",    "Bearing",     true,  "B", Rotation, "optLabelRotationHorizontal"},
-    {"Style",        "optNormal",                  "Standard",    false, "0", Style,    "optDINquad"},
-    {"Style",        "optDINquad",                 "Quadrant",    false, "1", Style,    "optNormal"},
-    {"Number",       "Option1",                    "1",           true,  "1", Scales,   "Option6"},
-    {"Number",       "Option2",                    "2",           false, "2", Scales,   "Option1"},
-    {"Number",       "Option3",                    "3",           false, "3", Scales,   "Option2"},
-    {"Number",       "Option4",                    "4",           false, "4", Scales,   "Option3"},
-    {"Number",       "Option5",                    "5",           false, "5", Scales,   "Option4"},
-    {"Number",       "Option6",                    "6",           false, "6", Scales,   "Option5"},
-    {"Plate",        "optCircular",                "Circular",    true,  "1", Outline,  "optRectangular"},
-    {"Plate",        "optRectangular",             "Rectangular", true,  "0", Outline,  "optCircular"},
-    {"Graphic",      "optGraphicYes",              "Yes",         true,  "Y", Graphic,  "optGraphicNo"},
-    {"Graphic",      "optGraphicNo",               "No",          true,  "N", Graphic,  "optGraphicYes"},
-    {"Sound",        "optSoundOff",                "Off",         true,  "0", Sound,    "optSoundAll"},
-    {"Sound",        "optSoundWarn",               "Warn",        true,  "1", Sound,    "optSoundOff"},
-    {"Sound",        "optSoundAll",                "All",         false, "2", Sound,    "optSoundWarn"},
+    {"Arcs",         "optArcsYes",                 "Yes",         true,  "Y", At<&D::DrawArcs>,             "optArcsNo"},
+    {"Arcs",         "optArcsNo",                  "No",          true,  "N", At<&D::DrawArcs>,             "optArcsYes"},
+    {"Labels",       "optPrintTextYes",            "Yes",         true,  "Y", At<&D::PrintText>,            "optPrintTextNo"},
+    {"Labels",       "optPrintTextNo",             "No",          true,  "N", At<&D::PrintText>,            "optPrintTextYes"},
+    {"Label rotate", "optLabelRotationHorizontal", "Horizontal",  true,  "H", At<&D::LabelRotation>,        "optLabelRotationBearing"},
+    {"Label rotate", "optLabelRotationBearing",    "Bearing",     true,  "B", At<&D::LabelRotation>,        "optLabelRotationHorizontal"},
+    {"Style",        "optNormal",                  "Standard",    false, "0", At<&D::PlateStyle>,           "optDINquad"},
+    {"Style",        "optDINquad",                 "Quadrant",    false, "1", At<&D::PlateStyle>,           "optNormal"},
+    {"Number",       "Option1",                    "1",           true,  "1", At<&D::NumberOfScales>,       "Option6"},
+    {"Number",       "Option2",                    "2",           false, "2", At<&D::NumberOfScales>,       "Option1"},
+    {"Number",       "Option3",                    "3",           false, "3", At<&D::NumberOfScales>,       "Option2"},
+    {"Number",       "Option4",                    "4",           false, "4", At<&D::NumberOfScales>,       "Option3"},
+    {"Number",       "Option5",                    "5",           false, "5", At<&D::NumberOfScales>,       "Option4"},
+    {"Number",       "Option6",                    "6",           false, "6", At<&D::NumberOfScales>,       "Option5"},
+    {"Plate",        "optCircular",                "Circular",    true,  "1", At<&D::PlateOutlineCircular>, "optRectangular"},
+    {"Plate",        "optRectangular",             "Rectangular", true,  "0", At<&D::PlateOutlineCircular>, "optCircular"},
+    {"Graphic",      "optGraphicYes",              "Yes",         true,  "Y", At<&D::DrawGraphic>,          "optGraphicNo"},
+    {"Graphic",      "optGraphicNo",               "No",          true,  "N", At<&D::DrawGraphic>,          "optGraphicYes"},
+    {"Sound",        "optSoundOff",                "Off",         true,  "0", At<&D::MessageLevel>,         "optSoundAll"},
+    {"Sound",        "optSoundWarn",               "Warn",        true,  "1", At<&D::MessageLevel>,         "optSoundOff"},
+    {"Sound",        "optSoundAll",                "All",         false, "2", At<&D::MessageLevel>,         "optSoundWarn"},
 };
 // clang-format on
 
@@ -139,9 +109,9 @@ TEST_F(PlateOptionsTest, ClickSetsTheFieldAndClearsTheOthers) {
     for (const PlateOption& option : kPlateOptions) {
         SCOPED_TRACE(option.name);
         ReachAndClick(option.other);
-        EXPECT_NE(option.field(), option.value);
+        EXPECT_NE(option.Kept(), option.value);
         ReachAndClick(option.name);
-        EXPECT_EQ(option.field(), option.value);
+        EXPECT_EQ(option.Kept(), option.value);
         EXPECT_TRUE(IsSelected(option.name));
         EXPECT_FALSE(IsSelected(option.other));
     }
@@ -185,24 +155,19 @@ TEST_F(PlateOptionsTest, OtherOptionsLeaveTheActiveScale) {
     EXPECT_EQ(Design.ActiveScale, 4);
 }
 
-TEST_F(PlateOptionsTest, GraphicYesClearsTheOptionOfNoLabels) {
+TEST_F(PlateOptionsTest, GraphicClearsTheLabelsOptionOfTheOtherSide) {
+    const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
+        {"optPrintTextNo", "optGraphicYes", "N", "Y"},
+        {"optPrintTextYes", "optGraphicNo", "Y", "N"}};
     OpenPlate();
-    Click("optPrintTextNo");
-    ReachAndClick("optGraphicYes");
-    EXPECT_EQ(Design.DrawGraphic, "Y");
-    EXPECT_FALSE(IsSelected("optPrintTextNo"));
-    EXPECT_FALSE(IsSelected("optPrintTextYes"));
-    EXPECT_EQ(Design.PrintText, "N") << "the field stays";
-}
-
-TEST_F(PlateOptionsTest, GraphicNoClearsTheOptionOfLabels) {
-    OpenPlate();
-    Click("optPrintTextYes");
-    ReachAndClick("optGraphicNo");
-    EXPECT_EQ(Design.DrawGraphic, "N");
-    EXPECT_FALSE(IsSelected("optPrintTextYes"));
-    EXPECT_FALSE(IsSelected("optPrintTextNo"));
-    EXPECT_EQ(Design.PrintText, "Y") << "the field stays";
+    for (const auto& [labels, graphic, printText, drawGraphic] : rows) {
+        SCOPED_TRACE(graphic);
+        Click(labels);
+        ReachAndClick(graphic);
+        EXPECT_EQ(Design.DrawGraphic, drawGraphic);
+        ExpectSelected({"optPrintTextNo", "optPrintTextYes"}, false);
+        EXPECT_EQ(Design.PrintText, printText) << "the field stays";
+    }
 }
 
 TEST_F(PlateOptionsTest, GraphicLeavesTheLabelsOptionOfTheSameSide) {
@@ -239,7 +204,7 @@ TEST_F(PlateOptionsTest, LabelsLeaveTheGraphicOptions) {
 TEST_F(PlateOptionsTest, OptionsDoNotTouchTheSchematic) {
     OpenPlate();
     Click("cmdPlateHeight");
-    const std::vector<std::string> before = ShownSchematic();
+    const Strings before = ShownSchematic();
     for (const PlateOption& option : kPlateOptions) {
         ReachAndClick(option.name);
     }

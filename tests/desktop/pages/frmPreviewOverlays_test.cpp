@@ -1,8 +1,5 @@
 // The overlays of the preview page: their flags, and what is on the picture.
-#include <functional>
-
 #include <QAccessible>
-#include <QPushButton>
 
 #include "engine/render/overlays.h"
 #include "previewtest.h"
@@ -54,31 +51,32 @@ protected:
     }
 };
 
-TEST_F(OverlayTest, FirstPressDrawsOverThePictureAsItStands) {
-    for (const Overlay& overlay : kOverlays) {
-        SCOPED_TRACE(overlay.button);
-        const QWidget* page = &OpenPreviewAt(0.8F);
-        const Calls plain = Shown();
-        Press(overlay);
-        EXPECT_EQ(overlay.flag(), 1);
-        EXPECT_EQ(Shown(), Joined(plain, CallsOf(overlay)));
-        EXPECT_EQ(&Page(), page) << "not reloaded";
-        overlay.flag() = 0;
-    }
+class EachOverlayTest : public OverlayTest, public ::testing::WithParamInterface<Overlay> {
+protected:
+    const Overlay& overlay = GetParam();
+};
+
+INSTANTIATE_TEST_SUITE_P(Overlays, EachOverlayTest, ::testing::ValuesIn(kOverlays),
+                         [](const auto& row) { return std::string(row.param.button); });
+
+TEST_P(EachOverlayTest, FirstPressDrawsOverThePictureAsItStands) {
+    const QWidget* page = &OpenPreviewAt(0.8F);
+    const Calls plain = Shown();
+    Press(overlay);
+    EXPECT_EQ(overlay.flag(), 1);
+    EXPECT_EQ(Shown(), Joined(plain, CallsOf(overlay)));
+    EXPECT_EQ(&Page(), page) << "not reloaded";
 }
 
-TEST_F(OverlayTest, SecondPressLeavesNoneOfIt) {
-    for (const Overlay& overlay : kOverlays) {
-        SCOPED_TRACE(overlay.button);
-        const QWidget* page = &OpenPreviewAt(0.8F);
-        const Calls plain = Shown();
-        Press(overlay);
-        Press(overlay);
-        EXPECT_EQ(overlay.flag(), 0);
-        EXPECT_EQ(Shown(), plain);
-        EXPECT_EQ(&Page(), page) << "only drawn anew";
-        EXPECT_EQ(Page().focusWidget()->objectName().toStdString(), overlay.button);
-    }
+TEST_P(EachOverlayTest, SecondPressLeavesNoneOfIt) {
+    const QWidget* page = &OpenPreviewAt(0.8F);
+    const Calls plain = Shown();
+    Press(overlay);
+    Press(overlay);
+    EXPECT_EQ(overlay.flag(), 0);
+    EXPECT_EQ(Shown(), plain);
+    EXPECT_EQ(&Page(), page) << "only drawn anew";
+    EXPECT_EQ(Page().focusWidget()->objectName().toStdString(), overlay.button);
 }
 
 TEST_F(OverlayTest, OverlaysStandAboveEachOther) {
@@ -118,87 +116,70 @@ TEST_F(OverlayTest, OthersGoWithOneThatIsTurnedOff) {
     }
 }
 
-TEST_F(OverlayTest, FlagsOutliveThePageButNothingIsDrawnAtTheLoad) {
-    for (const Overlay& overlay : kOverlays) {
-        SCOPED_TRACE(overlay.button);
-        OpenPreviewAt(0.8F);
-        const Calls plain = Shown();
-        Press(overlay);
-        Click("Plate");
-        Settle();
-        Click("Preview");
-        Settle();
-        EXPECT_EQ(overlay.flag(), 1);
-        EXPECT_EQ(Shown(), plain);
-        Press(overlay);
-        EXPECT_EQ(overlay.flag(), 0);
-        EXPECT_EQ(Shown(), plain);
-    }
+TEST_P(EachOverlayTest, FlagsOutliveThePageButNothingIsDrawnAtTheLoad) {
+    OpenPreviewAt(0.8F);
+    const Calls plain = Shown();
+    Press(overlay);
+    ClickAndSettle("Plate");
+    ClickAndSettle("Preview");
+    EXPECT_EQ(overlay.flag(), 1);
+    EXPECT_EQ(Shown(), plain);
+    Press(overlay);
+    EXPECT_EQ(overlay.flag(), 0);
+    EXPECT_EQ(Shown(), plain);
 }
 
-TEST_F(OverlayTest, NewAspectDrawsWithoutThem) {
-    for (const Overlay& overlay : kOverlays) {
-        SCOPED_TRACE(overlay.button);
-        OpenPreviewAt(0.8F);
-        Press(overlay);
-        Paste("txtAspect", "0.9");
-        ExpectPlainPicture();
-        EXPECT_EQ(overlay.flag(), 1);
-        overlay.flag() = 0;
-        Press(overlay);
-        EXPECT_EQ(LinesOf(Shown()).size(), [&] {
-            RecordingSurface surface;
-            DrawPage(Design, surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing},
-                     Drawing);
-            overlay.draw(surface, FrameOf(Design, PreviewTraits()));
-            return LinesOf(surface.calls).size();
-        }()) << "at the new aspect";
-        overlay.flag() = 0;
-    }
+TEST_P(EachOverlayTest, NewAspectDrawsWithoutThem) {
+    OpenPreviewAt(0.8F);
+    Press(overlay);
+    Paste("txtAspect", "0.9");
+    ExpectPlainPicture();
+    EXPECT_EQ(overlay.flag(), 1);
+    overlay.flag() = 0;
+    Press(overlay);
+    EXPECT_EQ(LinesOf(Shown()).size(), [&] {
+        RecordingSurface surface = PlainPicture();
+        overlay.draw(surface, FrameOf(Design, PreviewTraits()));
+        return LinesOf(surface.calls).size();
+    }()) << "at the new aspect";
 }
 
 // The flag decides, not whether the overlay is drawn.
-TEST_F(OverlayTest, ButtonsLookPressedWhileTheirFlagIsSet) {
-    for (const Overlay& overlay : kOverlays) {
-        SCOPED_TRACE(overlay.button);
-        OpenPreviewAt(0.8F);
-        ExpectPressed(overlay, false);
-        const QImage released = Find(overlay.button).grab().toImage();
-        Press(overlay);
-        ExpectPressed(overlay, true);
-        EXPECT_NE(Find(overlay.button).grab().toImage(), released);
-        StepUp("UpDown1"); // takes the drawing away
-        ExpectPressed(overlay, true);
-        Paste("txtAspect", "0.9");
-        ExpectPressed(overlay, true);
-        OpenPage("frmPlate");
-        OpenPreview();
-        ExpectPressed(overlay, true);
-        for (const Overlay& other : kOverlays) {
-            ExpectPressed(other, other.button == overlay.button);
-        }
-        QTest::keyClick(&Find(overlay.button), Qt::Key_Space);
-        ExpectPressed(overlay, false);
-        overlay.flag() = 5;
-        OpenPreview();
-        ExpectPressed(overlay, true);
-        QTest::keyClick(&Find(overlay.button), Qt::Key_Return);
-        EXPECT_EQ(overlay.flag(), 0);
-        ExpectPressed(overlay, false);
+TEST_P(EachOverlayTest, ButtonsLookPressedWhileTheirFlagIsSet) {
+    OpenPreviewAt(0.8F);
+    ExpectPressed(overlay, false);
+    const QImage released = Find(overlay.button).grab().toImage();
+    Press(overlay);
+    ExpectPressed(overlay, true);
+    EXPECT_NE(Find(overlay.button).grab().toImage(), released);
+    StepUp("UpDown1"); // takes the drawing away
+    ExpectPressed(overlay, true);
+    Paste("txtAspect", "0.9");
+    ExpectPressed(overlay, true);
+    OpenPage("frmPlate");
+    OpenPreview();
+    ExpectPressed(overlay, true);
+    for (const Overlay& other : kOverlays) {
+        ExpectPressed(other, other.button == overlay.button);
     }
+    QTest::keyClick(&Find(overlay.button), Qt::Key_Space);
+    ExpectPressed(overlay, false);
+    overlay.flag() = 5;
+    OpenPreview();
+    ExpectPressed(overlay, true);
+    QTest::keyClick(&Find(overlay.button), Qt::Key_Return);
+    EXPECT_EQ(overlay.flag(), 0);
+    ExpectPressed(overlay, false);
     EXPECT_FALSE(Find<QPushButton>("cmdHPGL").isCheckable());
 }
 
-TEST_F(OverlayTest, FlagBeyondOneGoesToZero) {
-    for (const Overlay& overlay : kOverlays) {
-        SCOPED_TRACE(overlay.button);
-        OpenPreviewAt(0.8F);
-        const Calls plain = Shown();
-        overlay.flag() = 5;
-        Press(overlay);
-        EXPECT_EQ(overlay.flag(), 0);
-        EXPECT_EQ(Shown(), plain);
-    }
+TEST_P(EachOverlayTest, FlagBeyondOneGoesToZero) {
+    OpenPreviewAt(0.8F);
+    const Calls plain = Shown();
+    overlay.flag() = 5;
+    Press(overlay);
+    EXPECT_EQ(overlay.flag(), 0);
+    EXPECT_EQ(Shown(), plain);
 }
 
 TEST_F(OverlayTest, PointerOfAPlateWithoutTics) {

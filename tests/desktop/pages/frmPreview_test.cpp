@@ -1,10 +1,5 @@
 #include "previewtest.h"
 
-#include <QLabel>
-#include <QPushButton>
-
-#include "engine/scale/scale.h"
-
 namespace vernacle::test {
 namespace {
 
@@ -108,8 +103,7 @@ TEST_F(PreviewPageTest, ItsChangesStandOnOtherPagesAndInTheFile) {
     Design.ScaleColor[1] = 0xFF;
     Design.DesignFileName = Path("mine.VRN");
     OpenPreview();
-    Click("Plate");
-    Settle();
+    ClickAndSettle("Plate");
     EXPECT_EQ(Design.NumberOfScales, 1);
     EXPECT_EQ(Design.FontName, "Arial");
     EXPECT_EQ(Design.ScaleColor[1], 0);
@@ -170,22 +164,16 @@ TEST_F(PreviewPageTest, ToolsAreNamedEnabledAndExplained) {
 
 TEST_F(PreviewPageTest, TabFollowsTheReadingOrder) {
     OpenPreview();
-    Box("txtAspect").setFocus();
-    for (const char* next : {"txtAspectUpDown", "cmdCircle", "cmdGrid", "cmdPointer", "cmdHPGL"}) {
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(Page().focusWidget()->objectName().toStdString(), next);
-    }
+    ExpectTabOrder("txtAspect txtAspectUpDown cmdCircle cmdGrid cmdPointer cmdHPGL");
 }
 
 TEST_F(PreviewPageTest, PlotterPageStandsAboveIt) {
     const QWidget* preview = &OpenPreview();
-    Answer([](QWidget& form) {
+    ClickAndAnswer("cmdHPGL", [](QWidget& form) {
         EXPECT_EQ(form.objectName().toStdString(), "frmHPGL");
         EXPECT_TRUE(form.isModal());
         Cancel(form);
     });
-    Click("cmdHPGL");
-    EXPECT_TRUE(AllAnswered());
     EXPECT_EQ(&Page(), preview);
 }
 

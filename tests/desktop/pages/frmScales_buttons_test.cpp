@@ -1,12 +1,7 @@
 // The buttons of the scales page: colour, revert to standard, and the forms that they open.
 #include <memory>
 
-#include <QColorDialog>
-#include <QDialog>
-#include <QPushButton>
-
 #include "desktop/app/forms.h"
-#include "desktop/navigation/navigator.h"
 #include "desktop/pages/scalestest.h"
 
 namespace vernacle::test {
@@ -34,22 +29,13 @@ protected:
         Click(button);
     }
 
-    // Presses cmdGetColor and takes that colour from its dialog.
-    void GetColour(const QColor& colour) {
-        Answer([colour](QWidget& dialog) {
-            auto& chooser = dynamic_cast<QColorDialog&>(dialog);
-            chooser.setCurrentColor(colour);
-            chooser.accept();
-        });
-        Press("cmdGetColor");
-    }
-
-    void CancelColour() {
-        Answer([](QWidget& dialog) { dynamic_cast<QDialog&>(dialog).reject(); });
+    void GetColour(const char* colour) {
+        Answer(ChooseColour("Get scale color", colour, start_));
         Press("cmdGetColor");
     }
 
     std::vector<FormRow> rows_;
+    QColor start_; // of the colour's dialog
 };
 
 TEST_F(ScalesButtonsTest, CaptionsTipsAndStartingStates) {
@@ -84,28 +70,27 @@ TEST_F(ScalesButtonsTest, NothingEnablesTheGreyedButtons) {
     Click("Option2");
     Click("Option1");
     Type("txtNumberOfTics", "30");
-    for (const char* button : {"cmdGetColor", "cmdRevertToStandard", "cmddBsetup", "cmdSelectTics",
-                               "txtLinearityExponent", "lblLinearityExponent"}) {
-        EXPECT_FALSE(IsEnabled(button)) << button;
-    }
+    ExpectEnabled({"cmdGetColor", "cmdRevertToStandard", "cmddBsetup", "cmdSelectTics",
+                   "txtLinearityExponent", "lblLinearityExponent"},
+                  false);
 }
 
 TEST_F(ScalesButtonsTest, ColourGoesToTheActiveScaleAndIsDrawn) {
     OpenScales(3);
     Click("Option2");
-    GetColour(Qt::red);
+    GetColour("red");
     EXPECT_EQ(Design.ScaleColor[1], 0);
     EXPECT_EQ(Design.ScaleColor[2], kRed);
     EXPECT_EQ(Design.ScaleColor[3], 0);
     EXPECT_EQ(InkOf("Option2"), QColor(Qt::red));
     EXPECT_EQ(ShownPlate(), PlateOfDesign());
-    const std::vector<std::string> calls = ShownPlate();
+    const Strings calls = ShownPlate();
     EXPECT_NE(std::find(calls.begin(), calls.end(), "SetForeColor ff"), calls.end());
 }
 
 TEST_F(ScalesButtonsTest, ColourLastsUntilTheScaleIsSelectedAgain) {
     OpenScales();
-    GetColour(Qt::red);
+    GetColour("red");
     Type("txtNumberOfTics", "30");
     EXPECT_EQ(Design.ScaleColor[1], kRed);
     Click("Option1");
@@ -115,7 +100,7 @@ TEST_F(ScalesButtonsTest, ColourLastsUntilTheScaleIsSelectedAgain) {
 
 TEST_F(ScalesButtonsTest, ColourLastsUntilThePageIsLoadedAgain) {
     OpenScales();
-    GetColour(Qt::red);
+    GetColour("red");
     OpenScales();
     EXPECT_EQ(Design.ScaleColor[1], 0);
     EXPECT_EQ(InkOf("Option1"), QColor(Qt::red)) << "taken before the colour is cleared";
@@ -125,12 +110,8 @@ TEST_F(ScalesButtonsTest, ColourDialogStartsWithTheMagnitude) {
     OpenScales();
     for (const std::int32_t colour : {0x804020, -0x804020}) {
         Design.ScaleColor[1] = colour;
-        Answer([](QWidget& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Get scale color"));
-            EXPECT_EQ(dynamic_cast<QColorDialog&>(dialog).currentColor(), QColor(0x20, 0x40, 0x80));
-            dynamic_cast<QDialog&>(dialog).reject();
-        });
-        Press("cmdGetColor");
+        GetColour(nullptr);
+        EXPECT_EQ(start_, QColor(0x20, 0x40, 0x80));
         EXPECT_EQ(Design.ScaleColor[1], colour);
     }
 }
@@ -152,11 +133,7 @@ TEST_F(ScalesButtonsTest, SignIsKeptAndBlackCanCarryIt) {
         SCOPED_TRACE(std::to_string(row.before) + " " + (row.chosen ? row.chosen : "cancelled"));
         Design.ScaleColor[1] = row.before;
         Picture("picPlate").Surface().Clear();
-        if (row.chosen) {
-            GetColour(QColor(QLatin1String(row.chosen)));
-        } else {
-            CancelColour();
-        }
+        GetColour(row.chosen);
         EXPECT_EQ(Design.ScaleColor[1], row.after);
         const auto bits = static_cast<unsigned>(std::abs(row.after));
         EXPECT_EQ(InkOf("Option1"),
@@ -173,7 +150,7 @@ TEST_F(ScalesButtonsTest, WithoutAnActiveScaleTheColourIsOfTheFirst) {
         Design.ActiveScale = 0;
         Design.ScaleColor[0] = spare;
         Design.ScaleColor[1] = 0;
-        GetColour(Qt::red);
+        GetColour("red");
         EXPECT_EQ(Design.ActiveScale, 1);
         EXPECT_EQ(Design.ScaleColor[1], spare < 0 ? -kRed : kRed) << "the sign is kept before";
         EXPECT_EQ(Design.ScaleColor[0], spare);
@@ -183,7 +160,7 @@ TEST_F(ScalesButtonsTest, WithoutAnActiveScaleTheColourIsOfTheFirst) {
 TEST_F(ScalesButtonsTest, ScaleWithoutAnOptionTakesItsColourToo) {
     OpenScales();
     Design.ActiveScale = 7;
-    GetColour(Qt::red);
+    GetColour("red");
     EXPECT_EQ(Design.ScaleColor[7], kRed);
     EXPECT_EQ(InkOf("Option6"), QColor(Qt::black));
 }
@@ -274,26 +251,20 @@ TEST_F(ScalesButtonsTest, RevertRepairsCountsBelowOne) {
 }
 
 TEST_F(ScalesButtonsTest, RevertEnablesItsEntries) {
-    const char* const enabled[] = {"lblNumberOfTics",          "txtNumberOfTics",
-                                   "lblMajorTicsEveryHowMany", "txtMajorTicsEveryHowMany",
-                                   "lblLabelsEveryHowMany",    "txtLabelsEveryHowMany"};
-    const char* const left[] = {
-        "lblScaleLeftEnd",      "txtScaleLeftEnd",     "UpDown3", "UpDown4", "UpDown5",
-        "lblLinearityExponent", "txtLinearityExponent"};
+    const std::initializer_list<const char*> enabled = {
+        "lblNumberOfTics",          "txtNumberOfTics",       "lblMajorTicsEveryHowMany",
+        "txtMajorTicsEveryHowMany", "lblLabelsEveryHowMany", "txtLabelsEveryHowMany",
+    };
+    const std::initializer_list<const char*> left = {
+        "lblScaleLeftEnd",      "txtScaleLeftEnd",      "UpDown3", "UpDown4", "UpDown5",
+        "lblLinearityExponent", "txtLinearityExponent",
+    };
     OpenScales();
-    for (const char* control : enabled) {
-        Find(control).setEnabled(false);
-    }
-    for (const char* control : left) {
-        Find(control).setEnabled(false);
-    }
+    Disable(enabled);
+    Disable(left);
     Press("cmdRevertToStandard");
-    for (const char* control : enabled) {
-        EXPECT_TRUE(IsEnabled(control)) << control;
-    }
-    for (const char* control : left) {
-        EXPECT_FALSE(IsEnabled(control)) << control;
-    }
+    ExpectEnabled(enabled, true);
+    ExpectEnabled(left, false);
 }
 
 TEST_F(ScalesButtonsTest, SetupGetsTheActiveScaleAndTakesThePagesPlace) {

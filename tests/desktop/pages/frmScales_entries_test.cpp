@@ -1,7 +1,6 @@
 // The numeric entries of the scales page: their parts, limits and arrows, what is typed into them,
 // and the redraw that follows.
 #include <algorithm>
-#include <cmath>
 
 #include "desktop/pages/scalestest.h"
 
@@ -255,7 +254,7 @@ TEST_F(ScalesEntriesTest, EachChangeRecomputesTheTablesAndDrawsTheWholePlate) {
     OpenScales(2);
     for (const ScaleEntry& entry : kScaleEntries) {
         SCOPED_TRACE(entry.stem);
-        const std::vector<std::string> before = ShownPlate();
+        const Strings before = ShownPlate();
         Spoil();
         Paste(entry.Box(), "23");
         ExpectRedrawn();
@@ -290,7 +289,7 @@ TEST_F(ScalesEntriesTest, TypedRangeComesOutInTheLabels) {
     Type("txtNumberOfTics", "20");
     Type("txtLabelsEveryHowMany", "10");
     Type("txtScaleTitle", "Volts");
-    EXPECT_EQ(TextsOf("picPlate"), (std::vector<std::string>{"-10", "0", "10", "Volts"}));
+    EXPECT_EQ(TextsOf("picPlate"), (Strings{"-10", "0", "10", "Volts"}));
 }
 
 } // namespace

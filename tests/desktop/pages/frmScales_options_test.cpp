@@ -1,7 +1,5 @@
 // The options of the scales page: selecting a scale with all that it changes, and the two switches
 // of tics and arcs.
-#include <QGroupBox>
-
 #include "desktop/pages/scalestest.h"
 
 namespace vernacle::test {
@@ -9,22 +7,24 @@ namespace {
 
 constexpr std::int32_t kGreen = 0x00FF00;
 
-const char* const kSizeControls[] = {"lblRelFontsize", "txtRelFontsize", "txtRelFontSizeUpDown",
-                                     "UpDown6"};
+constexpr std::initializer_list<const char*> kSizeControls = {"lblRelFontsize", "txtRelFontsize",
+                                                              "txtRelFontSizeUpDown", "UpDown6"};
 
-const char* const kStandardEntries[] = {"lblScaleLeftEnd",
-                                        "txtScaleLeftEnd",
-                                        "lblScaleLength",
-                                        "txtScaleLength",
-                                        "lblNumberOfTics",
-                                        "txtNumberOfTics",
-                                        "lblMajorTicsEveryHowMany",
-                                        "txtMajorTicsEveryHowMany",
-                                        "lblLabelsEveryHowMany",
-                                        "txtLabelsEveryHowMany",
-                                        "UpDown3",
-                                        "UpDown4",
-                                        "UpDown5"};
+constexpr std::initializer_list<const char*> kStandardEntries = {
+    "lblScaleLeftEnd",
+    "txtScaleLeftEnd",
+    "lblScaleLength",
+    "txtScaleLength",
+    "lblNumberOfTics",
+    "txtNumberOfTics",
+    "lblMajorTicsEveryHowMany",
+    "txtMajorTicsEveryHowMany",
+    "lblLabelsEveryHowMany",
+    "txtLabelsEveryHowMany",
+    "UpDown3",
+    "UpDown4",
+    "UpDown5",
+};
 
 std::string OptionOf(int scale) {
     return "Option" + std::to_string(scale);
@@ -32,20 +32,8 @@ std::string OptionOf(int scale) {
 
 class ScalesOptionsTest : public ScalesTest {
 protected:
-    static void GiveAllOwnValues() {
-        for (int scale = 1; scale <= kScales; ++scale) {
-            GiveOwnValues(scale);
-        }
-    }
-
-    std::string CaptionOfPrintTics() const {
-        return Find<QGroupBox>("fraPrintTics").title().toStdString();
-    }
-
     std::size_t CountOf(const std::string& call) const {
-        RecordingSurface surface;
-        Picture("picPlate").Record().Replay(surface);
-        return surface.Count(call);
+        return Recorded(Picture("picPlate")).Count(call);
     }
 };
 
@@ -58,16 +46,20 @@ TEST_F(ScalesOptionsTest, CaptionsTipsAndFrames) {
         EXPECT_FALSE(Option(OptionOf(scale)).accessibleName().isEmpty());
         EXPECT_TRUE(Find("fraScaleNumber").isAncestorOf(&Option(OptionOf(scale))));
     }
-    EXPECT_EQ(Find<QGroupBox>("fraScaleNumber").title(), QStringLiteral("Edit"));
     EXPECT_EQ(Find("fraScaleNumber").toolTip(), QStringLiteral("Select the scale to edit"));
-    EXPECT_EQ(Find<QLabel>("lblScaleNumber").text(), QStringLiteral("Scale #:"));
-    EXPECT_EQ(Find<QGroupBox>("fraPrintArcs").title(), QStringLiteral("Allow arcs:"));
-    const std::pair<const char*, const char*> rows[] = {
-        {"Option7", "Yes"}, {"Option8", "No"}, {"Option9", "Yes"}, {"Option10", "No"}};
-    for (const auto& [option, caption] : rows) {
-        const bool isOfArcs = option == std::string("Option9") || option == std::string("Option10");
-        EXPECT_EQ(Option(option).text(), QLatin1String(caption));
-        EXPECT_TRUE(Find(isOfArcs ? "fraPrintArcs" : "fraPrintTics").isAncestorOf(&Option(option)));
+    ExpectShown({{"fraScaleNumber", "Edit"},
+                 {"lblScaleNumber", "Scale #:"},
+                 {"fraPrintArcs", "Allow arcs:"},
+                 {"Option7", "Yes"},
+                 {"Option8", "No"},
+                 {"Option9", "Yes"},
+                 {"Option10", "No"}});
+    const std::pair<const char*, const char*> frames[] = {{"Option7", "fraPrintTics"},
+                                                          {"Option8", "fraPrintTics"},
+                                                          {"Option9", "fraPrintArcs"},
+                                                          {"Option10", "fraPrintArcs"}};
+    for (const auto& [option, frame] : frames) {
+        EXPECT_TRUE(Find(frame).isAncestorOf(&Option(option))) << option;
     }
 }
 
@@ -78,18 +70,7 @@ TEST_F(ScalesOptionsTest, SelectingAScaleFillsItsValues) {
         SCOPED_TRACE(scale);
         Click(OptionOf(scale));
         EXPECT_EQ(Design.ActiveScale, scale);
-        EXPECT_TRUE(IsSelected(OptionOf(scale)));
-        EXPECT_EQ(TextOf("txtScaleLeftEnd"), std::to_string(100 + scale));
-        EXPECT_EQ(TextOf("txtScaleLength"), std::to_string(200 + scale));
-        EXPECT_EQ(TextOf("txtBottomToTitle"), std::to_string(20 + scale));
-        EXPECT_EQ(TextOf("txtBottomToScaleCeiling"), std::to_string(30 + scale));
-        EXPECT_EQ(TextOf("txtLabelsEveryHowMany"), std::to_string(10 + scale));
-        EXPECT_EQ(TextOf("txtNumberOfTics"), std::to_string(60 + scale));
-        EXPECT_EQ(TextOf("txtMajorTicsEveryHowMany"), std::to_string(20 + scale));
-        EXPECT_EQ(TextOf("txtScaleTitle"), "Volts " + std::to_string(scale));
-        EXPECT_EQ(TextOf("txtLinearityExponent"), PlainNumber(1 + static_cast<float>(scale) / 8));
-        EXPECT_EQ(CaptionOfPrintTics(), "Print arcs and tics on #" + std::to_string(scale) + ":");
-        EXPECT_EQ(ShownPlate(), PlateOfDesign());
+        ExpectOwnValuesShown(scale);
     }
 }
 
@@ -115,7 +96,7 @@ TEST_F(ScalesOptionsTest, BoxesAreFilledInTheirOrder) {
     GiveAllOwnValues();
     Design.ScaleColor[2] = kRed;
     OpenScales(3);
-    std::vector<std::string> filled;
+    Strings filled;
     for (EntryBox* box : Page().findChildren<EntryBox*>()) {
         QObject::connect(box, &QLineEdit::textChanged, box, [&filled, box] {
             const bool cleared = Design.ScaleColor[2] == 0;
@@ -124,17 +105,19 @@ TEST_F(ScalesOptionsTest, BoxesAreFilledInTheirOrder) {
         });
     }
     Click("Option2");
-    const std::vector<std::string> expected = {"txtRelFontsize in colour",
-                                               "txtRelFontSizeUpDown in colour",
-                                               "txtScaleLeftEnd",
-                                               "txtScaleLength",
-                                               "txtBottomToTitle",
-                                               "txtBottomToScaleCeiling",
-                                               "txtScaleTitle",
-                                               "txtLabelsEveryHowMany",
-                                               "txtNumberOfTics",
-                                               "txtMajorTicsEveryHowMany",
-                                               "txtLinearityExponent"};
+    const Strings expected = {
+        "txtRelFontsize in colour",
+        "txtRelFontSizeUpDown in colour",
+        "txtScaleLeftEnd",
+        "txtScaleLength",
+        "txtBottomToTitle",
+        "txtBottomToScaleCeiling",
+        "txtScaleTitle",
+        "txtLabelsEveryHowMany",
+        "txtNumberOfTics",
+        "txtMajorTicsEveryHowMany",
+        "txtLinearityExponent",
+    };
     EXPECT_EQ(filled, expected);
 }
 
@@ -176,22 +159,16 @@ TEST_F(ScalesOptionsTest, SelectingRedrawsAtItsEnd) {
 TEST_F(ScalesOptionsTest, FirstScaleIsTheReferenceOfSizes) {
     GiveAllOwnValues();
     OpenScales(3);
-    for (const char* control : kSizeControls) {
-        EXPECT_TRUE(IsEnabled(control)) << control << " is frozen by the option alone";
-    }
+    ExpectEnabled(kSizeControls, true); // they are frozen by the option alone
     Box("txtRelFontSizeUpDown").setText(QStringLiteral("12"));
     Click("Option1");
-    for (const char* control : kSizeControls) {
-        EXPECT_FALSE(IsEnabled(control)) << control;
-    }
+    ExpectEnabled(kSizeControls, false);
     EXPECT_EQ(TextOf("txtRelFontSizeUpDown"), "12") << "the partner is left";
     EXPECT_EQ(TextOf("txtRelFontsize"), "1");
     EXPECT_EQ(Design.RelativeFontSize[1], 1);
     for (const int scale : {2, 3}) {
         Click(OptionOf(scale));
-        for (const char* control : kSizeControls) {
-            EXPECT_TRUE(IsEnabled(control)) << control;
-        }
+        ExpectEnabled(kSizeControls, true);
         const float size = 0.5F + static_cast<float>(scale) / 10;
         EXPECT_EQ(TextOf("txtRelFontsize"), PlainNumber(size));
         EXPECT_EQ(TextOf("txtRelFontSizeUpDown"), std::to_string(5 + scale));
@@ -316,15 +293,10 @@ TEST_F(ScalesOptionsTest, ArrowKeysSelectTheNextScale) {
 TEST_F(ScalesOptionsTest, SelectingEnablesTheStandardEntries) {
     OpenScales(2);
     for (const int scale : {2, 1}) {
-        for (const char* control : kStandardEntries) {
-            Find(control).setEnabled(false);
-        }
+        Disable(kStandardEntries);
         Click(OptionOf(scale));
-        for (const char* control : kStandardEntries) {
-            EXPECT_TRUE(IsEnabled(control)) << control;
-        }
-        EXPECT_FALSE(IsEnabled("txtLinearityExponent"));
-        EXPECT_FALSE(IsEnabled("lblLinearityExponent"));
+        ExpectEnabled(kStandardEntries, true);
+        ExpectEnabled({"txtLinearityExponent", "lblLinearityExponent"}, false);
     }
 }
 

@@ -144,7 +144,7 @@ TEST_F(ScalesTextsTest, ArrowsStepTheirPartnerWhateverTheBoxShows) {
 TEST_F(ScalesTextsTest, RelativeSizeIsDrawn) {
     OpenScales();
     const auto fontsOf = [&] { return CallsOf("picPlate"); };
-    const std::vector<std::string> before = fontsOf();
+    const Strings before = fontsOf();
     Paste("txtRelFontsize", "1.5");
     EXPECT_NE(fontsOf(), before);
     EXPECT_EQ(fontsOf(), PlateOfDesign());

@@ -1,14 +1,9 @@
 // The list in which single tics are deleted, opened from the scales page.
-#include <QPushButton>
-
 #include "desktop/kit/rowlist.h"
-#include "desktop/navigation/navigator.h"
 #include "desktop/pages/scalestest.h"
 #include "engine/base/hostservices.h"
 #include "engine/base/runtimeerror.h"
-#include "engine/scale/scale.h"
 #include "engine/scale/ticrows.h"
-#include "support/answers.h"
 
 namespace vernacle::test {
 namespace {
@@ -25,7 +20,7 @@ protected:
 
     void OnFormAbove(const Use& use) {
         Enable("cmdSelectTics");
-        Answer([&](QWidget& form) {
+        ClickAndAnswer("cmdSelectTics", [&](QWidget& form) {
             EXPECT_EQ(form.objectName(), QLatin1String("frmSelectTics"));
             form_ = &form;
             use(form);
@@ -34,8 +29,6 @@ protected:
             }
             EXPECT_FALSE(form.isVisible());
         });
-        Click("cmdSelectTics");
-        EXPECT_TRUE(AllAnswered());
     }
 
     template <typename Control = QWidget>
@@ -300,7 +293,7 @@ TEST_F(SelectTicsTest, RowsAreChosenByKeysToo) {
 
 TEST_F(SelectTicsTest, LeavingWithoutAcceptKeepsTheDeletion) {
     OpenPage("frmScales");
-    const std::vector<std::string> before = ShownPlate();
+    const Strings before = ShownPlate();
     OnFormAbove([this](QWidget&) {
         ChooseRow(5);
         Press("optTicNo");
@@ -314,8 +307,8 @@ TEST_F(SelectTicsTest, LeavingWithoutAcceptKeepsTheDeletion) {
     EXPECT_EQ(Design.DeletedLabels[1][1], 10);
     EXPECT_EQ(ShownPlate(), before) << "the page below does not redraw on return";
     Type("txtScaleTitle", "next");
-    const std::vector<std::string> after = ShownPlate();
-    const auto lines = [](const std::vector<std::string>& calls) {
+    const Strings after = ShownPlate();
+    const auto lines = [](const Strings& calls) {
         return std::count_if(calls.begin(), calls.end(),
                              [](const std::string& call) { return call.starts_with("Line "); });
     };
@@ -451,14 +444,7 @@ TEST_F(SelectTicsTest, CloseBoxAndEscapeCollectNothing) {
 TEST_F(SelectTicsTest, TabFollowsReadingOrder) {
     OnForm([this](QWidget& form) {
         ChooseRow(10);
-        std::vector<std::string> order;
-        List().setFocus();
-        for (int control = 0; control < 5; ++control) {
-            order.push_back(form.focusWidget()->objectName().toStdString());
-            QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-        }
-        EXPECT_EQ(order, (std::vector<std::string>{"lstTicsData", "optTicYes", "optLabelYes",
-                                                   "cmdAccept", "cmdExit"}));
+        ExpectTabOrder(form, "lstTicsData optTicYes optLabelYes cmdAccept cmdExit");
     });
 }
 

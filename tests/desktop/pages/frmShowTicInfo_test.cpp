@@ -1,10 +1,7 @@
 // The tic information beside the highlights page.
-#include <QPointer>
-#include <QPushButton>
 #include <QScreen>
 
 #include "desktop/kit/rowlist.h"
-#include "desktop/navigation/navigator.h"
 #include "desktop/pages/pagedrawing.h"
 #include "engine/base/runtimeerror.h"
 #include "engine/scale/ticrows.h"
@@ -33,8 +30,7 @@ protected:
 
     // Presses the page's button; gives the one window that is open then.
     QWidget& ShowInfo() {
-        Click("cmdShowTicInfo");
-        Settle();
+        ClickAndSettle("cmdShowTicInfo");
         EXPECT_EQ(Windows().size(), 1U);
         return *Windows().at(0);
     }
@@ -124,9 +120,8 @@ TEST_F(ShowTicInfoTest, PageIsUsedMeanwhile) {
 TEST_F(ShowTicInfoTest, StaysOpenUntilItIsClosed) {
     OpenPage("frmHighlights");
     const QPointer<QWidget> form = &ShowInfo();
-    Click("Preview");
-    Settle();
-    EXPECT_EQ(Page().objectName(), QLatin1String("frmPreview"));
+    ClickAndSettle("Preview");
+    EXPECT_EQ(PageName(), "frmPreview");
     ASSERT_FALSE(form.isNull());
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(form->windowHandle()->transientParent(), Page().windowHandle());
@@ -149,7 +144,7 @@ TEST_F(ShowTicInfoTest, EscapeAndTheCloseBoxCloseIt) {
     CloseByUser(*form);
     Settle();
     EXPECT_TRUE(form.isNull());
-    EXPECT_EQ(Page().objectName(), QLatin1String("frmHighlights"));
+    EXPECT_EQ(PageName(), "frmHighlights");
     EXPECT_FALSE(TakeProcessEnd());
     EXPECT_FALSE(Exists("LASTSESSION.VRN"));
 }

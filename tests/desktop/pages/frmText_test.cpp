@@ -1,10 +1,6 @@
 // The text page. Its entries start disabled; the tests enable them to reach their handlers.
 #include <cmath>
 
-#include <QColorDialog>
-#include <QGroupBox>
-#include <QPushButton>
-
 #include "desktop/pages/pagedrawing.h"
 #include "desktop/system/programfiles.h"
 #include "engine/base/hostservices.h"
@@ -13,7 +9,6 @@
 #include "engine/core/freetexts.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/render/stages.h"
-#include "support/answers.h"
 #include "support/pixels.h"
 
 namespace vernacle::test {
@@ -60,18 +55,15 @@ protected:
 
 TEST_F(TextPageTest, CaptionsAndTips) {
     OpenPage("frmText");
-    EXPECT_EQ(Shown("lblHeading"), "Text entry");
-    const std::pair<const char*, const char*> captions[] = {{"lblText", "Text:"},
-                                                            {"lblLeftToText", "Left to text:"},
-                                                            {"lblBottomToText", "Bottom to text:"},
-                                                            {"lblRelSize", "Relative size:"},
-                                                            {"Label1", "Text #:"}};
-    for (const auto& [label, caption] : captions) {
-        EXPECT_EQ(Shown(label), caption);
-    }
-    EXPECT_EQ(Find<QPushButton>("cmdCenterText").text(), QLatin1String("Center horizontally"));
+    ExpectShown({{"lblHeading", "Text entry"},
+                 {"lblText", "Text:"},
+                 {"lblLeftToText", "Left to text:"},
+                 {"lblBottomToText", "Bottom to text:"},
+                 {"lblRelSize", "Relative size:"},
+                 {"Label1", "Text #:"},
+                 {"cmdCenterText", "Center horizontally"},
+                 {"cmdGetColor", "Get text color"}});
     EXPECT_EQ(Find("cmdCenterText").toolTip(), QString());
-    EXPECT_EQ(Find<QPushButton>("cmdGetColor").text(), QLatin1String("Get text color"));
     EXPECT_EQ(Find("cmdGetColor").toolTip(), QLatin1String("Select color for text #1"));
     ExpectEditOptions(kTexts);
 }
@@ -87,30 +79,25 @@ TEST_F(TextPageTest, EverythingButTheToolbarStartsDisabled) {
         EXPECT_FALSE(Option("Option" + std::to_string(entry)).isEnabled());
         EXPECT_EQ(IsSelected("Option" + std::to_string(entry)), entry == 1);
     }
-    ExpectEnabled({"Open", "Save", "Plate", "Scales", "Text", "Graphic", "Highlights", "Preview",
-                   "Help", "Exit", "About"},
-                  true);
-    ExpectEnabled({"Print"}, false);
+    ExpectOnlyPrintIsGreyed();
 }
 
 TEST_F(TextPageTest, ShowsTheFirstTextOfTheDesign) {
     GiveText(1, "Hz", -12.5F, 33, 0.7F);
     GiveText(2, "other", 5, 6, 1);
     OpenPage("frmText");
-    EXPECT_EQ(TextOf("txtText"), "Hz");
-    EXPECT_EQ(TextOf("txtLeftToText"), "-12.5");
-    EXPECT_EQ(TextOf("txtBottomToText"), "33");
-    EXPECT_EQ(TextOf("txtRelSize"), ".7");
-    EXPECT_EQ(TextOf("txtRelSizeUpDown"), "7");
+    ExpectShown({{"txtText", "Hz"},
+                 {"txtLeftToText", "-12.5"},
+                 {"txtBottomToText", "33"},
+                 {"txtRelSize", ".7"},
+                 {"txtRelSizeUpDown", "7"}});
     EXPECT_NE(WidthShown(), "0");
 }
 
 TEST_F(TextPageTest, OpeningWithoutTextsShowsTheDefaults) {
     OpenPage("frmText");
-    EXPECT_EQ(TextOf("txtText"), "");
-    EXPECT_EQ(TextOf("txtLeftToText"), "0");
-    EXPECT_EQ(TextOf("txtBottomToText"), "0");
-    EXPECT_EQ(TextOf("txtRelSize"), "1");
+    ExpectShown(
+        {{"txtText", ""}, {"txtLeftToText", "0"}, {"txtBottomToText", "0"}, {"txtRelSize", "1"}});
     EXPECT_EQ(WidthShown(), "0");
 }
 
@@ -137,15 +124,13 @@ TEST_F(TextPageTest, DesignLearnsOfATextWhenTheToolbarIsUsed) {
 }
 
 TEST_F(TextPageTest, EveryKeyOfTheToolbarGivesTheTextsBack) {
-    for (const char* key : {"Save", "Plate", "Scales", "Text", "Graphic", "Highlights", "Preview",
-                            "Help", "Exit", "About"}) {
+    for (const char* key : kPageKeys) {
         SCOPED_TRACE(key);
         ResetDesign(Design);
         Design.TextString[1].clear();
         OpenText();
         Type("txtText", "mark");
-        const std::string name = key;
-        if (name == "Save" || name == "Exit" || name == "About") {
+        if (OpensADialog(key)) {
             Answer(Cancel);
         }
         Design.DesignFileName.clear(); // so that a cancelled Save writes nothing
@@ -159,9 +144,6 @@ TEST_F(TextPageTest, EveryKeyOfTheToolbarGivesTheTextsBack) {
 TEST_F(TextPageTest, OpenGivesThemBackBeforeItReads) {
     OpenText();
     Type("txtText", "mark");
-    Answer(Cancel);
-    Click("Open");
-    EXPECT_EQ(Design.TextString[1], "mark");
     const std::string file = Path("empty.VRN");
     const DesignRecord kept = Design;
     ResetDesign(Design);
@@ -170,9 +152,7 @@ TEST_F(TextPageTest, OpenGivesThemBackBeforeItReads) {
     Design.DesignFileName = file;
     WriteDesign(Design);
     Design = kept;
-    Answer(TypeFile(file));
-    Click("Open");
-    Settle();
+    ClickAndAnswer("Open", TypeFile(file));
     EXPECT_EQ(Design.TextString[1], "of the file");
     EXPECT_EQ(TextOf("txtText"), "of the file");
     EXPECT_EQ(Design.ActiveScale, 1);
@@ -256,28 +236,10 @@ TEST_F(TextPageTest, ArrowsStepTenthsOfTheSize) {
     EXPECT_EQ(KeptOf(1).size, .1F);
 }
 
-struct ArrowRow {
-    const char* arrows;
-    const char* box;
-    const char* lowest;
-    const char* highest;
-};
-
 TEST_F(TextPageTest, ArrowsOfTheDistancesHaveTheirRanges) {
-    const ArrowRow rows[] = {{"UpDown1", "txtLeftToText", "-100", "180"},
-                             {"UpDown2", "txtBottomToText", "0", "180"}};
     OpenText();
-    for (const ArrowRow& row : rows) {
-        Type(row.box, "10");
-        StepUp(row.arrows);
-        EXPECT_EQ(TextOf(row.box), "11");
-        Type(row.box, row.highest);
-        StepUp(row.arrows);
-        EXPECT_EQ(TextOf(row.box), row.highest);
-        Type(row.box, row.lowest);
-        StepDown(row.arrows);
-        EXPECT_EQ(TextOf(row.box), row.lowest);
-    }
+    ExpectRange("UpDown1", "txtLeftToText", "-100", "180");
+    ExpectRange("UpDown2", "txtBottomToText", "0", "180");
     EXPECT_EQ(KeptOf(1).left, -100);
     EXPECT_EQ(KeptOf(1).bottom, 0);
 }
@@ -313,14 +275,14 @@ TEST_F(TextPageTest, OptionsSelectTheEntry) {
 TEST_F(TextPageTest, BoxesAreFilledInTheirOrder) {
     GiveText(2, "two", 12, 22, 2);
     OpenText();
-    std::vector<std::string> filled;
+    Strings filled;
     for (EntryBox* box : Page().findChildren<EntryBox*>()) {
         QObject::connect(box, &QLineEdit::textChanged, box,
                          [&filled, box] { filled.push_back(box->objectName().toStdString()); });
     }
     Click("Option2");
-    EXPECT_EQ(filled, (std::vector<std::string>{"txtText", "txtLeftToText", "txtBottomToText",
-                                                "txtRelSize", "txtRelSizeUpDown"}));
+    EXPECT_EQ(filled, (Strings{"txtText", "txtLeftToText", "txtBottomToText", "txtRelSize",
+                               "txtRelSizeUpDown"}));
 }
 
 struct WidthRow {
@@ -421,15 +383,8 @@ TEST_F(TextPageTest, FirstEntryIsEditedAtEachLoad) {
 
 TEST_F(TextPageTest, TabFollowsReadingOrder) {
     OpenText();
-    std::vector<std::string> order;
-    Find("Option1").setFocus();
-    for (int control = 0; control < 7; ++control) {
-        order.push_back(Page().focusWidget()->objectName().toStdString());
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order,
-              (std::vector<std::string>{"Option1", "txtText", "txtLeftToText", "txtBottomToText",
-                                        "txtRelSize", "cmdCenterText", "cmdGetColor"}));
+    ExpectTabOrder("Option1 txtText txtLeftToText txtBottomToText txtRelSize cmdCenterText "
+                   "cmdGetColor");
 }
 
 // Where the text's ink lies on the page's own drawing, mm from the plate's left edge, with the
@@ -443,15 +398,29 @@ protected:
         double right;
     };
 
+    // The design and its first text.
+    struct DrawnRow {
+        float plateWidth;
+        float aspect;
+        float fontSize;
+        int pixels; // the made font's width is a whole number: sizes are taken that ask for one
+        const char* text;
+    };
+    void TypeText(const DrawnRow& row) {
+        Design.PlateWidth = row.plateWidth;
+        Design.PlateHeight = row.plateWidth / 2;
+        Design.AspectRatio = row.aspect;
+        Design.FontSize = row.fontSize;
+        OpenText();
+        Type("txtText", row.text);
+        const double asked = 3000. / double{row.plateWidth} * .0198 * double{row.aspect} *
+                             double{row.fontSize} * double{Design.ScreenScaleX};
+        Paste("txtRelSize", PlainNumber(static_cast<float>(row.pixels / asked)).substr(0, 9));
+    }
+
     static Ink DrawTexts() {
         const DrawingStage stages[] = {ClearStage, FontStage, FreeTextsStage};
-        DrawingTraits traits = TextTraits();
-        traits.stages = stages;
-        PictureBox picture("drawn", {0, 0, 12000, 9000}, UnitShape::OfScreen);
-        picture.resize(kPixelsAcross, kPixelsAcross * 9 / 16);
-        DrawPage(Design, picture.Surface(), traits, {Design.FontSize, Design.LabelSpacing},
-                 Drawing);
-        return OnThePlate(picture.grab().toImage());
+        return OnThePlate(ImageOfPlate(stages, kPixelsAcross));
     }
 
 private:
@@ -466,30 +435,14 @@ private:
     }
 };
 
-struct DrawnRow {
-    float plateWidth;
-    float aspect;
-    float fontSize;
-};
-
-// The made font's width is a whole number of pixels: sizes are taken that ask for one.
-std::string SizeOfPixels(int wholePixels, const DrawnRow& row) {
-    const double asked = 3000. / double{row.plateWidth} * .0198 * double{row.aspect} *
-                         double{row.fontSize} * double{Design.ScreenScaleX};
-    return PlainNumber(static_cast<float>(wholePixels / asked)).substr(0, 9);
-}
-
 TEST_F(DrawnTextTest, ShownWidthIsThatOfTheDrawing) {
-    const DrawnRow rows[] = {{75, 1, 8}, {75, 0.75F, 8}, {120, 1, 14}, {40, 0.9F, 5}};
+    const DrawnRow rows[] = {{75, 1, 8, 10, "HHHHHHHHHHH"},
+                             {75, 0.75F, 8, 10, "HHHHHHHHHHH"},
+                             {120, 1, 14, 10, "HHHHHHHHHHH"},
+                             {40, 0.9F, 5, 10, "HHHHHHHHHHH"}};
     for (const DrawnRow& row : rows) {
         SCOPED_TRACE(row.plateWidth);
-        Design.PlateWidth = row.plateWidth;
-        Design.PlateHeight = row.plateWidth / 2;
-        Design.AspectRatio = row.aspect;
-        Design.FontSize = row.fontSize;
-        OpenText();
-        Type("txtText", "HHHHHHHHHHH");
-        Paste("txtRelSize", SizeOfPixels(10, row));
+        TypeText(row);
         Type("txtLeftToText", "5");
         PressOwnKey();
         ASSERT_LT(Design.TextRelativeSize[1], 2);
@@ -504,32 +457,21 @@ TEST_F(DrawnTextTest, ShownWidthIsThatOfTheDrawing) {
 
 // The same on either side, to what the tenths of the left distance leave.
 TEST_F(DrawnTextTest, CentredTextIsSymmetricToATenthOfAMillimetre) {
-    struct Row {
-        DrawnRow drawn;
-        int pixels;
-        const char* text;
-    };
-    const Row rows[] = {{{75, 1, 8}, 10, "HIIIH"},
-                        {{75, 1, 8}, 13, "H"},
-                        {{75, 0.75F, 8}, 9, "HHHHHHHH"},
-                        {{120, 1, 14}, 12, "HOIOH"},
-                        {{40, 0.9F, 5}, 11, "HAH"}};
-    for (const Row& row : rows) {
+    const DrawnRow rows[] = {{75, 1, 8, 10, "HIIIH"},
+                             {75, 1, 8, 13, "H"},
+                             {75, 0.75F, 8, 9, "HHHHHHHH"},
+                             {120, 1, 14, 12, "HOIOH"},
+                             {40, 0.9F, 5, 11, "HAH"}};
+    for (const DrawnRow& row : rows) {
         SCOPED_TRACE(row.text);
-        Design.PlateWidth = row.drawn.plateWidth;
-        Design.PlateHeight = row.drawn.plateWidth / 2;
-        Design.AspectRatio = row.drawn.aspect;
-        Design.FontSize = row.drawn.fontSize;
-        OpenText();
-        Type("txtText", row.text);
-        Paste("txtRelSize", SizeOfPixels(row.pixels, row.drawn));
+        TypeText(row);
         Type("txtBottomToText", "10");
         Click("cmdCenterText");
         PressOwnKey();
         ASSERT_LT(Design.TextRelativeSize[1], 2);
         const Ink ink = DrawTexts();
         EXPECT_GT(ink.right - ink.left, 1);
-        const double rightOfIt = double{row.drawn.plateWidth} - ink.right;
+        const double rightOfIt = double{row.plateWidth} - ink.right;
         EXPECT_NEAR((ink.left - rightOfIt) / 2, 0, 0.1);
     }
 }
@@ -587,19 +529,8 @@ class TextColourTest : public TextPageTest {
 protected:
     QColor start;
 
-    // Presses cmdGetColor, remembers its start, and takes that colour; cancels without one.
     void GetColour(const char* colour) {
-        Answer([this, colour](QWidget& dialog) {
-            auto& chooser = dynamic_cast<QColorDialog&>(dialog);
-            EXPECT_EQ(dialog.windowTitle(), QLatin1String("Get text color"));
-            start = chooser.currentColor();
-            if (!colour) {
-                return chooser.reject();
-            }
-            chooser.setCurrentColor(QColor(QLatin1String(colour)));
-            chooser.accept();
-        });
-        Click("cmdGetColor");
+        ClickAndAnswer("cmdGetColor", ChooseColour("Get text color", colour, start));
     }
 };
 
@@ -649,11 +580,11 @@ TEST_F(TextPageTest, DrawingUsesThePagesTextsAndNotTheDesigns) {
     PageCopies copies{Design.FontSize, Design.LabelSpacing, &texts};
     RecordingSurface ofPage;
     DrawPage(Design, ofPage, traits, copies, Drawing);
-    EXPECT_EQ(ofPage.texts, std::vector<std::string>{"page"});
+    EXPECT_EQ(ofPage.texts, Strings{"page"});
     RecordingSurface ofDesign;
     copies.texts = nullptr;
     DrawPage(Design, ofDesign, traits, copies, Drawing);
-    EXPECT_EQ(ofDesign.texts, std::vector<std::string>{"design"});
+    EXPECT_EQ(ofDesign.texts, Strings{"design"});
     EXPECT_NE(ofPage.CallsOf("SetCurrentX"), ofDesign.CallsOf("SetCurrentX"));
 }
 
@@ -669,28 +600,23 @@ TEST_F(TextPageTest, FreeTextsReachThePlotter) {
         GiveText(entry, "", 10, 10, 1);
     }
     OpenPage("frmPreview");
-    Answer(TypeFile(Path("texts.VRN")));
-    Click("Open");
-    Settle();
-    Click("Text");
-    Settle();
+    ClickAndAnswer("Open", TypeFile(Path("texts.VRN")));
+    ClickAndSettle("Text");
     EXPECT_EQ(TextOf("txtText"), "kHz");
     EnableAll();
     Click("Option3");
     Type("txtText", "No. 7");
-    Click("Preview");
-    Settle();
-    std::vector<std::string> opened;
+    ClickAndSettle("Preview");
+    Strings opened;
     Host.openForOutput = [&, open = Host.openForOutput](const std::string& name) {
         opened.push_back(name);
         return open(Path("plot"));
     };
-    Answer([this](QWidget& form) {
+    ClickAndAnswer("cmdHPGL", [this](QWidget& form) {
         Click(On<QPushButton>(form, "cmdHPGL"));
         Click(On<QPushButton>(form, "cmdExit"));
     });
-    Click("cmdHPGL");
-    ASSERT_EQ(opened, std::vector<std::string>{PlotterFileName()});
+    ASSERT_EQ(opened, Strings{PlotterFileName()});
     const std::string stream = ReadFile("plot");
     for (const char* text : {"kHz", "made in 2026", "No. 7"}) {
         EXPECT_NE(stream.find(std::string("LB") + text + "\x03"), std::string::npos) << text;

@@ -2,16 +2,8 @@
 // schematic that belongs to each.
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include "desktop/kit/entrybox.h"
-#include "desktop/kit/optionbutton.h"
-#include "desktop/kit/picturebox.h"
-#include "engine/core/design.h"
 #include "engine/illustrations/schematic.h"
 #include "support/formtest.h"
-#include "support/recordingsurface.h"
 
 namespace vernacle::test {
 
@@ -77,26 +69,22 @@ protected:
         return Box(box).palette().color(QPalette::Base);
     }
 
-    bool IsSelected(const std::string& option) const { return Option(option).isChecked(); }
-
-    std::vector<std::string> ShownSchematic() const { return CallsOf("picSchematic"); }
+    Strings ShownSchematic() const { return CallsOf("picSchematic"); }
 
     void WipeSchematic() const { Picture("picSchematic").Surface().Clear(); }
 
     // The schematic of a topic as a page of its own shows it.
-    static std::vector<std::string> SchematicOf(int topic) {
+    static Strings SchematicOf(int topic) {
         PictureBox picture("expected", SchematicArea(), UnitShape::Square);
         DrawSchematic(picture.Surface(), topic, kPlatePageLook);
-        RecordingSurface surface;
-        picture.Record().Replay(surface);
-        return surface.calls;
+        return Recorded(picture).calls;
     }
 
     // The page shows the measure's schematic, caption and all, and the design knows the topic.
     void ExpectIllustrated(const Measure& measure) const {
         EXPECT_EQ(Design.HelpTopic, measure.topic);
         EXPECT_EQ(ShownSchematic(), SchematicOf(measure.topic));
-        const std::vector<std::string> texts = TextsOf("picSchematic");
+        const Strings texts = TextsOf("picSchematic");
         ASSERT_FALSE(texts.empty());
         EXPECT_EQ(texts.back(), measure.illustration);
     }

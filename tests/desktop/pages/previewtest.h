@@ -2,23 +2,17 @@
 #pragma once
 
 #include <algorithm>
-#include <string>
-#include <vector>
 
-#include "desktop/kit/entrybox.h"
-#include "desktop/navigation/navigator.h"
-#include "engine/core/design.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/render/drawing.h"
-#include "support/answers.h"
 #include "support/formtest.h"
-#include "support/recordingsurface.h"
+#include "support/pixels.h"
 
 namespace vernacle::test {
 
 class PreviewTest : public FormTest {
 protected:
-    using Calls = std::vector<std::string>;
+    using Calls = Strings;
 
     QWidget& OpenPreview() { return OpenPage("frmPreview"); }
 
@@ -35,28 +29,24 @@ protected:
         return calls;
     }
 
+    // The design as it stands, without overlays.
+    static RecordingSurface PlainPicture() {
+        RecordingSurface surface;
+        DrawPage(Design, surface, PreviewTraits(), {Design.FontSize, Design.LabelSpacing}, Drawing);
+        return surface;
+    }
+
     // The picture's lines are those of the design as it stands, and no others. (Texts are placed by
     // their measures, which each surface has its own.)
     void ExpectPlainPicture() const {
-        RecordingSurface expected;
-        DrawPage(Design, expected, PreviewTraits(), {Design.FontSize, Design.LabelSpacing},
-                 Drawing);
+        const RecordingSurface expected = PlainPicture();
         EXPECT_EQ(LinesOf(Shown()), LinesOf(expected.calls));
         EXPECT_EQ(TextsOf("picPlate"), expected.texts);
     }
 
     // Where the control shows anything but white.
     QRect PaintedOn(const std::string& control) const {
-        const QImage picture = Find(control).grab().toImage();
-        QRect painted;
-        for (int x = 0; x < picture.width(); ++x) {
-            for (int y = 0; y < picture.height(); ++y) {
-                if (picture.pixelColor(x, y) != QColor(Qt::white)) {
-                    painted |= QRect(x, y, 1, 1);
-                }
-            }
-        }
-        return painted;
+        return InkOf(Find(control).grab().toImage(), 255);
     }
 
     void ExpectAspect(float aspect, const std::string& ratio, const std::string& percent) const {

@@ -2,12 +2,8 @@
 // that the page must show.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "desktop/pages/pagedrawing.h"
 #include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 #include "engine/core/fieldplace.h"
 
 namespace vernacle::test {
@@ -74,8 +70,11 @@ protected:
     }
 
     void Enable(const std::string& control) const { Find(control).setEnabled(true); }
-
-    bool IsEnabled(const std::string& control) const { return Find(control).isEnabled(); }
+    void Disable(std::initializer_list<const char*> controls) const {
+        for (const char* control : controls) {
+            Find(control).setEnabled(false);
+        }
+    }
 
     // The colours of an option, whether or not it is enabled.
     QColor InkOf(const std::string& option) const {
@@ -86,12 +85,8 @@ protected:
     }
 
     // The drawing of the design as it is now, with the sizes that the page had at its load.
-    static std::vector<std::string> PlateOf(const PageCopies& sizes) {
-        return DrawnPlate(ScalesTraits(), sizes);
-    }
-    static std::vector<std::string> PlateOfDesign() {
-        return PlateOf({Design.FontSize, Design.LabelSpacing});
-    }
+    static Strings PlateOf(const PageCopies& sizes) { return DrawnPlate(ScalesTraits(), sizes); }
+    static Strings PlateOfDesign() { return PlateOf({Design.FontSize, Design.LabelSpacing}); }
 
     // Takes the drawing away and puts nonsense into the tables: only a redraw mends both.
     void Spoil() const {
@@ -108,7 +103,7 @@ protected:
             EXPECT_NE(Design.StandardDeflection[scale][1], 9) << "scale " << scale;
             EXPECT_NE(Design.StandardLabel[scale][0], "spoilt") << "scale " << scale;
         }
-        const std::vector<std::string> shown = ShownPlate();
+        const Strings shown = ShownPlate();
         EXPECT_EQ(shown, PlateOfDesign());
         EXPECT_GT(shown.size(), 30U);
     }
@@ -126,6 +121,33 @@ protected:
         Design.MajorEveryHowMany[scale] = static_cast<std::int16_t>(20 + scale);
         Design.LinearityExponent[scale] = 1 + number / 8;
         Design.RelativeFontSize[scale] = 0.5F + number / 10;
+    }
+    static void GiveAllOwnValues() {
+        for (int scale = 1; scale <= kScales; ++scale) {
+            GiveOwnValues(scale);
+        }
+    }
+
+    // The page is that of the scale, which has its own values.
+    void ExpectOwnValuesShown(int scale) const {
+        const auto number = static_cast<float>(scale);
+        const std::pair<const char*, std::string> rows[] = {
+            {"txtScaleLeftEnd", PlainNumber(100 + number)},
+            {"txtScaleLength", PlainNumber(200 + number)},
+            {"txtBottomToTitle", PlainNumber(20 + number)},
+            {"txtBottomToScaleCeiling", PlainNumber(30 + number)},
+            {"txtNumberOfTics", std::to_string(60 + scale)},
+            {"txtMajorTicsEveryHowMany", std::to_string(20 + scale)},
+            {"txtLabelsEveryHowMany", std::to_string(10 + scale)},
+            {"txtLinearityExponent", PlainNumber(1 + number / 8)},
+            {"txtScaleTitle", "Volts " + std::to_string(scale)},
+            {"fraPrintTics", "Print arcs and tics on #" + std::to_string(scale) + ":"},
+        };
+        for (const auto& [control, text] : rows) {
+            EXPECT_EQ(Shown(control), text) << control;
+        }
+        EXPECT_TRUE(IsSelected("Option" + std::to_string(scale)));
+        EXPECT_EQ(ShownPlate(), PlateOfDesign());
     }
 };
 
