@@ -1,17 +1,11 @@
 // The illustrated help, and the routines that open it.
 #include "desktop/help/frmHelp.h"
 
-#include <QPushButton>
-
-#include "desktop/kit/picturebox.h"
-#include "desktop/navigation/navigator.h"
 #include "desktop/pages/frmGraphic.h"
 #include "desktop/pages/frmScales.h"
-#include "engine/core/design.h"
 #include "engine/illustrations/schematic.h"
 #include "engine/illustrations/schematicmarks.h"
 #include "support/formtest.h"
-#include "support/recordingsurface.h"
 
 namespace vernacle::test {
 namespace {
@@ -19,9 +13,7 @@ namespace {
 class HelpTest : public FormTest {
 protected:
     static RecordingSurface Drawn(const QWidget& form) {
-        RecordingSurface surface;
-        form.findChild<PictureBox*>(QStringLiteral("picSchematic"))->Record().Replay(surface);
-        return surface;
+        return Recorded(*form.findChild<PictureBox*>(QStringLiteral("picSchematic")));
     }
 
     // The caption of the help that comes up.
@@ -69,7 +61,7 @@ TEST_F(HelpTest, PlateIsWhiteWithAGreyBorderAndABluePointer) {
     Design.HelpTopic = 0;
     const std::unique_ptr<QWidget> form = MakeForm("frmHelp");
     const RecordingSurface drawn = Drawn(*form);
-    const std::vector<std::string> boxes = drawn.CallsOf("FilledBox");
+    const Strings boxes = drawn.CallsOf("FilledBox");
     ASSERT_GE(boxes.size(), 2U);
     EXPECT_TRUE(boxes[0].ends_with(" c0ccd0"));
     EXPECT_TRUE(boxes[1].ends_with(" ffffff"));

@@ -1,16 +1,9 @@
 // The small explanation forms: static pictures and texts, and a button that closes them.
-#include <QDialog>
-#include <QGridLayout>
-#include <QPushButton>
 #include <QScreen>
 
-#include "desktop/kit/picturebox.h"
-#include "desktop/navigation/navigator.h"
-#include "engine/core/design.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/illustrations/samples.h"
 #include "support/formtest.h"
-#include "support/recordingsurface.h"
 
 namespace vernacle::test {
 namespace {
@@ -91,16 +84,10 @@ protected:
         EXPECT_TRUE(AllAnswered());
     }
 
-    static std::vector<std::string> Drawn(const PictureBox& picture) {
-        RecordingSurface surface;
-        picture.Record().Replay(surface);
-        return surface.calls;
-    }
-
-    static std::vector<std::string> DrawnSample(Sample sample) {
+    static Strings DrawnSample(Sample sample) {
         PictureBox picture("expected", SampleArea(sample), UnitShape::Square);
         DrawSample(picture.Surface(), sample);
-        return Drawn(picture);
+        return Recorded(picture).calls;
     }
 
     static std::string AllTexts(const QWidget& form) {
@@ -130,7 +117,7 @@ TEST_P(IllustrationsTest, PicturesStandAboveTheirTexts) {
             SCOPED_TRACE(row.picture);
             const auto& picture = On<PictureBox>(form, row.picture);
             const auto& label = On<QLabel>(form, row.label);
-            EXPECT_EQ(Drawn(picture), DrawnSample(row.sample));
+            EXPECT_EQ(Recorded(picture).calls, DrawnSample(row.sample));
             EXPECT_FALSE(label.text().isEmpty());
             EXPECT_TRUE(*row.text == '\0' || label.text() == QLatin1String(row.text))
                 << label.text().toStdString();
@@ -195,7 +182,7 @@ TEST_P(IllustrationsTest, DesignIsUntouched) {
     EXPECT_EQ(ReadFile("after.VRN"), ReadFile("before.VRN"));
     EXPECT_EQ(Design.ScreenScaleX, 7);
     EXPECT_EQ(Design.HelpTopic, 12);
-    EXPECT_EQ(Page().objectName(), QStringLiteral("frmPlate"));
+    EXPECT_EQ(PageName(), "frmPlate");
 }
 
 TEST_P(IllustrationsTest, CloseBoxEscapeAndEnterCloseItToo) {
@@ -211,7 +198,7 @@ TEST_P(IllustrationsTest, CloseBoxEscapeAndEnterCloseItToo) {
     }
     EXPECT_FALSE(TakeProcessEnd());
     EXPECT_FALSE(Exists("LASTSESSION.VRN"));
-    EXPECT_EQ(Page().objectName(), QStringLiteral("frmPlate"));
+    EXPECT_EQ(PageName(), "frmPlate");
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, IllustrationsTest, ::testing::ValuesIn(kRows),

@@ -1,8 +1,6 @@
 // Boxes, arrows and options: what runs their handlers, and where the arrows land.
 #include <QVBoxLayout>
 
-#include "desktop/kit/entrybox.h"
-#include "desktop/kit/optionbutton.h"
 #include "desktop/kit/updown.h"
 #include "onchange.h"
 #include "support/formtest.h"
@@ -27,27 +25,27 @@ protected:
     QWidget window;
     EntryBox box{"txtBox", QStringLiteral("Box")};
     UpDown arrows{"UpDownBox", QStringLiteral("Box")};
-    std::vector<std::string> seen; // texts for which the handler ran
+    Strings seen; // texts for which the handler ran
 
     void Press(Qt::Key key) { QTest::keyClick(&box, key); }
 };
 
 TEST_F(ControlsTest, EachKeyRunsTheHandler) {
     QTest::keyClicks(&box, QStringLiteral("7.5"));
-    EXPECT_EQ(seen, (std::vector<std::string>{"7", "7.", "7.5"}));
+    EXPECT_EQ(seen, (Strings{"7", "7.", "7.5"}));
 }
 
 TEST_F(ControlsTest, AWriteRunsTheHandlerAlsoForTheTextThatIsThere) {
     box.Write("30");
     box.Write("30");
-    EXPECT_EQ(seen, (std::vector<std::string>{"30", "30"}));
+    EXPECT_EQ(seen, (Strings{"30", "30"}));
 }
 
 TEST_F(ControlsTest, ShowingRunsTheHandlerOnlyForAnotherText) {
     box.Show("30");
     box.Show("30");
     box.Show("31");
-    EXPECT_EQ(seen, (std::vector<std::string>{"30", "31"}));
+    EXPECT_EQ(seen, (Strings{"30", "31"}));
 }
 
 struct NumberRow {
@@ -145,7 +143,7 @@ TEST_F(ControlsTest, ArrowsRunTheBoxesHandler) {
     box.Write("3");
     seen.clear();
     Click(On<QWidget>(window, "UpDownBoxUp"));
-    EXPECT_EQ(seen, std::vector<std::string>{"4"});
+    EXPECT_EQ(seen, Strings{"4"});
 }
 
 TEST_F(ControlsTest, AHeldArrowGoesOnStepping) {

@@ -6,7 +6,6 @@
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QMenu>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "desktop/kit/updown.h"
@@ -71,12 +70,12 @@ protected:
     QPushButton* toolless = new QPushButton; // takes no focus, as a toolbar's
     QAction* shortcut = new QAction(&window);
     float value = 0;
-    std::vector<std::string> seen;
+    Strings seen;
 };
 
 TEST_F(TypingTest, ValueFollowsEachKeyAndTheTextStays) {
     Keys("0.8");
-    EXPECT_EQ(seen, (std::vector<std::string>{"0=.5", "0.=.5", "0.8=.8"}));
+    EXPECT_EQ(seen, (Strings{"0=.5", "0.=.5", "0.8=.8"}));
     EXPECT_EQ(box->Text(), "0.8");
     QTest::keyClick(box, Qt::Key_Tab);
     EXPECT_EQ(box->Text(), "0.8") << "what was not held is not rewritten";
@@ -123,7 +122,7 @@ TEST_F(TypingTest, TextIsRewrittenWhenTheBoxIsLeft) {
 
 // Its actions find the box rewritten already.
 TEST_F(TypingTest, WhatIsPressedComesAfterTheRewriting) {
-    std::vector<std::string> found;
+    Strings found;
     const auto look = [&] { found.push_back(box->Text()); };
     QObject::connect(toolless, &QPushButton::clicked, &window, look);
     QObject::connect(button, &QPushButton::clicked, &window, look);
@@ -139,13 +138,13 @@ TEST_F(TypingTest, WhatIsPressedComesAfterTheRewriting) {
         Keys("20");
         press();
     }
-    EXPECT_EQ(found, std::vector<std::string>(4, "15"));
+    EXPECT_EQ(found, Strings(4, "15"));
 }
 
 TEST_F(TypingTest, RewritingRunsTheHandlerLikeAnyWrite) {
     Keys("20");
     QTest::keyClick(box, Qt::Key_Tab);
-    EXPECT_EQ(seen, (std::vector<std::string>{"2=2", "20=15", "15=15"}));
+    EXPECT_EQ(seen, (Strings{"2=2", "20=15", "15=15"}));
 }
 
 TEST_F(TypingTest, ALaterKeyWithdrawsIt) {
@@ -194,7 +193,7 @@ TEST_F(TypingTest, WhatIsPastedIsRewrittenAtOnce) {
     box->selectAll();
     QTest::keyClick(box, Qt::Key_Insert, Qt::ShiftModifier);
     EXPECT_EQ(box->Text(), "15");
-    EXPECT_EQ(seen, (std::vector<std::string>{"20=15", "15=15", "20=15", "15=15"}));
+    EXPECT_EQ(seen, (Strings{"20=15", "15=15", "20=15", "15=15"}));
 }
 
 TEST_F(TypingTest, CutAndUndoAreKeysToo) {
@@ -254,7 +253,7 @@ TEST_F(TypingTest, ABoxThatSaysSoIsRewrittenAtOnce) {
     box->SetRewriting(Rewriting::AtOnce);
     Keys("20");
     EXPECT_EQ(box->Text(), "15");
-    EXPECT_EQ(seen, (std::vector<std::string>{"2=2", "20=15", "15=15"}));
+    EXPECT_EQ(seen, (Strings{"2=2", "20=15", "15=15"}));
 }
 
 TEST_F(TypingTest, AFailedKeyLeavesTheBoxInOrder) {
@@ -275,14 +274,14 @@ TEST_F(TypingTest, ABoxMayGoWhileATextWaits) {
 // The partner of a pair follows each key; the one that is typed into waits for what it tells back.
 TEST_F(TypingTest, PairsAgreeWhenTheTypedOneIsLeft) {
     EntryBox partner("txtPartner", QStringLiteral("Partner"));
-    std::vector<std::string> shown;
+    Strings shown;
     OnChange(*box, [&] { partner.Show(PlainNumber(kLimits.Held(box->Number()))); });
     OnChange(partner, [&] {
         shown.push_back(partner.Text());
         box->Show(partner.Text());
     });
     Keys("40");
-    EXPECT_EQ(shown, (std::vector<std::string>{"4", "15"}));
+    EXPECT_EQ(shown, (Strings{"4", "15"}));
     EXPECT_EQ(box->Text(), "40");
     Keys("0"); // tells the partner nothing new
     EXPECT_EQ(box->Text(), "400");

@@ -2,9 +2,7 @@
 #include "desktop/kit/field.h"
 
 #include <QGridLayout>
-#include <QPushButton>
 
-#include "engine/core/design.h"
 #include "onchange.h"
 #include "support/formtest.h"
 

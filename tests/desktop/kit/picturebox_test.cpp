@@ -5,10 +5,10 @@
 
 #include "desktop/kit/inkicon.h"
 #include "engine/base/hostservices.h"
-#include "engine/core/design.h"
 #include "engine/illustrations/schematic.h"
 #include "engine/render/drawing.h"
 #include "support/formtest.h"
+#include "support/pixels.h"
 
 namespace vernacle::test {
 namespace {
@@ -16,18 +16,7 @@ namespace {
 class PictureBoxTest : public FormTest {
 protected:
     // The box around all that is not white.
-    static QRect Painted(QWidget& picture) {
-        const QImage image = picture.grab().toImage();
-        QRect painted;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y) != QColor(Qt::white)) {
-                    painted |= QRect(x, y, 1, 1);
-                }
-            }
-        }
-        return painted;
-    }
+    static QRect Painted(QWidget& picture) { return InkOf(picture.grab().toImage(), 255); }
 };
 
 TEST_F(PictureBoxTest, KeepsTheShapeOfTheScreensUnits) {

@@ -3,13 +3,11 @@
 #include <set>
 
 #include <QFile>
-#include <QPointer>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QWindow>
 
-#include "desktop/navigation/navigator.h"
 #include "support/formtest.h"
 
 namespace vernacle::test {

@@ -2,7 +2,6 @@
 
 #include "desktop/app/apptest.h"
 
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 #include "desktop/app/forms.h"
@@ -10,7 +9,7 @@
 namespace vernacle::test {
 namespace {
 
-std::vector<std::string> happened; // "made first", "unloaded first", ...
+Strings happened; // "made first", "unloaded first", ...
 
 // What the windows were when the page was made.
 struct Sight {
@@ -86,7 +85,7 @@ TEST_F(WalkTest, TargetIsShownBeforeThePresentPageGoes) {
     OpenPage("second");
     EXPECT_TRUE(sight.oldPage) << "while the target was made";
     EXPECT_FALSE(sight.backdrop);
-    EXPECT_EQ(happened, (std::vector<std::string>{"made first", "made second", "unloaded first"}));
+    EXPECT_EQ(happened, (Strings{"made first", "made second", "unloaded first"}));
     EXPECT_EQ(PageName(), "second");
     EXPECT_TRUE(Page().isVisible());
     EXPECT_FALSE(IsShown("first"));
@@ -117,7 +116,7 @@ TEST_F(WalkTest, ReloadHappensBehindTheBackdrop) {
     EXPECT_FALSE(sight.oldPage) << "unloaded before";
     EXPECT_FALSE(IsShown("frmBlank")) << "goes at once";
     Settle();
-    EXPECT_EQ(happened, (std::vector<std::string>{"made first", "unloaded first"}));
+    EXPECT_EQ(happened, (Strings{"made first", "unloaded first"}));
     EXPECT_EQ(PageName(), "first");
     EXPECT_TRUE(Page().isMaximized());
 }
