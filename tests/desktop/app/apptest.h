@@ -1,13 +1,8 @@
 // What the tests of the program's flow share: waits that are watched, and design files.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "engine/base/hostservices.h"
-#include "engine/core/design.h"
 #include "engine/designfile/readwrite.h"
-#include "support/answers.h"
 #include "support/formtest.h"
 
 namespace vernacle::test {
@@ -58,7 +53,6 @@ protected:
 
     static std::string TitleOf(const QWidget& window) { return window.windowTitle().toStdString(); }
     static std::string NameOf(const QWidget& window) { return window.objectName().toStdString(); }
-    std::string PageName() const { return NameOf(Page()); }
 
 private:
     int turns_ = 0;

@@ -1,9 +1,8 @@
-// The close boxes of the design pages, and of a page whose close box just ends.
+// The close boxes of the pages, and of a page whose close box just ends.
 #include "apptest.h"
 
 #include <QToolButton>
 
-#include "desktop/navigation/navigator.h"
 #include "desktop/pages/designpage.h"
 
 namespace vernacle::test {
@@ -29,8 +28,9 @@ constexpr FormRow kPlainForm[] = {{"frmPlain", MakePlain}};
 class CloseBoxTest : public AppTest {};
 
 TEST_F(CloseBoxTest, SavesTheSessionAndEnds) {
-    for (const char* page :
-         {"frmPlate", "frmScales", "frmPreview", "frmGraphic", "frmHighlights"}) {
+    for (const char* page : {"frmPlate", "frmScales", "frmPreview", "frmGraphic", "frmHighlights",
+                             "frmWizard", "frmWizardPart2", "frmSetupMenu", "frmSetupOhmmeter",
+                             "frmSpecialScale", "frmSetupSmeter", "frmSetupVSWR", "frmSetupdB"}) {
         SCOPED_TRACE(page);
         std::filesystem::remove(Path("LASTSESSION.VRN"));
         Design.DesignFileName = "/designs/mine.VRN";

@@ -1,21 +1,18 @@
 // The whole everyday path, by the user's own keys and clicks: a new design is entered, looked at,
 // calibrated, printed, plotted and saved; tomorrow the last session has everything back.
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <span>
 #include <sstream>
 
 #include <QListWidget>
 
-#include "desktop/kit/optionbutton.h"
-#include "desktop/navigation/navigator.h"
+#include "desktop/app/strokes.h"
 #include "engine/base/hostservices.h"
 #include "engine/base/numbertext.h"
-#include "engine/core/design.h"
+#include "engine/core/fieldplace.h"
 #include "engine/render/drawing.h"
 #include "gallery/dump.h"
-#include "support/answers.h"
+#include "support/environment.h"
 #include "support/formtest.h"
 #include "support/pdfreader.h"
 #include "support/plategeometry.h"
@@ -35,91 +32,47 @@ struct Typed {
     const char* box;
     const char* text;
     double value;
-    double (*field)();
+    FieldPlace field;
 };
 
-template <float D::*Field>
-double OfPlate() {
-    return double{Design.*Field};
-}
-
-template <auto Field>
-double OfScale() {
-    return static_cast<double>((Design.*Field)[1]);
-}
-
 constexpr Typed kPlateEntries[] = {
-    {"txtPlateWidth", "84", 84, OfPlate<&D::PlateWidth>},
-    {"txtPlateHeight", "61.5", 61.5, OfPlate<&D::PlateHeight>},
-    {"txtBottomToBearing", "-2.5", -2.5, OfPlate<&D::BottomToBearing>},
-    {"txtBottomToHoles", "12.25", 12.25, OfPlate<&D::BottomToHoles>},
-    {"txtHoleSeparation", "58", 58, OfPlate<&D::HoleSeparation>},
-    {"txtPointerDeflection", "84.5", 84.5, OfPlate<&D::PointerDeflection>},
-    {"txtActualVirtualOffset", "31", 31, OfPlate<&D::ActualVirtualOffset>},
-    {"txtMinorTicLength", "2.75", 2.75, OfPlate<&D::MinorTicLength>},
-    {"txtMajorTicLength", "4.5", 4.5, OfPlate<&D::MajorTicLength>},
-    {"txtMinorTicWidth", "2", 2, OfPlate<&D::MinorTicWidth>},
-    {"txtMajorTicWidth", "5", 5, OfPlate<&D::MajorTicWidth>},
-    {"txtFontSize", "8", 8, OfPlate<&D::FontSize>},
-    {"txtLabelSpacing", "5.5", 5.5, OfPlate<&D::LabelSpacing>},
-    {"txtArcWidth", "3", 3, OfPlate<&D::ArcWidth>},
+    {"txtPlateWidth", "84", 84, At<&D::PlateWidth>},
+    {"txtPlateHeight", "61.5", 61.5, At<&D::PlateHeight>},
+    {"txtBottomToBearing", "-2.5", -2.5, At<&D::BottomToBearing>},
+    {"txtBottomToHoles", "12.25", 12.25, At<&D::BottomToHoles>},
+    {"txtHoleSeparation", "58", 58, At<&D::HoleSeparation>},
+    {"txtPointerDeflection", "84.5", 84.5, At<&D::PointerDeflection>},
+    {"txtActualVirtualOffset", "31", 31, At<&D::ActualVirtualOffset>},
+    {"txtMinorTicLength", "2.75", 2.75, At<&D::MinorTicLength>},
+    {"txtMajorTicLength", "4.5", 4.5, At<&D::MajorTicLength>},
+    {"txtMinorTicWidth", "2", 2, At<&D::MinorTicWidth>},
+    {"txtMajorTicWidth", "5", 5, At<&D::MajorTicWidth>},
+    {"txtFontSize", "8", 8, At<&D::FontSize>},
+    {"txtLabelSpacing", "5.5", 5.5, At<&D::LabelSpacing>},
+    {"txtArcWidth", "3", 3, At<&D::ArcWidth>},
 };
 
 constexpr Typed kScaleEntries[] = {
-    {"txtScaleLeftEnd", "-5", -5, OfScale<&D::ScaleLeftEnd>},
-    {"txtScaleLength", "35", 35, OfScale<&D::ScaleLengthUnits>},
-    {"txtBottomToScaleCeiling", "47", 47, OfScale<&D::BottomToScaleCeiling>},
-    {"txtBottomToTitle", "27.5", 27.5, OfScale<&D::BottomToTitle>},
-    {"txtNumberOfTics", "35", 35, OfScale<&D::NrOfTicmarks>},
-    {"txtMajorTicsEveryHowMany", "7", 7, OfScale<&D::MajorEveryHowMany>},
-    {"txtLabelsEveryHowMany", "5", 5, OfScale<&D::LabelsEveryHowMany>},
+    {"txtScaleLeftEnd", "-5", -5, At<&D::ScaleLeftEnd>},
+    {"txtScaleLength", "35", 35, At<&D::ScaleLengthUnits>},
+    {"txtBottomToScaleCeiling", "47", 47, At<&D::BottomToScaleCeiling>},
+    {"txtBottomToTitle", "27.5", 27.5, At<&D::BottomToTitle>},
+    {"txtNumberOfTics", "35", 35, At<&D::NrOfTicmarks>},
+    {"txtMajorTicsEveryHowMany", "7", 7, At<&D::MajorEveryHowMany>},
+    {"txtLabelsEveryHowMany", "5", 5, At<&D::LabelsEveryHowMany>},
 };
 
 constexpr const char* kTitle = "KILOVOLTS, peak";
 constexpr const char* kAspect = "0.93";
 
-// Sets variables of the environment for a test's time.
-class Environment {
-public:
-    void Set(const char* name, const std::string& value) {
-        before_.emplace_back(name, qgetenv(name));
-        qputenv(name, QByteArray::fromStdString(value));
-    }
-    Environment() = default;
-    ~Environment() {
-        for (const auto& [name, value] : before_) {
-            value.isNull() ? qunsetenv(name) : qputenv(name, value);
-        }
-    }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-
-private:
-    std::vector<std::pair<const char*, QByteArray>> before_;
-};
-
 bool Has(const std::string& text, const std::string& part) {
     return text.find(part) != text.npos;
-}
-
-// The line's two ends, either way round.
-bool IsLine(const Shape& found, const Shape& wanted) {
-    const auto near = [](MmPoint a, MmPoint b) {
-        return std::hypot(a.x - b.x, a.y - b.y) <= kToleranceMm;
-    };
-    const MmPoint from = wanted.points.front();
-    const MmPoint to = wanted.points.back();
-    return found.points.size() == 2 &&
-           ((near(found.points[0], from) && near(found.points[1], to)) ||
-            (near(found.points[0], to) && near(found.points[1], from)));
 }
 
 class EverydayTest : public FormTest {
 protected:
     EverydayTest() {
         std::filesystem::create_directory(Path("home")); // whose documents the plotter file joins
-        environment_.Set("HOME", Path("home"));
-        environment_.Set("XDG_CONFIG_HOME", Path("home/.config"));
     }
 
     // As a new process: nothing is left but what the files hold.
@@ -134,9 +87,7 @@ protected:
     // By a cancelled question for an old one.
     void StartNewDesign() {
         StartProgram();
-        Answer(Cancel);
-        Click("cmdOld");
-        Settle();
+        ClickAndAnswer("cmdOld", Cancel);
         ExpectPage("frmPreview", "Vernacle - Preview");
     }
 
@@ -147,7 +98,7 @@ protected:
     }
 
     void ExpectPage(const std::string& name, const std::string& title) const {
-        EXPECT_EQ(Page().objectName().toStdString(), name);
+        EXPECT_EQ(PageName(), name);
         EXPECT_EQ(Page().windowTitle().toStdString(), title);
     }
 
@@ -159,7 +110,7 @@ protected:
 
     void ExpectAll(std::span<const Typed> entries) const {
         for (const Typed& entry : entries) {
-            EXPECT_NEAR(entry.field(), entry.value, 1e-5) << entry.box;
+            EXPECT_NEAR(NumberIn(entry.field.In(Design, 1)), entry.value, 1e-5) << entry.box;
             EXPECT_NEAR(NumericValue(TextOf(entry.box)), entry.value, 1e-5) << entry.box;
         }
     }
@@ -178,7 +129,7 @@ protected:
         TypeAll(kScaleEntries);
         Type("txtScaleTitle", kTitle);
         ExpectAll(kScaleEntries);
-        const std::vector<std::string> drawn = TextsOf("picPlate");
+        const Strings drawn = TextsOf("picPlate");
         EXPECT_EQ(std::count(drawn.begin(), drawn.end(), kTitle), 1);
     }
 
@@ -198,8 +149,7 @@ protected:
 
     // Of the tics, from the list beside the page.
     void ReadPercents() {
-        Click("cmdShowTicInfo");
-        Settle();
+        ClickAndSettle("cmdShowTicInfo");
         QWidget* list = QApplication::activeWindow();
         ASSERT_TRUE(list);
         EXPECT_EQ(list->objectName(), QLatin1String("frmShowTicInfo"));
@@ -220,14 +170,13 @@ protected:
     // Prints the square, measures it and tells.
     void Calibrate() {
         PressKeys(Qt::CTRL | Qt::Key_1);
-        Answer([this](QWidget& form) {
+        ClickAndAnswer("cmdCalibrate", [this](QWidget& form) {
             Answer(PrintTo(Path("square.pdf")));
             Click(On<QWidget>(form, "cmdPrint"));
             On<QLineEdit>(form, "txtActualWidth").setText(QString::number(kMeasuredWidth));
             On<QLineEdit>(form, "txtActualHeight").setText(QString::number(kMeasuredHeight));
             Click(On<QWidget>(form, "cmdReturn"));
         });
-        Click("cmdCalibrate");
         const SvgPicture square = ReadPdf(Path("square.pdf"));
         ASSERT_EQ(square.shapes.size(), 1U);
         EXPECT_NEAR(square.shapes[0].WidthOfBox(), 100, kToleranceMm);
@@ -253,11 +202,7 @@ protected:
         const Calibration calibration{100 / kMeasuredWidth, 100 / kMeasuredHeight};
         const std::vector<Shape> lines = SheetGeometry(plate, paper, calibration).Lines({});
         EXPECT_GT(lines.size(), 36U);
-        for (const Shape& line : lines) {
-            EXPECT_TRUE(std::any_of(page.shapes.begin(), page.shapes.end(),
-                                    [&](const Shape& shape) { return IsLine(shape, line); }))
-                << "no line from " << line.points[0].x << ", " << line.points[0].y;
-        }
+        ExpectStrokes(page, lines, kToleranceMm);
         std::string words;
         for (const Word& word : ReadPdfWords(Path(file))) {
             words += word.text + " ";
@@ -269,14 +214,13 @@ protected:
 
     void Plot() {
         said.clear();
-        Answer([this](QWidget& form) {
+        ClickAndAnswer("cmdHPGL", [this](QWidget& form) {
             Click(On<QWidget>(form, "cmdHPGL"));
             Click(On<QWidget>(form, "cmdExit"));
         });
-        Click("cmdHPGL");
-        EXPECT_EQ(said, std::vector<std::string>({"information: THE HPGL FILE WAS SUCCESSFULLY "
-                                                  "WRITTEN TO\r\n" +
-                                                  Path("home/HPGLfile.HPGL")}));
+        EXPECT_EQ(said, Strings({"information: THE HPGL FILE WAS SUCCESSFULLY "
+                                 "WRITTEN TO\r\n" +
+                                 Path("home/HPGLfile.HPGL")}));
         EXPECT_TRUE(Has(ReadFile("home/HPGLfile.HPGL"), kTitle));
         said.clear();
     }
@@ -295,10 +239,9 @@ protected:
 
     void RestartAtLastSession() {
         StartProgram();
-        Click("cmdLastSession");
-        Settle();
+        ClickAndSettle("cmdLastSession");
         ExpectPage("frmPreview", "Vernacle - Preview - " + Path("LASTSESSION.VRN"));
-        EXPECT_EQ(said, std::vector<std::string>());
+        EXPECT_EQ(said, Strings());
     }
 
     void ExpectAllThere() {
@@ -312,7 +255,8 @@ protected:
         PressKeys(Qt::CTRL | Qt::Key_6);
     }
 
-    Environment environment_;
+    const EnvironmentVariable home_{"HOME", Path("home")};
+    const EnvironmentVariable settings_{"XDG_CONFIG_HOME", Path("home/.config")};
 };
 
 // Fields of the dump that are no part of a design, or are computed from it.
@@ -329,9 +273,9 @@ bool BeginsWithOneOf(const std::string& line, std::span<const char* const> names
                        [&](const char* name) { return line.starts_with(name); });
 }
 
-std::vector<std::string> DesignLines() {
+Strings DesignLines() {
     const auto atStart = std::make_unique<DesignRecord>();
-    std::vector<std::string> lines;
+    Strings lines;
     std::istringstream dump(gallery::DumpDesign(Design, *atStart));
     for (std::string line; std::getline(dump, line);) {
         if (!BeginsWithOneOf(line, kWorking) && !BeginsWithOneOf(line, kForced)) {
@@ -342,10 +286,10 @@ std::vector<std::string> DesignLines() {
 }
 
 // The fields of one design that are otherwise in the other.
-std::vector<std::string> Different(std::vector<std::string> one, std::vector<std::string> other) {
+Strings Different(Strings one, Strings other) {
     std::sort(one.begin(), one.end());
     std::sort(other.begin(), other.end());
-    std::vector<std::string> lines;
+    Strings lines;
     std::set_symmetric_difference(one.begin(), one.end(), other.begin(), other.end(),
                                   std::back_inserter(lines));
     return lines;
@@ -365,13 +309,13 @@ TEST_F(EverydayTest, WhatIsEnteredTodayIsThereTomorrow) {
     Print("today.pdf");
     ExpectPrinted("today.pdf", "kilovolts.VRN");
     Plot();
-    const std::vector<std::string> picture = CallsOf("picPlate");
-    const std::vector<std::string> design = DesignLines();
+    const Strings picture = CallsOf("picPlate");
+    const Strings design = DesignLines();
     Exit();
-    EXPECT_EQ(said, std::vector<std::string>());
+    EXPECT_EQ(said, Strings());
 
     RestartAtLastSession();
-    EXPECT_EQ(Different(DesignLines(), design), std::vector<std::string>());
+    EXPECT_EQ(Different(DesignLines(), design), Strings());
     EXPECT_EQ(CallsOf("picPlate"), picture);
     ExpectCalibrated();
     ExpectAllThere();
@@ -381,11 +325,9 @@ TEST_F(EverydayTest, WhatIsEnteredTodayIsThereTomorrow) {
 
     // And the day after, from the design's own file.
     StartProgram();
-    Answer(TypeFile(Path("kilovolts.VRN")));
-    Click("cmdOld");
-    Settle();
+    ClickAndAnswer("cmdOld", TypeFile(Path("kilovolts.VRN")));
     ExpectPage("frmPreview", "Vernacle - Preview - " + Path("kilovolts.VRN"));
-    EXPECT_EQ(Different(DesignLines(), design), std::vector<std::string>());
+    EXPECT_EQ(Different(DesignLines(), design), Strings());
     EXPECT_EQ(CallsOf("picPlate"), picture);
     ExpectAllThere();
 }

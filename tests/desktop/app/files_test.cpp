@@ -8,17 +8,15 @@
 #include <QFileDialog>
 #include <QListView>
 
-#include "desktop/navigation/navigator.h"
-
 namespace vernacle::test {
 namespace {
 
 class FilesTest : public AppTest {
 protected:
     // Names in the list of a file dialog.
-    static std::vector<std::string> ShownIn(QWidget& dialog) {
+    static Strings ShownIn(QWidget& dialog) {
         const auto* list = dialog.findChild<QListView*>(QStringLiteral("listView"));
-        std::vector<std::string> names;
+        Strings names;
         for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
             names.push_back(
                 list->model()->index(row, 0, list->rootIndex()).data().toString().toStdString());
@@ -36,12 +34,10 @@ TEST_F(FilesTest, OpenReadsAndReloadsThePage) {
         const QPointer<QWidget> before = &OpenPage(page);
         const std::string title = TitleOf(*before);
         Design.ActiveScale = 3;
-        Answer([&](QWidget& dialog) {
+        ClickAndAnswer("Open", [&](QWidget& dialog) {
             EXPECT_EQ(TitleOf(dialog), "Read Vernacle file");
             TypeFile(file)(dialog);
         });
-        Click("Open");
-        Settle();
         EXPECT_TRUE(before.isNull()) << "built anew";
         EXPECT_EQ(PageName(), page);
         EXPECT_EQ(TitleOf(Page()), title + " - " + file);
@@ -60,9 +56,7 @@ TEST_F(FilesTest, CancelledOpenEmptiesTheNameAlone) {
         const std::string title = TitleOf(*before);
         Design.PlateWidth = 61;
         Design.ActiveScale = 3;
-        Answer(Cancel);
-        Click("Open");
-        Settle();
+        ClickAndAnswer("Open", Cancel);
         EXPECT_EQ(&Page(), before) << "not reloaded";
         EXPECT_EQ(TitleOf(Page()), title) << "until the next load";
         EXPECT_EQ(Design.DesignFileName, "");
@@ -79,9 +73,7 @@ TEST_F(FilesTest, DamagedFileIsReportedAndThePageReloaded) {
     const std::string file = WriteFile("bad.VRN", text);
     Design.PlateWidth = 61;
     const QPointer<QWidget> before = &OpenPage("frmPlate");
-    Answer(TypeFile(file));
-    Click("Open");
-    Settle();
+    ClickAndAnswer("Open", TypeFile(file));
     ASSERT_EQ(said.size(), 2U);
     EXPECT_TRUE(said[1].starts_with("failure: We were not successful")) << said[1];
     EXPECT_EQ(Design.PlateWidth, 75);
@@ -92,10 +84,7 @@ TEST_F(FilesTest, DamagedFileIsReportedAndThePageReloaded) {
 TEST_F(FilesTest, MissingFileIsReportedByTheReader) {
     OpenPage("frmPlate");
     Design.PlateWidth = 61;
-    Answer(TypeFile(Path("none-such.VRN")));
-    Click("Open");
-    Settle();
-    EXPECT_TRUE(AllAnswered());
+    ClickAndAnswer("Open", TypeFile(Path("none-such.VRN")));
     ASSERT_EQ(said.size(), 2U);
     EXPECT_TRUE(said[1].ends_with("ReadWrite 407")) << said[1];
     EXPECT_EQ(Design.PlateWidth, 75);
@@ -108,25 +97,23 @@ TEST_F(FilesTest, EndingsOfAnyCaseShow) {
     }
     Design.DesignFileName = Path("b.VRN");
     OpenPage("frmPlate");
-    Answer([this](QWidget& dialog) {
+    ClickAndAnswer("Save", [this](QWidget& dialog) {
         const auto shown = [&] { return ShownIn(dialog); };
         EXPECT_TRUE(QTest::qWaitFor([&] { return shown().size() >= 3; }));
-        EXPECT_EQ(shown(), (std::vector<std::string>{"a.vrn", "b.VRN", "c.Vrn"}));
+        EXPECT_EQ(shown(), (Strings{"a.vrn", "b.VRN", "c.Vrn"}));
         Cancel(dialog);
     });
-    Click("Save");
 }
 
 TEST_F(FilesTest, FilterIsNamed) {
     OpenPage("frmPlate");
     for (const char* key : {"Open", "Save"}) {
-        Answer([](QWidget& dialog) {
+        ClickAndAnswer(key, [](QWidget& dialog) {
             const auto* kinds = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
             EXPECT_EQ(kinds->count(), 1);
             EXPECT_EQ(kinds->currentText().trimmed(), QLatin1String("Vernacle files (*.VRN)"));
             Cancel(dialog);
         });
-        Click(key);
     }
 }
 
@@ -138,11 +125,10 @@ TEST_F(FilesTest, SaveWritesUnderTheTypedName) {
         const std::string title = TitleOf(*before);
         Design.PlateWidth = 62;
         const std::string name = std::string(page) + ".VRN";
-        Answer([&](QWidget& dialog) {
+        ClickAndAnswer("Save", [&](QWidget& dialog) {
             EXPECT_EQ(TitleOf(dialog), "Save Vernacle file");
             TypeFile(Path(name))(dialog);
         });
-        Click("Save");
         EXPECT_EQ(Design.DesignFileName, Path(name));
         EXPECT_EQ(WidthIn(name), 62);
         EXPECT_EQ(&Page(), before);
@@ -164,8 +150,7 @@ constexpr NameRow kNames[] = {
 TEST_F(FilesTest, NameWithoutEndingGetsOne) {
     OpenPage("frmPlate");
     for (const NameRow& row : kNames) {
-        Answer(TypeFile(Path(row.typed)));
-        Click("Save");
+        ClickAndAnswer("Save", TypeFile(Path(row.typed)));
         EXPECT_EQ(Design.DesignFileName, Path(row.written));
         EXPECT_TRUE(Exists(row.written)) << row.written;
     }
@@ -174,18 +159,16 @@ TEST_F(FilesTest, NameWithoutEndingGetsOne) {
 TEST_F(FilesTest, SaveIsPrimedWithTheName) {
     Design.DesignFileName = WriteDesignFile("mine.VRN", 61);
     OpenPage("frmPlate");
-    Answer([this](QWidget& dialog) {
+    ClickAndAnswer("Save", [this](QWidget& dialog) {
         EXPECT_EQ(On<QLineEdit>(dialog, "fileNameEdit").text().toStdString(), "mine.VRN");
         EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().absolutePath().toStdString(),
                   std::filesystem::path(Path("mine.VRN")).parent_path().string());
         Cancel(dialog);
     });
-    Click("Save");
-    Answer([this](QWidget& dialog) {
+    ClickAndAnswer("Open", [this](QWidget& dialog) {
         EXPECT_EQ(On<QLineEdit>(dialog, "fileNameEdit").text().toStdString(), "") << "to open";
         Cancel(dialog);
     });
-    Click("Open");
 }
 
 TEST_F(FilesTest, CancelledSaveWritesUnderThePresentName) {
@@ -194,8 +177,7 @@ TEST_F(FilesTest, CancelledSaveWritesUnderThePresentName) {
         Design.DesignFileName = WriteDesignFile("mine.VRN", 61);
         OpenPage(page);
         Design.PlateWidth = 64;
-        Answer(Cancel);
-        Click("Save");
+        ClickAndAnswer("Save", Cancel);
         EXPECT_EQ(Design.DesignFileName, Path("mine.VRN"));
         EXPECT_EQ(WidthIn("mine.VRN"), 64);
     }
@@ -209,8 +191,7 @@ TEST_F(FilesTest, CancelledSaveWithoutANameWritesNothing) {
         opened = true;
         return OpenFileSink(name);
     };
-    Answer(Cancel);
-    Click("Save");
+    ClickAndAnswer("Save", Cancel);
     EXPECT_FALSE(opened);
     EXPECT_EQ(Design.DesignFileName, "");
     EXPECT_TRUE(said.empty());
@@ -227,10 +208,7 @@ TEST_F(FilesTest, OverwritingAsks) {
     EXPECT_TRUE(AllAnswered());
     EXPECT_EQ(WidthIn("there.VRN"), 61);
     EXPECT_EQ(Design.DesignFileName, "");
-    Answer(TypeFile(Path("there.VRN")));
-    Answer(Press(QMessageBox::Yes));
-    Click("Save");
-    EXPECT_TRUE(AllAnswered());
+    ClickAndAnswer("Save", TypeFile(Path("there.VRN")), Press(QMessageBox::Yes));
     EXPECT_EQ(WidthIn("there.VRN"), 64);
     EXPECT_EQ(Design.DesignFileName, Path("there.VRN"));
 }
@@ -238,11 +216,9 @@ TEST_F(FilesTest, OverwritingAsks) {
 TEST_F(FilesTest, FailedSaveIsReported) {
     OpenPage("frmPlate");
     Host.openForOutput = [](const std::string&) { return OpenFileSink("/dev/full"); };
-    Answer(TypeFile(Path("mine.VRN")));
-    Click("Save");
-    EXPECT_EQ(said, (std::vector<std::string>{
-                        "beep", "failure: The Vernacle file was not written correctly.\n"
-                                "ReadWrite 364"}));
+    ClickAndAnswer("Save", TypeFile(Path("mine.VRN")));
+    EXPECT_EQ(said, (Strings{"beep", "failure: The Vernacle file was not written correctly.\n"
+                                     "ReadWrite 364"}));
     EXPECT_EQ(Design.DesignFileName, Path("mine.VRN"));
 }
 

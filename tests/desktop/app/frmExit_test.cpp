@@ -1,10 +1,8 @@
 #include "apptest.h"
 
-#include <cmath>
-
 #include <QPixmap>
 
-#include "desktop/navigation/navigator.h"
+#include "support/pixels.h"
 
 namespace vernacle::test {
 namespace {
@@ -19,11 +17,7 @@ protected:
     }
 
     // The exit page comes by the toolbar's key; answer has to close it.
-    void Exit(DialogAnswer answer) {
-        Answer(std::move(answer));
-        Click("Exit");
-        EXPECT_TRUE(AllAnswered());
-    }
+    void Exit(const DialogAnswer& answer) { ClickAndAnswer("Exit", answer); }
 
     void ConfirmExit() {
         Exit([this](QWidget& form) { Click(On<QPushButton>(form, "cmdExit")); });
@@ -150,13 +144,7 @@ TEST_F(ExitTest, NoticeIsBlueOnPaleGround) {
         EXPECT_EQ(picture.pixelColor(picture.width() - 2, 1), QColor(0xEE, 0xFF, 0xFF));
         EXPECT_EQ(picture.pixelColor(picture.width() - 2, picture.height() - 2),
                   QColor(0xEE, 0xFF, 0xFF));
-        bool blue = false;
-        for (int x = 0; x < picture.width(); ++x) {
-            for (int y = 0; y < picture.height(); ++y) {
-                blue = blue || picture.pixelColor(x, y) == QColor(0, 0, 255);
-            }
-        }
-        EXPECT_TRUE(blue);
+        EXPECT_TRUE(HasColour(picture, QColor(0, 0, 255)));
     });
 }
 
@@ -213,7 +201,7 @@ protected:
         });
     }
 
-    const std::vector<std::string> notKept = {
+    const Strings notKept = {
         "beep", "failure: The Vernacle file was not written correctly.\nReadWrite 364"};
 };
 
@@ -275,8 +263,7 @@ TEST_F(ExitTest, NextStartBringsTheDesignBack) {
     EXPECT_TRUE(TakeProcessEnd());
     Design = DesignRecord{};
     OpenPage("frmOpening");
-    Click("cmdLastSession");
-    Settle();
+    ClickAndSettle("cmdLastSession");
     EXPECT_EQ(Design.PlateWidth, 61);
     EXPECT_EQ(Design.ScaleTitle[1], "Ampères");
     EXPECT_EQ(Design.PointerDeflection, 87.5F);

@@ -6,8 +6,6 @@
 
 #include <sys/stat.h>
 
-#include "desktop/navigation/navigator.h"
-
 namespace vernacle::test {
 namespace {
 
@@ -16,10 +14,6 @@ protected:
     OpeningTest() { Design = DesignRecord{}; } // as at the start of the process
 
     QWidget& OpenOpening() { return OpenPage("frmOpening"); }
-
-    std::string TextOn(const std::string& label) const {
-        return Find<QLabel>(label).text().toStdString();
-    }
 };
 
 TEST_F(OpeningTest, LoadSetsTheProcessUp) {
@@ -32,8 +26,8 @@ TEST_F(OpeningTest, LoadSetsTheProcessUp) {
     EXPECT_FLOAT_EQ(Design.AspectRatio, 0.8F);
     EXPECT_EQ(Design.CalibrationX, 1.25F);
     EXPECT_EQ(Design.CalibrationY, 0.75F);
-    EXPECT_EQ(TextOn("lblTitle"), Design.ProgramName);
-    EXPECT_EQ(TextOn("lblVersion"), "Version 3.04");
+    EXPECT_EQ(Shown("lblTitle"), Design.ProgramName);
+    EXPECT_EQ(Shown("lblVersion"), "Version 3.04");
     EXPECT_TRUE(opening.isMaximized());
     EXPECT_EQ(opening.size(), QSize(1920, 1080));
 }
@@ -96,13 +90,8 @@ TEST_F(OpeningTest, ButtonsFromTopToBottom) {
 }
 
 TEST_F(OpeningTest, TabWalksTheButtonsInOrder) {
-    QWidget& opening = OpenOpening();
-    Find("cmdOld").setFocus();
-    for (const char* next : {"cmdLastSession", "cmdExit", "cmdOld"}) {
-        QTest::keyClick(opening.focusWidget(), Qt::Key_Tab);
-        ASSERT_NE(opening.focusWidget(), nullptr);
-        EXPECT_EQ(NameOf(*opening.focusWidget()), next);
-    }
+    OpenOpening();
+    ExpectTabOrder("cmdOld cmdLastSession cmdExit cmdOld");
 }
 
 TEST_F(OpeningTest, ReturnPressesTheButtonWithTheFocus) {
@@ -118,13 +107,11 @@ TEST_F(OpeningTest, OldDesignIsReadAndPreviewed) {
     const std::string file = WriteDesignFile("old.VRN", 61, 33);
     OpenOpening();
     WatchWaits();
-    Answer([&](QWidget& dialog) {
+    ClickAndAnswer("cmdOld", [&](QWidget& dialog) {
         EXPECT_EQ(waited, 1) << "before the dialog";
         EXPECT_EQ(TitleOf(dialog), "Get Vernacle File");
         TypeFile(file)(dialog);
     });
-    Click("cmdOld");
-    Settle();
     EXPECT_EQ(PageName(), "frmPreview");
     EXPECT_EQ(TitleOf(Page()), "Vernacle - Preview - " + file);
     EXPECT_EQ(Design.DesignFileName, file);
@@ -139,9 +126,7 @@ TEST_F(OpeningTest, CancelledOldDesignGoesOnWithTheDefaults) {
     OpenOpening();
     Design.DesignFileName = "/designs/before.VRN";
     Design.PlateWidth = 61;
-    Answer(Cancel);
-    Click("cmdOld");
-    Settle();
+    ClickAndAnswer("cmdOld", Cancel);
     EXPECT_EQ(PageName(), "frmPreview");
     EXPECT_EQ(TitleOf(Page()), "Vernacle - Preview");
     EXPECT_EQ(Design.DesignFileName, "");
@@ -157,9 +142,7 @@ TEST_F(OpeningTest, DamagedOldDesignGoesOnWithTheDefaults) {
               ReadFile("bad.VRN").replace(ReadFile("bad.VRN").find("Scale 1 - deleted tics: 0"), 25,
                                           "Scale 1 - deleted tics: 1\r\nTic deleted: 400"));
     OpenOpening();
-    Answer(TypeFile(file));
-    Click("cmdOld");
-    Settle();
+    ClickAndAnswer("cmdOld", TypeFile(file));
     ASSERT_EQ(said.size(), 2U);
     EXPECT_EQ(said[0], "beep");
     EXPECT_TRUE(
@@ -174,8 +157,7 @@ TEST_F(OpeningTest, LastSessionComesBack) {
     OpenOpening();
     Design.ActiveScale = 3;
     WatchWaits();
-    Click("cmdLastSession");
-    Settle();
+    ClickAndSettle("cmdLastSession");
     EXPECT_EQ(waited, 1);
     EXPECT_EQ(PageName(), "frmPreview");
     EXPECT_EQ(Design.PlateWidth, 62);
@@ -189,8 +171,7 @@ TEST_F(OpeningTest, LastSessionComesFromWhereItIsNewest) {
     const std::string newest = WriteDesignFile("newest.VRN", 62);
     Host.newestBesideProgram = [newest](const std::string&) { return newest; };
     OpenOpening();
-    Click("cmdLastSession");
-    Settle();
+    ClickAndSettle("cmdLastSession");
     EXPECT_EQ(Design.PlateWidth, 62);
     EXPECT_EQ(Design.DesignFileName, newest);
 }
@@ -198,8 +179,7 @@ TEST_F(OpeningTest, LastSessionComesFromWhereItIsNewest) {
 TEST_F(OpeningTest, ALastSessionThatIsNoFileGoesOnWithTheDefaults) {
     ASSERT_EQ(mkfifo(Path("LASTSESSION.VRN").c_str(), 0600), 0);
     OpenOpening();
-    Click("cmdLastSession");
-    Settle();
+    ClickAndSettle("cmdLastSession");
     ASSERT_EQ(said.size(), 2U);
     EXPECT_TRUE(said[1].ends_with("ReadWrite 407")) << said[1];
     EXPECT_EQ(PageName(), "frmPreview");
@@ -207,12 +187,11 @@ TEST_F(OpeningTest, ALastSessionThatIsNoFileGoesOnWithTheDefaults) {
 
 TEST_F(OpeningTest, MissingLastSessionGoesOnWithTheDefaults) {
     OpenOpening();
-    Click("cmdLastSession");
-    Settle();
-    EXPECT_EQ(said, (std::vector<std::string>{
-                        "beep", "failure: We were not successful in reading that Vernacle file.\n"
-                                "Default values for all items have been put in place.\n\n"
-                                "ReadWrite 407"}));
+    ClickAndSettle("cmdLastSession");
+    EXPECT_EQ(said,
+              (Strings{"beep", "failure: We were not successful in reading that Vernacle file.\n"
+                               "Default values for all items have been put in place.\n\n"
+                               "ReadWrite 407"}));
     EXPECT_EQ(PageName(), "frmPreview");
     EXPECT_EQ(Design.PointerDeflection, 99);
     EXPECT_EQ(Design.ActiveScale, 1);
@@ -224,8 +203,7 @@ TEST_F(OpeningTest, NothingIsPressedDuringTheWait) {
     OpenOpening();
     bool onPage = false;
     WatchWaits([&] { onPage = PageName() == "frmOpening" && !QApplication::activeModalWidget(); });
-    Answer(Cancel);
-    Click("cmdOld");
+    ClickAndAnswer("cmdOld", Cancel);
     EXPECT_TRUE(onPage);
 }
 

@@ -1,16 +1,12 @@
 // Every form of the register, at small and large fonts on small and large screens: nothing is cut
 // off, nothing covers anything, everything has a name, and the Tab key goes as one reads.
 #include <QAccessible>
-#include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QWindow>
 
 #include "desktop/app/forms.h"
 #include "engine/base/hostservices.h"
-#include "engine/core/design.h"
 #include "layoutfaults.h"
 #include "layouttext.h"
 #include "support/formtest.h"
@@ -26,7 +22,7 @@ constexpr int kLargeFont = 14;
 constexpr QSize kSmallScreen(1024, 768);
 constexpr QSize kUsualScreen(1920, 1080);
 
-std::string Lines(const std::vector<std::string>& lines) {
+std::string Lines(const Strings& lines) {
     std::string text;
     for (const std::string& line : lines) {
         text += "\n  " + line;
@@ -153,10 +149,7 @@ TEST_F(LaterLayoutTest, TheStepsOfTheCalibrationStandOnItsForm) {
     AtEveryFontAndScreen("frmCalibrate", [this](QWidget& form) {
         const std::string file = Path("square.pdf");
         std::filesystem::remove(file);
-        Answer([&](QWidget& dialog) {
-            On<QLineEdit>(dialog, "filename").setText(QString::fromStdString(file));
-            static_cast<QDialog&>(dialog).accept();
-        });
+        Answer(test::PrintTo(file));
         Click(On<QWidget>(form, "cmdPrint"));
         SettleLayout();
         ASSERT_TRUE(On<QWidget>(form, "txtActualHeight").isVisible());
@@ -204,7 +197,7 @@ TEST_F(FocusTest, IsInSightWhereTheScreenIsTooSmall) {
     for (const FormRow& row : ProgramForms()) {
         QWidget& form = Show(row.name, kLargeFont, kSmallScreen);
         EnableAll(form);
-        const std::vector<std::string> reached = ReadingOrder(form);
+        const Strings reached = ReadingOrder(form);
         for (const std::string& name : reached) {
             On<QWidget>(form, name).setFocus();
             ExpectInSight(form, "by the program");
@@ -233,8 +226,6 @@ TEST_F(FocusTest, WaitsUntilTheMouseIsLetGo) {
     QTest::mousePress(page.windowHandle(), Qt::LeftButton, {}, at);
     SettleLayout();
     EXPECT_EQ(page.focusWidget(), &button);
-    printf("%d %d -> %d buttons %d\n", shown.height(), at.y(), button.mapTo(&page, QPoint()).y(),
-           (int)QApplication::mouseButtons());
     QTest::mouseRelease(page.windowHandle(), Qt::LeftButton, {}, at);
     EXPECT_EQ(clicks, 1);
     QTest::qWait(200);
@@ -287,8 +278,8 @@ TEST_F(FocusTest, NoPageOfEntriesIsTooWideForTheSmallestScreen) {
     }
 }
 
-std::vector<std::string> AllForms() {
-    std::vector<std::string> names;
+Strings AllForms() {
+    Strings names;
     for (const FormRow& row : ProgramForms()) {
         names.emplace_back(row.name);
     }
@@ -320,14 +311,14 @@ TEST_P(FormNamesTest, WindowIsAFrameOrADialogOfItsTitle) {
 
 TEST_P(FormNamesTest, TheTabKeyGoesAsOneReads) {
     QWidget& form = ShowUsual();
-    const std::vector<std::string> reading = ReadingOrder(form);
+    const Strings reading = ReadingOrder(form);
     EXPECT_EQ(TabOrder(form), reading);
     if (reading.empty()) {
         return;
     }
     // And by the real key, once around from the first.
     On<QWidget>(form, reading.front()).setFocus();
-    std::vector<std::string> reached;
+    Strings reached;
     for (std::size_t press = 0; press < reading.size(); ++press) {
         ASSERT_NE(form.focusWidget(), nullptr);
         reached.push_back(form.focusWidget()->objectName().toStdString());

@@ -5,6 +5,7 @@
 
 #include <unistd.h>
 
+#include "engine/base/bytesink.h"
 #include "support/display.h"
 #include "support/enginetest.h"
 #include "support/sourcetree.h"
@@ -62,6 +63,12 @@ protected:
             << "no window \"" << title << "\", but \"" << display->FocusedTitle() << "\"";
     }
 
+    // Presses them for the window that comes.
+    void PressFor(const std::string& keys, const std::string& title) const {
+        display->Press(keys);
+        ExpectWindow(title);
+    }
+
     // From the opening page, by its second button.
     void ChooseLastSession() const {
         display->Press("Tab");
@@ -80,12 +87,9 @@ protected:
     // From the preview's second box, behind three buttons.
     void Plot() const {
         display->Press("Tab", 4);
-        display->Press("space");
-        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - HP-GL output"));
-        display->Press("space");
-        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // is written, says its box
-        display->Press("Return");
-        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - HP-GL output"));
+        ASSERT_NO_FATAL_FAILURE(PressFor("space", "Vernacle - HP-GL output"));
+        ASSERT_NO_FATAL_FAILURE(PressFor("space", "Vernacle")); // is written, says its box
+        ASSERT_NO_FATAL_FAILURE(PressFor("Return", "Vernacle - HP-GL output"));
         display->Press("Escape");
         ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
         EXPECT_TRUE(Exists("home/HPGLfile.HPGL"));
@@ -93,8 +97,7 @@ protected:
 
     // Into the file that the dialog offers, among the user's documents.
     void Print() const {
-        display->Press("ctrl+p");
-        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Print"));
+        ASSERT_NO_FATAL_FAILURE(PressFor("ctrl+p", "Print"));
         display->Press("Return");
         ASSERT_NO_FATAL_FAILURE(ExpectPage("Preview"));
         EXPECT_TRUE(Has(ReadFile("home/LASTSESSION.pdf"), "%PDF"));
@@ -112,16 +115,23 @@ protected:
         ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
     }
 
+    // On its preview page.
+    void StartOnAnExample() {
+        std::filesystem::copy_file(VERNACLE_EXAMPLE, Path("plate.VRN"));
+        Start("vernacle");
+        ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
+        ASSERT_NO_FATAL_FAILURE(PressFor("ctrl+o", "Get Vernacle File"));
+        display->Type(Path("plate.VRN"));
+        ASSERT_NO_FATAL_FAILURE(PressFor("Return", "Vernacle - Preview - " + Path("plate.VRN")));
+    }
+
     // From the plate page's first box: the last button stands before the keys of the toolbar.
     void Calibrate() const {
         constexpr int kToolbarKeys = 11; // that are enabled
         display->Press("shift+Tab", kToolbarKeys + 1);
-        display->Press("space");
-        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Calibration routine"));
-        display->Press("space");
-        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Print"));
-        display->Press("Return");
-        ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Calibration routine"));
+        ASSERT_NO_FATAL_FAILURE(PressFor("space", "Vernacle - Calibration routine"));
+        ASSERT_NO_FATAL_FAILURE(PressFor("space", "Print"));
+        ASSERT_NO_FATAL_FAILURE(PressFor("Return", "Vernacle - Calibration routine"));
         display->Type("80");
         display->Press("Tab");
         display->Type("125");
@@ -163,8 +173,7 @@ TEST_F(ProgramTest, ASessionIsTakenUpAgain) {
     ASSERT_NO_FATAL_FAILURE(Print());
     ASSERT_NO_FATAL_FAILURE(GoTo("1", "Plate design"));
     ASSERT_NO_FATAL_FAILURE(Calibrate());
-    display->Press("ctrl+q");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kExitPage));
+    ASSERT_NO_FATAL_FAILURE(PressFor("ctrl+q", kExitPage));
     display->Press("Tab");
     display->Press("space");
     EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
@@ -186,21 +195,11 @@ TEST_F(ProgramTest, ASessionIsTakenUpAgain) {
 }
 
 TEST_F(ProgramTest, ADesignIsOpenedSavedAndLeft) {
-    std::filesystem::copy_file(VERNACLE_EXAMPLE, Path("plate.VRN"));
-    Start("vernacle");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
-    display->Press("ctrl+o");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Get Vernacle File"));
-    display->Type(Path("plate.VRN"));
-    display->Press("Return");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + Path("plate.VRN")));
-    display->Press("ctrl+s");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Save Vernacle file"));
+    ASSERT_NO_FATAL_FAILURE(StartOnAnExample());
+    ASSERT_NO_FATAL_FAILURE(PressFor("ctrl+s", "Save Vernacle file"));
     ReplaceText(Path("copy"));
-    display->Press("Return");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + Path("plate.VRN")));
-    display->Press("ctrl+2");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Scale design - " + Path("copy.VRN")));
+    ASSERT_NO_FATAL_FAILURE(PressFor("Return", "Vernacle - Preview - " + Path("plate.VRN")));
+    ASSERT_NO_FATAL_FAILURE(PressFor("ctrl+2", "Vernacle - Scale design - " + Path("copy.VRN")));
     EXPECT_TRUE(Has(ReadFile("copy.VRN"), "Scale title:AMPERES\r\n"));
     EXPECT_FALSE(Exists("program/LASTSESSION.VRN"));
     display->Press("alt+F4");
@@ -214,10 +213,9 @@ TEST_F(ProgramTest, ACancelledSaveAfterACalibrationLeavesTheFactors) {
     ASSERT_NO_FATAL_FAILURE(Calibrate());
     const std::string factors = ReadFile("program/Calibrate.txt");
     EXPECT_TRUE(Has(factors, "\r\n1.25\r\n.8\r\n"));
-    display->Press("ctrl+s");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Save Vernacle file"));
-    display->Press("Escape");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle")); // that it was not written, says its box
+    ASSERT_NO_FATAL_FAILURE(PressFor("ctrl+s", "Save Vernacle file"));
+    ASSERT_NO_FATAL_FAILURE(
+        PressFor("Escape", "Vernacle")); // that it was not written, says its box
     display->Press("Return");
     ASSERT_NO_FATAL_FAILURE(ExpectPage("Plate design"));
     EXPECT_EQ(ReadFile("program/Calibrate.txt"), factors);
@@ -225,24 +223,14 @@ TEST_F(ProgramTest, ACancelledSaveAfterACalibrationLeavesTheFactors) {
 
 // Even while a dialog stands open, which would save under the design's name when it is cancelled.
 TEST_F(ProgramTest, ASignalKeepsTheSession) {
-    std::filesystem::copy_file(VERNACLE_EXAMPLE, Path("plate.VRN"));
-    const std::string before = ReadFile("plate.VRN");
-    Start("vernacle");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow(kOpening));
-    display->Press("ctrl+o");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Get Vernacle File"));
-    display->Type(Path("plate.VRN"));
-    display->Press("Return");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Preview - " + Path("plate.VRN")));
-    display->Press("ctrl+1");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Vernacle - Plate design - " + Path("plate.VRN")));
+    ASSERT_NO_FATAL_FAILURE(StartOnAnExample());
+    ASSERT_NO_FATAL_FAILURE(PressFor("ctrl+1", "Vernacle - Plate design - " + Path("plate.VRN")));
     ReplaceText("97.5");
-    display->Press("ctrl+s");
-    ASSERT_NO_FATAL_FAILURE(ExpectWindow("Save Vernacle file"));
+    ASSERT_NO_FATAL_FAILURE(PressFor("ctrl+s", "Save Vernacle file"));
     process->Send(SIGTERM);
     EXPECT_EQ(process->Wait(kPatience), EXIT_SUCCESS);
     EXPECT_TRUE(Has(ReadFile("program/LASTSESSION.VRN"), "\r\nPlate width: 97.5\r\n"));
-    EXPECT_EQ(ReadFile("plate.VRN"), before);
+    EXPECT_EQ(ReadFile("plate.VRN"), ReadWholeFile(VERNACLE_EXAMPLE));
 }
 
 TEST_F(ProgramTest, ARunTimeErrorShowsItsBoxAndEndsTheProcessWithItsStatus) {

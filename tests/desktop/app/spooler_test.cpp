@@ -2,22 +2,15 @@
 // nothing does.
 #include "desktop/app/spoolertest.h"
 
-#include <fstream>
-#include <iterator>
-
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QInputDialog>
-#include <QLabel>
-#include <QPushButton>
 
-#include "desktop/navigation/navigator.h"
+#include "desktop/app/strokes.h"
 #include "desktop/system/desktophost.h"
 #include "engine/base/hostservices.h"
-#include "engine/core/design.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/scale/scale.h"
-#include "support/answers.h"
+#include "support/environment.h"
 #include "support/pdfreader.h"
 #include "support/plategeometry.h"
 #include "support/process.h"
@@ -32,18 +25,6 @@ constexpr const char* kPlateFailure = "failure: We had a problem driving the pri
                                       "PrintScaleErrorHandler 1026 ";
 constexpr const char* kSquareFailure = "failure: We had a problem driving the printer.";
 constexpr const char* kPclFailure = "failure: The HPGL file was not written correctly.";
-
-bool IsNear(MmPoint a, MmPoint b) {
-    return std::abs(a.x - b.x) <= kToleranceMm && std::abs(a.y - b.y) <= kToleranceMm;
-}
-
-bool IsLine(const Shape& found, const Shape& wanted) {
-    return found.stroked && found.points.size() == 2 &&
-           ((IsNear(found.points[0], wanted.points[0]) &&
-             IsNear(found.points[1], wanted.points[1])) ||
-            (IsNear(found.points[0], wanted.points[1]) &&
-             IsNear(found.points[1], wanted.points[0])));
-}
 
 class PrintJobsTest : public SpoolerTest {
 protected:
@@ -81,16 +62,10 @@ protected:
         const SvgPicture page = PageOf(job);
         EXPECT_NEAR(page.widthMm, paper.widthMm, 0.36) << "whole points";
         EXPECT_NEAR(page.heightMm, paper.heightMm, 0.36);
-        std::ifstream file(design, std::ios::binary);
-        const std::string text{std::istreambuf_iterator<char>(file), {}};
-        const Plate plate = ReadPlate(text);
+        const Plate plate = ReadPlate(ReadWholeFile(design));
         const std::vector<Shape> lines = SheetGeometry(plate, paper, {}).Lines({});
         EXPECT_GT(lines.size(), 50U);
-        for (const Shape& line : lines) {
-            EXPECT_TRUE(std::any_of(page.shapes.begin(), page.shapes.end(),
-                                    [&](const Shape& shape) { return IsLine(shape, line); }))
-                << "no line from " << line.points[0].x << ", " << line.points[0].y;
-        }
+        ExpectStrokes(page, lines, kToleranceMm);
     }
 
     void ExpectSquare(const PrintJob& job) const {
@@ -137,22 +112,21 @@ TEST_F(PrintJobsTest, TheJobAndItsPageHaveTheChosenPaper) {
 TEST_F(PrintJobsTest, TheChosenQueueIsProposedAgain) {
     PrintPlate({.queue = "letter", .paper = "A4"});
     EXPECT_TRUE(TheSpooler().TakeJob("letter").Has("media=A4"));
-    Answer([](QWidget& dialog) {
+    ClickAndAnswer("Print", [](QWidget& dialog) {
         dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
     });
-    Click("Print");
     const PrintJob again = TheSpooler().TakeJob("letter");
     EXPECT_TRUE(again.Has("media=Letter")) << again.options;
     ExpectPlate(again, kLetter);
 }
 
 TEST_F(PrintJobsTest, AQueueThatFitsPagesPrintsAtTrueSize) {
-    const std::vector<std::string> rows[] = {
+    const Strings rows[] = {
         {"print-scaling-default=fit"}, {"print-scaling-default=fill"},
         {"fit-to-page-default=true"},  {"number-up-default=2"},
         {"scaling-default=50"},        {"natural-scaling-default=50"},
     };
-    for (const std::vector<std::string>& row : rows) {
+    for (const Strings& row : rows) {
         SCOPED_TRACE(row.front());
         TheSpooler().Do("lpadmin", {"-p", "office", "-o", row.front()});
         PrintPlate({.queue = "office", .paper = "US Letter"});
@@ -258,12 +232,12 @@ TEST_F(PrintJobsTest, AQueueThatHoldsTheJobIsNoFailure) {
 
 // The toolkit's own job, which is what a spooler without its program gets.
 TEST_F(PrintJobsTest, WithoutTheProgramTheJobHasTheChosenPaperToo) {
-    const QByteArray path = qgetenv("PATH");
     for (const auto& [paper, media, sheet] :
          {std::tuple{"US Letter", "Letter", kLetter}, {"A4", "A4", kA4}}) {
-        qputenv("PATH", QByteArray::fromStdString(Path("empty")));
-        PrintPlate({.queue = "office", .paper = paper});
-        qputenv("PATH", path);
+        {
+            const EnvironmentVariable path("PATH", Path("empty"));
+            PrintPlate({.queue = "office", .paper = paper});
+        }
         const PrintJob job = TheSpooler().TakeJob("office");
         EXPECT_TRUE(job.Has(std::string("media=") + media)) << job.options;
         EXPECT_TRUE(job.Has("print-scaling=none")) << job.options;
@@ -274,9 +248,8 @@ TEST_F(PrintJobsTest, WithoutTheProgramTheJobHasTheChosenPaperToo) {
 TEST_F(PrintJobsTest, AFileNameStandsReadyBesideTheQueues) {
     const std::string home = Path("home");
     std::filesystem::create_directories(home);
-    const QByteArray before = qgetenv("HOME");
-    qputenv("HOME", home.c_str());
-    std::vector<std::string> names;
+    const EnvironmentVariable setting("HOME", home);
+    Strings names;
     const auto look = [&names](QWidget& dialog) {
         auto* printers = dialog.findChild<QComboBox*>(QStringLiteral("printers"));
         EXPECT_NE(printers->currentIndex(), printers->count() - 1) << "a queue is chosen";
@@ -285,17 +258,14 @@ TEST_F(PrintJobsTest, AFileNameStandsReadyBesideTheQueues) {
             dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->text().toStdString());
         Cancel(dialog);
     };
-    Answer(look);
-    Click("Print");
+    ClickAndAnswer("Print", look);
     Answer([&](QWidget& form) {
         Answer(look);
         Click(On<QPushButton>(form, "cmdPrint"));
         CloseByUser(form);
     });
     ShowModal("frmCalibrate");
-    qputenv("HOME", before);
-    EXPECT_EQ(names, (std::vector<std::string>{home + "/MILLIAMPERES-0-1.pdf",
-                                               home + "/Calibration square.pdf"}));
+    EXPECT_EQ(names, (Strings{home + "/MILLIAMPERES-0-1.pdf", home + "/Calibration square.pdf"}));
 }
 
 // The raw job of the plotter page.
@@ -382,7 +352,7 @@ TEST_F(RawJobsTest, AnOnlyQueueIsTakenWithoutAQuestion) {
 TEST_F(RawJobsTest, ARefusedStreamSaysWhy) {
     TheSpooler().Do("cupsreject", {"plotter"});
     Send(ChooseQueue(QStringLiteral("plotter")));
-    EXPECT_EQ(said, (std::vector<std::string>{"beep", kPclFailure}));
+    EXPECT_EQ(said, (Strings{"beep", kPclFailure}));
     ASSERT_FALSE(reasons.empty());
     EXPECT_NE(reasons.back().find("not accepting jobs"), std::string::npos) << reasons.back();
     EXPECT_FALSE(TheSpooler().HasJobs());

@@ -1,11 +1,7 @@
 // The real program on a display and a spooler of its own: what it prints by keys alone arrives.
-#include <memory>
-
 #include "desktop/app/spoolertest.h"
 #include "support/display.h"
-#include "support/enginetest.h"
 #include "support/pdfreader.h"
-#include "support/spooler.h"
 
 namespace vernacle::test {
 namespace {
@@ -40,7 +36,7 @@ protected:
 
     // With the design open on the preview page.
     void Start() {
-        std::vector<std::string> environment = display->Environment();
+        Strings environment = display->Environment();
         for (const std::string& setting : TheSpooler().Environment()) {
             environment.push_back(setting);
         }
@@ -48,8 +44,8 @@ protected:
                            {"HOME=" + Path("home"), "XDG_CONFIG_HOME=" + Path("home/.config"),
                             "XDG_DATA_HOME=" + Path("home/.local"),
                             "XDG_RUNTIME_DIR=" + Path("home")});
-        process = std::make_unique<BackgroundProgram>(
-            std::vector<std::string>{Path("program/vernacle")}, environment);
+        process =
+            std::make_unique<BackgroundProgram>(Strings{Path("program/vernacle")}, environment);
         ExpectWindow("Vernacle - Welcome !");
         display->Press("ctrl+o");
         ExpectWindow("Get Vernacle File");

@@ -2,14 +2,10 @@
 
 #include <cstdlib>
 
-#include <QAbstractButton>
 #include <QComboBox>
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 
-#include "engine/core/design.h"
 #include "support/pdfreader.h"
 #include "support/process.h"
 

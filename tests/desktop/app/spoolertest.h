@@ -1,8 +1,6 @@
 // The fixture of the tests that print on a real spooler: one of our own, shared by all of them.
 #pragma once
 
-#include <memory>
-
 #include <QPageLayout>
 
 #include "support/formtest.h"

@@ -1,7 +1,5 @@
 #include "apptest.h"
 
-#include "desktop/navigation/navigator.h"
-
 namespace vernacle::test {
 namespace {
 

@@ -3,7 +3,6 @@
 #include <QTextBrowser>
 #include <QToolButton>
 
-#include "desktop/navigation/navigator.h"
 #include "support/pdfreader.h"
 
 namespace vernacle::test {
@@ -124,12 +123,7 @@ TEST_F(ToolbarTest, PrintIsGreyedButOnThePreview) {
 
 TEST_F(ToolbarTest, TabFollowsTheRow) {
     OpenPage("frmPreview");
-    KeyOf("Open").setFocus();
-    for (const KeyRow& row : kKeys) {
-        ASSERT_NE(Page().focusWidget(), nullptr);
-        EXPECT_EQ(NameOf(*Page().focusWidget()), row.key);
-        QTest::keyClick(Page().focusWidget(), Qt::Key_Tab);
-    }
+    ExpectTabOrder("Open Save Plate Scales Text Graphic Highlights Preview Print Help Exit About");
 }
 
 // A key goes to its page and unloads the present one; the page's own key does nothing.
@@ -141,8 +135,7 @@ TEST_F(ToolbarTest, KeysWalkBetweenThePages) {
             }
             SCOPED_TRACE(std::string(from) + " to " + row.page);
             const QPointer<QWidget> left = &OpenPage(from);
-            Click(row.key);
-            Settle();
+            ClickAndSettle(row.key);
             EXPECT_EQ(PageName(), row.page);
             EXPECT_EQ(left.isNull(), row.page != std::string(from));
         }
@@ -151,18 +144,11 @@ TEST_F(ToolbarTest, KeysWalkBetweenThePages) {
 
 TEST_F(ToolbarTest, ShortcutsWalkToo) {
     OpenPage("frmPreview");
-    Shortcut(Qt::Key_1);
-    EXPECT_EQ(PageName(), "frmPlate");
-    Shortcut(Qt::Key_2);
-    EXPECT_EQ(PageName(), "frmScales");
-    Shortcut(Qt::Key_3);
-    EXPECT_EQ(PageName(), "frmText");
-    Shortcut(Qt::Key_4);
-    EXPECT_EQ(PageName(), "frmGraphic");
-    Shortcut(Qt::Key_5);
-    EXPECT_EQ(PageName(), "frmHighlights");
-    Shortcut(Qt::Key_6);
-    EXPECT_EQ(PageName(), "frmPreview");
+    int number = Qt::Key_1;
+    for (const char* page : kDesignPages) {
+        Shortcut(static_cast<Qt::Key>(number++));
+        EXPECT_EQ(PageName(), page);
+    }
 }
 
 struct DialogRow {
@@ -212,11 +198,9 @@ TEST_F(ToolbarTest, PrintPrintsTheDesign) {
         OpenPage(page);
         KeyOf("Print").defaultAction()->setEnabled(true);
         const std::string file = std::string(page) + ".pdf";
-        Answer(Cancel);
-        Click("Print");
+        ClickAndAnswer("Print", Cancel);
         EXPECT_FALSE(Exists(file));
-        Answer(PrintTo(Path(file)));
-        Click("Print");
+        ClickAndAnswer("Print", PrintTo(Path(file)));
         ASSERT_TRUE(Exists(file));
         const std::vector<Word> words = ReadPdfWords(Path(file));
         const bool titled = std::any_of(words.begin(), words.end(),
@@ -271,8 +255,7 @@ TEST_F(ToolbarTest, HelpStaysWhileThePageIsUsedAndFollowsItsChange) {
     EXPECT_EQ(Book()->window()->windowModality(), Qt::NonModal);
     Type("txtPlateWidth", "66");
     EXPECT_EQ(Design.PlateWidth, 66);
-    Click("Preview");
-    Settle();
+    ClickAndSettle("Preview");
     EXPECT_EQ(PageName(), "frmPreview");
     EXPECT_EQ(Topic(), "vpreview.htm") << "in the same window";
     Click("Help");
@@ -283,18 +266,15 @@ TEST_F(ToolbarTest, HelpStaysWhileThePageIsUsedAndFollowsItsChange) {
 
 TEST_F(ToolbarTest, AboutShowsTitleVersionAndDescription) {
     const QWidget* page = &OpenPage("frmPlate");
-    Answer([this](QWidget& form) {
+    ClickAndAnswer("About", [this](QWidget& form) {
         EXPECT_EQ(NameOf(form), "frmAbout");
         EXPECT_TRUE(form.isModal());
-        EXPECT_EQ(On<QLabel>(form, "lblVersion").text().toStdString(), "Version 3.04");
-        EXPECT_EQ(On<QLabel>(form, "lblTitle").text().toStdString(), Design.ProgramName);
+        ExpectShown(form,
+                    {{"lblVersion", "Version 3.04"}, {"lblTitle", Design.ProgramName.c_str()}});
         EXPECT_GT(On<QLabel>(form, "lblDescription").text().size(), 40);
         Click(On<QPushButton>(form, "cmdOK"));
     });
-    Click("About");
-    EXPECT_TRUE(AllAnswered());
-    Answer([](QWidget& form) { CloseByUser(form); });
-    Click("About");
+    ClickAndAnswer("About", [](QWidget& form) { CloseByUser(form); });
     EXPECT_EQ(&Page(), page);
     EXPECT_FALSE(TakeProcessEnd());
 }

@@ -2,17 +2,12 @@
 #include "desktop/wizard/frmWizardPart2.h"
 
 #include <QAccessible>
-#include <QPushButton>
 
-#include "desktop/kit/picturebox.h"
 #include "desktop/kit/updown.h"
 #include "engine/base/text.h"
-#include "engine/core/design.h"
 #include "engine/render/drawing.h"
 #include "engine/wizard/nudges.h"
-#include "support/answers.h"
 #include "support/formtest.h"
-#include "support/recordingsurface.h"
 
 namespace vernacle::test {
 namespace {
@@ -26,9 +21,6 @@ protected:
 
     void OpenPart2() { OpenPage("frmWizardPart2"); }
 
-    std::string Shown(const std::string& label) const {
-        return Find<QLabel>(label).text().toStdString();
-    }
     void Wipe() const { Picture("picPlate").Surface().Clear(); }
     bool WasRedrawn() const { return CallsOf("picPlate").size() > 30; }
 };
@@ -99,8 +91,7 @@ TEST_F(WizardPart2Test, LoadMakesASimpleScale) {
     EXPECT_EQ(Design.RelativeFontSize[1], 1);
     EXPECT_EQ(Design.PlateStyle, 0);
     EXPECT_TRUE(WasRedrawn());
-    EXPECT_EQ(TextsOf("picPlate"),
-              (std::vector<std::string>{"0", "10", "20", "30", "40", "50", "Default Scale 1"}));
+    EXPECT_EQ(TextsOf("picPlate"), (Strings{"0", "10", "20", "30", "40", "50", "Default Scale 1"}));
 }
 
 struct StepRow {
@@ -168,7 +159,7 @@ TEST_F(WizardPart2Test, SpacingOutOfRangeIsKeptAndNotDrawn) {
     RecordingSurface expected;
     DrawPage(Design, expected, WizardTraits(), {Design.FontSize, 50}, Drawing);
     EXPECT_EQ(CallsOf("picPlate").size(), expected.calls.size());
-    const auto firstLabel = [](const std::vector<std::string>& calls) {
+    const auto firstLabel = [](const Strings& calls) {
         return *std::find_if(calls.begin(), calls.end(), [](const std::string& call) {
             return call.starts_with("SetCurrentX");
         });
@@ -222,21 +213,13 @@ TEST_F(WizardPart2Test, WhatCannotBeDrawnIsTold) {
     OpenPart2();
     ASSERT_EQ(said.size(), 2U);
     EXPECT_NE(said[1].find("cannot be drawn"), std::string::npos);
-    EXPECT_EQ(Page().objectName(), QLatin1String("frmWizardPart2"));
+    EXPECT_EQ(PageName(), "frmWizardPart2");
 }
 
 TEST_F(WizardPart2Test, AcceptGoesToThePreview) {
     OpenPart2();
-    Click("cmdAccept");
-    Settle();
-    EXPECT_EQ(Page().objectName(), QLatin1String("frmPreview"));
-}
-
-TEST_F(WizardPart2Test, CloseBoxKeepsTheSession) {
-    OpenPart2();
-    CloseByUser(Page());
-    EXPECT_TRUE(TakeProcessEnd());
-    EXPECT_TRUE(Exists("LASTSESSION.VRN"));
+    ClickAndSettle("cmdAccept");
+    EXPECT_EQ(PageName(), "frmPreview");
 }
 
 } // namespace

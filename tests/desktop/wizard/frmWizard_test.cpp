@@ -1,16 +1,9 @@
 // The wizard's first page on its own controls, from an empty page to a printed plate.
 #include "desktop/wizard/frmWizard.h"
 
-#include <QPushButton>
-
 #include "desktop/app/frmOpening.h"
-#include "desktop/kit/entrybox.h"
-#include "desktop/navigation/navigator.h"
-#include "engine/base/numbertext.h"
-#include "engine/core/design.h"
 #include "engine/illustrations/schematicmarks.h"
 #include "engine/wizard/wizardsteps.h"
-#include "support/answers.h"
 #include "support/formtest.h"
 #include "support/pdfreader.h"
 
@@ -45,26 +38,21 @@ protected:
             Enter(step, kTexts[step - 1]);
         }
     }
-
-    std::string Shown(const std::string& label) const {
-        return Find<QLabel>(label).text().toStdString();
-    }
-    std::string PageName() const { return Page().objectName().toStdString(); }
 };
 
 TEST_F(WizardTest, StartsWithTheFirstStep) {
     Design.HelpTopic = 12;
     OpenWizard();
     EXPECT_EQ(Page().windowTitle(), QLatin1String("Vernacle - Design Wizard Part 1"));
-    EXPECT_EQ(Shown("lblHeading"), "Design Wizard - Part 1");
     for (int step = 1; step <= 18; ++step) {
         EXPECT_EQ(IsStepShown(step), step == 1);
         EXPECT_EQ(Find<QPushButton>(Name("cmdEnter", step)).text(), QLatin1String("Enter"));
         EXPECT_EQ(Shown(Name("lblStep", step)),
                   WizardSteps()[static_cast<std::size_t>(step - 1)].caption);
     }
-    EXPECT_EQ(Find<QPushButton>("cmdAccept").text(), QLatin1String("Accept and go to Part 2"));
-    EXPECT_EQ(Find<QPushButton>("cmdExit").text(), QLatin1String("Restart program"));
+    ExpectShown({{"lblHeading", "Design Wizard - Part 1"},
+                 {"cmdAccept", "Accept and go to Part 2"},
+                 {"cmdExit", "Restart program"}});
     EXPECT_EQ(Design.HelpTopic, 1);
     EXPECT_EQ(Shown("Label1"), WizardPrompt(Design, 1));
     EXPECT_FALSE(Find("Label2").isVisible());
@@ -106,8 +94,7 @@ TEST_F(WizardTest, AcceptedStepsLeadToTheNext) {
 TEST_F(WizardTest, RefusalsStayInTheStep) {
     OpenWizard();
     Enter(1, "200");
-    EXPECT_EQ(said,
-              std::vector<std::string>{"information: Please enter 20 minimum to 180 maximum"});
+    EXPECT_EQ(said, Strings{"information: Please enter 20 minimum to 180 maximum"});
     EXPECT_EQ(TextOf(BoxName(1)), "");
     EXPECT_EQ(Page().focusWidget()->objectName().toStdString(), BoxName(1));
     EXPECT_FALSE(IsStepShown(2));
@@ -129,15 +116,14 @@ TEST_F(WizardTest, MessagesAndAcceptanceDiffer) {
         Enter(step, kTexts[step - 1]);
     }
     Enter(9, ".5");
-    EXPECT_EQ(said, std::vector<std::string>{"information: Please enter .5 minimum to  4 maximum"});
+    EXPECT_EQ(said, Strings{"information: Please enter .5 minimum to  4 maximum"});
     said.clear();
     Enter(9, "2");
     Enter(10, "5");
     Enter(11, "2");
     Enter(12, "2");
     Enter(13, "16");
-    EXPECT_EQ(said, std::vector<std::string>{
-                        "information: Please enter greater than zero to 15 maximum"});
+    EXPECT_EQ(said, Strings{"information: Please enter greater than zero to 15 maximum"});
     said.clear();
     Enter(13, "14");
     Enter(14, "9");
@@ -145,8 +131,7 @@ TEST_F(WizardTest, MessagesAndAcceptanceDiffer) {
     Enter(16, "10");
     Enter(17, "30");
     Enter(18, "21");
-    EXPECT_EQ(said,
-              std::vector<std::string>{"information: Please enter greater than 0 to 10 maximum"});
+    EXPECT_EQ(said, Strings{"information: Please enter greater than 0 to 10 maximum"});
     said.clear();
     Enter(18, "20");
     EXPECT_TRUE(said.empty());
@@ -163,8 +148,7 @@ TEST_F(WizardTest, ReturnEnters) {
 
 TEST_F(WizardTest, AcceptAtOnceGivesTheUsualDesign) {
     OpenWizard();
-    Click("cmdAccept");
-    Settle();
+    ClickAndSettle("cmdAccept");
     EXPECT_EQ(PageName(), "frmWizardPart2");
     EXPECT_EQ(Design.PlateWidth, 75);
     EXPECT_EQ(Design.PlateHeight, 50);
@@ -179,8 +163,7 @@ TEST_F(WizardTest, AcceptReadsTheBoxesAgain) {
     Type(BoxName(3), "0");
     Type(BoxName(4), "0");
     EXPECT_EQ(Design.PlateWidth, 90) << "not before";
-    Click("cmdAccept");
-    Settle();
+    ClickAndSettle("cmdAccept");
     EXPECT_EQ(Design.PlateWidth, 110);
     EXPECT_EQ(Design.PlateHeight, 60);
     EXPECT_EQ(Design.BottomToBearing, 1);
@@ -191,18 +174,10 @@ TEST_F(WizardTest, AcceptReadsTheBoxesAgain) {
 TEST_F(WizardTest, RestartReturnsWithTheDesign) {
     OpenWizard();
     EnterAllUpTo(2);
-    Click("cmdExit");
-    Settle();
+    ClickAndSettle("cmdExit");
     EXPECT_EQ(PageName(), "frmOpening");
     EXPECT_EQ(Design.PlateWidth, 90);
     EXPECT_EQ(Design.PlateHeight, 60);
-}
-
-TEST_F(WizardTest, CloseBoxKeepsTheSession) {
-    OpenWizard();
-    CloseByUser(Page());
-    EXPECT_TRUE(TakeProcessEnd());
-    EXPECT_TRUE(Exists("LASTSESSION.VRN"));
 }
 
 // What a newcomer does: eighteen values, a nudge, the preview, a sheet of paper.
@@ -212,18 +187,15 @@ TEST_F(WizardTest, FromAnEmptyPageToAPrintedPlate) {
     Settle();
     ASSERT_EQ(PageName(), "frmWizard");
     EnterAllUpTo(18);
-    Click("cmdAccept");
-    Settle();
+    ClickAndSettle("cmdAccept");
     ASSERT_EQ(PageName(), "frmWizardPart2");
     StepUp("UpDown2");
     EXPECT_EQ(Design.BottomToTitle[1], 31);
-    Click("cmdAccept");
-    Settle();
+    ClickAndSettle("cmdAccept");
     ASSERT_EQ(PageName(), "frmPreview");
-    Answer(PrintTo(Path("plate.pdf")));
-    Click("Print");
+    ClickAndAnswer("Print", PrintTo(Path("plate.pdf")));
     ASSERT_TRUE(Exists("plate.pdf"));
-    std::vector<std::string> words;
+    Strings words;
     for (const Word& word : ReadPdfWords(Path("plate.pdf"))) {
         words.push_back(word.text);
     }
