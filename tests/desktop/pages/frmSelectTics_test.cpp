@@ -84,25 +84,23 @@ TEST_F(SelectTicsTest, CaptionsAndStart) {
     OnForm([this](QWidget& form) {
         EXPECT_EQ(form.windowTitle(), QLatin1String("Vernacle - select tics"));
         EXPECT_TRUE(form.isModal());
-        EXPECT_EQ(TextOf("Label1"),
-                  "  Scale:      Tic #:        Print tic:       Label:      Print label:");
-        EXPECT_EQ(TextOf("Label2"), "Click on a line of data at the left to edit it. ");
-        EXPECT_EQ(TextOf("Label3"),
-                  "You may now select or de-select the tic and the label for that tic. ");
-        EXPECT_EQ(TextOf("Label4"), "To enter these choices into the system click on 'Accept'");
-        EXPECT_EQ(TextOf("lblData1"), "Scale number:");
-        EXPECT_EQ(TextOf("lblData2"), "Ticmark #:");
-        EXPECT_EQ(TextOf("lblData3"), "Print:");
-        EXPECT_EQ(TextOf("lblData4"), "Label:");
-        EXPECT_EQ(TextOf("lblData5"), "Print:");
-        EXPECT_EQ(The<QPushButton>("cmdAccept").text(), QLatin1String("Accept"));
-        EXPECT_EQ(The<QPushButton>("cmdExit").text(), QLatin1String("Return to scale design page"));
-        for (const char* option : {"optTicYes", "optLabelYes"}) {
-            EXPECT_EQ(The<OptionButton>(option).text(), QLatin1String("Yes"));
-        }
-        for (const char* option : {"optTicNo", "optLabelNo"}) {
-            EXPECT_EQ(The<OptionButton>(option).text(), QLatin1String("No"));
-        }
+        ExpectShown(
+            form,
+            {{"Label1", "  Scale:      Tic #:        Print tic:       Label:      Print label:"},
+             {"Label2", "Click on a line of data at the left to edit it. "},
+             {"Label3", "You may now select or de-select the tic and the label for that tic. "},
+             {"Label4", "To enter these choices into the system click on 'Accept'"},
+             {"lblData1", "Scale number:"},
+             {"lblData2", "Ticmark #:"},
+             {"lblData3", "Print:"},
+             {"lblData4", "Label:"},
+             {"lblData5", "Print:"},
+             {"cmdAccept", "Accept"},
+             {"cmdExit", "Return to scale design page"},
+             {"optTicYes", "Yes"},
+             {"optTicNo", "No"},
+             {"optLabelYes", "Yes"},
+             {"optLabelNo", "No"}});
         EXPECT_TRUE(The("fraTics").isAncestorOf(&The("optTicNo")));
         EXPECT_TRUE(The("fraLabels").isAncestorOf(&The("optLabelYes")));
         EXPECT_EQ(State(), "nothing chosen");

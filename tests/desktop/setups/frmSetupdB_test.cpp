@@ -48,21 +48,14 @@ TEST_F(DecibelPageTest, CaptionsAndStartingState) {
         EXPECT_EQ(TextOf(box), start);
         EXPECT_EQ(Box(box).accessibleName().toStdString(), caption);
     }
-    EXPECT_EQ(Find<QGroupBox>("fraUnlabelledAtBottom").title(),
-              QLatin1String("Unlabelled ticmark at zero deflection?"));
-    EXPECT_EQ(Find<QGroupBox>("fraPrefix").title(),
-              QLatin1String("Prefix  '+'  to positive decibel labels?"));
-    EXPECT_TRUE(IsSelected("optUnlabelledAtBottomYes"));
-    EXPECT_TRUE(IsSelected("optY"));
-    const std::pair<const char*, const char*> buttons[] = {
-        {"cmdEnter", "Enter"},
-        {"cmdPreview", "Preview"},
-        {"cmdIgnore", "Ignore; just return to Scale Design page"},
-        {"cmdAccept", "Accept and return to Scale Design page"}};
-    for (const auto& [button, caption] : buttons) {
-        EXPECT_EQ(Find<QPushButton>(button).text(), QLatin1String(caption));
-        EXPECT_TRUE(IsEnabled(button));
-    }
+    ExpectShown({{"fraUnlabelledAtBottom", "Unlabelled ticmark at zero deflection?"},
+                 {"fraPrefix", "Prefix  '+'  to positive decibel labels?"},
+                 {"cmdEnter", "Enter"},
+                 {"cmdPreview", "Preview"},
+                 {"cmdIgnore", "Ignore; just return to Scale Design page"},
+                 {"cmdAccept", "Accept and return to Scale Design page"}});
+    ExpectSelected({"optUnlabelledAtBottomYes", "optY"}, true);
+    ExpectEnabled({"cmdEnter", "cmdPreview", "cmdIgnore", "cmdAccept"}, true);
     EXPECT_EQ(Headings(), (Strings{"Tic#:", "Deflection:", "Label:", "Print label?", "Major/minor?",
                                    "Print tic?"}));
     for (int row = 0; row < kDecibelRows; ++row) {

@@ -35,17 +35,13 @@ protected:
 TEST_F(SpecialPageTest, CaptionsAndStartingState) {
     OpenSpecial();
     EXPECT_EQ(Page().windowTitle(), QLatin1String("Vernacle - Special scale setup"));
-    EXPECT_EQ(Shown("lblNrOfTicmarks"), "Number of ticmarks:");
-    EXPECT_EQ(Shown("lblFullScale"),
-              "Full-scale deflection is 1.0; for a \"blank\" label, use a space.");
-    const std::pair<const char*, const char*> buttons[] = {
-        {"cmdPreview", "Preview"},
-        {"cmdAccept", "Accept and return to Scales page"},
-        {"cmdIgnore", "Ignore and return to Scales page"}};
-    for (const auto& [button, text] : buttons) {
-        EXPECT_EQ(Find<QPushButton>(button).text(), QLatin1String(text));
-        EXPECT_TRUE(IsEnabled(button));
-    }
+    ExpectShown(
+        {{"lblNrOfTicmarks", "Number of ticmarks:"},
+         {"lblFullScale", "Full-scale deflection is 1.0; for a \"blank\" label, use a space."},
+         {"cmdPreview", "Preview"},
+         {"cmdAccept", "Accept and return to Scales page"},
+         {"cmdIgnore", "Ignore and return to Scales page"}});
+    ExpectEnabled({"cmdPreview", "cmdAccept", "cmdIgnore"}, true);
     EXPECT_EQ(Headings(), (Strings{"Tic#:", "Deflection:", "Label:", "Major/minor?"}));
     EXPECT_EQ(TextOf("txtNrOfTicmarks"), "1") << "of the design's 0";
     EXPECT_EQ(RowsShown(), 2);
