@@ -2,8 +2,6 @@
 #include "desktop/system/desktophost.h"
 
 #include <QFile>
-#include <QMessageBox>
-#include <QPushButton>
 
 #include <array>
 

@@ -4,13 +4,10 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QListView>
 #include <QTimer>
 
 #include "desktop/system/programfiles.h"
-#include "engine/core/design.h"
-#include "support/answers.h"
 #include "support/environment.h"
 #include "support/formtest.h"
 
@@ -21,9 +18,9 @@ constexpr FileQuestion kPictures{"Get a picture", "Pictures (.gif, .bmp)|*.GIF;*
 
 class DialogsTest : public FormTest {
 protected:
-    static std::vector<std::string> ShownIn(const QWidget& dialog) {
+    static Strings ShownIn(const QWidget& dialog) {
         const QListView* list = dialog.findChild<QListView*>(QStringLiteral("listView"));
-        std::vector<std::string> names;
+        Strings names;
         for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
             const QModelIndex index = list->model()->index(row, 0, list->rootIndex());
             names.push_back(index.data().toString().toStdString());
@@ -42,7 +39,7 @@ TEST_F(DialogsTest, AFilterShowsItsDescriptionAndAppliesItsPatternsInAnyCase) {
         const auto* kinds = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
         EXPECT_EQ(kinds->currentText().trimmed(), QLatin1String("Pictures (.gif, .bmp)"));
         EXPECT_TRUE(QTest::qWaitFor([&] { return ShownIn(dialog).size() == 3; }));
-        EXPECT_EQ(ShownIn(dialog), (std::vector<std::string>{"a.gif", "b.BMP", "c.Gif"}));
+        EXPECT_EQ(ShownIn(dialog), (Strings{"a.gif", "b.BMP", "c.Gif"}));
         Cancel(dialog);
     });
     EXPECT_EQ(AskForFileToOpen(nullptr, kPictures), "");

@@ -140,6 +140,13 @@ class PrintersTest : public EngineTest {
 protected:
     PrintersTest() { Design.CalibrationX = Design.CalibrationY = 1; }
 
+    // With those answers of the user.
+    static void Print(const std::vector<User::Answer>& answers,
+                      const PrintOn& print = PrintSquare) {
+        const User user(answers);
+        AskForPrinterAndPrint(nullptr, print);
+    }
+
     static void ReadExample() {
         SetOpeningValues(Design);
         ReadDesign(Design, SourcePath("examples/VOLTS-0-15.VRN"));
@@ -212,11 +219,8 @@ constexpr Paper kPapers[] = {
 TEST_F(PrintersTest, TheTestSquareIsTrueToSizeOnEveryPaperOfTheDialog) {
     for (const Paper& paper : kPapers) {
         SCOPED_TRACE(paper.name);
-        {
-            const User user({OpenProperties, ChoosePaper(paper.size, paper.orientation),
-                             PrintTo(Path(std::string(paper.name) + ".pdf"))});
-            AskForPrinterAndPrint(nullptr, PrintSquare);
-        }
+        Print({OpenProperties, ChoosePaper(paper.size, paper.orientation),
+               PrintTo(Path(std::string(paper.name) + ".pdf"))});
         const std::string file = std::string(paper.name) + ".pdf";
         ASSERT_TRUE(Exists(file));
         const SvgPicture page = ReadPdf(Path(file));
@@ -245,28 +249,22 @@ TEST_F(PrintersTest, TheToolkitsJobIsTrueToSizeAtAnyResolution) {
 }
 
 TEST_F(PrintersTest, TheChosenPaperIsProposedAgain) {
-    {
-        const User user({OpenProperties, ChoosePaper(QPageSize::Letter, QPageLayout::Landscape),
-                         PrintTo(Path("first.pdf"))});
-        AskForPrinterAndPrint(nullptr, PrintSquare);
-    }
-    {
-        const User user({PrintTo(Path("second.pdf"))});
-        AskForPrinterAndPrint(nullptr, PrintSquare);
-    }
+    Print({OpenProperties, ChoosePaper(QPageSize::Letter, QPageLayout::Landscape),
+           PrintTo(Path("first.pdf"))});
+    Print({PrintTo(Path("second.pdf"))});
     EXPECT_NEAR(ReadPdf(Path("second.pdf")).widthMm, 279.4, 0.4);
     ExpectSquare("second.pdf", kPapers[3].plateCentre);
-    const User user({OpenProperties, ChoosePaper(QPageSize::A4, QPageLayout::Portrait),
-                     PrintTo(Path("third.pdf"))});
-    AskForPrinterAndPrint(nullptr, PrintSquare);
+    Print({OpenProperties, ChoosePaper(QPageSize::A4, QPageLayout::Portrait),
+           PrintTo(Path("third.pdf"))});
 }
 
 TEST_F(PrintersTest, ACancelPrintsNothing) {
-    const User user({[this](QWidget& window) {
-        Find<QLineEdit>(window, "filename").setText(QString::fromStdString(Path("plate.pdf")));
-        Cancel(window);
-    }});
-    AskForPrinterAndPrint(nullptr, [](PrinterSurface&) { ADD_FAILURE() << "printed"; });
+    Print(
+        {[this](QWidget& window) {
+            Find<QLineEdit>(window, "filename").setText(QString::fromStdString(Path("plate.pdf")));
+            Cancel(window);
+        }},
+        [](PrinterSurface&) { ADD_FAILURE() << "printed"; });
     EXPECT_FALSE(Exists("plate.pdf"));
     EXPECT_TRUE(said.empty());
 }
@@ -294,19 +292,17 @@ TEST_F(PrintersTest, ADocumentHasTheNameOfItsDesign) {
     for (const auto& [file, title, proposal] : rows) {
         Design.DesignFileName = file;
         std::filesystem::remove(Path("plate.pdf"));
-        const User user({[this, &proposal = proposal](QWidget& window) {
+        Print({[this, &proposal = proposal](QWidget& window) {
             EXPECT_EQ(Find<QLineEdit>(window, "filename").text().toStdString(), proposal);
             PrintTo(Path("plate.pdf"))(window);
         }});
-        AskForPrinterAndPrint(nullptr, PrintSquare);
         const std::string about = About("plate.pdf");
         EXPECT_NE(about.find(" " + title + "\n"), std::string::npos) << about;
     }
 }
 
 TEST_F(PrintersTest, APrintThatNeverStartsAPageLeavesNoFile) {
-    const User user({PrintTo(Path("plate.pdf"))});
-    AskForPrinterAndPrint(nullptr, [](PrinterSurface&) {});
+    Print({PrintTo(Path("plate.pdf"))}, [](PrinterSurface&) {});
     EXPECT_FALSE(Exists("plate.pdf"));
 }
 
@@ -323,14 +319,12 @@ TEST_F(PrintersTest, AFailureOfTheProgramComesThrough) {
 
 // The toolkit would take the disk for written.
 TEST_F(PrintersTest, AFullDiskIsReported) {
-    const User user({PrintTo("/dev/full"), AnswerBox(QMessageBox::Yes)});
-    AskForPrinterAndPrint(nullptr, PrintSquare);
+    Print({PrintTo("/dev/full"), AnswerBox(QMessageBox::Yes)});
     EXPECT_EQ(said, (std::vector<std::string>{"beep", kSquareFailure}));
 }
 
 TEST_F(PrintersTest, ADiskThatFillsUpIsReported) {
-    const User user({PrintTo(Path("plate.pdf"))});
-    AskForPrinterAndPrint(nullptr, [](PrinterSurface& printer) {
+    Print({PrintTo(Path("plate.pdf"))}, [](PrinterSurface& printer) {
         const FileSizeLimit limit(200);
         PrintTestSquare(Design, printer);
     });
@@ -339,24 +333,22 @@ TEST_F(PrintersTest, ADiskThatFillsUpIsReported) {
 
 TEST_F(PrintersTest, APlateOnAFullDiskIsReportedOnce) {
     ReadExample();
-    const User user({PrintTo("/dev/full"), AnswerBox(QMessageBox::Yes)});
-    AskForPrinterAndPrint(
-        nullptr, [](PrinterSurface& printer) { EXPECT_FALSE(PrintPlate(Design, printer)); });
+    Print({PrintTo("/dev/full"), AnswerBox(QMessageBox::Yes)},
+          [](PrinterSurface& printer) { EXPECT_FALSE(PrintPlate(Design, printer)); });
     ASSERT_EQ(said.size(), 1U);
     EXPECT_EQ(said[0].rfind(kSquareFailure, 0), 0U) << said[0];
 }
 
 // The dialog itself turns such a folder away; one that goes while it is up is found out later.
 TEST_F(PrintersTest, AFolderThatCannotBeWrittenToIsTurnedAway) {
-    const User user({PrintTo(Path("gone/plate.pdf")), AnswerBox(QMessageBox::Ok), Cancel});
-    AskForPrinterAndPrint(nullptr, [](PrinterSurface&) { ADD_FAILURE() << "printed"; });
+    Print({PrintTo(Path("gone/plate.pdf")), AnswerBox(QMessageBox::Ok), Cancel},
+          [](PrinterSurface&) { ADD_FAILURE() << "printed"; });
     EXPECT_TRUE(said.empty());
 }
 
 TEST_F(PrintersTest, AFolderThatIsGoneIsReported) {
     ASSERT_EQ(mkdir(Path("going").c_str(), 0700), 0);
-    const User user({PrintTo(Path("going/plate.pdf"))});
-    AskForPrinterAndPrint(nullptr, [this](PrinterSurface& printer) {
+    Print({PrintTo(Path("going/plate.pdf"))}, [this](PrinterSurface& printer) {
         std::filesystem::remove_all(Path("going"));
         PrintTestSquare(Design, printer);
     });
@@ -372,9 +364,8 @@ TEST_F(PrintersTest, APrinterThatDoesNotStartIsReported) {
 
 TEST_F(PrintersTest, APlateIsPrintedWhole) {
     ReadExample();
-    const User user({PrintTo(Path("plate.pdf"))});
-    AskForPrinterAndPrint(
-        nullptr, [](PrinterSurface& printer) { EXPECT_TRUE(PrintPlate(Design, printer)); });
+    Print({PrintTo(Path("plate.pdf"))},
+          [](PrinterSurface& printer) { EXPECT_TRUE(PrintPlate(Design, printer)); });
     EXPECT_TRUE(said.empty());
     EXPECT_NE(About("plate.pdf").find("Pages:           1"), std::string::npos);
     EXPECT_NE(ReadFile("plate.pdf").find("/PrintScaling /None"), std::string::npos);
