@@ -41,6 +41,18 @@ std::string ExportTest::EditedExample(const std::string& name, const Edits& edit
     return WriteFile(name + "-edited.VRN", design);
 }
 
+Words ExportTest::EveryForm(const std::string& stem) const {
+    Words paths;
+    for (const char* ending : kEndings) {
+        paths.push_back(Path(stem + ending));
+    }
+    return paths;
+}
+
+bool ExportTest::IsSaidUnwritten(const ProcessResult& result, const std::string& path) {
+    return result.err.find("vernacle-export: " + path + " was not written") != std::string::npos;
+}
+
 std::size_t ExportTest::CountFiles() const {
     const std::filesystem::directory_iterator files(Path(""));
     return static_cast<std::size_t>(std::distance(begin(files), end(files)));

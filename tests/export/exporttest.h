@@ -34,6 +34,12 @@ protected:
     // An example with some of its lines changed, as a file of this test's folder.
     std::string EditedExample(const std::string& name, const Edits& edits) const;
 
+    // Files of this test's folder, one of every form: "plate.hpgl" and so on.
+    Words EveryForm(const std::string& stem = "plate") const;
+
+    // Whether the exporter said of that output that it was not written.
+    static bool IsSaidUnwritten(const ProcessResult& result, const std::string& path);
+
     // How many files stand in this test's folder.
     std::size_t CountFiles() const;
 };

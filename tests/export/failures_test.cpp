@@ -22,6 +22,13 @@ protected:
             check(Path(std::string("plate") + ending), std::string(ending));
         }
     }
+
+    // All of them in one run.
+    static ProcessResult ExportAll(const Words& outputs) {
+        Words words = {Example("VOLTS-0-15")};
+        words.insert(words.end(), outputs.begin(), outputs.end());
+        return Export(words);
+    }
 };
 
 const char* MessageOf(const std::string& ending) {
@@ -34,6 +41,10 @@ const char* MessageOf(const std::string& ending) {
     return nullptr;
 }
 
+std::string LastLine(const std::string& ending, int reason) { // in the language of the locale
+    return "/plate" + ending + " was not written: " + std::strerror(reason) + "\n";
+}
+
 // The message of the form's own writer, if it has one, and then the file and the system's reason.
 void ExpectFailure(const ProcessResult& result, const std::string& ending, int reason) {
     EXPECT_EQ(result.status, 1);
@@ -41,9 +52,22 @@ void ExpectFailure(const ProcessResult& result, const std::string& ending, int r
     EXPECT_EQ(result.out, "");
     const char* own = MessageOf(ending);
     EXPECT_NE(result.err.find(own ? own : ""), std::string::npos) << result.err;
-    const std::string line = // in the language of the locale
-        std::string("/plate") + ending + " was not written: " + std::strerror(reason) + "\n";
-    EXPECT_TRUE(result.err.ends_with(line)) << result.err;
+    EXPECT_TRUE(result.err.ends_with(LastLine(ending, reason))) << result.err;
+}
+
+// The same of a run that was to write every form: one after the other.
+void ExpectFailures(const ProcessResult& result, int reason) {
+    ProcessResult part = result;
+    std::size_t at = 0;
+    for (const std::string ending : kEndings) {
+        const std::string line = LastLine(ending, reason);
+        const std::size_t end = result.err.find(line, at);
+        ASSERT_NE(end, std::string::npos) << line << "is not behind\n" << result.err.substr(0, at);
+        part.err = result.err.substr(at, end + line.size() - at);
+        ExpectFailure(part, ending, reason);
+        at = end + line.size();
+    }
+    EXPECT_EQ(result.err.substr(at), "");
 }
 
 int StageOf(const std::string& message) {
@@ -56,8 +80,8 @@ constexpr const char* kNotRead = "We were not successful in reading that Vernacl
                                  "Default values for all items have been put in place.\n\n";
 
 TEST_F(FailuresTest, AMissingDesignIsSaidWithItsStageAndNothingIsWritten) {
-    Words words = {Path("missing.VRN")};
-    ForEachForm([&words](const std::string& path, const std::string&) { words.push_back(path); });
+    Words words = EveryForm();
+    words.insert(words.begin(), Path("missing.VRN"));
     const ProcessResult result = Export(words);
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err, "vernacle-export: " + Path("missing.VRN") + ": " + std::strerror(ENOENT) +
@@ -177,50 +201,47 @@ TEST_F(FailuresTest, AFullDiskIsAFailureAndTheLinkToItStays) {
 }
 
 TEST_F(FailuresTest, ADeviceThatTakesAllIsASuccess) {
-    const std::string design = Example("VOLTS-0-15");
-    ForEachForm([&](const std::string& path, const std::string&) {
+    for (const std::string& path : EveryForm()) {
         std::filesystem::create_symlink("/dev/null", path);
-        EXPECT_EQ(Export({design, path}).status, 0);
-        EXPECT_TRUE(std::filesystem::is_symlink(path));
-    });
+    }
+    EXPECT_EQ(ExportAll(EveryForm()).status, 0);
+    for (const std::string& path : EveryForm()) {
+        EXPECT_TRUE(std::filesystem::is_symlink(path)) << path;
+    }
 }
 
 TEST_F(FailuresTest, AMissingFolderIsAFailure) {
-    const std::string design = Example("VOLTS-0-15");
-    ForEachForm([&](const std::string&, const std::string& ending) {
-        ExpectFailure(Export({design, Path("none/plate" + ending)}), ending, ENOENT);
-    });
+    ExpectFailures(ExportAll(EveryForm("none/plate")), ENOENT);
     EXPECT_EQ(CountFiles(), 0U);
 }
 
 TEST_F(FailuresTest, AFolderOfThatNameIsAFailureAndStays) {
-    const std::string design = Example("VOLTS-0-15");
-    ForEachForm([&](const std::string& path, const std::string& ending) {
+    for (const std::string& path : EveryForm()) {
         std::filesystem::create_directory(path);
-        ExpectFailure(Export({design, path}), ending, EISDIR);
-        EXPECT_TRUE(std::filesystem::is_directory(path));
-    });
+    }
+    ExpectFailures(ExportAll(EveryForm()), EISDIR);
+    for (const std::string& path : EveryForm()) {
+        EXPECT_TRUE(std::filesystem::is_directory(path)) << path;
+    }
 }
 
 TEST_F(FailuresTest, ALinkThatLeadsNowhereStays) {
-    const std::string design = Example("VOLTS-0-15");
-    ForEachForm([&](const std::string& path, const std::string& ending) {
+    for (const std::string& path : EveryForm()) {
         std::filesystem::create_symlink(Path("none/target"), path);
-        ExpectFailure(Export({design, path}), ending, ENOENT);
-        EXPECT_TRUE(std::filesystem::is_symlink(path));
-    });
+    }
+    ExpectFailures(ExportAll(EveryForm()), ENOENT);
+    for (const std::string& path : EveryForm()) {
+        EXPECT_TRUE(std::filesystem::is_symlink(path)) << path;
+    }
 }
 
 TEST_F(FailuresTest, AFolderWithoutPermissionIsAFailure) {
     if (geteuid() == 0) {
         GTEST_SKIP() << "nothing is forbidden to root";
     }
-    const std::string design = Example("VOLTS-0-15");
     std::filesystem::permissions(Path(""), std::filesystem::perms::owner_read |
                                                std::filesystem::perms::owner_exec);
-    ForEachForm([&](const std::string& path, const std::string& ending) {
-        ExpectFailure(Export({design, path}), ending, EACCES);
-    });
+    ExpectFailures(ExportAll(EveryForm()), EACCES);
 }
 
 // A file that could not even be opened is not ours to remove. A running program's own file cannot

@@ -8,6 +8,8 @@ namespace vernacle::test {
 namespace {
 
 constexpr int kDark = 96;
+constexpr int kBlack = 100; // lightness
+constexpr int kGrey = 180;
 
 int Lightness(QRgb pixel) {
     const int lightest = std::max(std::max(qRed(pixel), qGreen(pixel)), qBlue(pixel));
@@ -22,6 +24,17 @@ const QRgb* Row(const QImage& picture, int y) {
 
 QImage Plain(const QImage& picture) {
     return picture.convertToFormat(QImage::Format_RGB32);
+}
+
+bool IsGreyNear(const QImage& plain, int x, int y, int reach) {
+    for (int up = -reach; up <= reach; ++up) {
+        const QRgb* middle = Row(plain, y + up) + x;
+        if (std::any_of(middle - reach, middle + reach + 1,
+                        [](QRgb pixel) { return Lightness(pixel) < kGrey; })) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -75,6 +88,21 @@ bool HasColour(const QImage& picture, QColor colour) {
         }
     }
     return false;
+}
+
+int InkApart(const QImage& a, const QImage& b, int reach) {
+    const QImage left = Plain(a);
+    const QImage right = Plain(b);
+    const auto isAlone = [reach](const QImage& plain, const QImage& other, int x, int y) {
+        return Lightness(Row(plain, y)[x]) < kBlack && !IsGreyNear(other, x, y, reach);
+    };
+    int apart = 0;
+    for (int y = reach; y < left.height() - reach; ++y) {
+        for (int x = reach; x < left.width() - reach; ++x) {
+            apart += isAlone(left, right, x, y) || isAlone(right, left, x, y) ? 1 : 0;
+        }
+    }
+    return apart;
 }
 
 int Difference(const QImage& a, const QImage& b) {

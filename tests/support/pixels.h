@@ -20,6 +20,10 @@ double InkDown(const QImage& picture, int column);
 bool IsDark(const QImage& picture, int x, int y);
 bool HasColour(const QImage& picture, QColor colour);
 
+// How many pixels of one picture are black where the other has not even grey within that reach; the
+// edge of that width apart.
+int InkApart(const QImage& a, const QImage& b, int reach);
+
 // The largest difference between two pixels of the same place, of 255.
 int Difference(const QImage& a, const QImage& b);
 
