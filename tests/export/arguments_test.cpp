@@ -155,7 +155,7 @@ TEST_F(ArgumentsTest, TheEndingPicksTheFormInAnyCase) {
     for (const auto& row : rows) {
         outputs.push_back(Path(row.first));
     }
-    ExportQuietly(Example("VOLTS-0-15"), outputs);
+    ExportQuietly(Example("VOLTS-0-15"), outputs, {"--size", "320x180"});
     for (const auto& [name, start] : rows) {
         EXPECT_TRUE(ReadFile(name).starts_with(start)) << name;
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 #include "support/sourcetree.h"
 
@@ -61,7 +62,9 @@ std::size_t ExportTest::CountFiles() const {
 std::string ReadText(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << file.rdbuf(); // in blocks
+    return bytes.str();
 }
 
 std::string DeletedList(const char* line, const std::vector<int>& tics) {
@@ -70,6 +73,14 @@ std::string DeletedList(const char* line, const std::vector<int>& tics) {
         text += std::string("\r\n") + line + std::to_string(tic);
     }
     return text;
+}
+
+Edit DeletedTics(const std::vector<int>& tics) {
+    return {"Scale 1 - deleted tics: ", DeletedList("Tic deleted: ", tics)};
+}
+
+Edit DeletedLabels(const std::vector<int>& tics) {
+    return {"Scale 1 - deleted labels: ", DeletedList("Label deleted: ", tics)};
 }
 
 std::size_t CountLines(const std::string& text) {

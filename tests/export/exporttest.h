@@ -17,8 +17,9 @@ constexpr const char* kAt = "2026-01-02 03:04:05";
 
 using Words = std::vector<std::string>;
 
-// Lines of a design file by their labels, and what shall stand behind them.
-using Edits = std::vector<std::pair<std::string, std::string>>;
+// A line of a design file by its label, and what shall stand behind that.
+using Edit = std::pair<std::string, std::string>;
+using Edits = std::vector<Edit>;
 
 class ExportTest : public EngineTest {
 protected:
@@ -48,6 +49,10 @@ std::string ReadText(const std::string& path);
 
 // The value of a deleted list's line and the lines that follow it.
 std::string DeletedList(const char* line, const std::vector<int>& tics);
+
+// Of the first scale.
+Edit DeletedTics(const std::vector<int>& tics);
+Edit DeletedLabels(const std::vector<int>& tics);
 
 std::size_t CountLines(const std::string& text);
 

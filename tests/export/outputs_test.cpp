@@ -64,8 +64,8 @@ protected:
                          "Text 3:three\r\nLeft to text:  2 \r\nBottom to text:  2 \r\n"
                          "Relative size:  1 \r\nColor: 0"},
              {"Scale color: ", "255"},
-             {"Scale 1 - deleted tics: ", DeletedList("Tic deleted: ", {1, 2})},
-             {"Scale 1 - deleted labels: ", DeletedList("Label deleted: ", {5, 10})},
+             DeletedTics({1, 2}),
+             DeletedLabels({5, 10}),
              {"Scale 1: ", "0"},
              {"Aspect ratio: ", "2"}});
     }
@@ -369,12 +369,10 @@ TEST_F(PictureTest, ShowsWhatThePreviewShows) {
     };
     const std::string plain = drawn(Example("VOLTS-0-15"));
     EXPECT_TRUE(edited({}) == plain);
-    EXPECT_TRUE(edited({{"Scale 1 - deleted labels: ", DeletedList("Label deleted: ", {0, 5})}}) ==
-                plain);
+    EXPECT_TRUE(edited({DeletedLabels({0, 5})}) == plain);
     EXPECT_TRUE(edited({{"Scale color: ", "255"}}) == plain);
     EXPECT_TRUE(edited({{"Linearity exponent: ", "3"}}) == plain);
-    EXPECT_FALSE(edited({{"Scale 1 - deleted tics: ", DeletedList("Tic deleted: ", {1})}}) ==
-                 plain);
+    EXPECT_FALSE(edited({DeletedTics({1})}) == plain);
     EXPECT_FALSE(edited({{"Print text Y/N:", "N"}}) == plain);
     const std::string widest = edited({{"Aspect ratio: ", "1.15"}});
     EXPECT_FALSE(widest == plain);
@@ -384,8 +382,7 @@ TEST_F(PictureTest, ShowsWhatThePreviewShows) {
 // What the preview changes in the design does not reach the sheet.
 TEST_F(OutputsTest, DeletedLabelsStayDeletedOnPaper) {
     const std::string plain = WriteAlone(Example("VOLTS-0-15"), "plain.svg");
-    const std::string design = EditedExample(
-        "VOLTS-0-15", {{"Scale 1 - deleted labels: ", DeletedList("Label deleted: ", {0})}});
+    const std::string design = EditedExample("VOLTS-0-15", {DeletedLabels({0})});
     ExportQuietly(design, {Path("a.png"), Path("a.svg"), Path("a.csv")});
     const auto count = [](const std::string& text, const std::string& part) {
         std::size_t found = 0;

@@ -67,7 +67,9 @@ std::string EngineTest::WriteFile(const std::string& name, const std::string& by
 
 std::string EngineTest::ReadFile(const std::string& name) const {
     std::ifstream file(Path(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << file.rdbuf(); // in blocks
+    return bytes.str();
 }
 
 NewDesignTest::NewDesignTest() {

@@ -75,6 +75,19 @@ double InkDown(const QImage& picture, int column) {
     return sum;
 }
 
+int CountPixels(const QImage& picture, int darkest, int lightest) {
+    const QImage plain = Plain(picture);
+    std::ptrdiff_t count = 0;
+    for (int y = 0; y < plain.height(); ++y) {
+        const QRgb* row = Row(plain, y);
+        count += std::count_if(row, row + plain.width(), [&](QRgb pixel) {
+            const int lightness = Lightness(pixel);
+            return lightness >= darkest && lightness <= lightest;
+        });
+    }
+    return static_cast<int>(count);
+}
+
 bool IsDark(const QImage& picture, int x, int y) {
     return Lightness(picture.pixel(x, y)) < kDark;
 }

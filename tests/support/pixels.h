@@ -17,6 +17,9 @@ QRect InkOf(const QImage& picture, int lightness = kNotWhite);
 double InkAcross(const QImage& picture, int row);
 double InkDown(const QImage& picture, int column);
 
+// How many pixels have a lightness from that one to this one.
+int CountPixels(const QImage& picture, int darkest, int lightest);
+
 bool IsDark(const QImage& picture, int x, int y);
 bool HasColour(const QImage& picture, QColor colour);
 

@@ -4,6 +4,7 @@
 #include "engine/designfile/readwrite.h"
 #include "engine/illustrations/samples.h"
 #include "support/formtest.h"
+#include "support/pixels.h"
 
 namespace vernacle::test {
 namespace {
@@ -156,13 +157,7 @@ TEST_P(IllustrationsTest, PicturesShowInk) {
     Show([this](QWidget& form) {
         for (const Explained& row : Row().pictures) {
             const QImage image = On<PictureBox>(form, row.picture).grab().toImage();
-            int dark = 0;
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x) {
-                    dark += image.pixelColor(x, y).lightness() < 100 ? 1 : 0;
-                }
-            }
-            EXPECT_GT(dark, 200) << row.picture;
+            EXPECT_GT(CountPixels(image, 0, 99), 200) << row.picture;
         }
     });
 }

@@ -94,25 +94,14 @@ TEST_F(LargeScreenTest, AreDrawnInTheirOwnPixels) {
     const auto inked = [](const QImage& image) { // with the share that smoothing leaves grey
         double ink = 0;
         for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                ink += 1 - image.pixelColor(x, y).lightnessF();
-            }
+            ink += InkAcross(image, y);
         }
         return ink;
     };
     EXPECT_NEAR(inked(large) / inked(small), 4, 0.2) << "all of it is magnified";
     const QImage blown =
         small.scaled(large.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    const auto greys = [](const QImage& image) {
-        int grey = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const int lightness = image.pixelColor(x, y).lightness();
-                grey += lightness > 60 && lightness < 195 ? 1 : 0;
-            }
-        }
-        return grey;
-    };
+    const auto greys = [](const QImage& image) { return CountPixels(image, 61, 194); };
     EXPECT_LT(greys(large), greys(blown) / 2);
 }
 
