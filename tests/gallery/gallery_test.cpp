@@ -20,7 +20,7 @@ using Words = std::vector<std::string>;
 
 constexpr const char* kPatience = "120"; // seconds
 constexpr QSize kSmallScreen(1024, 768);
-constexpr QSize kFineScreen(2048, 1536);  // at two pixels to one
+constexpr QSize kFineScreen(1600, 1200);  // at two pixels to one
 constexpr std::size_t kFewestColours = 4; // of a form that shows anything
 
 // The field's line of a dump.
@@ -98,7 +98,7 @@ class GalleryFormTest : public GalleryTest, public ::testing::WithParamInterface
 
 TEST_P(GalleryFormTest, IsTakenAtTheSizeThatWasAskedFor) {
     const QImage small = Shot({GetParam(), "--size", "1024x768"});
-    const QImage large = Shot({GetParam(), "--size", "2048x1536@2"});
+    const QImage large = Shot({GetParam(), "--size", "1600x1200@2"});
     const bool isPage = small.size() == kSmallScreen;
     if (isPage) {
         EXPECT_EQ(large.size(), kFineScreen);
