@@ -66,9 +66,8 @@ bool HasNoNumber(const std::string& text) {
 // A drawing that was written must be one that others can read.
 TEST_P(AbsurdTest, EveryFormIsWrittenAndCanBeReadOrFailsInWords) {
     const Words outputs = EveryForm();
-    Words words = {EditedExample("VOLTS-0-15", GetParam().edits)};
-    words.insert(words.end(), outputs.begin(), outputs.end());
-    const ProcessResult result = Export(words);
+    const ProcessResult result =
+        Export(Joined({EditedExample("VOLTS-0-15", GetParam().edits)}, outputs));
     EXPECT_EQ(result.signal, 0);
     bool allWritten = true;
     for (const std::string& path : outputs) {

@@ -9,17 +9,19 @@
 
 namespace vernacle::test {
 
+Words Joined(Words first, const Words& behind) {
+    first.insert(first.end(), behind.begin(), behind.end());
+    return first;
+}
+
 ProcessResult ExportTest::Export(const Words& arguments, const ProcessSetting& setting) {
     return RunProgram(VERNACLE_EXPORT, arguments, setting);
 }
 
 void ExportTest::ExportQuietly(const std::string& design, const Words& outputs,
                                const Words& options) {
-    Words words = {"--at", kAt};
-    words.insert(words.end(), options.begin(), options.end());
-    words.push_back(design);
-    words.insert(words.end(), outputs.begin(), outputs.end());
-    const ProcessResult result = Export(words);
+    const Words inputs = Joined(options, {"--at", kAt, design});
+    const ProcessResult result = Export(Joined(inputs, outputs));
     ASSERT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out + result.err, "");
 }

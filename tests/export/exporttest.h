@@ -21,6 +21,8 @@ using Words = std::vector<std::string>;
 using Edit = std::pair<std::string, std::string>;
 using Edits = std::vector<Edit>;
 
+Words Joined(Words first, const Words& behind);
+
 class ExportTest : public EngineTest {
 protected:
     static ProcessResult Export(const Words& arguments, const ProcessSetting& setting = {});

@@ -14,20 +14,9 @@ namespace {
 
 class FailuresTest : public ExportTest {
 protected:
-    // Every form in a path of this name, "plate.pdf" and so on.
-    template <typename Check>
-    void ForEachForm(Check check) const {
-        for (const char* ending : kEndings) {
-            SCOPED_TRACE(ending);
-            check(Path(std::string("plate") + ending), std::string(ending));
-        }
-    }
-
-    // All of them in one run.
+    // In one run.
     static ProcessResult ExportAll(const Words& outputs) {
-        Words words = {Example("VOLTS-0-15")};
-        words.insert(words.end(), outputs.begin(), outputs.end());
-        return Export(words);
+        return Export(Joined({Example("VOLTS-0-15")}, outputs));
     }
 };
 
@@ -80,9 +69,7 @@ constexpr const char* kNotRead = "We were not successful in reading that Vernacl
                                  "Default values for all items have been put in place.\n\n";
 
 TEST_F(FailuresTest, AMissingDesignIsSaidWithItsStageAndNothingIsWritten) {
-    Words words = EveryForm();
-    words.insert(words.begin(), Path("missing.VRN"));
-    const ProcessResult result = Export(words);
+    const ProcessResult result = Export(Joined({Path("missing.VRN")}, EveryForm()));
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err, "vernacle-export: " + Path("missing.VRN") + ": " + std::strerror(ENOENT) +
                               "\n" + kNotRead + "ReadWrite 407\n");
@@ -191,12 +178,12 @@ TEST_F(FailuresTest, ACalibrationThatCannotBeReadEndsIt) {
 }
 
 TEST_F(FailuresTest, AFullDiskIsAFailureAndTheLinkToItStays) {
-    const std::string design = Example("DEGREES-0-360");
-    ForEachForm([&](const std::string& path, const std::string& ending) {
+    for (const std::string ending : kEndings) {
+        const std::string path = Path("plate" + ending);
         std::filesystem::create_symlink("/dev/full", path);
-        ExpectFailure(Export({design, path}), ending, ENOSPC);
-        EXPECT_TRUE(std::filesystem::is_symlink(path));
-    });
+        ExpectFailure(Export({Example("DEGREES-0-360"), path}), ending, ENOSPC);
+        EXPECT_TRUE(std::filesystem::is_symlink(path)) << path;
+    }
     EXPECT_TRUE(std::filesystem::exists("/dev/full"));
 }
 
@@ -247,13 +234,13 @@ TEST_F(FailuresTest, AFolderWithoutPermissionIsAFailure) {
 // A file that could not even be opened is not ours to remove. A running program's own file cannot
 // be written by anybody, root included.
 TEST_F(FailuresTest, AFileThatCouldNotBeOpenedStaysAsItWas) {
-    const std::string design = Example("VOLTS-0-15");
-    ForEachForm([&](const std::string& path, const std::string& ending) {
+    for (const std::string ending : kEndings) {
+        const std::string path = Path("plate" + ending);
         std::filesystem::copy_file(VERNACLE_EXPORT, path);
-        ExpectFailure(RunProgram(path, {"--force", design, path}), ending, ETXTBSY);
-        ASSERT_TRUE(std::filesystem::is_regular_file(path));
+        ExpectFailure(RunProgram(path, {"--force", Example("VOLTS-0-15"), path}), ending, ETXTBSY);
+        ASSERT_TRUE(std::filesystem::is_regular_file(path)) << path;
         EXPECT_EQ(std::filesystem::file_size(path), std::filesystem::file_size(VERNACLE_EXPORT));
-    });
+    }
 }
 
 TEST_F(FailuresTest, OneFailureDoesNotKeepTheOthersFromBeingWritten) {

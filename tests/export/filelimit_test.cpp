@@ -19,11 +19,10 @@ constexpr const char* kBefore = "what stood there before";
 class FileLimitTest : public ExportTest {
 protected:
     ProcessResult ExportWithin(unsigned long bytes) const {
-        Words words = {"--at", kAt, "--size", "640x480", "--force", design_};
-        words.insert(words.end(), outputs.begin(), outputs.end());
         ProcessSetting setting;
         setting.largestFileBytes = bytes;
-        return Export(words, setting);
+        return Export(Joined({"--at", kAt, "--size", "640x480", "--force", design_}, outputs),
+                      setting);
     }
 
     // What a disk with room for all of it holds in the end.

@@ -100,9 +100,7 @@ TEST_F(OutputsTest, AtGivesTheSameBytesEverywhere) {
     germany.environment.push_back("TZ=XYZ-11:30");
     const auto written = [&](const ProcessSetting& setting) {
         const Words outputs = EveryForm();
-        Words words = {"--at", kAt, design};
-        words.insert(words.end(), outputs.begin(), outputs.end());
-        EXPECT_EQ(Export(words, setting).status, 0);
+        EXPECT_EQ(Export(Joined({"--at", kAt, design}, outputs), setting).status, 0);
         std::vector<std::string> texts;
         for (const std::string& path : outputs) {
             texts.push_back(ReadText(path));

@@ -63,6 +63,7 @@ protected:
         setting.environment.insert(setting.environment.begin(),
                                    {"-uQT_QPA_PLATFORM", "QT_LOGGING_RULES=default.warning=false",
                                     "HOME=" + Path("."), "XDG_RUNTIME_DIR=" + Path(".")});
+        setting.folder = Path("."); // which gets what the program keeps of a design
         return RunProgram("timeout", words, setting);
     }
 
