@@ -97,7 +97,7 @@ TEST_F(FilesTest, EndingsOfAnyCaseShow) {
     }
     Design.DesignFileName = Path("b.VRN");
     OpenPage("frmPlate");
-    ClickAndAnswer("Save", [this](QWidget& dialog) {
+    ClickAndAnswer("Save", [](QWidget& dialog) {
         const auto shown = [&] { return ShownIn(dialog); };
         EXPECT_TRUE(QTest::qWaitFor([&] { return shown().size() >= 3; }));
         EXPECT_EQ(shown(), (Strings{"a.vrn", "b.VRN", "c.Vrn"}));

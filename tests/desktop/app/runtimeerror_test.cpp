@@ -115,7 +115,7 @@ TEST_F(RunTimeErrorTest, EveryKindOfFailureIsShown) {
 }
 
 TEST_F(RunTimeErrorTest, TwoFailuresInARowGiveOneBoxWithTheFirst) {
-    EXPECT_EQ(RunWith([this] {
+    EXPECT_EQ(RunWith([] {
                   QTimer::singleShot(0, qApp, [] { throw RunTimeError("the second"); });
                   throw RunTimeError("the first");
               }),

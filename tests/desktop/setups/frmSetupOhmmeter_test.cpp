@@ -218,7 +218,7 @@ TEST_F(OhmmeterPageTest, AcceptingAnEmptyListStoresMinusOne) {
 TEST_F(OhmmeterPageTest, PreviewStoresAndMarksAndAllowsAccepting) {
     OpenOhmmeter();
     Type("txtLabel1", "inf");
-    PressPreview([this](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"0", "inf"})); });
+    PressPreview([](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"0", "inf"})); });
     EXPECT_EQ(Design.ScaleColor[1], -1);
     EXPECT_EQ(Design.SpecialNrOfTicmarks[1], 1);
     EXPECT_TRUE(IsEnabled("cmdAccept"));

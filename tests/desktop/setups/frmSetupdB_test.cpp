@@ -159,7 +159,7 @@ TEST_F(DecibelPageTest, PreviewComputesAndShows) {
     Type("txtFullScaledB", "6");
     Click("PrintLabelYes0");
     Click("PrintLabelYes6");
-    PressPreview([this](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"+6", "0"})); });
+    PressPreview([](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"+6", "0"})); });
     EXPECT_EQ(Design.TicLabelText[1][0], "+6");
 }
 
@@ -246,7 +246,7 @@ TEST_F(DecibelPageTest, BottomTicIsDrawnWithoutALabel) {
     for (const int row : {0, 23, 24}) {
         Click(RowName("PrintLabelYes", row));
     }
-    PressPreview([this](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"0", "-23"})); });
+    PressPreview([](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"0", "-23"})); });
     EXPECT_EQ(RowShown(24), "(bottom) | 0 | ");
 }
 

@@ -8,7 +8,7 @@
 namespace vernacle::test {
 namespace {
 
-using Calls = std::vector<std::string>;
+using Marks = std::vector<std::string>;
 
 struct LookRow {
     const char* name;
@@ -43,7 +43,7 @@ bool ContinuesFill(const std::string& call, const std::string& next) {
 }
 
 // Of many lines that fill an area, the first, the last and some between.
-std::string Written(const Calls& calls) {
+std::string Written(const Marks& calls) {
     constexpr std::size_t kMany = 40;
     std::string text;
     for (std::size_t start = 0; start < calls.size();) {
@@ -67,14 +67,14 @@ class KeptMarksTest : public SchematicTest, public ::testing::WithParamInterface
 TEST_P(KeptMarksTest, TopicsMarkWhatIsKept) {
     constexpr int kLastTopic = 45;
     const auto& [name, look] = GetParam();
-    const Calls bare = Draw(0, look).calls;
+    const Marks bare = Draw(0, look).calls;
     std::string text = "bare\n" + Written(bare);
     for (int topic = 1; topic <= kLastTopic; ++topic) {
-        const Calls& drawn = Draw(topic, look).calls;
+        const Marks& drawn = Draw(topic, look).calls;
         ASSERT_GE(drawn.size(), bare.size());
         const auto marks = drawn.begin() + std::ssize(bare);
         ASSERT_TRUE(std::equal(bare.begin(), bare.end(), drawn.begin())) << "marks are drawn last";
-        text += "topic " + std::to_string(topic) + "\n" + Written(Calls(marks, drawn.end()));
+        text += "topic " + std::to_string(topic) + "\n" + Written(Marks(marks, drawn.end()));
     }
     EXPECT_TRUE(IsAsKept(std::string("marks/") + name + ".txt", text));
 }
