@@ -122,7 +122,7 @@ TEST_F(SpecialPageTest, PreviewShowsWhatWasTyped) {
     TypeRow(1, ".25", " ");
     TypeRow(2, "0", "start");
     Click("Major0");
-    PressPreview([this](QWidget& form) {
+    PressPreview([](QWidget& form) {
         EXPECT_EQ(TextsOn(form), (Strings{"end", "", "start"}));
     });
     EXPECT_EQ(DeflectionsOf(1, 2), (std::vector<float>{1, 0.25F, 0}));
