@@ -122,9 +122,7 @@ TEST_F(SpecialPageTest, PreviewShowsWhatWasTyped) {
     TypeRow(1, ".25", " ");
     TypeRow(2, "0", "start");
     Click("Major0");
-    PressPreview([](QWidget& form) {
-        EXPECT_EQ(TextsOn(form), (Strings{"end", "", "start"}));
-    });
+    PressPreview([](QWidget& form) { EXPECT_EQ(TextsOn(form), (Strings{"end", "", "start"})); });
     EXPECT_EQ(DeflectionsOf(1, 2), (std::vector<float>{1, 0.25F, 0}));
     EXPECT_EQ(TicsInWords(1, 2),
               (Strings{"[end] print label major", "[ ] print label", "[start] print label"}));

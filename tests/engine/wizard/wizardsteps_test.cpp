@@ -75,6 +75,17 @@ TEST_F(WizardStepsTest, EachAcceptsItsRangeAndRefusesTheRest) {
     EXPECT_EQ(Enter(1, ""), "Please enter 20 minimum to 180 maximum");
 }
 
+// The tip's range has the unit of the caption, "Plate width, mm: ", where that has one.
+TEST_F(WizardStepsTest, TheTipsRangeIsInTheCaptionsUnit) {
+    for (const StepRow& row : kRows) {
+        const std::string caption = row.caption;
+        const std::size_t comma = caption.find(", ");
+        const std::string unit =
+            comma == caption.npos ? "" : caption.substr(comma + 2, caption.size() - comma - 4);
+        EXPECT_TRUE(WizardRange(Design, Step(row.step)).ends_with(unit)) << caption;
+    }
+}
+
 TEST_F(WizardStepsTest, ValuesGoIntoTheirFields) {
     const std::pair<int, float*> rows[] = {{1, &Design.PlateWidth},
                                            {2, &Design.PlateHeight},
