@@ -4,6 +4,7 @@
 #include <variant>
 
 #include "engine/base/numbertext.h"
+#include "engine/core/recordfields.h"
 
 namespace vernacle::gallery {
 
@@ -56,164 +57,36 @@ std::string ValueText(const DynamicValue& value) {
     return std::visit([](const auto& held) { return ValueText(held); }, value);
 }
 
-template <typename T>
-void DumpValue(const std::string& name, const T& value, std::string& lines) {
-    lines += name + " = " + ValueText(value) + "\n";
-}
-
-std::string EntryName(const std::string& table, int index) {
-    return table + "[" + PlainNumber(index) + "]";
-}
-
-template <typename T>
-void DumpIfDifferent(const std::string& name, const T& value, const T& atStart,
-                     std::string& lines) {
-    if (value != atStart) {
-        DumpValue(name, value, lines);
-    }
-}
-
-template <typename T, int Last>
-void DumpIfDifferent(const std::string& name, const Table<T, Last>& table,
-                     const Table<T, Last>& atStart, std::string& lines) {
-    for (int index = 0; index <= Last; ++index) {
-        DumpIfDifferent(EntryName(name, index), table[index], atStart[index], lines);
-    }
-}
-
-template <typename T, int LastScale, int LastTic>
-void DumpIfDifferent(const std::string& name, const TicTable<T, LastScale, LastTic>& table,
-                     const TicTable<T, LastScale, LastTic>& atStart, std::string& lines) {
-    for (int scale = 0; scale <= LastScale; ++scale) {
-        const std::string row = EntryName(name, scale);
-        for (int tic = 0; tic <= LastTic; ++tic) {
-            DumpIfDifferent(EntryName(row, tic), table[scale][tic], atStart[scale][tic], lines);
+std::string TextOf(const ConstFieldPointer& field) {
+    const auto textOf = [](auto pointer) -> std::string {
+        if constexpr (std::is_pointer_v<decltype(pointer)>) {
+            return ValueText(*pointer);
         }
-    }
+        return {};
+    };
+    return std::visit(textOf, field);
 }
 
-// A plain field always, a table's entries where they differ.
-template <auto Member>
-void DumpField(const char* name, const DesignRecord& design, const DesignRecord& atStart,
-               std::string& lines) {
-    if constexpr (requires { ValueText(design.*Member); }) {
-        DumpValue(name, design.*Member, lines);
-    } else {
-        DumpIfDifferent(name, design.*Member, atStart.*Member, lines);
-    }
+// "NAME", "NAME[3]" or "NAME[1][17]".
+std::string DumpedName(const RecordField& field, int outer, int inner) {
+    const std::string name = field.name;
+    return name + (field.indices > 0 ? "[" + PlainNumber(outer) + "]" : "") +
+           (field.indices > 1 ? "[" + PlainNumber(inner) + "]" : "");
 }
-
-struct Field {
-    const char* name;
-    void (*dump)(const char* name, const DesignRecord& design, const DesignRecord& atStart,
-                 std::string& lines);
-};
-
-constexpr Field kFields[] = {
-    {"DesignFileName", DumpField<&DesignRecord::DesignFileName>},
-    {"PlateWidth", DumpField<&DesignRecord::PlateWidth>},
-    {"PlateHeight", DumpField<&DesignRecord::PlateHeight>},
-    {"BottomToBearing", DumpField<&DesignRecord::BottomToBearing>},
-    {"BottomToHoles", DumpField<&DesignRecord::BottomToHoles>},
-    {"HoleSeparation", DumpField<&DesignRecord::HoleSeparation>},
-    {"PointerDeflection", DumpField<&DesignRecord::PointerDeflection>},
-    {"MinorTicLength", DumpField<&DesignRecord::MinorTicLength>},
-    {"MinorTicWidth", DumpField<&DesignRecord::MinorTicWidth>},
-    {"MajorTicLength", DumpField<&DesignRecord::MajorTicLength>},
-    {"MajorTicWidth", DumpField<&DesignRecord::MajorTicWidth>},
-    {"FontSize", DumpField<&DesignRecord::FontSize>},
-    {"ActualVirtualOffset", DumpField<&DesignRecord::ActualVirtualOffset>},
-    {"PlateStyle", DumpField<&DesignRecord::PlateStyle>},
-    {"DrawArcs", DumpField<&DesignRecord::DrawArcs>},
-    {"LabelRotation", DumpField<&DesignRecord::LabelRotation>},
-    {"PrintText", DumpField<&DesignRecord::PrintText>},
-    {"LabelSpacing", DumpField<&DesignRecord::LabelSpacing>},
-    {"FontName", DumpField<&DesignRecord::FontName>},
-    {"NumberOfScales", DumpField<&DesignRecord::NumberOfScales>},
-    {"DrawGraphic", DumpField<&DesignRecord::DrawGraphic>},
-    {"GraphicFileName", DumpField<&DesignRecord::GraphicFileName>},
-    {"LeftToGraphic", DumpField<&DesignRecord::LeftToGraphic>},
-    {"BottomToGraphic", DumpField<&DesignRecord::BottomToGraphic>},
-    {"GraphicWidth", DumpField<&DesignRecord::GraphicWidth>},
-    {"GraphicHeight", DumpField<&DesignRecord::GraphicHeight>},
-    {"ArcWidth", DumpField<&DesignRecord::ArcWidth>},
-    {"MessageLevel", DumpField<&DesignRecord::MessageLevel>},
-    {"NumberOfTexts", DumpField<&DesignRecord::NumberOfTexts>},
-    {"NumberOfHighlights", DumpField<&DesignRecord::NumberOfHighlights>},
-    {"PlateBackground", DumpField<&DesignRecord::PlateBackground>},
-    {"AspectRatio", DumpField<&DesignRecord::AspectRatio>},
-    {"NumberOfCorrectionPoints", DumpField<&DesignRecord::NumberOfCorrectionPoints>},
-    {"DrawHighlights", DumpField<&DesignRecord::DrawHighlights>},
-    {"PlateOutlineCircular", DumpField<&DesignRecord::PlateOutlineCircular>},
-    {"ScaleColor", DumpField<&DesignRecord::ScaleColor>},
-    {"ScaleLeftEnd", DumpField<&DesignRecord::ScaleLeftEnd>},
-    {"ScaleLengthUnits", DumpField<&DesignRecord::ScaleLengthUnits>},
-    {"BottomToTitle", DumpField<&DesignRecord::BottomToTitle>},
-    {"BottomToScaleCeiling", DumpField<&DesignRecord::BottomToScaleCeiling>},
-    {"ScaleTitle", DumpField<&DesignRecord::ScaleTitle>},
-    {"NrOfTicmarks", DumpField<&DesignRecord::NrOfTicmarks>},
-    {"MajorEveryHowMany", DumpField<&DesignRecord::MajorEveryHowMany>},
-    {"LabelsEveryHowMany", DumpField<&DesignRecord::LabelsEveryHowMany>},
-    {"LinearityExponent", DumpField<&DesignRecord::LinearityExponent>},
-    {"SpecialNrOfTicmarks", DumpField<&DesignRecord::SpecialNrOfTicmarks>},
-    {"UnlabelledBottomTic", DumpField<&DesignRecord::UnlabelledBottomTic>},
-    {"FullscaleMultiplier", DumpField<&DesignRecord::FullscaleMultiplier>},
-    {"RelativeFontSize", DumpField<&DesignRecord::RelativeFontSize>},
-    {"PrintTicsAndArcs", DumpField<&DesignRecord::PrintTicsAndArcs>},
-    {"TicDeflection", DumpField<&DesignRecord::TicDeflection>},
-    {"TicLabelYN", DumpField<&DesignRecord::TicLabelYN>},
-    {"TicPrintYN", DumpField<&DesignRecord::TicPrintYN>},
-    {"TicMajorYN", DumpField<&DesignRecord::TicMajorYN>},
-    {"TicLabelText", DumpField<&DesignRecord::TicLabelText>},
-    {"StandardDeflection", DumpField<&DesignRecord::StandardDeflection>},
-    {"StandardLabel", DumpField<&DesignRecord::StandardLabel>},
-    {"StandardTicYN", DumpField<&DesignRecord::StandardTicYN>},
-    {"StandardLabelYN", DumpField<&DesignRecord::StandardLabelYN>},
-    {"DeletedTicCount", DumpField<&DesignRecord::DeletedTicCount>},
-    {"DeletedLabelCount", DumpField<&DesignRecord::DeletedLabelCount>},
-    {"DeletedTics", DumpField<&DesignRecord::DeletedTics>},
-    {"DeletedLabels", DumpField<&DesignRecord::DeletedLabels>},
-    {"TextString", DumpField<&DesignRecord::TextString>},
-    {"LeftToText", DumpField<&DesignRecord::LeftToText>},
-    {"BottomToText", DumpField<&DesignRecord::BottomToText>},
-    {"TextRelativeSize", DumpField<&DesignRecord::TextRelativeSize>},
-    {"TextColor", DumpField<&DesignRecord::TextColor>},
-    {"HighlightStart", DumpField<&DesignRecord::HighlightStart>},
-    {"HighlightStop", DumpField<&DesignRecord::HighlightStop>},
-    {"HighlightCeiling", DumpField<&DesignRecord::HighlightCeiling>},
-    {"HighlightLength", DumpField<&DesignRecord::HighlightLength>},
-    {"HighlightColor", DumpField<&DesignRecord::HighlightColor>},
-    {"CorrectionPair", DumpField<&DesignRecord::CorrectionPair>},
-    {"CorrectionSlope", DumpField<&DesignRecord::CorrectionSlope>},
-    {"CalibrationX", DumpField<&DesignRecord::CalibrationX>},
-    {"CalibrationY", DumpField<&DesignRecord::CalibrationY>},
-    {"CurrentScale", DumpField<&DesignRecord::CurrentScale>},
-    {"ActiveScale", DumpField<&DesignRecord::ActiveScale>},
-    {"HelpTopic", DumpField<&DesignRecord::HelpTopic>},
-    {"ProgramName", DumpField<&DesignRecord::ProgramName>},
-    {"VersionText", DumpField<&DesignRecord::VersionText>},
-    {"ScreenScaleX", DumpField<&DesignRecord::ScreenScaleX>},
-    {"ScreenScaleY", DumpField<&DesignRecord::ScreenScaleY>},
-    {"SharedIndex2", DumpField<&DesignRecord::SharedIndex2>},
-    {"TicLoop", DumpField<&DesignRecord::TicLoop>},
-};
 
 } // namespace
 
 std::string DumpDesign(const DesignRecord& design, const DesignRecord& atStart) {
     std::string lines;
-    for (const Field& field : kFields) {
-        field.dump(field.name, design, atStart, lines);
+    for (const RecordField& field : RecordFields()) {
+        ForEachEntry(field, [&](int outer, int inner) {
+            const ConstFieldPointer value = field.place.In(design, outer, inner);
+            if (field.indices == 0 || !SameValue(value, field.place.In(atStart, outer, inner))) {
+                lines += DumpedName(field, outer, inner) + " = " + TextOf(value) + "\n";
+            }
+        });
     }
     return lines;
-}
-
-std::vector<std::string_view> DumpedFields() {
-    std::vector<std::string_view> names;
-    for (const Field& field : kFields) {
-        names.emplace_back(field.name);
-    }
-    return names;
 }
 
 } // namespace vernacle::gallery

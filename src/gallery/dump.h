@@ -2,8 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "engine/core/design.h"
 
@@ -14,8 +12,5 @@ namespace vernacle::gallery {
 // are plain, texts in double quotes with their control characters escaped; a DynamicValue is
 // written as what it holds.
 std::string DumpDesign(const DesignRecord& design, const DesignRecord& atStart);
-
-// The names of the dumped fields, in that order.
-std::vector<std::string_view> DumpedFields();
 
 } // namespace vernacle::gallery

@@ -73,6 +73,7 @@ struct DesignRecord {
     std::int16_t NumberOfCorrectionPoints = 0;
     std::string DrawHighlights;            // "Y" or "N"; not stored in a file
     std::int16_t PlateOutlineCircular = 0; // 1 circular, 0 rectangular; not stored in a file
+    float LeftToBearing = -1; // of a quadrant plate in the workshop; below 0 it is in the middle
 
     // The scales
     PerScale<std::int32_t>
@@ -129,6 +130,8 @@ struct DesignRecord {
     // The movement's correction curve; correction/curve
     Table<float, kLastPairEntry> CorrectionPair;
     Table<float, kCurvePoints - 1> CorrectionSlope;
+
+    std::string ForeignLines; // of its file: marked with a star, and known to no field
 
     // The printer; render/calibrate
     float CalibrationX = 0;

@@ -11,9 +11,10 @@
 namespace vernacle {
 
 using FieldPointer =
-    std::variant<std::monostate, float*, std::int16_t*, std::int32_t*, std::string*>;
-using ConstFieldPointer = std::variant<std::monostate, const float*, const std::int16_t*,
-                                       const std::int32_t*, const std::string*>;
+    std::variant<std::monostate, float*, std::int16_t*, std::int32_t*, std::string*, DynamicValue*>;
+using ConstFieldPointer =
+    std::variant<std::monostate, const float*, const std::int16_t*, const std::int32_t*,
+                 const std::string*, const DynamicValue*>;
 
 ConstFieldPointer AsConst(const FieldPointer& field);
 
@@ -51,7 +52,8 @@ constexpr FieldPlace At = {[](DesignRecord& design, int outer, int inner) -> Fie
 constexpr FieldPlace Nowhere = {
     [](DesignRecord& /*design*/, int /*outer*/, int /*inner*/) { return FieldPointer(); }};
 
-// Stores the number as the field's type; a failed conversion is a run-time error.
+// Stores the number as the field's type, in a DynamicValue as a number; a failed conversion is a
+// run-time error.
 void StoreIn(const FieldPointer& field, double value);
 
 // Stores what is typed, by the rules of ParseEntry; a text takes no number, as in StoreIn.
@@ -61,6 +63,9 @@ double NumberIn(const ConstFieldPointer& field);
 inline double NumberIn(const FieldPointer& field) {
     return NumberIn(AsConst(field));
 }
+
+// Whether both hold the same, floats bit for bit; fields of different types never do.
+bool SameValue(const ConstFieldPointer& a, const ConstFieldPointer& b);
 
 // The field as a box shows it: a number in its plain form, a text as it stands.
 std::string PlainText(const ConstFieldPointer& field);
