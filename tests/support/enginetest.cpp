@@ -9,6 +9,7 @@
 #include "engine/base/hostservices.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 #include "engine/render/drawing.h"
 
 namespace vernacle::test {
@@ -27,6 +28,7 @@ std::filesystem::path MakeFolder() {
 
 EngineTest::EngineTest() : folder_(MakeFolder()) {
     std::setlocale(LC_ALL, ""); // as a window system does: a decimal comma must not get in
+    StoreService(Program::Everyday);
     Design = DesignRecord{};
     Drawing = DrawingState{};
     LastStepTrace = StepTrace{};
@@ -54,6 +56,7 @@ EngineTest::EngineTest() : folder_(MakeFolder()) {
 }
 
 EngineTest::~EngineTest() {
+    StoreService(Program::Everyday);
     Host = DefaultHost();
     std::error_code ignored;
     std::filesystem::permissions(folder_, std::filesystem::perms::owner_all, ignored);

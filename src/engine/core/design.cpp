@@ -1,4 +1,5 @@
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 
 #include <array>
 
@@ -16,6 +17,7 @@ using D = DesignRecord;
 using Value = std::variant<std::monostate, double, const char*>;
 
 constexpr std::monostate kNotSet{};
+constexpr double kSteepestExponent = 4; // of a law; 0 to a negative power has no value
 
 // What a field starts as: at the process's start, and at each reset. The two disagree on purpose:
 // the start shows a plate that fits a common small meter, a reset one that reads easily.
@@ -92,6 +94,16 @@ constexpr Default kHighlightDefaults[] = {
     {At<&D::HighlightStop>, kNotSet, 0.0},     //
 };
 
+// What the everyday program lets a design inherit from the one before it.
+constexpr Default kInherited[] = {
+    {At<&D::DrawHighlights>, kNotSet, "N"},       //
+    {At<&D::FontName>, kNotSet, "Arial"},         //
+    {At<&D::ForeignLines>, kNotSet, ""},          //
+    {At<&D::GraphicFileName>, kNotSet, ""},       //
+    {At<&D::LeftToBearing>, kNotSet, -1.0},       //
+    {At<&D::PlateOutlineCircular>, kNotSet, 0.0}, //
+};
+
 void Put(const Value& value, const FieldPointer& slot) {
     if (const auto* text = std::get_if<const char*>(&value)) {
         *std::get<std::string*>(slot) = *text;
@@ -132,8 +144,10 @@ void ResetScale(DesignRecord& design, int scale) {
     }
 }
 
-void ResetDeletedLists(DesignRecord& design) {
-    for (int scale = 1; scale <= kFiledLists; ++scale) {
+void ResetDeletedLists(DesignRecord& design, int lists) {
+    for (int scale = 1; scale <= lists; ++scale) {
+        design.DeletedTicCount[scale] = 0;
+        design.DeletedLabelCount[scale] = 0;
         for (int entry = 1; entry <= kLastTic; ++entry) {
             design.DeletedTics[scale][entry] = 0;
             design.DeletedLabels[scale][entry] = 0;
@@ -167,8 +181,11 @@ constexpr Repair kPlateRepairs[] = {
     {.place = At<&D::DrawArcs>, .when = When::Empty, .text = "Y"},
     {.place = At<&D::PrintText>, .when = When::Empty, .text = "Y"},
     {.place = At<&D::LabelRotation>, .when = When::Empty, .text = "H"},
-    {.place = At<&D::FontName>, .text = "Arial"},
-    {At<&D::NumberOfScales>, When::Always, 0, 1},
+    {.place = At<&D::FontName>, .text = "Arial", .liftedBy = &ServiceState::styles},
+    {.place = At<&D::FontName>, .when = When::Empty, .text = "Arial"},
+    {.place = At<&D::NumberOfScales>, .becomes = 1, .liftedBy = &ServiceState::severalScales},
+    {At<&D::NumberOfScales>, When::Below, 1, 1},
+    {At<&D::NumberOfScales>, When::Above, kScales, kScales},
     {At<&D::CurrentScale>, When::Always, 0, 1},
 };
 
@@ -179,8 +196,10 @@ constexpr Repair kScaleRepairs[] = {
     {At<&D::LabelsEveryHowMany>, When::Below, 1, 10},
     {At<&D::NrOfTicmarks>, When::Below, 1, 50},
     {At<&D::NrOfTicmarks>, When::Above, kLastTic, kLastTic},
-    {At<&D::LinearityExponent>, When::Always, 0, 1},
-    {At<&D::ScaleColor>, When::Always, 0, 0},
+    {.place = At<&D::LinearityExponent>, .becomes = 1, .liftedBy = &ServiceState::exponent},
+    {At<&D::LinearityExponent>, When::NotAbove, 0, 1},
+    {At<&D::LinearityExponent>, When::Above, kSteepestExponent, kSteepestExponent},
+    {.place = At<&D::ScaleColor>, .becomes = 0, .liftedBy = &ServiceState::specialScales},
     {At<&D::ScaleLengthUnits>, When::Equal, 0, 100},
 };
 
@@ -232,9 +251,8 @@ void SetLinearCurve(DesignRecord& design) {
 
 void ResetDesign(DesignRecord& design) {
     PutAll(design, kDefaults, &Default::reset);
-    for (int scale = 1; scale <= kFiledLists; ++scale) {
-        design.DeletedTicCount[scale] = 0;
-        design.DeletedLabelCount[scale] = 0;
+    if (Service.carefulFiles) {
+        PutAll(design, kInherited, &Default::reset);
     }
     for (int scale = 1; scale <= kScales; ++scale) {
         ResetScale(design, scale);
@@ -245,13 +263,15 @@ void ResetDesign(DesignRecord& design) {
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
         PutAll(design, kHighlightDefaults, &Default::reset, highlight);
     }
-    ResetDeletedLists(design);
+    ResetDeletedLists(design, Service.carefulFiles ? kScales : kFiledLists);
     SetLinearCurve(design);
 }
 
 int NormalizeDesign(DesignRecord& design) {
     RepairFields(design, kPlateRepairs);
-    NormalizeScale(design, 1);
+    for (int scale = 1; scale <= design.NumberOfScales; ++scale) {
+        NormalizeScale(design, scale);
+    }
     return 0;
 }
 

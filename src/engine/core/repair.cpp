@@ -35,6 +35,9 @@ void RepairFields(DesignRecord& design, std::span<const Repair> rows, int index)
         return added ? number + NumberIn(added.In(design, index)) : number;
     };
     for (const Repair& row : rows) {
+        if (IsLifted(row.liftedBy)) {
+            continue;
+        }
         const FieldPointer field = row.place.In(design, index);
         if (auto* const* text = std::get_if<std::string*>(&field)) {
             if (Applies(row.when, **text)) {

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "engine/core/fieldplace.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -19,7 +20,8 @@ struct Repair {
     double becomes = 0;
     FieldPlace boundField = {};
     FieldPlace becomesField = {};
-    const char* text = nullptr; // that a text becomes
+    const char* text = nullptr;  // that a text becomes
+    LiftedBy liftedBy = nullptr; // what is forced only where this is not in service
 };
 
 // In the order of the rows, each upon those before it; of tables, the entry of the index.

@@ -1,5 +1,7 @@
 #include "engine/correction/curve.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string_view>
 
 #include "engine/base/hostservices.h"
@@ -31,6 +33,15 @@ double X(const DesignRecord& design, int point) {
 
 double Y(const DesignRecord& design, int point) {
     return double{design.CorrectionPair[YAt(point)]};
+}
+
+// Points are 32-bit floats: a thousandth entered is a hair less or more between them.
+constexpr double kLeastRise = 0.001 - 1e-6;
+constexpr double kBeyondEnds = 0.1; // of the swing
+
+double SlopeOf(const DesignRecord& design, int segment) {
+    return (Y(design, segment + 1) - Y(design, segment)) /
+           (X(design, segment + 1) - X(design, segment));
 }
 
 // first, blanks, and second beginning in that column (counted from 1).
@@ -111,6 +122,36 @@ void ComputeCorrectionSlopes(DesignRecord& design) {
         const double run = X(design, segment + 1) - X(design, segment);
         StoreNumber(CheckedDivide(rise, run), design.CorrectionSlope[segment]);
     }
+}
+
+void ComputeGuardedSlopes(DesignRecord& design) {
+    for (int segment = 1; segment < kCurvePoints; ++segment) {
+        const auto slope = static_cast<float>(SlopeOf(design, segment));
+        design.CorrectionSlope[segment] = std::isfinite(slope) ? slope : 1;
+    }
+}
+
+bool CurveRises(const DesignRecord& design) {
+    for (int point = 2; point <= kCurvePoints; ++point) {
+        const double run = X(design, point) - X(design, point - 1);
+        const double rise = Y(design, point) - Y(design, point - 1);
+        if (!(run >= kLeastRise) || !(rise >= kLeastRise)) { // nor does one that is no number
+            return false;
+        }
+    }
+    return true;
+}
+
+double ContinuedDeflection(const DesignRecord& design, double f) {
+    double shown = f;
+    if (CurveRises(design)) {
+        int segment = 1;
+        while (segment < kCurvePoints - 1 && f >= X(design, segment + 1)) {
+            ++segment;
+        }
+        shown = Y(design, segment) + (f - X(design, segment)) * SlopeOf(design, segment);
+    }
+    return std::clamp(shown, -kBeyondEnds, 1 + kBeyondEnds);
 }
 
 float CorrectDeflection(const DesignRecord& design, float& f) {

@@ -16,6 +16,18 @@ void ComputeCorrectionSlopes(DesignRecord& design);
 // held to 0 .. 1 in place. A value on a point belongs to the segment above it.
 float CorrectDeflection(const DesignRecord& design, float& f);
 
+// The same, but a neighbour with the same X, through which no line has a slope, gives it slope 1.
+void ComputeGuardedSlopes(DesignRecord& design);
+
+// Whether each point stands above the one before it, in X and in Y, by at least a thousandth: else
+// no drawing can follow the curve.
+bool CurveRises(const DesignRecord& design);
+
+// The deflection that the pointer of this movement shows at the fraction f of full scale, by the
+// points alone: before the first and behind the last the curve goes on as its end segments do, to
+// at most a tenth of the swing beyond either end. One that does not rise counts as straight.
+double ContinuedDeflection(const DesignRecord& design, double f);
+
 // Writes the curve to a correction file; an empty name does nothing. A failure is reported. Once
 // the file is open the curve has seven points, whatever came of writing them.
 void WriteCorrectionFile(DesignRecord& design, const std::string& name);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "engine/correction/curve.h"
+#include "engine/designfile/starlines.h"
 #include "engine/scale/scale.h"
 
 namespace vernacle {
@@ -10,6 +11,7 @@ namespace vernacle {
 namespace {
 
 using D = DesignRecord;
+using S = ServiceState;
 
 // What the file keeps and the program does not offer: the stored value is read and given up.
 void ForceStandardStyle(DesignRecord& design) {
@@ -46,7 +48,15 @@ void ForceTicsAndArcs(DesignRecord& design) {
     design.PrintTicsAndArcs.fill(std::int16_t{0});
 }
 
-// A curve does not survive a file: what is left is the identity between its ends.
+// Lines leave texts; pages store numbers.
+void NumberTicsAndArcs(DesignRecord& design) {
+    for (int scale = 0; scale <= kLastFlagScale; ++scale) {
+        DynamicValue& value = design.PrintTicsAndArcs[scale];
+        value = static_cast<std::int16_t>(NumberOf(value) != 0 ? 1 : 0);
+    }
+}
+
+// What is left is the identity between the curve's ends.
 void ForceStraightCurve(DesignRecord& design) {
     constexpr int kFirst = 1;
     constexpr int kLast = 2 * kCurvePoints - 1;
@@ -86,7 +96,7 @@ void ListDeletions(DesignRecord& design, LinePlace /*place*/) {
 }
 
 // A step between the lines.
-constexpr FileLine Step(int stage, ReadingStep afterReading = nullptr) {
+constexpr FileLine Step(int stage, AfterReading afterReading = {}) {
     return {nullptr, nullptr, Nowhere, nullptr, stage, afterReading};
 }
 
@@ -94,6 +104,7 @@ constexpr FileLine Step(int stage, ReadingStep afterReading = nullptr) {
 constexpr FileLine kHead[] = {
     {"Filename: ",                       WriteGlued,      At<&D::DesignFileName>,            Drop,            417},
     {"",                                 WriteDateTime,   Nowhere,                           Drop,            422},
+    {kStarMark,                          WriteNothing,    Nowhere,                           nullptr,         424, {}, nullptr, nullptr, &S::carefulFiles},
     {"Plate width: ",                    WritePlain,      At<&D::PlateWidth>,                ReadEntry,       427},
     {"Plate height: ",                   WritePlain,      At<&D::PlateHeight>,               ReadEntry,       433},
     {"Bottom to bearing: ",              WritePlain,      At<&D::BottomToBearing>,           ReadEntry,       438},
@@ -110,12 +121,12 @@ constexpr FileLine kHead[] = {
     {"Actual/virtual offset: ",          WritePlain,      At<&D::ActualVirtualOffset>,       ReadEntry,       493},
     {"Dummy3: ",                         WriteThree,      Nowhere,                           Drop,            498},
     {"Dummy4: ",                         WriteFour,       Nowhere,                           Drop,            503},
-    {"Plate style: ",                    WritePlain,      At<&D::PlateStyle>,                ReadEntry,       508, ForceStandardStyle},
+    {"Plate style: ",                    WritePlain,      At<&D::PlateStyle>,                ReadEntry,       508, {ForceStandardStyle, &S::styles}},
     {"Draw arcs Y/N:",                   WriteGlued,      At<&D::DrawArcs>,                  ReadText,        513},
     {"Label rotation H/V/B:",            WriteGlued,      At<&D::LabelRotation>,             ReadText,        518},
     {"Print text Y/N:",                  WriteGlued,      At<&D::PrintText>,                 ReadText,        523},
     {"Label spacing: ",                  WritePlain,      At<&D::LabelSpacing>,              ReadEntry,       528},
-    {"Font style: ",                     WriteGlued,      At<&D::FontName>,                  ReadTrimmed,     533, ForceFont},
+    {"Font style: ",                     WriteGlued,      At<&D::FontName>,                  ReadTrimmed,     533, {ForceFont, &S::styles}},
     {"Number of scales: ",               WritePlain,      At<&D::NumberOfScales>,            ReadEntry,       538},
     Step(544),
 };
@@ -143,8 +154,11 @@ constexpr FileLine kSpecialScaleHead[] = {
     {"* Deflection, Label Y/N, Tic Y/N, Major Y/N, Label:",WriteNothing,    Nowhere,                           nullptr,         617},
 };
 
+// A label with a colon is cut where no other stands before it.
+constexpr FileLine kNumberedTic =
+    {"",                                 WriteNumberedTic,Nowhere,                           ReadTicFields,   620, {}, FillEmptyLabel};
 constexpr FileLine kSpecialTic =
-    {"",                                 WriteTicFields,  Nowhere,                           ReadTicFields,   620, nullptr, FillEmptyLabel};
+    {"",                                 WriteTicFields,  Nowhere,                           ReadTicFields,   620, {}, FillEmptyLabel};
 
 constexpr FileLine kSpecialScaleFoot[] = {
     {"Unlabelled ticmark at scale bottom Y/N: ",WriteTrimmed,    At<&D::UnlabelledBottomTic>,       ReadText,        625},
@@ -153,8 +167,8 @@ constexpr FileLine kSpecialScaleFoot[] = {
 };
 
 constexpr FileLine kPlateTail[] = {
-    {"Draw graphic Y/N:",                WriteGlued,      At<&D::DrawGraphic>,               ReadText,        645, ForceNoGraphic, nullptr, DropUndrawnGraphic},
-    {"Graphic filename:",                WriteGlued,      At<&D::GraphicFileName>,           ReadText,        650, ForceNoGraphicFile},
+    {"Draw graphic Y/N:",                WriteGlued,      At<&D::DrawGraphic>,               ReadText,        645, {ForceNoGraphic, &S::reserveStages}, nullptr, DropUndrawnGraphic},
+    {"Graphic filename:",                WriteGlued,      At<&D::GraphicFileName>,           ReadText,        650, {ForceNoGraphicFile, &S::reserveStages}},
     {"Left to graphic: ",                WritePlain,      At<&D::LeftToGraphic>,             ReadEntry,       655},
     {"Bottom to graphic: ",              WritePlain,      At<&D::BottomToGraphic>,           ReadEntry,       660},
     {"Graphic width: ",                  WritePlain,      At<&D::GraphicWidth>,              ReadEntry,       665},
@@ -173,7 +187,7 @@ constexpr FileLine kText[] = {
 };
 
 constexpr FileLine kHighlightCount =
-    {"Highlights: ",                     WritePlain,      At<&D::NumberOfHighlights>,        ReadVal,         715, SwitchHighlightsOn, CountHighlights};
+    {"Highlights: ",                     WritePlain,      At<&D::NumberOfHighlights>,        ReadVal,         715, {SwitchHighlightsOn}, CountHighlights};
 
 constexpr FileLine kHighlight[] = {
     {"Starting percentage: ",            WritePlain,      At<&D::HighlightStart>,            ReadEntry,       720},
@@ -184,13 +198,13 @@ constexpr FileLine kHighlight[] = {
 };
 
 constexpr FileLine kBackground[] = {
-    Step(743, ForceNoHighlights),
-    {"Plate background: ",               WritePlain,      At<&D::PlateBackground>,           ReadVal,         745, ForceWhitePlate},
+    Step(743, {ForceNoHighlights, &S::reserveStages}),
+    {"Plate background: ",               WritePlain,      At<&D::PlateBackground>,           ReadVal,         745, {ForceWhitePlate, &S::styles}},
 };
 
 // The lists of scales 5 and 6 have no lines: deletions there do not outlive the session.
 constexpr FileLine kDeletedTics[kFiledLists] = {
-    {"Scale 1 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         750, nullptr, ListDeletions},
+    {"Scale 1 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         750, {}, ListDeletions},
     {"Scale 2 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         760},
     {"Scale 3 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         770},
     {"Scale 4 - deleted tics: ",         WritePlain,      At<&D::DeletedTicCount>,           ReadVal,         780},
@@ -222,12 +236,15 @@ constexpr FileLine kFontSize =
     {"Scale %: ",                        WritePlain,      At<&D::RelativeFontSize>,          ReadEntry,       835};
 
 constexpr FileLine kAspect[] = {
-    {"Aspect ratio: ",                   WritePlain,      At<&D::AspectRatio>,               ReadVal,         840, HoldAspect},
-    {"Number of correction points: ",    WritePlain,      At<&D::NumberOfCorrectionPoints>,  ReadFirstVal,    845, ForceSevenPoints},
+    {"Aspect ratio: ",                   WritePlain,      At<&D::AspectRatio>,               ReadVal,         840, {HoldAspect}},
+    {"Number of correction points: ",    WritePlain,      At<&D::NumberOfCorrectionPoints>,  ReadFirstVal,    845, {ForceSevenPoints, &S::curveInFile}},
 };
 constexpr FileLine kCurvePoint =
     {"Pair #%: ",                        WriteCurvePoint, Nowhere,                           ReadCurvePoint,  850};
-constexpr FileLine kAfterCurve = Step(852, ForceStraightCurve);
+constexpr FileLine kAfterCurve[] = {
+    Step(852, {ForceStraightCurve, &S::curveInFile}),
+    Step(853, {.take = ComputeGuardedSlopes, .takenWith = &S::curveInFile}),
+};
 
 constexpr FileLine kTicsAndArcsHeading =
     {"Print ticmarks and arcs:",         WriteNothing,    Nowhere,                           Drop,            855};
@@ -236,7 +253,8 @@ constexpr FileLine kTicsAndArcs =
 // What the file gains stands behind what is forced and before the end: a file that is older ends
 // there, and nothing behind is run.
 constexpr FileLine kTail[] = {
-    Step(862, ForceTicsAndArcs),
+    Step(862, {ForceTicsAndArcs, &S::severalScales}),
+    Step(863, {.take = NumberTicsAndArcs, .takenWith = &S::severalScales}),
     Step(990),
 };
 // clang-format on
@@ -283,7 +301,7 @@ void FileWalker::Walk() {
     for (int point = 1; point <= kCurvePoints; ++point) {
         Visit(kCurvePoint, {point});
     }
-    Visit(kAfterCurve, {});
+    VisitAll(kAfterCurve);
     WalkPerScale(kTicsAndArcsHeading, kTicsAndArcs);
     VisitAll(kTail);
 }
@@ -296,7 +314,7 @@ void FileWalker::WalkScale(int scale) {
     }
     VisitAll(kSpecialScaleHead, {scale});
     for (int tic = 0, last = design_.SpecialNrOfTicmarks[scale]; tic <= last; ++tic) {
-        Visit(kSpecialTic, {scale, tic});
+        Visit(Service.carefulFiles ? kNumberedTic : kSpecialTic, {scale, tic});
     }
     VisitAll(kSpecialScaleFoot, {scale});
 }

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/linevalues.h"
 
 namespace vernacle {
@@ -12,16 +13,28 @@ namespace vernacle {
 using WritingStep = void (*)(DesignRecord& design, LinePlace place);
 using ReadingStep = void (*)(DesignRecord& design);
 
+// A step that is left out where a member is in service, or taken only where one is.
+struct AfterReading {
+    ReadingStep take = nullptr;
+    LiftedBy liftedBy = nullptr;
+    LiftedBy takenWith = nullptr;
+
+    bool IsDue(const ServiceState& service) const {
+        return take && !(liftedBy && service.*liftedBy) && !(takenWith && !(service.*takenWith));
+    }
+};
+
 // One line of the file, or, without a label and a way to read, one step between lines.
 struct FileLine {
     const char* label = nullptr; // "%" stands for the number of the scale, the text or the point
     WriteValue write = nullptr;
     FieldPlace place = Nowhere;
-    ReadValue read = nullptr;           // none: the reader takes no line
-    int stage = 0;                      // what the reader's failure message quotes
-    ReadingStep afterReading = nullptr; // what is forced, whatever the line said
+    ReadValue read = nullptr;       // none: the reader takes no line
+    int stage = 0;                  // what the reader's failure message quotes
+    AfterReading afterReading = {}; // what is forced, whatever the line said
     WritingStep beforeWriting = nullptr;
     WritingStep afterWriting = nullptr;
+    LiftedBy writtenWith = nullptr; // only where this is in service; none: always
 };
 
 // Whether a row stands before the blocks of the scales.

@@ -94,6 +94,10 @@ std::string WriteTicFields(const LineSource& line) {
     return text;
 }
 
+std::string WriteNumberedTic(const LineSource& line) {
+    return "Tic " + std::to_string(line.place.inner) + ":" + WriteTicFields(line);
+}
+
 void FillEmptyLabel(DesignRecord& design, LinePlace place) {
     std::string& label = design.TicLabelText[place.outer][place.inner];
     if (Trimmed(label).empty()) {

@@ -33,6 +33,7 @@ std::string WritePadded(const LineSource& line);      // blank or minus, number,
 std::string WriteGlued(const LineSource& line);       // text as it stands
 std::string WriteTrimmed(const LineSource& line);     // text without its outer blanks
 std::string WriteTicFields(const LineSource& line);   // the five fields of a special tic
+std::string WriteNumberedTic(const LineSource& line); // with "Tic n:" before them
 std::string WriteCurvePoint(const LineSource& line);  // X \ Y of a correction point
 std::string WriteTicsAndArcs(const LineSource& line); // PrintTicsAndArcs of the scale
 std::string WriteDeletedTic(const LineSource& line);  // an entry of a scale's list

@@ -10,7 +10,9 @@
 #include "engine/base/linereader.h"
 #include "engine/base/samefile.h"
 #include "engine/designfile/designlines.h"
+#include "engine/designfile/leftout.h"
 #include "engine/designfile/linedoubts.h"
+#include "engine/designfile/starlines.h"
 
 namespace vernacle {
 
@@ -39,7 +41,7 @@ public:
 
 private:
     void Visit(const FileLine& line, LinePlace place) override {
-        if (!line.label) {
+        if (!line.label || (line.writtenWith && !IsLifted(line.writtenWith))) {
             return;
         }
         if (line.beforeWriting) {
@@ -70,10 +72,12 @@ struct EndOfDesign {};
 
 class DesignReader : public FileWalker {
 public:
-    DesignReader(DesignRecord& design, std::string text, int& stage, const ReadReports& reports)
+    DesignReader(DesignRecord& design, std::string text, const ServiceState& service, int& stage,
+                 const ReadReports& reports)
         : FileWalker(design),
           design_(design),
           lines_(std::move(text)),
+          service_(service),
           stage_(stage),
           reports_(reports) {}
 
@@ -100,8 +104,8 @@ private:
             const FieldPointer field = line.place.In(design_, place.outer, place.inner);
             line.read(value, {design_, field, place});
         }
-        if (line.afterReading) {
-            line.afterReading(design_);
+        if (line.afterReading.IsDue(service_)) {
+            line.afterReading.take(design_);
         }
     }
 
@@ -115,6 +119,7 @@ private:
 
     DesignRecord& design_;
     LineReader lines_;
+    const ServiceState& service_;
     int& stage_;
     const ReadReports& reports_;
     LineDoubts doubts_{reports_.doubt};
@@ -158,10 +163,42 @@ void WriteDesignFile(DesignRecord& design) {
     sink->Close();
 }
 
+// Everything is made before a file is touched, and of a copy: writing leaves the design as it is.
+void WriteCarefully(const DesignRecord& design) {
+    const std::string bytes = ToFileBytes(DesignText(design));
+    const auto sink = Host.openForOutput(design.DesignFileName);
+    sink->Write(bytes);
+    sink->Close();
+}
+
+// What a text's lines say by their places, over the defaults.
+void ReadPositions(DesignRecord& design, const std::string& text, int& stage,
+                   const ReadReports& reports) {
+    ResetDesign(design);
+    DesignReader(design, text, Service, stage, reports).Read();
+}
+
+// Careful reading leaves the design that was there until all has been read.
+void ReadInto(DesignRecord& design, const std::string& text, int& stage,
+              const ReadReports& reports) {
+    if (!Service.carefulFiles) {
+        ReadPositions(design, text, stage, reports);
+        return;
+    }
+    const auto fresh = std::make_unique<DesignRecord>(design);
+    ReadPositions(*fresh, text, stage, reports);
+    TakeStarLines(*fresh, text);
+    design = *fresh;
+}
+
 bool TryToWrite(DesignRecord& design) {
     try {
         RefuseCalibration(design.DesignFileName);
-        WriteDesignFile(design);
+        if (Service.carefulFiles) {
+            WriteCarefully(design);
+        } else {
+            WriteDesignFile(design);
+        }
         return true;
     } catch (const RunTimeError&) {
         return false;
@@ -169,6 +206,38 @@ bool TryToWrite(DesignRecord& design) {
 }
 
 } // namespace
+
+std::string DesignText(const DesignRecord& design) {
+    const auto copy = std::make_unique<DesignRecord>(design);
+    std::string text;
+    const auto run = [&copy](WritingStep step, LinePlace place) { step(*copy, place); };
+    DesignWriter(*copy, text, run).Walk();
+    text += kLineEnd;
+    const auto readBack = std::make_unique<DesignRecord>(design);
+    int stage = kStageReset;
+    ReadPositions(*readBack, text, stage, {});
+    return text + StarLines(design, *readBack);
+}
+
+std::vector<std::string> LeftOutOf(const std::string& bytes) {
+    const auto design = std::make_unique<DesignRecord>();
+    SetOpeningValues(*design);
+    ResetDesign(*design);
+    try {
+        const std::string text = FromFileBytes(bytes);
+        int stage = kStageReset;
+        DesignReader(*design, text, ServiceOf(Program::Workshop), stage, {}).Read();
+        TakeStarLines(*design, text);
+    } catch (const RunTimeError&) {
+        return {}; // whoever reads it says so
+    }
+    return WhatEverydayLeavesOut(*design);
+}
+
+void ReadDesignText(DesignRecord& design, const std::string& text) {
+    int stage = kStageReset;
+    ReadInto(design, text, stage, {});
+}
 
 bool WriteDesign(DesignRecord& design) {
     const bool written = TryToWrite(design);
@@ -215,11 +284,16 @@ void ReadDesign(DesignRecord& design, const std::string& name, const ReadReports
     }
     int stage = kStageOpen;
     try {
-        const std::string bytes = ReadBytes(name, reports);
+        const std::string text = FromFileBytes(ReadBytes(name, reports));
         stage = kStageReset;
-        ResetDesign(design);
-        DesignReader(design, FromFileBytes(bytes), stage, reports).Read();
+        ReadInto(design, text, stage, reports);
     } catch (const RunTimeError&) {
+        if (Service.carefulFiles) {
+            ReportFailure("We were not successful in reading that Vernacle file.\n"
+                          "The design stays as it was.\n\nReadWrite " +
+                          std::to_string(stage));
+            return;
+        }
         ResetDesign(design);
         ReportFailure("We were not successful in reading that Vernacle file.\n"
                       "Default values for all items have been put in place.\n\nReadWrite " +

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "engine/base/readreports.h"
 #include "engine/core/design.h"
@@ -13,6 +14,17 @@ namespace vernacle {
 // Writing changes the design a little: empty labels of special tics become "/", a graphic that is
 // not drawn loses its file name, the highlights and deletions are counted anew.
 bool WriteDesign(DesignRecord& design);
+
+// The text of a careful file: the lines by their places, then what they cannot hold. A run-time
+// error for a design whose tables a file has no lines for.
+std::string DesignText(const DesignRecord& design);
+
+// The design that such a text holds; a run-time error leaves the one that was there.
+void ReadDesignText(DesignRecord& design, const std::string& text);
+
+// What the design in a file's bytes has in use that an everyday plate leaves out, in words; nothing
+// where they cannot be read.
+std::vector<std::string> LeftOutOf(const std::string& bytes);
 
 // WriteDesign, unless the name is empty.
 void SaveDesign(DesignRecord& design, const std::string& name);

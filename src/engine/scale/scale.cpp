@@ -6,6 +6,7 @@
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -40,7 +41,9 @@ void ComputeLabels(DesignRecord& design, int scale) {
 void Collect(DeletionFlags::Row flags, std::int16_t& count, DeletedList& list) {
     count = 0;
     for (int tic = 0; tic <= kLastTic; ++tic) {
-        if (flags[tic] == "N") {
+        // Careful files keep the flags themselves, and so the one for which the list has no room.
+        const bool hasRoom = !Service.carefulFiles || count < kLastTic;
+        if (flags[tic] == "N" && hasRoom) {
             ++count;
             list[count] = static_cast<std::int16_t>(tic);
         }
