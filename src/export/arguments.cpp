@@ -27,6 +27,7 @@ Options:
   --at "YYYY-MM-DD hh:mm:ss"  date and time to write instead of the present ones
   --force                  write over a .vrn that exists
   --strict                 take a doubt about what is read for a failure, and write nothing
+  --workshop               draw and write everything that the design holds, as the workshop does
   --help                   print this and exit
   --version                print the version and exit
 
@@ -49,7 +50,8 @@ enum Option {
     kAtOption,
     kCalibrationOption,
     kPaperOption,
-    kSizeOption
+    kSizeOption,
+    kWorkshopOption
 };
 
 constexpr option kOptions[] = {
@@ -61,6 +63,7 @@ constexpr option kOptions[] = {
     {"calibration", required_argument, nullptr, kCalibrationOption},
     {"paper", required_argument, nullptr, kPaperOption},
     {"size", required_argument, nullptr, kSizeOption},
+    {"workshop", no_argument, nullptr, kWorkshopOption},
     {nullptr, 0, nullptr, 0},
 };
 
@@ -114,6 +117,9 @@ void TakeOption(int option, const char* value, Arguments& arguments) {
         break;
     case kStrictOption:
         arguments.strict = true;
+        break;
+    case kWorkshopOption:
+        arguments.workshop = true;
         break;
     case kAtOption:
         arguments.at = CheckedTime(value);

@@ -15,6 +15,7 @@ struct Arguments {
     bool version = false;
     bool force = false;                     // an existing design may be written over
     bool strict = false;                    // a doubt about what is read is a failure
+    bool workshop = false;                  // all that the design holds is in service
     std::string at;                         // "YYYY-MM-DD hh:mm:ss"; empty for the present time
     std::optional<std::string> calibration; // file of the printer's factors; none: both are 1
     Sheet paper = kSheets[0];

@@ -17,6 +17,7 @@
 
 #include "engine/base/hostservices.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/output/calibrate.h"
 #include "export/arguments.h"
@@ -53,7 +54,8 @@ void SayOnlyWhatIsSerious(QtMsgType type, const QMessageLogContext& /*context*/,
 struct Progress {
     bool failed = false;
     bool doubted = false;
-    std::string reason; // the system's, of a file that could not be written
+    std::string lastRead; // bytes of the last file: a pipe cannot be read again
+    std::string reason;   // the system's, of a file that could not be written
 };
 
 // A sink whose failure is known by its reason; the engine's own writers say only that there was
@@ -104,7 +106,9 @@ void SetHost(const Arguments& arguments, Progress& progress) {
         progress.reason = progress.reason.empty() ? report.reason : progress.reason;
         Say(report.text);
     };
-    Host.readFile = ReadFileOrInput;
+    Host.readFile = [&progress](const std::string& path) {
+        return progress.lastRead = ReadFileOrInput(path);
+    };
     Host.openForOutput = [&progress](const std::string& path) {
         return OpenNoting(path, progress);
     };
@@ -151,6 +155,17 @@ LineReport SayingFor(const std::string& file, bool& happened) {
     };
 }
 
+// No doubt about what is read: a word for whoever wonders where it has gone.
+void SayWhatIsLeftOut(const std::string& design, const std::string& bytes) {
+    std::string list;
+    for (const std::string& words : LeftOutOf(bytes)) {
+        list += (list.empty() ? "" : ", ") + words;
+    }
+    if (!list.empty()) {
+        Say(kProgram + design + ": left out without --workshop: " + list);
+    }
+}
+
 bool ReadInputs(DesignRecord& design, const Arguments& arguments, Progress& progress) {
     design.CalibrationX = design.CalibrationY = 1;
     if (arguments.calibration) {
@@ -161,6 +176,9 @@ bool ReadInputs(DesignRecord& design, const Arguments& arguments, Progress& prog
     ReadDesign(design, arguments.design,
                {.doubt = SayingFor(arguments.design, progress.doubted),
                 .failure = SayingFor(arguments.design, progress.failed)});
+    if (!arguments.workshop && !progress.failed) {
+        SayWhatIsLeftOut(arguments.design, progress.lastRead);
+    }
     if (progress.doubted && arguments.strict && !progress.failed) {
         Say(std::string(kProgram) + "nothing was written");
         return false;
@@ -234,6 +252,7 @@ int Run(int argc, char** argv) {
     if (arguments.version) {
         return Print("vernacle-export " VERNACLE_VERSION "\n");
     }
+    StoreService(arguments.workshop ? Program::Workshop : Program::Everyday);
     CheckEndings(arguments);
     CheckDesignsStay(arguments);
     std::unique_ptr<QGuiApplication> application; // fonts need one, files do not

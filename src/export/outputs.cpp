@@ -7,6 +7,7 @@
 
 #include "engine/base/hostservices.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/output/hpgl.h"
 #include "engine/output/print.h"
@@ -68,11 +69,15 @@ void WriteSvg(DesignRecord& design, const std::string& path, const Arguments& ar
 }
 
 void WritePng(DesignRecord& design, const std::string& path, const Arguments& arguments) {
+    const int width = arguments.widthPixels;
+    const int height = arguments.heightPixels;
+    const DeviceMap map = Service.truePlate ? DeviceMap::OfPage(TrueArea(design), width, height)
+                                            : DeviceMap::OfScreen(width, height);
     DrawingState state;
     const auto draw = [&](DrawingSurface& surface) {
         DrawPage(design, surface, PreviewTraits(), {design.FontSize, design.LabelSpacing}, state);
     };
-    WriteBytes(path, MakePng(arguments.widthPixels, arguments.heightPixels, draw));
+    WriteBytes(path, MakePng(width, height, map, draw));
 }
 
 void WriteVrn(DesignRecord& design, const std::string& path, const Arguments& /*arguments*/) {

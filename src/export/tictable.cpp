@@ -7,6 +7,7 @@
 
 #include "engine/base/text.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/correction/curve.h"
 #include "engine/output/print.h"
 #include "engine/render/stages.h"
@@ -44,12 +45,28 @@ std::string Quoted(const std::string& text) {
     return quoted + "\"";
 }
 
+DrawingTraits TableTraits() {
+    return Service.truePlate ? TruePlateTraits(TrueMedium::Paper) : PrintTraits();
+}
+
+float Corrected(const DesignRecord& design, float deflection) {
+    return Service.truePlate ? static_cast<float>(ContinuedDeflection(design, double{deflection}))
+                             : CorrectDeflection(design, deflection);
+}
+
+// A true plate leaves out what its pointer cannot meet.
+bool IsMet(const DesignRecord& design, const PlateFrame& frame, const ArcPlace& place, int scale) {
+    return !Service.truePlate ||
+           MeetsArc(frame, place.pointerAngleRad,
+                    ScaleRadius(frame, double{design.BottomToScaleCeiling[scale]}));
+}
+
 using Labels = std::map<int, std::string>; // by tic
 
 Labels PrintedLabels(const DesignRecord& design, int scale) {
     Labels labels;
     if (design.PrintText == "Y") {
-        WalkLabels(design, scale, PrintTraits().labelFlags, [&labels](const TicLabel& label) {
+        WalkLabels(design, scale, TableTraits().labelFlags, [&labels](const TicLabel& label) {
             const std::string text = PrintedLabel(label);
             if (!Trimmed(text).empty()) {
                 labels[label.number] = text;
@@ -61,11 +78,14 @@ Labels PrintedLabels(const DesignRecord& design, int scale) {
 
 std::string Row(const DesignRecord& design, const Tic& tic, const Labels& labels) {
     const PlateFrame frame = MillimetreFrame(design);
-    const ArcPlace place = PlaceTic(design, frame, Correction::Applied, tic.scale, tic.deflection);
+    const ArcPlace place =
+        PlaceTic(design, frame, TableTraits().correction, tic.scale, tic.deflection);
+    if (!IsMet(design, frame, place, tic.scale)) {
+        return "";
+    }
     const SurfacePoint end = AlongPointer(frame, place.point, place.pointerAngleRad,
                                           TicLength(design, tic), DirectionOf(tic.scale));
-    float limited = tic.deflection;
-    const float corrected = CorrectDeflection(design, limited);
+    const float corrected = Corrected(design, tic.deflection);
     const auto label = labels.find(tic.number);
     const bool labelled = label != labels.end();
     std::string row = std::to_string(tic.scale) + "," + std::to_string(tic.number);
@@ -88,7 +108,7 @@ std::string TicTableText(const DesignRecord& design) {
             continue;
         }
         const Labels labels = PrintedLabels(design, scale);
-        WalkTics(design, scale, PrintTraits().ticFlags,
+        WalkTics(design, scale, TableTraits().ticFlags,
                  [&](const Tic& tic) { table += Row(design, tic, labels); });
     }
     return table;

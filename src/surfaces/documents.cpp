@@ -132,6 +132,10 @@ std::string MakeSvg(const Sheet& sheet, const std::string& title, const PrintOn&
 }
 
 std::string MakePng(int widthPixels, int heightPixels, const DrawOn& draw) {
+    return MakePng(widthPixels, heightPixels, DeviceMap::OfScreen(widthPixels, heightPixels), draw);
+}
+
+std::string MakePng(int widthPixels, int heightPixels, const DeviceMap& map, const DrawOn& draw) {
     QImage image(widthPixels, heightPixels, QImage::Format_RGB32);
     if (image.isNull()) {
         throw RunTimeError("A picture of that size cannot be made");
@@ -140,7 +144,7 @@ std::string MakePng(int widthPixels, int heightPixels, const DrawOn& draw) {
     {
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        PainterSurface surface(painter, DeviceMap::OfScreen(widthPixels, heightPixels));
+        PainterSurface surface(painter, map);
         draw(surface);
     }
     QBuffer buffer;

@@ -35,4 +35,7 @@ std::string MakeSvg(const Sheet& sheet, const std::string& title, const PrintOn&
 // The bytes of a PNG of a whole screen of that size.
 std::string MakePng(int widthPixels, int heightPixels, const DrawOn& draw);
 
+// The same of what that map shows.
+std::string MakePng(int widthPixels, int heightPixels, const DeviceMap& map, const DrawOn& draw);
+
 } // namespace vernacle

@@ -34,6 +34,10 @@ void DrawingRecord::SetForeColor(Colour colour) {
     Keep([=](DrawingSurface& surface) { surface.SetForeColor(colour); });
 }
 
+void DrawingRecord::SetLineThickness(double units) {
+    Keep([=](DrawingSurface& surface) { surface.SetLineThickness(units); });
+}
+
 void DrawingRecord::Line(float x1, float y1, float x2, float y2, Colour colour) {
     currentX_ = x2;
     currentY_ = y2;
@@ -46,6 +50,12 @@ void DrawingRecord::Box(float x1, float y1, float x2, float y2, Colour colour) {
 
 void DrawingRecord::FilledBox(float x1, float y1, float x2, float y2, Colour colour) {
     Keep([=](DrawingSurface& surface) { surface.FilledBox(x1, y1, x2, y2, colour); });
+}
+
+void DrawingRecord::FillArea(std::span<const SurfacePoint> corners, Colour colour) {
+    Keep([kept = std::vector(corners.begin(), corners.end()), colour](DrawingSurface& surface) {
+        surface.FillArea(kept, colour);
+    });
 }
 
 void DrawingRecord::Circle(float x, float y, float r, Colour colour) {
@@ -88,6 +98,10 @@ void DrawingRecord::BeginFont(int height, int width, int escapement, const std::
 
 void DrawingRecord::EndFont() {
     Keep([](DrawingSurface& surface) { surface.EndFont(); });
+}
+
+void DrawingRecord::PlaceText(const std::string& text, const TextPlace& place) {
+    Keep([=](DrawingSurface& surface) { surface.PlaceText(text, place); });
 }
 
 void DrawingRecord::PaintPicture(const std::string& file, float x, float y, float width,

@@ -23,9 +23,11 @@ public:
     void Clear() override;
     void SetLineWidth(int pixels) override;
     void SetForeColor(Colour colour) override;
+    void SetLineThickness(double units) override;
     void Line(float x1, float y1, float x2, float y2, Colour colour) override;
     void Box(float x1, float y1, float x2, float y2, Colour colour) override;
     void FilledBox(float x1, float y1, float x2, float y2, Colour colour) override;
+    void FillArea(std::span<const SurfacePoint> corners, Colour colour) override;
     void Circle(float x, float y, float r, Colour colour) override;
     void SetCurrentX(float x) override;
     void SetCurrentY(float y) override;
@@ -39,6 +41,7 @@ public:
     float TextHeight(const std::string& text) const override { return measure_.TextHeight(text); }
     void BeginFont(int height, int width, int escapement, const std::string& face) override;
     void EndFont() override;
+    void PlaceText(const std::string& text, const TextPlace& place) override;
     void PaintPicture(const std::string& file, float x, float y, float width,
                       float height) override;
 

@@ -7,6 +7,7 @@
 
 #include "engine/base/runtimeerror.h"
 #include "engine/geometry/screen.h"
+#include "engine/geometry/sheet.h"
 #include "surfaces/colours.h"
 #include "surfaces/paintclip.h"
 #include "surfaces/picturefile.h"
@@ -20,6 +21,7 @@ constexpr double kScreenUnitsX = 12000;
 constexpr double kScreenUnitsY = 9000;
 constexpr int kUsualPoints = 8;
 constexpr double kTenthsPerDegree = 10;
+constexpr double kDegreesPerRadian = 57.29577951308232;
 
 // How far beyond what is seen painting goes on, painter coordinates. What reaches out no further is
 // painted whole, and so as if nothing were cut; together with the largest screen it stays well
@@ -60,8 +62,23 @@ DeviceMap DeviceMap::OfScreen(int widthPixels, int heightPixels) {
     return map;
 }
 
+DeviceMap DeviceMap::OfPage(double perUnit) {
+    DeviceMap map;
+    map.perUnitX = map.perUnitY = perUnit;
+    map.perPixel = perUnit * kSheetUnitsPerMm * kMmPerInch / kPrinterDpi;
+    map.pixelsPerPoint = kPrinterDpi / 72;
+    return map;
+}
+
+DeviceMap DeviceMap::OfPage(const LogicalArea& area, double width, double height) {
+    DeviceMap map = OfPage(std::min(width / area.width, height / area.height));
+    map.originX = width / 2 - (area.left + area.width / 2) * map.perUnitX;
+    map.originY = height / 2 - (area.top + area.height / 2) * map.perUnitY;
+    return map;
+}
+
 PainterSurface::PainterSurface(QPainter& painter, const DeviceMap& map)
-    : painter_(painter), map_(map) {
+    : painter_(painter), map_(map), penWidth_(map.perPixel) {
     PainterSurface::SetFontSize(kUsualPoints);
 }
 
@@ -78,7 +95,7 @@ QRectF PainterSurface::ToDevice(float x1, float y1, float x2, float y2) const {
 }
 
 QPen PainterSurface::MakePen(Colour colour, Qt::PenJoinStyle join) const {
-    return {ToQColor(colour), lineWidth_ * map_.perPixel, Qt::SolidLine, Qt::FlatCap, join};
+    return {ToQColor(colour), penWidth_, Qt::SolidLine, Qt::FlatCap, join};
 }
 
 template <typename Paint>
@@ -147,7 +164,11 @@ void PainterSurface::Clear() {
 }
 
 void PainterSurface::SetLineWidth(int pixels) {
-    lineWidth_ = std::max(pixels, 1);
+    penWidth_ = std::max(pixels, 1) * map_.perPixel;
+}
+
+void PainterSurface::SetLineThickness(double units) {
+    penWidth_ = units * map_.perUnitX;
 }
 
 void PainterSurface::SetForeColor(Colour colour) {
@@ -195,6 +216,27 @@ void PainterSurface::FilledBox(float x1, float y1, float x2, float y2, Colour co
     painter_.fillRect(Clamped(ToDevice(x1, y1, x2, y2), Painted(0)), ToQColor(colour));
 }
 
+void PainterSurface::FillArea(std::span<const SurfacePoint> corners, Colour colour) {
+    Flush();
+    QPolygonF area;
+    for (const SurfacePoint& corner : corners) {
+        area << ToDevice(corner.x, corner.y);
+    }
+    if (area.size() < 3 || !std::all_of(area.begin(), area.end(), IsFinite)) {
+        return;
+    }
+    QPainterPath shape;
+    shape.addPolygon(area);
+    shape.closeSubpath();
+    const QRectF painted = Painted(0);
+    if (!painted.contains(area.boundingRect())) {
+        QPainterPath window;
+        window.addRect(painted);
+        shape = shape.intersected(window);
+    }
+    painter_.fillPath(shape, ToQColor(colour));
+}
+
 void PainterSurface::Circle(float x, float y, float r, Colour colour) {
     Flush();
     const double radius = double{r} * map_.perUnitX;
@@ -227,19 +269,36 @@ void PainterSurface::PrintText(const std::string& text) {
 }
 
 void PainterSurface::WriteAt(QPointF corner, const std::string& text) {
-    Flush();
-    const Typeface& face = Face(made_ ? madeName_ : ordinaryName_);
     const MadeFont font = made_.value_or(MadeFont{OrdinaryScale(), OrdinaryScale(), 0});
+    Write(text, made_ ? madeName_ : ordinaryName_, font, corner, {});
+}
+
+void PainterSurface::PlaceText(const std::string& text, const TextPlace& place) {
+    const Typeface& face = Face(place.face);
+    const double scale = place.em * map_.perUnitX / Typeface::kReferenceSize;
+    const bool fromLeft = place.anchor == TextAnchor::TopLeft;
+    const double across = fromLeft ? 0 : face.Advance(ShownText(text)) / 2;
+    const double capitals =
+        place.anchor == TextAnchor::Middle ? face.CapHeight() / 2 : face.CapHeight();
+    Write(text, place.face, {scale, scale, place.turnRad * kDegreesPerRadian},
+          ToDevice(place.at.x, place.at.y), {across, face.Ascent() - capitals});
+}
+
+void PainterSurface::Write(const std::string& text, const std::string& family, const MadeFont& font,
+                           QPointF at, QPointF inReference) {
+    Flush();
+    const Typeface& face = Face(family);
     const double smallest = kSmallestLetters / Typeface::kReferenceSize;
-    if (font.scaleX < smallest || font.scaleY < smallest || !IsFinite(corner)) {
+    if (font.scaleX < smallest || font.scaleY < smallest || !IsFinite(at)) {
         return;
     }
     QTransform turned;
-    turned.translate(corner.x(), corner.y());
+    turned.translate(at.x(), at.y());
     if (font.degrees != 0) {
         turned.rotate(-font.degrees);
     }
     turned.scale(font.scaleX, font.scaleY);
+    turned.translate(-inReference.x(), -inReference.y());
     const TextView view = {turned.inverted().mapRect(Painted(0)),
                            turned.inverted().mapRect(Seen())};
     const QTransform usual = painter_.transform();

@@ -10,9 +10,15 @@
 #include <QPolygonF>
 
 #include "engine/geometry/drawingsurface.h"
+#include "engine/geometry/logicalarea.h"
 #include "surfaces/typeface.h"
 
 namespace vernacle {
+
+constexpr double kMmPerInch = 25.4;
+
+// On paper line widths, made fonts and turned labels count device pixels of this many to the inch.
+constexpr double kPrinterDpi = 600;
 
 // From the logical units of a surface to the coordinates of its painter: the one place where
 // device units exist.
@@ -27,6 +33,14 @@ struct DeviceMap {
     // The whole logical area of 12000 x 9000 units in a picture of that size. Line widths and fonts
     // are those of a screen of limited width, magnified.
     static DeviceMap OfScreen(int widthPixels, int heightPixels);
+
+    // Of a printer's page, its corner at the origin, so many painter coordinates to its unit: line
+    // widths and letters count the pixels of a printer of 600 dpi.
+    static DeviceMap OfPage(double perUnit);
+
+    // That area of a printer's page, as large as a picture of that size shows it whole, and in the
+    // picture's middle.
+    static DeviceMap OfPage(const LogicalArea& area, double width, double height);
 };
 
 // The text without its control characters: they have no shape, and an SVG that holds one is no XML.
@@ -46,10 +60,12 @@ public:
     void Clear() override;
     void SetLineWidth(int pixels) override;
     void SetForeColor(Colour colour) override;
+    void SetLineThickness(double units) override;
     // Held back while lines continue each other: they are painted as one, with round joins.
     void Line(float x1, float y1, float x2, float y2, Colour colour) override;
     void Box(float x1, float y1, float x2, float y2, Colour colour) override;
     void FilledBox(float x1, float y1, float x2, float y2, Colour colour) override;
+    void FillArea(std::span<const SurfacePoint> corners, Colour colour) override;
     void Circle(float x, float y, float r, Colour colour) override;
     void SetCurrentX(float x) override { current_.setX(double{x}); }
     void SetCurrentY(float y) override { current_.setY(double{y}); }
@@ -63,6 +79,7 @@ public:
     float TextHeight(const std::string& text) const override;
     void BeginFont(int height, int width, int escapement, const std::string& face) override;
     void EndFont() override;
+    void PlaceText(const std::string& text, const TextPlace& place) override;
     void PaintPicture(const std::string& file, float x, float y, float width,
                       float height) override;
 
@@ -79,6 +96,10 @@ private:
         double scaleY;
         double degrees; // counter-clockwise
     };
+
+    // Writes in that font, whose own top left corner (of the reference font) is put at `at`.
+    void Write(const std::string& text, const std::string& family, const MadeFont& font, QPointF at,
+               QPointF inReference);
 
     // Without smoothing: upright and level lines stay crisp, and one over another covers it.
     template <typename Paint>
@@ -103,7 +124,7 @@ private:
 
     QPainter& painter_;
     DeviceMap map_;
-    int lineWidth_ = 1;
+    double penWidth_; // painter coordinates
     Colour foreColour_ = kBlackInk;
     QPointF current_;        // logical
     int ordinaryPixels_ = 0; // character height

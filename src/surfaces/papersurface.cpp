@@ -10,19 +10,19 @@ namespace vernacle {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
-constexpr double kUnitsPerMm = 2 * kSheetUnitsPerHalfMm;
 
 // Where the logical area begins on a sheet: its middle stands in the sheet's, or, where the area is
 // longer than the sheet, the plate's own middle does.
 double AreaStartMm(double sheetMm, double areaUnits, double centreUnits) {
-    const double areaMm = areaUnits / kUnitsPerMm;
-    return sheetMm >= areaMm ? (sheetMm - areaMm) / 2 : sheetMm / 2 - centreUnits / kUnitsPerMm;
+    const double areaMm = areaUnits / kSheetUnitsPerMm;
+    return sheetMm >= areaMm ? (sheetMm - areaMm) / 2
+                             : sheetMm / 2 - centreUnits / kSheetUnitsPerMm;
 }
 
 DeviceMap MapOf(double coordinatesPerInch, const Sheet& sheet) {
     const double perMm = coordinatesPerInch / kMmPerInch;
     DeviceMap map;
-    map.perUnitX = map.perUnitY = perMm / kUnitsPerMm;
+    map.perUnitX = map.perUnitY = perMm / kSheetUnitsPerMm;
     map.originX = AreaStartMm(sheet.widthMm, kSheetWidth, kSheetCentre.x) * perMm;
     map.originY = AreaStartMm(sheet.heightMm, kSheetHeight, kSheetCentre.y) * perMm;
     map.perPixel = coordinatesPerInch / kPrinterDpi;

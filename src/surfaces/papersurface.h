@@ -9,8 +9,6 @@
 
 namespace vernacle {
 
-constexpr double kMmPerInch = 25.4;
-
 struct Sheet {
     const char* name;
     double widthMm;
@@ -24,9 +22,6 @@ constexpr Sheet kSheets[] = {
     {"A4", 210, 297},
     {"Letter", 215.9, 279.4},
 };
-
-// Line widths, made fonts and turned labels count device pixels of this many to the inch.
-constexpr double kPrinterDpi = 600;
 
 class PaperSurface : public PrinterSurface {
 public:
@@ -47,6 +42,7 @@ public:
     void Clear() override { page_.Clear(); }
     void SetLineWidth(int pixels) override { page_.SetLineWidth(pixels); }
     void SetForeColor(Colour colour) override { page_.SetForeColor(colour); }
+    void SetLineThickness(double units) override { page_.SetLineThickness(units); }
     void Line(float x1, float y1, float x2, float y2, Colour colour) override {
         page_.Line(x1, y1, x2, y2, colour);
     }
@@ -55,6 +51,9 @@ public:
     }
     void FilledBox(float x1, float y1, float x2, float y2, Colour colour) override {
         page_.FilledBox(x1, y1, x2, y2, colour);
+    }
+    void FillArea(std::span<const SurfacePoint> corners, Colour colour) override {
+        page_.FillArea(corners, colour);
     }
     void Circle(float x, float y, float r, Colour colour) override {
         page_.Circle(x, y, r, colour);
@@ -73,6 +72,9 @@ public:
         page_.BeginFont(height, width, escapement, face);
     }
     void EndFont() override { page_.EndFont(); }
+    void PlaceText(const std::string& text, const TextPlace& place) override {
+        page_.PlaceText(text, place);
+    }
     void PaintPicture(const std::string& file, float x, float y, float width,
                       float height) override {
         page_.PaintPicture(file, x, y, width, height);

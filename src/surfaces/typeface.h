@@ -23,6 +23,7 @@ public:
 
     const QFont& ReferenceFont() const { return font_; }
     double Ascent() const { return metrics_.ascent(); }
+    double CapHeight() const { return metrics_.capHeight(); } // of a letter without a curve
     double CellHeight() const { return metrics_.ascent() + metrics_.descent(); }
     double Advance(const QString& text) const;
 

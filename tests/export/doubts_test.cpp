@@ -130,6 +130,44 @@ TEST_F(DoubtsTest, ASecondDesignIsNotWrittenOver) {
     EXPECT_NE(ReadFile("b.vrn"), "another");
 }
 
+struct LeftOut {
+    Edits edits;
+    const char* words;
+};
+
+// A note is no doubt: with --strict, too, everything is written.
+TEST_F(DoubtsTest, WhatAnEverydayPlateLeavesOutIsSaid) {
+    const LeftOut rows[] = {
+        {{{"Plate style: ", "1"}}, "the quadrant style"},
+        {{{"Font style: ", "Courier"}}, "the font"},
+        {{{"Scale color: ", "255"}}, "colours of scales"},
+        {{{"Linearity exponent: ", "2"}}, "exponents of scales"},
+        {{{"Draw graphic Y/N:", "Y"}}, "the graphic"},
+        {{{"Plate background: ", "255"}}, "the plate's background"},
+        {{{"Pair #2: ", ".15 \\ .2"}}, "the movement's correction"},
+        {{{"Texts: ", "1\r\nText 1:a\r\nLeft to text: 1\r\nBottom to text: 1\r\n"
+                      "Relative size: 1\r\nColor: 0"}},
+         "free texts"},
+        {{{"Highlights: ", "1\r\nStarting percentage: 10\r\nStopping percentage: 20\r\n"
+                           "Ceiling: 30\r\nLength: 2\r\nColor: 255"}},
+         "highlights"},
+        {{{"Plate style: ", "1"}, {"Scale color: ", "255"}},
+         "colours of scales, the quadrant style"},
+    };
+    for (const auto& [edits, words] : rows) {
+        SCOPED_TRACE(words);
+        const std::string design = EditedExample("VOLTS-0-15", edits);
+        const ProcessResult everyday = Export({"--strict", design, Path("p.csv")});
+        EXPECT_EQ(everyday.status, 0);
+        EXPECT_EQ(everyday.err,
+                  "vernacle-export: " + design + ": left out without --workshop: " + words + "\n");
+        const ProcessResult workshop = Export({"--strict", "--workshop", design, Path("p.csv")});
+        EXPECT_EQ(workshop.status, 0);
+        EXPECT_EQ(workshop.err, "");
+    }
+    EXPECT_EQ(Export({Example("VOLTS-0-15"), Path("p.csv")}).err, "");
+}
+
 } // namespace
 
 } // namespace vernacle::test

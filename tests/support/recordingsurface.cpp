@@ -76,6 +76,24 @@ void RecordingSurface::Box(float x1, float y1, float x2, float y2, Colour colour
 void RecordingSurface::FilledBox(float x1, float y1, float x2, float y2, Colour colour) {
     Record("FilledBox", Words(x1, y1, x2, y2, Hex(colour)));
 }
+void RecordingSurface::SetLineThickness(double units) {
+    Record("SetLineThickness", Words(units));
+}
+
+void RecordingSurface::FillArea(std::span<const SurfacePoint> corners, Colour colour) {
+    std::string words;
+    for (const SurfacePoint& corner : corners) {
+        words += Words(corner.x, corner.y) + " ";
+    }
+    Record("FillArea", words + Hex(colour));
+}
+
+void RecordingSurface::PlaceText(const std::string& text, const TextPlace& place) {
+    Record("PlaceText", Words(Quoted(text), place.at.x, place.at.y, static_cast<int>(place.anchor),
+                              place.em, place.turnRad, Quoted(place.face)));
+    texts.push_back(text);
+}
+
 void RecordingSurface::Circle(float x, float y, float r, Colour colour) {
     Record("Circle", Words(x, y, r, Hex(colour)));
 }

@@ -5,12 +5,19 @@
 #include "engine/base/runtimeerror.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
 namespace {
 
 constexpr double kQuadrantDegreesPerRadian = 57.295;
+
+// Only a quadrant plate has its bearing elsewhere than on its centre line.
+double BearingRightOf(const DesignRecord& design) {
+    const bool isMoved = Service.styles && design.PlateStyle == 1 && design.LeftToBearing >= 0;
+    return isMoved ? double{design.LeftToBearing} - double{design.PlateWidth} / 2 : 0;
+}
 
 } // namespace
 
@@ -27,6 +34,7 @@ PlateFrame FrameOfDesign(const DesignRecord& design, double plateScale, SurfaceP
         .widthMm = double{design.PlateWidth},
         .heightMm = double{design.PlateHeight},
         .bearingMm = double{design.BottomToBearing},
+        .bearingRightMm = BearingRightOf(design),
         .offsetMm = double{design.ActualVirtualOffset},
         .swingDeg = double{design.PointerDeflection},
         .quadrant = design.PlateStyle == 1,
@@ -40,6 +48,10 @@ PlateFrame MillimetreFrame(const DesignRecord& design) {
                          {half * double{design.PlateWidth}, -half * double{design.PlateHeight}});
 }
 
+bool IsFullCircle(const DesignRecord& design) {
+    return design.NumberOfScales == 1 && design.PointerDeflection == 360;
+}
+
 Direction DirectionOf(int scale) {
     const double half = scale / 2.0;
     return half == std::floor(half) ? Direction::Inward : Direction::Outward;
@@ -51,11 +63,11 @@ SurfacePoint PlatePoint(const PlateFrame& frame, double fromLeftMm, double fromB
 }
 
 SurfacePoint RealBearing(const PlateFrame& frame) {
-    return {frame.centreX, frame.Bottom() - 2 * frame.upPerHalfMm * frame.bearingMm};
+    return {frame.BearingX(), frame.Bottom() - 2 * frame.upPerHalfMm * frame.bearingMm};
 }
 
 SurfacePoint VirtualBearing(const PlateFrame& frame) {
-    return {frame.centreX,
+    return {frame.BearingX(),
             frame.Bottom() + 2 * frame.upPerHalfMm * (frame.offsetMm - frame.bearingMm)};
 }
 
@@ -77,8 +89,12 @@ double ArcAngle(const PlateFrame& frame, double pointerAngleRad, double radiusMm
 
 SurfacePoint ArcPoint(const PlateFrame& frame, double arcAngleRad, double radiusMm) {
     const double up = radiusMm * std::sin(arcAngleRad) - frame.offsetMm + frame.bearingMm;
-    return {frame.centreX - 2 * frame.AcrossPerHalfMm() * radiusMm * std::cos(arcAngleRad),
+    return {frame.BearingX() - 2 * frame.AcrossPerHalfMm() * radiusMm * std::cos(arcAngleRad),
             frame.Bottom() - 2 * frame.upPerHalfMm * up};
+}
+
+bool MeetsArc(const PlateFrame& frame, double pointerAngleRad, double radiusMm) {
+    return radiusMm > 0 && std::fabs(frame.offsetMm * std::cos(pointerAngleRad)) <= radiusMm;
 }
 
 ArcPlace PlaceOnArc(const PlateFrame& frame, double pointerAngleRad, double radiusMm) {

@@ -8,6 +8,8 @@
 //   ArcPoint      (centre - radius cos p, bottom - radius sin p + offset - bearing)
 #pragma once
 
+#include "engine/geometry/surfacepoint.h"
+
 namespace vernacle {
 
 struct DesignRecord;
@@ -29,22 +31,19 @@ struct PlateFrame {
     double centreY = 0;
     double widthMm = 0;
     double heightMm = 0;
-    double bearingMm = 0; // above the plate's bottom edge
-    double offsetMm = 0;  // real bearing down to the virtual one
+    double bearingMm = 0;      // above the plate's bottom edge
+    double bearingRightMm = 0; // of the plate's centre line
+    double offsetMm = 0;       // real bearing down to the virtual one
     double swingDeg = 0;
     bool quadrant = false;
     double degreesPerRadian = 0;
 
     double AcrossPerHalfMm() const { return plateScale * aspect; }
+    double BearingX() const { return centreX + 2 * AcrossPerHalfMm() * bearingRightMm; }
     double Left() const { return centreX - AcrossPerHalfMm() * widthMm; }
     double Right() const { return centreX + AcrossPerHalfMm() * widthMm; }
     double Top() const { return centreY - upPerHalfMm * heightMm; }
     double Bottom() const { return centreY + upPerHalfMm * heightMm; }
-};
-
-struct SurfacePoint {
-    double x = 0;
-    double y = 0;
 };
 
 // The measures of the design around that centre, with the same unit across and up.
@@ -52,6 +51,10 @@ PlateFrame FrameOfDesign(const DesignRecord& design, double plateScale, SurfaceP
 
 // The same in millimetres: the left edge and the bottom edge at 0, a height above the bottom at -y.
 PlateFrame MillimetreFrame(const DesignRecord& design);
+
+// Whether the one scale goes all around: texts at its first and its last tic would stand on each
+// other.
+bool IsFullCircle(const DesignRecord& design);
 
 // A place on a scale's arc.
 struct ArcPlace {
@@ -86,6 +89,9 @@ double ArcAngle(const PlateFrame& frame, double pointerAngleRad, double radiusMm
 
 // The point of the arc at that angle.
 SurfacePoint ArcPoint(const PlateFrame& frame, double arcAngleRad, double radiusMm);
+
+// Whether the pointer at angle t meets the arc at all: the sine rule has an answer.
+bool MeetsArc(const PlateFrame& frame, double pointerAngleRad, double radiusMm);
 
 // Both for the pointer at angle t.
 ArcPlace PlaceOnArc(const PlateFrame& frame, double pointerAngleRad, double radiusMm);

@@ -11,5 +11,6 @@ constexpr SurfacePoint kSheetCentre = {6000, 4000}; // where the middle of a pla
 
 // On a printer whose calibration factors are 1.
 constexpr double kSheetUnitsPerHalfMm = 28.289;
+constexpr double kSheetUnitsPerMm = 2 * kSheetUnitsPerHalfMm;
 
 } // namespace vernacle

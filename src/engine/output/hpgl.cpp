@@ -27,7 +27,9 @@
 #include "engine/base/text.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 #include "engine/geometry/geometry.h"
+#include "engine/output/trueplot.h"
 #include "engine/scale/scale.h"
 
 namespace vernacle {
@@ -69,6 +71,10 @@ std::string WithoutControls(std::string bytes) {
     return bytes;
 }
 
+std::string SizeStatement(const std::string& width, const std::string& height) {
+    return "SI " + width + " " + height;
+}
+
 class Plotter {
 public:
     Plotter(const DesignRecord& design, ByteSink& sink) : design_(design), sink_(sink) {}
@@ -86,7 +92,7 @@ private:
         Statement(word + PlotterNumber(numbers.x) + PlotterNumber(numbers.y));
     }
     void CharacterSize(const std::string& width, const std::string& height) {
-        Statement(std::string("SI ").append(width).append(" ").append(height));
+        Statement(SizeStatement(width, height));
     }
     void PenUp(Point at) { Command("PU", Nearest(at)); }
     void PenDown(Point at) { Command("PD", Nearest(at)); }
@@ -99,7 +105,6 @@ private:
     void PlotText(Point at, const std::string& text);
     void PlotRotatedText(double angle, Point at, const std::string& text);
 
-    void WriteHeader(HpglMode mode);
     void PlotCutLines();
     void PlotMarks();
     void PlotScale(int scale);
@@ -122,15 +127,6 @@ private:
     PlateFrame frame_ = PlotterFrame(design_);
     int tic_ = 0; // that is being plotted, and one more behind the last of a scale
 };
-
-// On a full circle of one scale, text at the first tic would stand on that of the last.
-bool IsFullCircle(const DesignRecord& design) {
-    return design.NumberOfScales == 1 && design.PointerDeflection == 360;
-}
-
-double ZeroIfTiny(double value) {
-    return std::fabs(value) <= 0.001 ? 0 : value;
-}
 
 void Plotter::PlotLine(Point from, Point to) {
     PenUp(from);
@@ -161,19 +157,6 @@ void Plotter::PlotRotatedText(double angle, Point at, const std::string& text) {
         Command("DI", {ZeroIfTiny(std::cos(angle)), ZeroIfTiny(std::sin(angle))});
     }
     Label(text);
-}
-
-void Plotter::WriteHeader(HpglMode mode) {
-    if (mode == HpglMode::PclPrinter) { // reset, portrait, enter HP-GL/2
-        for (const char* escape : {"E", "&l0O", "%1B"}) {
-            Statement(std::string(kEscape) + escape);
-        }
-    }
-    for (const char* command : {"IN", "SP1", "LT"}) {
-        Statement(command);
-    }
-    const double size = double{design_.FontSize};
-    CharacterSize(PlotterDigits(size / 60), PlotterDigits(size / 40));
 }
 
 // Outside the plate's edges and past its corners, so that they cross there.
@@ -302,7 +285,7 @@ void Plotter::PlotNotes(double rulerMm) {
 }
 
 void Plotter::WritePlateAndScales(HpglMode mode) {
-    WriteHeader(mode);
+    BeginPlot(sink_, mode, double{design_.FontSize});
     PlotCutLines();
     PlotMarks();
     Statement("SD 1,21 2,1 7,4");
@@ -313,14 +296,40 @@ void Plotter::WritePlateAndScales(HpglMode mode) {
 
 void Plotter::WriteRest(HpglMode mode) {
     PlotRuler();
-    Statement("PUSP0PG;");
-    if (mode == HpglMode::PclPrinter) {
-        Statement(std::string(kEscape) + "%1A");
-        Statement(std::string(kEscape) + "E");
-    }
+    EndPlot(sink_, mode);
 }
 
 } // namespace
+
+double ZeroIfTiny(double value) {
+    return std::fabs(value) <= 0.001 ? 0 : value;
+}
+
+void BeginPlot(ByteSink& sink, HpglMode mode, double fontSize) {
+    const auto statement = [&sink](const std::string& text) {
+        sink.Write(std::string(text).append(kLineEnd));
+    };
+    if (mode == HpglMode::PclPrinter) { // reset, portrait, enter HP-GL/2
+        for (const char* escape : {"E", "&l0O", "%1B"}) {
+            statement(std::string(kEscape) + escape);
+        }
+    }
+    for (const char* command : {"IN", "SP1", "LT"}) {
+        statement(command);
+    }
+    statement(SizeStatement(PlotterDigits(fontSize / 60), PlotterDigits(fontSize / 40)));
+}
+
+void EndPlot(ByteSink& sink, HpglMode mode) {
+    const auto statement = [&sink](const std::string& text) {
+        sink.Write(std::string(text).append(kLineEnd));
+    };
+    statement("PUSP0PG;");
+    if (mode == HpglMode::PclPrinter) {
+        statement(std::string(kEscape) + "%1A");
+        statement(std::string(kEscape) + "E");
+    }
+}
 
 PlateFrame PlotterFrame(const DesignRecord& design) {
     constexpr double kUnitsPerHalfMm = kUnitsPerMm / 2;
@@ -356,16 +365,22 @@ void WriteHpgl(DesignRecord& design, const std::string& path, HpglMode mode) {
     const std::string target = mode == HpglMode::File ? path : "LPT1";
     try {
         const auto sink = Host.openForOutput(target);
-        WriteHpglStream(design, *sink, mode);
+        if (Service.truePlate) {
+            PlotTruePlate(design, *sink, mode);
+        } else {
+            WriteHpglStream(design, *sink, mode);
+        }
         sink->Close();
     } catch (const RunTimeError& failure) {
         ReportFailure({"The HPGL file was not written correctly.", failure.what()});
         return;
     }
-    Host.informationBox(mode == HpglMode::File
-                            ? "THE HPGL FILE WAS SUCCESSFULLY WRITTEN TO\r\n" + path
-                            : "THE HPGL FILE WITH PCL HEADER/FOOTER WAS SENT DIRECTLY TO THE PCL "
-                              "PRINTER ON LPT1");
+    const bool lacksGraphic = Service.truePlate && design.DrawGraphic == "Y";
+    Host.informationBox((mode == HpglMode::File
+                             ? "THE HPGL FILE WAS SUCCESSFULLY WRITTEN TO\r\n" + path
+                             : "THE HPGL FILE WITH PCL HEADER/FOOTER WAS SENT DIRECTLY TO THE PCL "
+                               "PRINTER ON LPT1") +
+                        (lacksGraphic ? "\r\nThe graphic is not plotted." : ""));
 }
 
 } // namespace vernacle

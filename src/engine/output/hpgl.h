@@ -17,12 +17,20 @@ enum class HpglMode {
 };
 
 // Writes the design to the file of that path, or in mode 2, whatever the path, to the printer's
-// port. Success and failure are both shown in a message box.
+// port. Success and failure are both shown in a message box. Where true plates are in service it is
+// one of those; its tables must be computed.
 void WriteHpgl(DesignRecord& design, const std::string& path, HpglMode mode);
 
 // Writes the whole stream; throws the failure. Behind the scales, where texts are printed at all,
 // the texts are counted into the design.
 void WriteHpglStream(DesignRecord& design, ByteSink& sink, HpglMode mode);
+
+// A cosine or sine that is no more than rounding as 0.
+double ZeroIfTiny(double value);
+
+// What stands before and behind all that is plotted.
+void BeginPlot(ByteSink& sink, HpglMode mode, double fontSize);
+void EndPlot(ByteSink& sink, HpglMode mode);
 
 // NumberOfTexts becomes the count of the first five texts that are not empty: so many of the list
 // are plotted.

@@ -7,9 +7,11 @@
 #include "engine/base/hostservices.h"
 #include "engine/base/text.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/geometry/primitives.h"
 #include "engine/geometry/sheet.h"
 #include "engine/output/calibrate.h"
+#include "engine/output/trueprint.h"
 #include "engine/render/overlays.h"
 #include "engine/render/stages.h"
 #include "engine/scale/scale.h"
@@ -18,10 +20,8 @@ namespace vernacle {
 
 namespace {
 
-constexpr double kBleed = 50;       // the background goes this far past the cut
-constexpr double kMarksReach = 300; // the trim marks end so far from the plate
-constexpr double kRulerPoints = 8;  // at which 45 units are half a digit
-constexpr double kFooterPoints = 6; // at which lines 150 units apart do not touch
+constexpr double kBleed = 50;      // the background goes this far past the cut
+constexpr double kRulerPoints = 8; // at which 45 units are half a digit
 constexpr const char* kWebAddress = "https://harrowgate.example/vernacle";
 
 struct PrintRun {
@@ -239,13 +239,20 @@ bool PrintDesign(const DesignRecord& design, PrinterSurface& printer, const Draw
     const DrawingTraits traits = PrintTraits();
     DrawingState state;
     state.WhereMarker = kMarkStart;
-    try {
+    return PrintReporting(printer, state, [&] {
         const PageCopies sizes{design.FontSize, design.LabelSpacing};
         PrintRun run{design,
                      {design, printer, traits, state, steps, sizes, PrintFrame(design)},
                      printer,
                      sizes};
         PrintPage(run);
+    });
+}
+
+bool PrintReporting(PrinterSurface& printer, const DrawingState& state,
+                    const std::function<void()>& print) {
+    try {
+        print();
         return true;
     } catch (const RunTimeError& failure) {
         EndDocQuietly(printer);
@@ -258,7 +265,8 @@ bool PrintDesign(const DesignRecord& design, PrinterSurface& printer, const Draw
 
 bool PrintPlate(DesignRecord& design, PrinterSurface& printer) {
     HoldCalibration(design);
-    return PrintDesign(design, printer, StepsOn(design));
+    return Service.truePlate ? PrintTruePlate(design, printer)
+                             : PrintDesign(design, printer, StepsOn(design));
 }
 
 } // namespace vernacle

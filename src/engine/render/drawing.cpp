@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/render/drawingsteps.h"
 #include "engine/render/stages.h"
 #include "engine/scale/scale.h"
@@ -79,6 +80,17 @@ public:
     void ReachScale(int /*scale*/) const override {}
 };
 
+// As on paper, in square units; a page's picture box shows as much of it as TrueArea says.
+void ShowTruePlate(const DesignRecord& design, DrawingSurface& surface, const PageCopies& sizes,
+                   DrawingState& state) {
+    try {
+        DrawTruePlate(design, surface, TruePlateTraits(TrueMedium::Screen), TrueFrame(design, 1, 1),
+                      sizes, state);
+    } catch (const RunTimeError&) {
+        // The picture ends here; the page stays usable and the next change draws it anew.
+    }
+}
+
 } // namespace
 
 DrawingTraits PreviewTraits() {
@@ -150,6 +162,10 @@ void DrawDesign(const DesignRecord& design, DrawingSurface& surface, const Drawi
 void DrawPage(DesignRecord& design, DrawingSurface& surface, const DrawingTraits& traits,
               const PageCopies& sizes, DrawingState& state) {
     Prepare(design, traits.preparation);
+    if (Service.truePlate) {
+        ShowTruePlate(design, surface, sizes, state);
+        return;
+    }
     DrawDesign(design, surface, traits, sizes, state, StepsOn(design));
 }
 

@@ -4,11 +4,13 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "engine/core/entry.h"
 #include "engine/core/freetexts.h"
 #include "engine/geometry/drawingsurface.h"
 #include "engine/geometry/geometry.h"
+#include "engine/geometry/logicalarea.h"
 #include "engine/scale/ticwalk.h"
 
 namespace vernacle {
@@ -22,10 +24,11 @@ struct DrawingState {
     float PlateCentreY = 0;
     float DegreesPerRadian = 0;
     std::string LabelFontFace;
-    SurfacePoint LastArcPoint; // of the last tic drawn
-    SurfacePoint LastTicEnd;   // its other end
-    float PointerLength = 0;   // mm
-    int WhereMarker = 0;       // how far the drawing came
+    SurfacePoint LastArcPoint;   // of the last tic drawn
+    SurfacePoint LastTicEnd;     // its other end
+    float PointerLength = 0;     // mm
+    int WhereMarker = 0;         // how far the drawing came
+    std::vector<Tic> OutOfReach; // tics of a true plate that the pointer cannot meet on their arc
 
     // The overlays that are switched on, 0 or 1; the circular outline is a field of the design.
     std::int16_t GridShown = 0;
@@ -54,12 +57,17 @@ enum class Preparation {
 };
 
 enum class TicInk { Black, ScaleColour };
-enum class Correction { Applied, NotApplied };
+enum class Correction {
+    Applied, // deflections beyond the scale's ends stand on the ends
+    NotApplied,
+    Continued, // beyond the ends the curve goes on, and what the pointer cannot meet is left out
+};
 
 // Where a label stands relative to its anchor, and how its font's height is asked for.
 enum class LabelFitting {
     Measured, // by the text's own size
     Sampled,  // by the size of sample texts, with the height of the characters
+    Centred,  // in true points, the middle of the letters' width and of their capitals' height
 };
 
 // Which tables the tics and labels are taken from.
@@ -91,10 +99,13 @@ struct DrawingTraits {
     TicFlags ticFlags = TicFlags::Honoured;
     LabelFlags labelFlags = LabelFlags::SkipDeleted;
     LabelFitting labelFitting = LabelFitting::Measured;
+    double unitsPerMm = 0;          // of a true plate: lines are as wide as their entries say
     const char* fontName = nullptr; // that of the design if null
     Correction correction = Correction::Applied;
     LineWidths lineWidths = {1, 1, 1, 1};
     std::span<const DrawingStage> stages;
+
+    bool IsTrue() const { return unitsPerMm > 0; }
 };
 
 // The pages' traits; that of the text page serves the graphic page too.
@@ -115,6 +126,22 @@ void DrawDesign(const DesignRecord& design, DrawingSurface& surface, const Drawi
 // of the scale tables is not trapped.
 void DrawPage(DesignRecord& design, DrawingSurface& surface, const DrawingTraits& traits,
               const PageCopies& sizes, DrawingState& state);
+
+// The true plate, the same in every medium, in units of the printer's page: square ones.
+enum class TrueMedium { Paper, Screen, Plotter };
+
+DrawingTraits TruePlateTraits(TrueMedium medium);
+
+// The frame of a true plate with these factors of a printer, 1 for what is not printed.
+PlateFrame TrueFrame(const DesignRecord& design, double factorX, double factorY);
+
+// What a picture of it shows: the plate, its trim marks and its ruler.
+LogicalArea TrueArea(const DesignRecord& design);
+
+// Draws the stages of a true plate in that frame; the design's tables must be computed. It stays as
+// it is. A run-time failure passes through.
+void DrawTruePlate(const DesignRecord& design, DrawingSurface& surface, const DrawingTraits& traits,
+                   const PlateFrame& frame, const PageCopies& sizes, DrawingState& state);
 
 // Draws the scale that is being set up, from the special tables of CurrentScale, which stays as it
 // is. A run-time failure passes through; what was drawn so far stays.

@@ -19,6 +19,8 @@ constexpr double kTitleHeight = 0.05;
 constexpr double kCharacterWidth = 0.0198;
 constexpr double kOrdinarySize = 0.0285;
 
+constexpr double kMmPerPoint = 25.4 / 72;
+
 // The height of a made font per point; the sampled fitting asks for that of the characters.
 double HeightPerPoint(const DrawingRun& run, double usual) {
     const bool sampled = run.traits.labelFitting == LabelFitting::Sampled;
@@ -101,6 +103,32 @@ SurfacePoint SampledCorner(const DrawingRun& run, int scale, SurfacePoint anchor
     return anchor;
 }
 
+// A text of a true plate in the font of the plate.
+void PlaceAt(DrawingRun& run, SurfacePoint at, TextAnchor anchor, const std::string& text,
+             double points, double turnRad = 0) {
+    const double em = points * kMmPerPoint * run.traits.unitsPerMm;
+    run.surface.PlaceText(text,
+                          {at, anchor, em, turnRad, std::string(Trimmed(run.design.FontName))});
+}
+
+// Of a full circle's one scale the last tic stands on the first.
+bool IsOnFirst(const DesignRecord& design, const TicLabel& label) {
+    const int last =
+        label.special ? design.SpecialNrOfTicmarks[label.scale] : design.NrOfTicmarks[label.scale];
+    return IsFullCircle(design) && label.number == last;
+}
+
+// A label of a true plate; a lone "/" stands for none.
+void PlaceLabel(DrawingRun& run, const TicLabel& label, const ArcPlace& place,
+                SurfacePoint anchor) {
+    if (label.text == "/" || IsOnFirst(run.design, label) || !HasPlace(run, label.scale, place)) {
+        return;
+    }
+    const double relative = RelativeSizeOf(run.design, label.scale);
+    PlaceAt(run, anchor, TextAnchor::Middle, label.text, double{run.sizes.fontSize} * relative,
+            LabelTurn(run.design, place));
+}
+
 void DrawLabel(DrawingRun& run, const TicLabel& label) {
     const ArcPlace place =
         PlaceTic(run.design, run.frame, run.traits.correction, label.scale, label.deflection);
@@ -109,6 +137,10 @@ void DrawLabel(DrawingRun& run, const TicLabel& label) {
     const SurfacePoint anchor =
         AlongPointer(run.frame, place.point, t, double{run.sizes.labelSpacing} * relative,
                      DirectionOf(label.scale));
+    if (run.traits.labelFitting == LabelFitting::Centred) {
+        PlaceLabel(run, label, place, anchor);
+        return;
+    }
     const bool sampled = run.traits.labelFitting == LabelFitting::Sampled;
     const SurfacePoint corner = sampled ? SampledCorner(run, label.scale, anchor, t)
                                         : MeasuredCorner(run, label, anchor, t);
@@ -151,11 +183,22 @@ double TitleX(const DrawingRun& run, int scale) {
         .value_or(run.frame.centreX - run.frame.aspect * 0.59 * width);
 }
 
+void PlaceTitle(DrawingRun& run, int scale, double y) {
+    const auto left = QuadrantTitleX(run.design, run.frame, scale);
+    PlaceAt(run, {left.value_or(run.frame.centreX), y},
+            left ? TextAnchor::TopLeft : TextAnchor::TopMiddle, run.design.ScaleTitle[scale],
+            double{run.sizes.fontSize} * RelativeSizeOf(run.design, scale));
+}
+
 void DrawTitle(DrawingRun& run, int scale) {
     run.surface.SetForeColor(InkOf(run.design, scale));
     const double y =
         (run.frame.heightMm - 2 * double{run.design.BottomToTitle[scale]}) * run.frame.upPerHalfMm +
         run.frame.centreY;
+    if (run.traits.labelFitting == LabelFitting::Centred) {
+        PlaceTitle(run, scale, y);
+        return;
+    }
     WriteText(run, {TitleX(run, scale), y}, run.design.ScaleTitle[scale],
               {.heightPerPoint = HeightPerPoint(run, kTitleHeight),
                .points = double{run.sizes.fontSize} * RelativeSizeOf(run.design, scale),
@@ -168,15 +211,19 @@ std::string FontFace(const std::string& name) {
     return std::string(Trimmed(name)) + '\0';
 }
 
-int LabelEscapement(const DesignRecord& design, const PlateFrame& frame, const ArcPlace& place) {
-    const double tenthsPerRadian = 10 * frame.degreesPerRadian;
+double LabelTurn(const DesignRecord& design, const ArcPlace& place) {
     if (design.LabelRotation == "B") {
-        return RoundToInt((kRightAngle - place.pointerAngleRad) * tenthsPerRadian);
+        return kRightAngle - place.pointerAngleRad;
     }
     if (design.LabelRotation == "V") {
-        return RoundToInt((kRightAngle - place.arcAngleRad) * tenthsPerRadian);
+        return kRightAngle - place.arcAngleRad;
     }
     return 0;
+}
+
+int LabelEscapement(const DesignRecord& design, const PlateFrame& frame, const ArcPlace& place) {
+    const double tenthsPerRadian = 10 * frame.degreesPerRadian;
+    return RoundToInt(LabelTurn(design, place) * tenthsPerRadian);
 }
 
 std::optional<double> QuadrantTitleX(const DesignRecord& design, const PlateFrame& frame,
@@ -221,11 +268,15 @@ void FreeTextsStage(DrawingRun& run) {
         }
         const double fromLeft = double{texts.LeftToText[text]};
         const double fromBottom = double{texts.BottomToText[text]};
+        const SurfacePoint corner = PlatePoint(run.frame, fromLeft, fromBottom);
+        const double points = double{run.sizes.fontSize} * double{texts.TextRelativeSize[text]};
         run.surface.SetForeColor(texts.TextColor[text]);
-        WriteText(run, PlatePoint(run.frame, fromLeft, fromBottom), texts.TextString[text],
-                  {.heightPerPoint = kLabelHeight,
-                   .points = double{run.sizes.fontSize} * double{texts.TextRelativeSize[text]},
-                   .escapement = 0});
+        if (run.traits.IsTrue()) {
+            PlaceAt(run, corner, TextAnchor::TopLeft, texts.TextString[text], points);
+        } else {
+            WriteText(run, corner, texts.TextString[text],
+                      {.heightPerPoint = kLabelHeight, .points = points, .escapement = 0});
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <vector>
 
 #include "engine/base/numbertext.h"
@@ -43,6 +44,17 @@ double BearingRadius(const PlateFrame& frame) {
     return 30 * frame.plateScale / kMarkScale + 16;
 }
 
+// Of the two, one is seen on a dark plate and the other on a light one. A true plate has but the
+// ink that is seen.
+struct MarkInks {
+    Colour first = kBlackInk;
+    std::optional<Colour> second = kWhiteInk;
+};
+
+MarkInks InksOf(const DrawingRun& run) {
+    return run.traits.IsTrue() ? MarkInks{SeenInk(run.design), std::nullopt} : MarkInks{};
+}
+
 // The left one first; a quadrant plate has none.
 std::vector<SurfacePoint> HolesOf(const DrawingRun& run) {
     const PlateFrame& frame = run.frame;
@@ -77,7 +89,7 @@ void PlateStage(DrawingRun& run) {
 
 void TrimMarksStage(DrawingRun& run) {
     const PlateFrame& frame = run.frame;
-    run.surface.SetLineWidth(run.traits.lineWidths.trimMarks);
+    SelectMarkWidth(run, run.traits.lineWidths.trimMarks);
     for (const double y : {frame.Top(), frame.Bottom()}) {
         DrawLine(run.surface, {frame.Left() - kTrimTo, y}, {frame.Left() - kTrimFrom, y}, kBlueInk);
         DrawLine(run.surface, {frame.Right() + kTrimFrom, y}, {frame.Right() + kTrimTo, y},
@@ -95,21 +107,27 @@ void HolesStage(DrawingRun& run) {
     if (holes.empty()) {
         return;
     }
-    run.surface.SetLineWidth(run.traits.lineWidths.holes);
+    SelectMarkWidth(run, run.traits.lineWidths.holes);
+    const MarkInks inks = InksOf(run);
     for (const SurfacePoint hole : holes) {
-        DrawCircle(run, hole, HoleRadius(run.frame), kBlackInk);
-        DrawCircle(run, hole, BearingRadius(run.frame), kWhiteInk);
-        DrawCross(run, hole, 100, kBlackInk);
-        DrawCross(run, hole, 130, kWhiteInk);
+        DrawCircle(run, hole, HoleRadius(run.frame), inks.first);
+        if (inks.second) {
+            DrawCircle(run, hole, BearingRadius(run.frame), *inks.second);
+        }
+        DrawCross(run, hole, 100, inks.first);
+        if (inks.second) {
+            DrawCross(run, hole, 130, *inks.second);
+        }
     }
 }
 
 void BearingsStage(DrawingRun& run) {
     const SurfacePoint bearing = RealBearing(run.frame);
-    run.surface.SetLineWidth(run.traits.lineWidths.bearings);
-    DrawCross(run, bearing, 100, kWhiteInk);
-    DrawCircle(run, bearing, BearingRadius(run.frame), kBlackInk);
-    DrawCross(run, VirtualBearing(run.frame), 100, kBlackInk);
+    SelectMarkWidth(run, run.traits.lineWidths.bearings);
+    const MarkInks inks = InksOf(run);
+    DrawCross(run, bearing, 100, inks.second.value_or(inks.first));
+    DrawCircle(run, bearing, BearingRadius(run.frame), inks.first);
+    DrawCross(run, VirtualBearing(run.frame), 100, inks.first);
 }
 
 void OutlineStage(DrawingRun& run) {
@@ -148,16 +166,16 @@ void DrawRuler(DrawingRun& run, const Ruler& ruler) {
     const int last = static_cast<int>(std::floor(std::min(ruler.lengthMm, kLongestRulerMm)));
     const auto xAt = [&run](int mm) { return PlatePoint(run.frame, mm, 0).x; };
     const auto drawTics = [&](int width, int step) {
-        surface.SetLineWidth(width);
+        SelectMarkWidth(run, width);
         for (int mm = 0; mm <= last; mm += step) {
             DrawLine(surface, {xAt(mm), y1}, {xAt(mm), y2}, kBlueInk);
         }
     };
     drawTics(ruler.fineWidth, 1);
     drawTics(ruler.coarseWidth, 10);
-    surface.SetLineWidth(ruler.baseWidth);
+    SelectMarkWidth(run, ruler.baseWidth);
     DrawLine(surface, {run.frame.Left(), y2}, {xAt(last), y2}, kBlueInk);
-    surface.SetLineWidth(ruler.fineWidth);
+    SelectMarkWidth(run, ruler.fineWidth);
     int mm = 0;
     for (; mm <= last; mm += 10) {
         const std::string number = std::to_string(mm);

@@ -61,6 +61,12 @@ void FreeTextsStage(DrawingRun& run);
 void GraphicStage(DrawingRun& run);
 void OverlaysStage(DrawingRun& run);
 
+// truestages: what only a true plate has
+void BackgroundStage(DrawingRun& run);
+void SegmentsStage(DrawingRun& run); // highlights as ring segments
+void CutLineStage(DrawingRun& run);  // of a circular plate, on paper
+void TrueRulerStage(DrawingRun& run);
+
 void EndStage(DrawingRun& run);
 
 struct Ruler {
@@ -85,6 +91,20 @@ double RelativeSizeOf(const DesignRecord& design, int scale);
 ArcPlace PlaceTic(const DesignRecord& design, const PlateFrame& frame, Correction correction,
                   int scale, float deflection);
 
+// Whether it has such a place: a drawing that continues the curve leaves out what has none.
+bool HasPlace(const DrawingRun& run, int scale, const ArcPlace& place);
+
+// How many equal chords an arc of that radius and angle needs for its sagitta to stay below 0.005
+// mm.
+int FineChords(double radiusMm, double angleRad);
+
+// Lines so wide: in a true plate the tenths of a millimetre, else the pixels.
+void SelectWidth(const DrawingRun& run, double tenths, int pixels);
+void SelectMarkWidth(const DrawingRun& run, int pixels);
+
+// Black or white, whichever is seen on the plate's background.
+Colour SeenInk(const DesignRecord& design);
+
 // The length of a tic in mm, by its class and its scale's relative size.
 double TicLength(const DesignRecord& design, const Tic& tic);
 
@@ -93,7 +113,11 @@ double TicLength(const DesignRecord& design, const Tic& tic);
 std::optional<double> QuadrantTitleX(const DesignRecord& design, const PlateFrame& frame,
                                      int scale);
 
-// The turn of a scale's labels by LabelRotation, in tenths of a degree; 0 unless it is "B" or "V".
+// The turn of a scale's labels by LabelRotation, counter-clockwise in radians; 0 unless it is "B"
+// or "V".
+double LabelTurn(const DesignRecord& design, const ArcPlace& place);
+
+// The same in whole tenths of a degree.
 int LabelEscapement(const DesignRecord& design, const PlateFrame& frame, const ArcPlace& place);
 
 // Runs over the scales from 1 up.

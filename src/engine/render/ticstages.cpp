@@ -25,9 +25,14 @@ int TicLineWidth(const DesignRecord& design, const Tic& tic) {
 void DrawTic(DrawingRun& run, const Tic& tic) {
     const ArcPlace place =
         PlaceTic(run.design, run.frame, run.traits.correction, tic.scale, tic.deflection);
+    if (!HasPlace(run, tic.scale, place)) {
+        run.state.OutOfReach.push_back(tic);
+        return;
+    }
     const SurfacePoint end = AlongPointer(run.frame, place.point, place.pointerAngleRad,
                                           TicLength(run.design, tic), DirectionOf(tic.scale));
-    run.surface.SetLineWidth(TicLineWidth(run.design, tic));
+    SelectWidth(run, double{tic.major ? run.design.MajorTicWidth : run.design.MinorTicWidth},
+                TicLineWidth(run.design, tic));
     DrawLine(run.surface, end, place.point, TicInkOf(run, tic.scale));
     run.state.LastArcPoint = place.point;
     run.state.LastTicEnd = end;
@@ -44,6 +49,49 @@ void DrawArc(DrawingRun& run, int scale) {
     }
 }
 
+// The pointer's swing, and as far beyond its ends as tics stand.
+struct Sweep {
+    double from = 0;
+    double to = 1;
+};
+
+void WalkDrawnTics(const DrawingRun& run, int scale, const TicVisit& visit) {
+    if (ShowsSpecial(run, scale)) {
+        WalkSpecialTics(run.design, scale, visit);
+    } else {
+        WalkStandardTics(run.design, scale, run.traits.ticFlags, visit);
+    }
+}
+
+Sweep SweepOf(const DrawingRun& run, int scale) {
+    Sweep sweep;
+    WalkDrawnTics(run, scale, [&](const Tic& tic) {
+        const ArcPlace place =
+            PlaceTic(run.design, run.frame, run.traits.correction, scale, tic.deflection);
+        if (HasPlace(run, scale, place)) {
+            const double shown = ContinuedDeflection(run.design, double{tic.deflection});
+            sweep = {std::min(sweep.from, shown), std::max(sweep.to, shown)};
+        }
+    });
+    return sweep;
+}
+
+// So fine that no chord is seen.
+void DrawFineArc(DrawingRun& run, int scale) {
+    const PlateFrame& frame = run.frame;
+    const double radius = ScaleRadius(frame, double{run.design.BottomToScaleCeiling[scale]});
+    const Sweep sweep = SweepOf(run, scale);
+    const double from = ArcAngle(frame, PointerAngle(frame, sweep.from), radius);
+    const double to = ArcAngle(frame, PointerAngle(frame, sweep.to), radius);
+    const int chords = FineChords(radius, to - from);
+    SurfacePoint previous = ArcPoint(frame, from, radius);
+    for (int chord = 1; chord <= chords; ++chord) {
+        const SurfacePoint point = ArcPoint(frame, from + (to - from) * chord / chords, radius);
+        DrawLine(run.surface, previous, point, TicInkOf(run, scale));
+        previous = point;
+    }
+}
+
 bool IsDrawn(const DesignRecord& design, int scale) {
     return NumberOf(design.PrintTicsAndArcs[scale]) == 0;
 }
@@ -51,13 +99,8 @@ bool IsDrawn(const DesignRecord& design, int scale) {
 void DrawTics(DrawingRun& run, int scale) {
     run.steps.RaiseRelativeSize(scale);
     const auto draw = [&run](const Tic& tic) { DrawTic(run, tic); };
-    if (ShowsSpecial(run, scale)) {
-        run.state.WhereMarker = kMarkSpecialTics;
-        WalkSpecialTics(run.design, scale, draw);
-    } else {
-        run.state.WhereMarker = kMarkStandardTics;
-        WalkStandardTics(run.design, scale, run.traits.ticFlags, draw);
-    }
+    run.state.WhereMarker = ShowsSpecial(run, scale) ? kMarkSpecialTics : kMarkStandardTics;
+    WalkDrawnTics(run, scale, draw);
 }
 
 // Runs over the scales from the highest number down, so that scale 1 is drawn last and on top.
@@ -90,11 +133,20 @@ double RelativeSizeOf(const DesignRecord& design, int scale) {
 
 ArcPlace PlaceTic(const DesignRecord& design, const PlateFrame& frame, Correction correction,
                   int scale, float deflection) {
+    auto shown = double{deflection};
     if (correction == Correction::Applied) {
-        deflection = CorrectDeflection(design, deflection);
+        shown = double{CorrectDeflection(design, deflection)};
+    } else if (correction == Correction::Continued) {
+        shown = ContinuedDeflection(design, shown);
     }
-    return PlaceOnArc(frame, PointerAngle(frame, double{deflection}),
+    return PlaceOnArc(frame, PointerAngle(frame, shown),
                       ScaleRadius(frame, double{design.BottomToScaleCeiling[scale]}));
+}
+
+bool HasPlace(const DrawingRun& run, int scale, const ArcPlace& place) {
+    const double radius = ScaleRadius(run.frame, double{run.design.BottomToScaleCeiling[scale]});
+    return run.traits.correction != Correction::Continued ||
+           MeetsArc(run.frame, place.pointerAngleRad, radius);
 }
 
 double TicLength(const DesignRecord& design, const Tic& tic) {
@@ -124,8 +176,9 @@ void ArcsStage(DrawingRun& run) {
     }
     run.state.WhereMarker = kMarkArcs;
     const double width = (double{run.design.ArcWidth} + 0.5) * run.traits.lineWidths.arcFactor;
-    run.surface.SetLineWidth(RoundToInt(std::floor(width)));
-    ForEachDrawnScale(run, [&run](int scale) { DrawArc(run, scale); });
+    SelectWidth(run, double{run.design.ArcWidth}, RoundToInt(std::floor(width)));
+    const auto draw = run.traits.IsTrue() ? DrawFineArc : DrawArc;
+    ForEachDrawnScale(run, [&](int scale) { draw(run, scale); });
     run.surface.SetLineWidth(1);
 }
 

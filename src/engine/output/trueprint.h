@@ -1,0 +1,14 @@
+// The true plate on a sheet: by the printer's calibration where it goes to a device, with trim
+// marks, ruler and footer where the sheet has room for them.
+#pragma once
+
+namespace vernacle {
+
+class PrinterSurface;
+struct DesignRecord;
+
+// Prints a design whose tables are computed. Returns whether the document was sent; a failure ends
+// it and is reported without a sound.
+bool PrintTruePlate(const DesignRecord& design, PrinterSurface& printer);
+
+} // namespace vernacle
