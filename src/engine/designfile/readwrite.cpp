@@ -209,6 +209,10 @@ bool TryToWrite(DesignRecord& design) {
 
 std::string DesignText(const DesignRecord& design) {
     const auto copy = std::make_unique<DesignRecord>(design);
+    for (int scale = 0; scale <= kLastScale; ++scale) {
+        // A longer number would be passed over, and with it what kind of lines follow.
+        copy->ScaleColor[scale] = std::clamp(copy->ScaleColor[scale], -kWhite, kWhite);
+    }
     std::string text;
     const auto run = [&copy](WritingStep step, LinePlace place) { step(*copy, place); };
     DesignWriter(*copy, text, run).Walk();

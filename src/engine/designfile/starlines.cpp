@@ -8,6 +8,7 @@
 #include "engine/base/linereader.h"
 #include "engine/core/design.h"
 #include "engine/core/recordfields.h"
+#include "engine/core/repair.h"
 
 namespace vernacle {
 
@@ -142,6 +143,25 @@ bool TakeStarLine(DesignRecord& design, std::string_view text) {
     return line && TakeInto(line->value, line->field->place.In(design, line->outer, line->inner));
 }
 
+// Counts by which tables are walked: no line may lead beyond them.
+constexpr Repair kCounts[] = {
+    {At<&DesignRecord::NumberOfScales>, When::Above, kLastScale, kLastScale},
+    {At<&DesignRecord::NumberOfTexts>, When::Above, kTexts, kTexts},
+    {At<&DesignRecord::NumberOfHighlights>, When::Above, kHighlights, kHighlights},
+};
+
+constexpr Repair kScaleCounts[] = {
+    {At<&DesignRecord::NrOfTicmarks>, When::Above, kLastTic, kLastTic},
+    {At<&DesignRecord::SpecialNrOfTicmarks>, When::Above, kLastTic, kLastTic},
+};
+
+void HoldCounts(DesignRecord& design) {
+    RepairFields(design, kCounts);
+    for (int scale = 0; scale <= kLastScale; ++scale) {
+        RepairFields(design, kScaleCounts, scale);
+    }
+}
+
 // A comment has a blank behind its star, as the heading above the tics of a special scale.
 bool IsStarLine(std::string_view line) {
     return line.size() > 1 && line[0] == '*' && line[1] != ' ';
@@ -177,6 +197,7 @@ void TakeStarLines(DesignRecord& design, std::string_view fileText) {
             design.ForeignLines += std::string(line).append(kLineEnd);
         }
     }
+    HoldCounts(design);
 }
 
 } // namespace vernacle

@@ -21,7 +21,7 @@ constexpr const char* kStarMark = "*Vernacle workshop 1";
 std::string StarLines(const DesignRecord& design, const DesignRecord& readBack);
 
 // Stores what the star lines of a file's text say, if it has the mark. Those that no field knows
-// are kept in ForeignLines.
+// are kept in ForeignLines; counts are held to what the tables have room for.
 void TakeStarLines(DesignRecord& design, std::string_view fileText);
 
 } // namespace vernacle

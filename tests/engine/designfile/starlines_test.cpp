@@ -76,8 +76,10 @@ void RandomiseDesign(DesignRecord& design, Random& random) {
     design.NumberOfTexts = static_cast<std::int16_t>(Below(random, kTexts + 1));
     design.NumberOfHighlights = static_cast<std::int16_t>(Below(random, kHighlights + 1));
     for (int scale = 0; scale <= kLastScale; ++scale) {
+        design.NrOfTicmarks[scale] = static_cast<std::int16_t>(Below(random, kLastTic + 1));
+    }
+    for (int scale = 0; scale <= kLastScale; ++scale) {
         design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(Below(random, 40));
-        design.ScaleColor[scale] = Below(random, 2 * kWhite + 1) - kWhite;
     }
 }
 
@@ -225,6 +227,20 @@ TEST_F(StarLinesTest, WhatNoFieldKnowsIsKept) {
         ExpectSame(read, Design, FieldRole::Kept);
         EXPECT_TRUE(DesignText(read).ends_with(std::string("\r\n") + line + "\r\n")) << line;
     }
+}
+
+TEST_F(StarLinesTest, CountsAreHeldToWhatTheTablesHold) {
+    const DesignRecord read = ReadBack(DesignText(Design) + "*NumberOfScales: 99\r\n"
+                                                            "*NumberOfTexts: 11\r\n"
+                                                            "*NumberOfHighlights: 11\r\n"
+                                                            "*NrOfTicmarks[8]: 361\r\n"
+                                                            "*SpecialNrOfTicmarks[8]: 361\r\n");
+    EXPECT_EQ(read.NumberOfScales, 8);
+    EXPECT_EQ(read.NumberOfTexts, 10);
+    EXPECT_EQ(read.NumberOfHighlights, 10);
+    EXPECT_EQ(read.NrOfTicmarks[8], 360);
+    EXPECT_EQ(read.SpecialNrOfTicmarks[8], 360);
+    DesignText(read); // does not throw
 }
 
 TEST_F(StarLinesTest, AllTicsOfAScaleMayBeDeleted) {
