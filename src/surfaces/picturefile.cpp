@@ -1,5 +1,6 @@
 #include "surfaces/picturefile.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
@@ -43,6 +44,18 @@ QString FindBelow(const QDir& folder, const QStringList& path) {
     return {};
 }
 
+struct LoadedPicture {
+    QString path;
+    QDateTime modified;
+    qint64 bytes = 0;
+    QImage image;
+
+    bool IsStill(const QFileInfo& file) const {
+        return !image.isNull() && file.absoluteFilePath() == path &&
+               file.lastModified() == modified && file.size() == bytes;
+    }
+};
+
 } // namespace
 
 QString ExistingFile(const std::string& name) {
@@ -58,12 +71,18 @@ QString ExistingFile(const std::string& name) {
 }
 
 QImage LoadPicture(const std::string& file) {
-    QImageReader reader(ExistingFile(file));
+    static LoadedPicture last; // a redraw of the same plate does not unpack it again
+    const QFileInfo found(ExistingFile(file));
+    if (last.IsStill(found)) {
+        return last.image;
+    }
+    QImageReader reader(found.filePath());
     reader.setDecideFormatFromContent(true);
     QImage image = reader.read();
     if (image.isNull()) {
         throw RunTimeError(file + ": " + reader.errorString().toStdString());
     }
+    last = {found.absoluteFilePath(), found.lastModified(), found.size(), image};
     return image;
 }
 

@@ -86,5 +86,20 @@ TEST_F(PictureFileTest, AFolderIsNoPicture) {
     EXPECT_THROW(LoadPicture(Path("LOGO.BMP")), RunTimeError);
 }
 
+// The last picture is kept, as long as its file stays what it was.
+TEST_F(PictureFileTest, AFileThatIsWrittenAnewIsLoadedAnew) {
+    const std::string file = WriteFile("logo.bmp", PictureBytes("BMP"));
+    EXPECT_EQ(LoadPicture(file).size(), QSize(4, 2));
+    EXPECT_EQ(LoadPicture(file).size(), QSize(4, 2));
+    QImage larger(5, 3, QImage::Format_RGB32);
+    larger.fill(Qt::red);
+    ASSERT_TRUE(larger.save(QString::fromStdString(file), "BMP"));
+    EXPECT_EQ(LoadPicture(file).size(), QSize(5, 3));
+    WriteFile("logo.bmp", "no picture");
+    EXPECT_THROW(LoadPicture(file), RunTimeError);
+    WriteFile("logo.bmp", PictureBytes("BMP"));
+    EXPECT_EQ(LoadPicture(file).size(), QSize(4, 2));
+}
+
 } // namespace
 } // namespace vernacle::test
