@@ -21,8 +21,8 @@
 #include "engine/designfile/readwrite.h"
 #include "engine/output/calibrate.h"
 #include "export/arguments.h"
-#include "export/outputfile.h"
 #include "export/outputs.h"
+#include "files/outputfile.h"
 #include "surfaces/typeface.h"
 
 namespace vernacle::exporter {

@@ -5,7 +5,7 @@
 
 #include "engine/base/runtimeerror.h"
 #include "export/exporttest.h"
-#include "export/outputfile.h"
+#include "files/outputfile.h"
 #include "support/filelimit.h"
 
 namespace vernacle::test {
@@ -86,7 +86,7 @@ TEST_F(FileLimitTest, AFileThatEndsAtAnyKilobyteLeavesWhatStoodThere) {
                                     const std::string& bytes) {
         const FileSizeLimit full(limit);
         try {
-            const auto sink = exporter::OpenOutputFile(path);
+            const auto sink = OpenOutputFile(path);
             sink->Write(bytes);
             sink->Close();
         } catch (const FileFailure&) {

@@ -1,4 +1,4 @@
-#include "export/outputfile.h"
+#include "files/outputfile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -15,7 +15,7 @@
 #include "engine/base/runtimeerror.h"
 #include "engine/base/samefile.h"
 
-namespace vernacle::exporter {
+namespace vernacle {
 
 namespace {
 
@@ -198,4 +198,4 @@ std::unique_ptr<ByteSink> OpenOutputFile(const std::string& path) {
     return std::make_unique<OutputFile>(path);
 }
 
-} // namespace vernacle::exporter
+} // namespace vernacle

@@ -7,7 +7,7 @@
 
 #include "engine/base/bytesink.h"
 
-namespace vernacle::exporter {
+namespace vernacle {
 
 // A regular file is written beside its place, through a link beside what the link leads to, and
 // then renamed onto it with the mode of what stood there. Where the folder does not allow that, it
@@ -16,4 +16,4 @@ namespace vernacle::exporter {
 // Throws FileFailure.
 std::unique_ptr<ByteSink> OpenOutputFile(const std::string& path);
 
-} // namespace vernacle::exporter
+} // namespace vernacle
