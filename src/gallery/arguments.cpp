@@ -16,6 +16,7 @@ Options:
   --size WxH[@RATIO]  screen in device pixels (default 1600x900), and its device ratio (default 1)
   --font POINTS       size of the application's font
   --dark              the desktop's colours are light on dark
+  --workshop          as the program with everything in service
   --enable-all        enable what starts disabled
   --shot FILE.png     take the form's picture and end
   --dump FILE         write every field of the design at the end
@@ -38,7 +39,8 @@ enum Option {
     kEnableAllOption,
     kShotOption,
     kDumpOption,
-    kHelpOption
+    kHelpOption,
+    kWorkshopOption
 };
 
 constexpr option kOptions[] = {
@@ -49,6 +51,7 @@ constexpr option kOptions[] = {
     {"shot", required_argument, nullptr, kShotOption},
     {"dump", required_argument, nullptr, kDumpOption},
     {"help", no_argument, nullptr, kHelpOption},
+    {"workshop", no_argument, nullptr, kWorkshopOption},
     {nullptr, 0, nullptr, 0},
 };
 
@@ -107,6 +110,9 @@ void TakeOption(int option, const char* value, Arguments& arguments) {
         break;
     case kDumpOption:
         arguments.dump = CheckedFile(value, "--dump");
+        break;
+    case kWorkshopOption:
+        arguments.workshop = true;
         break;
     case kHelpOption:
         arguments.help = true;

@@ -17,6 +17,7 @@ struct Arguments {
     std::string shot;       // file of the form's picture; empty for none
     bool enableAll = false;
     bool dark = false;
+    bool workshop = false; // everything is in service
     std::string dump;      // file of the design's fields; empty for none
     double fontPoints = 0; // of the application's font; 0 for the desktop's own
     bool help = false;

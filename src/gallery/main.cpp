@@ -12,6 +12,7 @@
 #include "engine/base/bytesink.h"
 #include "engine/base/runtimeerror.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/output/calibrate.h"
 #include "engine/scale/scale.h"
@@ -157,6 +158,7 @@ int Run(int argc, char** argv) {
         std::fputs(kHelp, stdout);
         return EXIT_SUCCESS;
     }
+    StoreService(arguments.workshop ? Program::Workshop : Program::Everyday);
     SetForms(ProgramForms());
     CheckArguments(arguments);
     const bool unattended = !arguments.shot.empty();

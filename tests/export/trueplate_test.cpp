@@ -179,12 +179,13 @@ constexpr int kHeight = 1000;
 // From the sheet to a picture that shows the plate with its trim marks and its ruler.
 QPointF OnPicture(const TruePlate& plate, const DesignRecord& design, MmPoint sheet) {
     constexpr double kUnitMm = 1 / 56.578;
-    constexpr double kAroundMm = 400 * kUnitMm;
-    constexpr double kBelowMm = 700 * kUnitMm;
-    const double width = double{design.PlateWidth} + 2 * kAroundMm;
-    const double height = double{design.PlateHeight} + kAroundMm + kBelowMm;
+    constexpr double kBesideMm = 520 * kUnitMm;
+    constexpr double kAboveMm = 400 * kUnitMm;
+    constexpr double kBelowMm = 720 * kUnitMm;
+    const double width = double{design.PlateWidth} + 2 * kBesideMm;
+    const double height = double{design.PlateHeight} + kAboveMm + kBelowMm;
     const double perMm = std::min(kWidth / width, kHeight / height);
-    const MmPoint corner = plate.OnSheet(-kAroundMm, double{design.PlateHeight} + kAroundMm);
+    const MmPoint corner = plate.OnSheet(-kBesideMm, double{design.PlateHeight} + kAboveMm);
     return {kWidth / 2. + (sheet.x - corner.x - width / 2) * perMm,
             kHeight / 2. + (sheet.y - corner.y - height / 2) * perMm};
 }

@@ -1,21 +1,6 @@
-// vernacle: the program.
-#include <clocale>
-#include <csignal>
-
-#include "desktop/app/application.h"
-#include "desktop/app/endsignals.h"
-#include "desktop/app/forms.h"
-#include "desktop/system/desktophost.h"
+// vernacle: the everyday program.
+#include "desktop/app/start.h"
 
 int main(int argc, char** argv) {
-    using namespace vernacle;
-    std::signal(SIGXFSZ, SIG_IGN); // a file-size limit is a write that fails, not the end
-    Application application(argc, argv);
-    Host = DesktopHost();
-    SetForms(ProgramForms());
-    KeepSessionAtTheSystemsEnd();
-    // From inside the event loop, where failures have their handler.
-    QMetaObject::invokeMethod(
-        &application, [] { GoToPage("frmOpening"); }, Qt::QueuedConnection);
-    return QApplication::exec();
+    return vernacle::RunProgram(argc, argv, vernacle::Program::Everyday);
 }

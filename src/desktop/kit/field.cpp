@@ -156,6 +156,14 @@ void Field::Disable() const {
     SetEnabled(false);
 }
 
+void Field::Hide() const {
+    for (QWidget* part : std::initializer_list<QWidget*>{label, box, arrows, partner, help}) {
+        if (part) {
+            part->hide();
+        }
+    }
+}
+
 void Field::SetEnabled(bool enabled) const {
     for (QWidget* part : std::initializer_list<QWidget*>{label, box, arrows, partner}) {
         if (part) {

@@ -96,6 +96,8 @@ public:
     void Enable() const;
     void Disable() const;
 
+    void Hide() const; // all of it, from then on
+
 private:
     bool IsText() const;
     void SetEnabled(bool enabled) const;

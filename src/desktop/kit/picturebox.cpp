@@ -35,6 +35,11 @@ PictureBox::PictureBox(const char* name, const LogicalArea& area, UnitShape shap
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
+void PictureBox::ShowPage(const LogicalArea& area) {
+    area_ = area;
+    showsPage_ = true;
+}
+
 QSize PictureBox::sizeHint() const {
     const DeviceMap map = MapToWidget();
     const double widthToHeight = area_.width * map.perUnitX / (area_.height * map.perUnitY);
@@ -42,6 +47,9 @@ QSize PictureBox::sizeHint() const {
 }
 
 DeviceMap PictureBox::MapToWidget() const {
+    if (showsPage_) {
+        return DeviceMap::OfPage(area_, width(), height());
+    }
     DeviceMap map = ScreenMap(shape_);
     const double zoom =
         std::min(width() / (area_.width * map.perUnitX), height() / (area_.height * map.perUnitY));

@@ -20,6 +20,9 @@ public:
     PictureBox(const char* name, const LogicalArea& area, UnitShape shape,
                QWidget* parent = nullptr);
 
+    // From the next drawing on the picture is that part of a printer's page, in square units.
+    void ShowPage(const LogicalArea& area);
+
     DrawingSurface& Surface() { return record_; }
     const DrawingRecord& Record() const { return record_; }
 
@@ -37,6 +40,7 @@ private:
 
     LogicalArea area_;
     UnitShape shape_;
+    bool showsPage_ = false;
     DrawingRecord record_;
 };
 

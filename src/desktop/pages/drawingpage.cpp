@@ -6,6 +6,7 @@
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/picturebox.h"
 #include "desktop/navigation/navigator.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -33,6 +34,9 @@ void DrawingPage::TakeSizes() {
 }
 
 void DrawingPage::Redraw() {
+    if (Service.truePlate) {
+        plate_->ShowPage(TrueArea(Design));
+    }
     DrawPage(Design, plate_->Surface(), drawing_, copies_, Drawing);
 }
 

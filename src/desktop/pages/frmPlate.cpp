@@ -13,6 +13,7 @@
 #include "engine/base/text.h"
 #include "engine/core/design.h"
 #include "engine/core/repair.h"
+#include "engine/core/service.h"
 #include "engine/illustrations/schematic.h"
 #include "surfaces/colours.h"
 
@@ -130,9 +131,9 @@ QLayout* frmPlate::MakeTools() {
     QPushButton* font = add("cmdGetFont", "Get font", &frmPlate::cmdGetFontClicked);
     QPushButton* background =
         add("cmdGetBackgroundColor", "Background", &frmPlate::cmdGetBackgroundColorClicked);
-    for (QPushButton* greyed : {linearity, font, background}) {
-        greyed->setEnabled(false);
-    }
+    linearity->setEnabled(Service.curveInFile);
+    font->setEnabled(Service.styles);
+    background->setEnabled(Service.styles);
     lblShowFont_ = MakeLabel("lblShowFont", {});
     swatch_ = MakeLabel("lblShowBackground", {});
     swatch_->setFrameStyle(QFrame::Box | QFrame::Plain);
@@ -154,7 +155,9 @@ void frmPlate::Load() {
     ShowBackground();
     ShowSound();
     WarnOfQuadrant();
-    Design.NumberOfScales = 1;
+    if (!Service.severalScales) {
+        Design.NumberOfScales = 1;
+    }
     NormalizeDesign(Design);
     FillMeasures();
     RepairFields(Design, kSwitches);

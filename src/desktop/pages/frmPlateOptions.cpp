@@ -6,6 +6,7 @@
 #include "desktop/kit/optionbutton.h"
 #include "desktop/pages/frmPlate.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -78,6 +79,7 @@ struct frmPlate::OptionFrame {
     void (frmPlate::*help)() = nullptr;
     Help helpState = Help::Enabled;
     QGroupBox* frmPlate::*kept = nullptr; // where the page holds it
+    LiftedBy liftedBy = nullptr;          // with it in service all is shown and enabled
 };
 
 // clang-format off
@@ -85,11 +87,11 @@ const frmPlate::OptionFrame frmPlate::kFrames[] = {
     {.group = Group::Arcs,          .name = "fraArcs",          .title = "Arcs",         .row = 0, .column = 0},
     {.group = Group::Labels,        .name = "fraLabels",        .title = "Labels",       .row = 0, .column = 1},
     {.group = Group::LabelRotation, .name = "fraLabelRotation", .title = "Label rotate", .row = 1, .column = 0, .helpButton = "cmdRotateHelp", .help = &frmPlate::cmdRotateHelpClicked},
-    {.group = Group::Style,         .name = "fraStyle",         .title = "Style",        .row = 1, .column = 1, .enabledOptions = 0, .helpButton = "cmdStyleHelp", .help = &frmPlate::cmdStyleHelpClicked, .helpState = Help::Greyed},
-    {.group = Group::Number,        .name = "fraNumber",        .title = "Number",       .row = 2, .column = 0, .columns = 2, .enabledOptions = 1, .before = "of", .behind = "scales"},
-    {.group = Group::Plate,         .name = "fraPlate",         .title = "Plate",        .row = 3, .column = 0, .frame = Frame::Hidden},
-    {.group = Group::Graphic,       .name = "fraGraphic",       .title = "Graphic",      .row = 3, .column = 1, .frame = Frame::Hidden, .kept = &frmPlate::fraGraphic_},
-    {.group = Group::Sound,         .name = "fraSound",         .title = "Sound",        .row = 4, .column = 0, .frame = Frame::Hidden},
+    {.group = Group::Style,         .name = "fraStyle",         .title = "Style",        .row = 1, .column = 1, .enabledOptions = 0, .helpButton = "cmdStyleHelp", .help = &frmPlate::cmdStyleHelpClicked, .helpState = Help::Greyed, .liftedBy = &ServiceState::styles},
+    {.group = Group::Number,        .name = "fraNumber",        .title = "Number",       .row = 2, .column = 0, .columns = 2, .enabledOptions = 1, .before = "of", .behind = "scales", .liftedBy = &ServiceState::severalScales},
+    {.group = Group::Plate,         .name = "fraPlate",         .title = "Plate",        .row = 3, .column = 0, .frame = Frame::Hidden, .liftedBy = &ServiceState::styles},
+    {.group = Group::Graphic,       .name = "fraGraphic",       .title = "Graphic",      .row = 3, .column = 1, .frame = Frame::Hidden, .kept = &frmPlate::fraGraphic_, .liftedBy = &ServiceState::reserveStages},
+    {.group = Group::Sound,         .name = "fraSound",         .title = "Sound",        .row = 4, .column = 0, .frame = Frame::Hidden, .liftedBy = &ServiceState::reserveStages},
 };
 // clang-format on
 
@@ -108,11 +110,12 @@ QGroupBox* frmPlate::MakeOptionFrame(const OptionFrame& frame) {
     if (*frame.before != '\0') {
         line->addWidget(MakeLabel("lblNumberBefore", QString::fromUtf8(frame.before)));
     }
+    const bool isLifted = IsLifted(frame.liftedBy);
     int place = 0;
     for (const Option& option : kOptions) {
         if (option.group == frame.group) {
             OptionButton* button = MakeOption(option);
-            button->setEnabled(place++ < frame.enabledOptions);
+            button->setEnabled(place++ < frame.enabledOptions || isLifted);
             line->addWidget(button);
         }
     }
@@ -122,11 +125,11 @@ QGroupBox* frmPlate::MakeOptionFrame(const OptionFrame& frame) {
     line->addStretch();
     if (frame.helpButton) {
         QPushButton* help = MakeHelpButton(frame.helpButton, box->title());
-        help->setEnabled(frame.helpState == Help::Enabled);
+        help->setEnabled(frame.helpState == Help::Enabled || isLifted);
         connect(help, &QPushButton::clicked, this, frame.help);
         line->addWidget(help);
     }
-    if (frame.frame == Frame::Hidden) {
+    if (frame.frame == Frame::Hidden && !isLifted) {
         box->hide();
     }
     if (frame.kept) {
@@ -168,7 +171,9 @@ void frmPlate::optStyleClicked(std::int16_t style) {
 
 void frmPlate::optGraphicClicked(const char* yesNo, OptionButton& cleared) {
     Design.DrawGraphic = yesNo;
-    cleared.Unselect();
+    if (!Service.reserveStages) {
+        cleared.Unselect();
+    }
 }
 
 } // namespace vernacle

@@ -11,6 +11,7 @@
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
 #include "engine/core/repair.h"
+#include "engine/core/service.h"
 #include "engine/render/drawingsteps.h"
 #include "engine/render/overlays.h"
 #include "engine/scale/scale.h"
@@ -32,8 +33,10 @@ constexpr FieldRow kPercent = {.box = "txtAspectUpDown", .caption = "Aspect, per
 
 // What the page shows, whatever the design held.
 constexpr Repair kShownAlone[] = {
-    {.place = At<&DesignRecord::FontName>, .text = "Arial"},
-    {At<&DesignRecord::NumberOfScales>, When::Always, 0, 1},
+    {.place = At<&DesignRecord::FontName>, .text = "Arial", .liftedBy = &ServiceState::styles},
+    {.place = At<&DesignRecord::NumberOfScales>,
+     .becomes = 1,
+     .liftedBy = &ServiceState::severalScales},
     {At<&DesignRecord::CurrentScale>, When::Below, 1, 1},
 };
 
@@ -115,6 +118,10 @@ QLayout* frmPreview::MakeAspect() {
     auto* grid = new QGridLayout;
     ratio_->AddTo(*grid, 0);
     percent_->AddTo(*grid, 1);
+    if (Service.truePlate) { // whose units are square on any screen
+        ratio_->Hide();
+        percent_->Hide();
+    }
     return grid;
 }
 
@@ -170,6 +177,9 @@ void frmPreview::CopyTexts() {
 }
 
 void frmPreview::Draw() {
+    if (Service.truePlate) {
+        plate_->ShowPage(TrueArea(Design));
+    }
     DrawPage(Design, plate_->Surface(), PreviewTraits(), sizes_, Drawing);
 }
 
@@ -201,32 +211,39 @@ void frmPreview::UpDown1Stepped(int by) {
     Load();
 }
 
-void frmPreview::cmdCircleClicked() {
-    if (Toggle(CircleFlag())) {
-        DrawOutline(plate_->Surface(), FrameOf(Design, PreviewTraits()), OutlineStart::Moved,
-                    kBlueInk);
+// With the true plate all overlays are drawn as they stand; else one over the picture, until a
+// redraw.
+void frmPreview::Overlaid(std::int16_t& flag, void (frmPreview::*draw)()) {
+    if (Toggle(flag) && !Service.truePlate) {
+        (this->*draw)();
         ShowFlags();
     } else {
         Load();
     }
+}
+
+void frmPreview::cmdCircleClicked() {
+    Overlaid(CircleFlag(), &frmPreview::OverlayCircle);
 }
 
 void frmPreview::cmdGridClicked() {
-    if (Toggle(GridFlag())) {
-        DrawGrid(plate_->Surface(), FrameOf(Design, PreviewTraits()));
-        ShowFlags();
-    } else {
-        Load();
-    }
+    Overlaid(GridFlag(), &frmPreview::OverlayGrid);
 }
 
 void frmPreview::cmdPointerClicked() {
-    if (Toggle(PointerFlag())) {
-        DrawPointer(plate_->Surface(), FrameOf(Design, PreviewTraits()), Drawing);
-        ShowFlags();
-    } else {
-        Load();
-    }
+    Overlaid(PointerFlag(), &frmPreview::OverlayPointer);
+}
+
+void frmPreview::OverlayCircle() {
+    DrawOutline(plate_->Surface(), FrameOf(Design, PreviewTraits()), OutlineStart::Moved, kBlueInk);
+}
+
+void frmPreview::OverlayGrid() {
+    DrawGrid(plate_->Surface(), FrameOf(Design, PreviewTraits()));
+}
+
+void frmPreview::OverlayPointer() {
+    DrawPointer(plate_->Surface(), FrameOf(Design, PreviewTraits()), Drawing);
 }
 
 void frmPreview::cmdHPGLClicked() {

@@ -42,6 +42,11 @@ private:
     void cmdPointerClicked();
     void cmdHPGLClicked();
 
+    void Overlaid(std::int16_t& flag, void (frmPreview::*draw)());
+    void OverlayCircle();
+    void OverlayGrid();
+    void OverlayPointer();
+
     void Draw();
     void ShowAspect();
     void ShowPercent();

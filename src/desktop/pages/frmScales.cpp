@@ -12,6 +12,7 @@
 #include "desktop/system/dialogs.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "surfaces/colours.h"
 
 namespace vernacle {
@@ -34,7 +35,9 @@ frmScales::frmScales() : DrawingPage(kScalesTraits, ScalesTraits()) {
 }
 
 void frmScales::Load() {
-    exponent_->Disable();
+    if (!Service.exponent) {
+        exponent_->Disable();
+    }
     TakeSizes();
     if (Design.ActiveScale < 1) {
         Design.ActiveScale = 1; // none was selected since the start
@@ -94,11 +97,30 @@ void frmScales::ShowPrintTics() {
 }
 
 void frmScales::EnableStandardEntries() {
+    if (Service.specialScales) {
+        GreyWhatDoesNotApply();
+        return;
+    }
     Design.ScaleColor[Design.ActiveScale] = 0;
     for (const FieldPlace place :
          {At<&D::ScaleLeftEnd>, At<&D::ScaleLengthUnits>, At<&D::NrOfTicmarks>,
           At<&D::MajorEveryHowMany>, At<&D::LabelsEveryHowMany>}) {
         Of(place).Enable();
+    }
+}
+
+// A special scale has tics of its own; what makes those of a standard one does not apply.
+void frmScales::GreyWhatDoesNotApply() {
+    const bool special = Design.ScaleColor[Design.ActiveScale] < 0;
+    special_->setVisible(special);
+    for (const FieldPlace place :
+         {At<&D::ScaleLeftEnd>, At<&D::ScaleLengthUnits>, At<&D::NrOfTicmarks>,
+          At<&D::MajorEveryHowMany>, At<&D::LabelsEveryHowMany>, At<&D::LinearityExponent>}) {
+        if (special) {
+            Of(place).Disable();
+        } else {
+            Of(place).Enable();
+        }
     }
 }
 
@@ -122,6 +144,9 @@ void frmScales::Changed(const Field& field) {
 void frmScales::TakeExponent() {
     exponent_->Read(&typedExponent_);
     const float held = exponent_->row.limits.Held(typedExponent_);
+    if (Service.exponent && held <= 0) {
+        return; // 0 to such a power has no value
+    }
     Design.LinearityExponent[Design.ActiveScale] = held;
 }
 
@@ -220,6 +245,13 @@ void frmScales::cmdBottomToScaleCeilingClicked() {
 // Works on the scale that the last drawing ended behind; what it shows there the boxes store in the
 // active one.
 void frmScales::cmdRevertToStandardClicked() {
+    if (Service.specialScales) {
+        std::int32_t& colour = Design.ScaleColor[Design.ActiveScale];
+        colour = std::abs(colour);
+        EnableStandardEntries();
+        Redraw();
+        return;
+    }
     const int scale = Design.CurrentScale;
     Design.ScaleColor[scale] = std::abs(Design.ScaleColor[scale]);
     const auto show = [&](FieldPlace place, double usual) {

@@ -49,6 +49,7 @@ private:
     void FillPartner();
     void ShowPrintTics();
     void EnableStandardEntries();
+    void GreyWhatDoesNotApply();
 
     // Handlers
     void Changed(const Field& field);
@@ -71,6 +72,7 @@ private:
     Field* relativeSize_ = nullptr;
     NumberFrame scales_;
     QGroupBox* fraPrintTics_ = nullptr;
+    QLabel* special_ = nullptr; // none where no scale is special
     OptionButton* Option7_ = nullptr;
     OptionButton* Option8_ = nullptr;
     OptionButton* Option9_ = nullptr;

@@ -7,6 +7,7 @@
 #include "desktop/kit/optionbutton.h"
 #include "desktop/pages/frmScales.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -39,7 +40,7 @@ constexpr FieldRow kScalesFields[] = {
 
 } // namespace
 
-// Nothing enables them.
+// In the everyday program nothing enables them.
 struct frmScales::Button {
     const char* name;
     const char* caption;
@@ -57,6 +58,10 @@ const frmScales::Button frmScales::kButtons[] = {
 // clang-format on
 
 void frmScales::Build() {
+    if (Service.specialScales) {
+        special_ = MakeLabel("lblSpecialScale", QStringLiteral("Special scale"));
+        Column().addWidget(special_);
+    }
     scales_ = MakeNumberFrame(kScalesNumbers, [this](int scale) { ScaleClicked(scale); });
     Column().addWidget(scales_.frame);
     Column().addLayout(MakeFields());
@@ -114,7 +119,7 @@ QLayout* frmScales::MakeButtons() {
     for (const Button& row : kButtons) {
         QPushButton* button =
             MakeButton(row.name, QString::fromUtf8(row.caption), QString::fromUtf8(row.tip));
-        button->setEnabled(false);
+        button->setEnabled(Service.specialScales);
         connect(button, &QPushButton::clicked, this, row.clicked);
         grid->addWidget(button, place / 2, place % 2);
         ++place;

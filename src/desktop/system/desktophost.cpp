@@ -18,6 +18,8 @@
 #include "desktop/system/spool.h"
 #include "engine/base/hostservices.h"
 #include "engine/base/runtimeerror.h"
+#include "engine/core/service.h"
+#include "files/outputfile.h"
 
 namespace vernacle {
 
@@ -57,7 +59,10 @@ std::unique_ptr<ByteSink> OpenFile(const std::string& name) {
 }
 
 std::unique_ptr<ByteSink> Open(const std::string& name) {
-    return name == kPrinterPort ? OpenPrinterPort() : OpenFile(name);
+    if (name == kPrinterPort) {
+        return OpenPrinterPort();
+    }
+    return Service.carefulFiles ? OpenOutputFile(name) : OpenFile(name);
 }
 
 ScreenSize PrimaryScreen() {

@@ -22,6 +22,7 @@ constexpr int kStageOpen = 407;
 constexpr int kStageReset = 413;
 constexpr const char* kBackup = "Backup.DAT";
 constexpr const char* kLastSession = "LASTSESSION.VRN";
+constexpr const char* kLastWorkshop = "LASTWORKSHOP.VRN";
 
 // A text on its line: a line end inside it would shift all that follows.
 std::string OnOneLine(std::string text) {
@@ -146,6 +147,11 @@ void RefuseCalibration(const std::string& name) {
     }
 }
 
+// Each program has a session of its own.
+const char* SessionName() {
+    return Service.carefulFiles ? kLastWorkshop : kLastSession;
+}
+
 // The text is opened first and filled then, so that a failure on the way leaves the file as far as
 // it got.
 void WriteDesignFile(DesignRecord& design) {
@@ -268,17 +274,17 @@ void BackupDesign(DesignRecord& design) {
 }
 
 std::string LastSessionName() {
-    return Host.newestBesideProgram(kLastSession);
+    return Host.newestBesideProgram(SessionName());
 }
 
 bool SaveLastSession(DesignRecord& design) {
-    design.DesignFileName = Host.besideProgram(kLastSession);
+    design.DesignFileName = Host.besideProgram(SessionName());
     return WriteDesign(design);
 }
 
 bool KeepLastSession(const DesignRecord& design) {
     const auto copy = std::make_unique<DesignRecord>(design);
-    copy->DesignFileName = Host.besideProgram(kLastSession);
+    copy->DesignFileName = Host.besideProgram(SessionName());
     return TryToWrite(*copy);
 }
 

@@ -93,8 +93,9 @@ double LightOf(Colour colour) {
 }
 
 // Below a picture's plate: the ruler, its numbers, and some air.
-constexpr double kRulerReach = 700;
+constexpr double kRulerReach = 720;
 constexpr double kMarksAndAir = 400;
+constexpr double kUnitAndAir = 520; // behind a ruler that ends at a number
 
 constexpr DrawingStage kPaperStages[] = {
     BackgroundStage, GraphicStage, SegmentsStage,  HolesStage,     BearingsStage,
@@ -185,8 +186,8 @@ void TrueRulerStage(DrawingRun& run) {
 
 LogicalArea TrueArea(const DesignRecord& design) {
     const PlateFrame frame = TrueFrame(design, 1, 1);
-    return {frame.Left() - kMarksAndAir, frame.Top() - kMarksAndAir,
-            frame.Right() - frame.Left() + 2 * kMarksAndAir,
+    return {frame.Left() - kUnitAndAir, frame.Top() - kMarksAndAir,
+            frame.Right() - frame.Left() + 2 * kUnitAndAir,
             frame.Bottom() - frame.Top() + kMarksAndAir + kRulerReach};
 }
 
