@@ -2,7 +2,6 @@
 // does.
 #include "engine/core/design.h"
 #include "engine/designfile/readwrite.h"
-#include "engine/scale/scale.h"
 #include "target.h"
 
 namespace {
@@ -21,12 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const LineReport hear = [](int /*line*/, const std::string& /*reason*/) {};
     ReadDesign(Design, "design", {.doubt = hear, .failure = hear});
     WriteDesign(Design);
-    try {
-        NormalizeDesign(Design);
-        ComputeTicDeflections(Design);
-        ComputeTicLabels(Design);
-    } catch (const RunTimeError&) {
-        // The failure of the numbers that the file held; the pages trap it.
-    }
+    fuzz::MakeReady(Design);
     return 0;
 }

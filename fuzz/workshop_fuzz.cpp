@@ -5,7 +5,6 @@
 #include "engine/core/design.h"
 #include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
-#include "engine/scale/scale.h"
 #include "target.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -21,12 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::fputs("a design is not what it was written as\n", stderr);
         std::abort();
     }
-    try {
-        NormalizeDesign(Design);
-        ComputeTicDeflections(Design);
-        ComputeTicLabels(Design);
-    } catch (const RunTimeError&) {
-        // The failure of the numbers that the file held; the pages trap it.
-    }
+    fuzz::MakeReady(Design);
     return 0;
 }

@@ -8,7 +8,6 @@ namespace vernacle::test {
 
 namespace {
 
-constexpr double kUnitMm = 1 / 56.578;
 constexpr double kA4Width = 210;
 constexpr double kA4Height = 297;
 
@@ -104,6 +103,22 @@ DesignRecord GenerateDesign(int number) {
     }
     BendCurve(design, random);
     return design;
+}
+
+std::vector<int> LabelledTics(const DesignRecord& design, int scale) {
+    const bool special = design.ScaleColor[scale] < 0;
+    const int last = special ? design.SpecialNrOfTicmarks[scale] : design.NrOfTicmarks[scale];
+    // All around, the last one would stand on the first.
+    const bool isFull = design.NumberOfScales == 1 && design.PointerDeflection == 360;
+    std::vector<int> tics;
+    for (int tic = 0; tic <= (isFull ? last - 1 : last); tic += special ? 4 : 10) {
+        tics.push_back(tic);
+    }
+    return tics;
+}
+
+double EmOf(const DesignRecord& design, int scale) {
+    return double{design.FontSize} * double{design.RelativeFontSize[scale]} * kMmPerPoint;
 }
 
 MmPoint TruePlate::OnSheet(double fromLeftMm, double fromBottomMm) const {

@@ -11,6 +11,7 @@
 
 namespace vernacle::test {
 
+constexpr double kUnitMm = 1 / 56.578; // of the page
 constexpr double kMmPerPoint = 25.4 / 72;
 constexpr double kDigitAdvance = 1139. / 2048; // of the letters' size, in Arial's metrics
 constexpr double kCapitals = 1409. / 2048;
@@ -18,6 +19,12 @@ constexpr double kCapitals = 1409. / 2048;
 // Several scales of both kinds with colours of their own, a bent curve, highlights, texts; styles,
 // swings and rotations in turn by the number.
 DesignRecord GenerateDesign(int number);
+
+// The tics of a scale of such a design whose labels are drawn; each label is its tic's number.
+std::vector<int> LabelledTics(const DesignRecord& design, int scale);
+
+// The size of a scale's letters, mm.
+double EmOf(const DesignRecord& design, int scale);
 
 class TruePlate {
 public:

@@ -138,12 +138,8 @@ MmPoint StartOf(MmPoint middle, double turn, std::size_t digits, double em) {
 
 void ExpectLabels(const SvgPicture& picture, const TruePlate& plate, const DesignRecord& design,
                   int scale) {
-    const bool special = design.ScaleColor[scale] < 0;
-    const int last = special ? design.SpecialNrOfTicmarks[scale] : design.NrOfTicmarks[scale];
-    const bool isFull = design.NumberOfScales == 1 && design.PointerDeflection == 360;
-    const double em =
-        double{design.FontSize} * double{design.RelativeFontSize[scale]} * kMmPerPoint;
-    for (int tic = 0; tic <= (isFull ? last - 1 : last); tic += special ? 4 : 10) {
+    const double em = EmOf(design, scale);
+    for (const int tic : LabelledTics(design, scale)) {
         const MmPoint start = StartOf(plate.Middle(scale, tic), plate.LabelTurn(scale, tic),
                                       std::to_string(tic).size(), em);
         const bool stands = std::any_of(picture.glyphs.begin(), picture.glyphs.end(),
@@ -178,7 +174,6 @@ constexpr int kHeight = 1000;
 
 // From the sheet to a picture that shows the plate with its trim marks and its ruler.
 QPointF OnPicture(const TruePlate& plate, const DesignRecord& design, MmPoint sheet) {
-    constexpr double kUnitMm = 1 / 56.578;
     constexpr double kBesideMm = 520 * kUnitMm;
     constexpr double kAboveMm = 400 * kUnitMm;
     constexpr double kBelowMm = 720 * kUnitMm;

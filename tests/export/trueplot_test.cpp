@@ -155,12 +155,8 @@ void ExpectPlottedTics(const Plot& plot, const TruePlate& plate, const DesignRec
 
 void ExpectPlottedLabels(const Plot& plot, const TruePlate& plate, const DesignRecord& design,
                          int scale) {
-    const bool special = design.ScaleColor[scale] < 0;
-    const int last = special ? design.SpecialNrOfTicmarks[scale] : design.NrOfTicmarks[scale];
-    const bool isFull = design.NumberOfScales == 1 && design.PointerDeflection == 360;
-    const double em =
-        double{design.FontSize} * double{design.RelativeFontSize[scale]} * kMmPerPoint;
-    for (int tic = 0; tic <= (isFull ? last - 1 : last); tic += special ? 4 : 10) {
+    const double em = EmOf(design, scale);
+    for (const int tic : LabelledTics(design, scale)) {
         const std::string label = std::to_string(tic);
         const MmPoint middle = OnPlotter(plate, design, plate.Middle(scale, tic));
         bool isFound = false;

@@ -101,6 +101,11 @@ void frmPreview::Build() {
     tools->addWidget(MakeHeading("lblHeading", QStringLiteral("Preview")));
     tools->addLayout(MakeAspect());
     tools->addLayout(MakeTools());
+    if (Service.truePlate) {
+        remarks_ = MakeLabel("lblRemarks", {});
+        remarks_->setWordWrap(true);
+        tools->addWidget(remarks_);
+    }
     tools->addStretch();
     auto* halves = new QHBoxLayout;
     halves->setSpacing(16);
@@ -181,6 +186,9 @@ void frmPreview::Draw() {
         plate_->ShowPage(TrueArea(Design));
     }
     DrawPage(Design, plate_->Surface(), PreviewTraits(), sizes_, Drawing);
+    if (remarks_) {
+        remarks_->setText(QString::fromStdString(TrueRemarks(Design, Drawing)));
+    }
 }
 
 void frmPreview::ShowAspect() {

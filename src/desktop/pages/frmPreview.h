@@ -10,6 +10,7 @@
 #include "engine/core/design.h"
 #include "engine/render/drawing.h"
 
+class QLabel;
 class QLayout;
 class QPushButton;
 
@@ -61,6 +62,7 @@ private:
     Field* ratio_ = nullptr;
     Field* percent_ = nullptr;
     PictureBox* plate_ = nullptr;
+    QLabel* remarks_ = nullptr; // on the true plate; none without it
     std::vector<Overlay> overlays_;
     PageCopies sizes_;
     Table<std::string, kTexts> texts_; // the design's free texts, as they were at the load

@@ -22,6 +22,10 @@ bool IsContinuation(char c) {
 
 } // namespace
 
+std::string_view FileNameOf(std::string_view path) {
+    return path.substr(path.find_last_of("/\\") + 1); // all of it where there is none
+}
+
 std::size_t CharacterCount(std::string_view text) {
     const auto continuations = std::count_if(text.begin(), text.end(), IsContinuation);
     return text.size() - static_cast<std::size_t>(continuations);

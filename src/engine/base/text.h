@@ -13,6 +13,9 @@ std::string_view Trimmed(std::string_view text);
 // The text without the blanks at its start.
 std::string_view LeftTrimmed(std::string_view text);
 
+// A path's file name: what stands behind its last folder, whichever way its system parts them.
+std::string_view FileNameOf(std::string_view path);
+
 // The number of characters (code points) of a UTF-8 text; each stray byte counts as one.
 std::size_t CharacterCount(std::string_view text);
 

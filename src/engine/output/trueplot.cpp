@@ -7,6 +7,7 @@
 #include "engine/base/hostservices.h"
 #include "engine/base/linereader.h"
 #include "engine/base/numbertext.h"
+#include "engine/base/text.h"
 #include "engine/core/design.h"
 #include "engine/output/plottersurface.h"
 #include "engine/render/drawing.h"
@@ -73,11 +74,10 @@ void PlotNotes(const DesignRecord& design, PlotterSurface& surface) {
     constexpr double kLineApart = 150;
     constexpr double kPoints = 6;
     const PlateFrame page = TrueFrame(design, 1, 1);
-    const std::string& path = design.DesignFileName;
     surface.SetForeColor(kBlackInk);
     surface.SetFontSize(kPoints);
     double y = page.Bottom() + kBelowPlate;
-    for (const std::string& note : {"Filename: " + path.substr(path.find_last_of("/\\") + 1),
+    for (const std::string& note : {"Filename: " + std::string(FileNameOf(design.DesignFileName)),
                                     "Time/date: " + Host.localDateTime()}) {
         surface.SetCurrentX(static_cast<float>(page.Left()));
         surface.SetCurrentY(static_cast<float>(y));

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "engine/base/hostservices.h"
+#include "engine/base/text.h"
 #include "engine/core/design.h"
 #include "engine/geometry/primitives.h"
 #include "engine/output/print.h"
@@ -23,15 +24,11 @@ PlateFrame TrueFrameOn(const DesignRecord& design, const PrinterSurface& printer
                : TrueFrame(design, 1, 1);
 }
 
-std::string WithoutFolders(const std::string& path) {
-    return path.substr(path.find_last_of("/\\") + 1); // all of it where there is none
-}
-
 void PrintTrueFooter(const DesignRecord& design, PrinterSurface& printer, const PlateFrame& frame) {
     printer.SetFontSize(kFooterPoints);
     double y = frame.Bottom() + kFooterStart;
     for (const std::string& line :
-         {WithoutFolders(design.DesignFileName),
+         {std::string(FileNameOf(design.DesignFileName)),
           std::string("Printed by Vernacle from Harrowgate Software"), Host.localDateTime()}) {
         printer.SetCurrentX(F(frame.Left()));
         printer.SetCurrentY(F(y));

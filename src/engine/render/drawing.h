@@ -135,6 +135,10 @@ DrawingTraits TruePlateTraits(TrueMedium medium);
 // The frame of a true plate with these factors of a printer, 1 for what is not printed.
 PlateFrame TrueFrame(const DesignRecord& design, double factorX, double factorY);
 
+// What a page says of a true plate that was drawn with that state: tics that it has no place for, a
+// curve that it cannot follow. Empty where there is nothing to say.
+std::string TrueRemarks(const DesignRecord& design, const DrawingState& state);
+
 // What a picture of it shows: the plate, its trim marks and its ruler.
 LogicalArea TrueArea(const DesignRecord& design);
 

@@ -184,6 +184,22 @@ void TrueRulerStage(DrawingRun& run) {
                     .unit = "mm"});
 }
 
+std::string TrueRemarks(const DesignRecord& design, const DrawingState& state) {
+    std::string remarks;
+    int scale = 0;
+    for (const Tic& tic : state.OutOfReach) {
+        remarks += tic.scale == scale ? ", " : (scale == 0 ? "The pointer does not meet " : "; ");
+        remarks += tic.scale == scale ? "" : "on scale " + std::to_string(tic.scale) + " tic ";
+        remarks += std::to_string(tic.number);
+        scale = tic.scale;
+    }
+    if (!CurveRises(design)) {
+        remarks += remarks.empty() ? "" : "\n";
+        remarks += "The movement's curve does not rise; a straight one is drawn.";
+    }
+    return remarks;
+}
+
 LogicalArea TrueArea(const DesignRecord& design) {
     const PlateFrame frame = TrueFrame(design, 1, 1);
     return {frame.Left() - kUnitAndAir, frame.Top() - kMarksAndAir,

@@ -46,6 +46,15 @@ TEST_F(WorkshopTest, ThePreviewShowsTheTruePlateWithAllOfItsScales) {
     }
 }
 
+TEST_F(WorkshopTest, ThePreviewSaysWhatItLeavesOut) {
+    OpenPage("frmPreview");
+    EXPECT_EQ(Shown("lblRemarks"), "");
+    Design.CorrectionPair[8] = 0; // the fourth point falls back
+    OpenPage("frmPlate");
+    OpenPage("frmPreview");
+    EXPECT_EQ(Shown("lblRemarks"), "The movement's curve does not rise; a straight one is drawn.");
+}
+
 // Each is drawn as it stands, and stays when another comes.
 TEST_F(WorkshopTest, OverlaysStayUntilTheyAreSwitchedOff) {
     OpenPage("frmPreview");

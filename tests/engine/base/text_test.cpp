@@ -26,6 +26,13 @@ TEST(TextTest, CountsCharactersAndNotBytes) {
     EXPECT_EQ(CharacterCount("k\u2126\u20AC"), 3U);
 }
 
+TEST(TextTest, AFileNameStandsBehindTheLastFolder) {
+    EXPECT_EQ(FileNameOf("/a/b c/plate.VRN"), "plate.VRN");
+    EXPECT_EQ(FileNameOf("C:\\a\\plate.VRN"), "plate.VRN");
+    EXPECT_EQ(FileNameOf("plate.VRN"), "plate.VRN");
+    EXPECT_EQ(FileNameOf("folder/"), "");
+}
+
 TEST(TextTest, LeftmostCountsCharacters) {
     EXPECT_EQ(Leftmost("", 3), "");
     EXPECT_EQ(Leftmost("volts", 0), "");

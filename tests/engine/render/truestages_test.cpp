@@ -93,9 +93,17 @@ TEST_F(TrueStagesTest, WhatThePointerCannotMeetIsLeftOutAndNamed) {
     ASSERT_EQ(Drawing.OutOfReach.size(), 10U);
     EXPECT_EQ(Drawing.OutOfReach.front().number, 0);
     EXPECT_EQ(Drawing.OutOfReach.back().number, 10);
+    EXPECT_EQ(TrueRemarks(Design, Drawing),
+              "The pointer does not meet on scale 1 tic 0, 1, 2, 3, 4, 6, 7, 8, 9, 10");
     Design.ActualVirtualOffset = 0;
     DrawTrue();
     EXPECT_TRUE(Drawing.OutOfReach.empty()) << "of this drawing alone";
+    EXPECT_EQ(TrueRemarks(Design, Drawing), "");
+    Drawing.OutOfReach = {{1, 3, 0, false}, {2, 0, 0, true}, {2, 9, 0, true}};
+    Design.CorrectionPair[8] = 0;
+    EXPECT_EQ(TrueRemarks(Design, Drawing),
+              "The pointer does not meet on scale 1 tic 3; on scale 2 tic 0, 9\n"
+              "The movement's curve does not rise; a straight one is drawn.");
 }
 
 TEST_F(TrueStagesTest, HighlightsOfNothingAreNotDrawn) {
