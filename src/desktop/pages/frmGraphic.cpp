@@ -9,6 +9,7 @@
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/pathlabel.h"
 #include "desktop/system/dialogs.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -47,6 +48,11 @@ std::string UpperCased(const std::string& path) {
     return QString::fromStdString(path).toUpper().toStdString();
 }
 
+// Where files are careful a name stays as it is.
+std::string ShownName(const std::string& path) {
+    return Service.carefulFiles ? path : UpperCased(path);
+}
+
 } // namespace
 
 frmGraphic::frmGraphic() : TextKeepingPage(kGraphicTraits, TextTraits()) {
@@ -83,13 +89,15 @@ void frmGraphic::Load() {
     TakeCopies();
     lblGraphicName_->setText(Design.GraphicFileName.empty()
                                  ? QStringLiteral("(No graphic currently selected)")
-                                 : QString::fromStdString(UpperCased(Design.GraphicFileName)));
+                                 : QString::fromStdString(ShownName(Design.GraphicFileName)));
     for (const Field* measure : measures_) {
         measure->Fill(PlaceOf(*measure)); // and its partner by that
-        measure->Disable();
+        if (!Service.reserveStages) {
+            measure->Disable();
+        }
     }
-    cmdGetGraphic_->setEnabled(false);
-    cmdRemoveGraphic_->setEnabled(false);
+    cmdGetGraphic_->setEnabled(Service.reserveStages);
+    cmdRemoveGraphic_->setEnabled(Service.reserveStages);
     Redraw();
 }
 
@@ -143,7 +151,10 @@ void frmGraphic::cmdGetGraphicClicked() {
     const std::string chosen = AskForFileToOpen(
         this,
         {"Get graphic", "Graphic files (.bmp, .gif, .ico, .jpg)|*.JPG;*.GIF;*.BMP;*.ICO", ""});
-    Design.GraphicFileName = UpperCased(chosen);
+    if (Service.carefulFiles && chosen.empty()) {
+        return; // the dialog was cancelled
+    }
+    Design.GraphicFileName = ShownName(chosen);
     lblGraphicName_->setText(QString::fromStdString(Design.GraphicFileName));
     Design.DrawGraphic = "Y";
     Redraw();

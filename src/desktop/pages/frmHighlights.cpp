@@ -12,6 +12,7 @@
 #include "desktop/navigation/navigator.h"
 #include "desktop/system/dialogs.h"
 #include "engine/base/numbertext.h"
+#include "engine/core/service.h"
 #include "surfaces/colours.h"
 
 namespace vernacle {
@@ -85,12 +86,20 @@ void frmHighlights::Load() {
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
         numbers_.Option(highlight).SetInk(ToQColor(Design.HighlightColor[highlight]));
     }
+    if (Service.reserveStages) {
+        numbers_.Option(1).Select();
+    } else {
+        DisableEntries();
+    }
+    Redraw();
+}
+
+void frmHighlights::DisableEntries() {
     for (const Field* field : fields_) {
         field->Disable();
     }
     numbers_.Disable();
     cmdGetColor_->setEnabled(false);
-    Redraw();
 }
 
 void frmHighlights::FillHighlightEntry() {
@@ -138,6 +147,9 @@ void frmHighlights::txtLength10Changed() {
 void frmHighlights::cmdGetColorClicked() {
     std::int32_t& colour = Design.HighlightColor[CurrentHighlight_];
     colour = AskForColour(this, "Get Highlight color", colour);
+    if (Service.reserveStages) {
+        numbers_.Option(CurrentHighlight_).SetInk(ToQColor(colour));
+    }
     Redraw();
 }
 
@@ -147,7 +159,7 @@ void frmHighlights::cmdShowTicInfoClicked() {
 
 void frmHighlights::Redraw() {
     TextKeepingPage::Redraw();
-    if (CurrentHighlight_ > 0) {
+    if (CurrentHighlight_ > 0 && !Service.truePlate) { // else the number tells the colour
         DrawingSurface& surface = Plate().Surface();
         surface.FilledBox(7730, 5470, 8700, 5530, Design.HighlightColor[CurrentHighlight_]);
         surface.Box(7700, 5440, 8730, 5560, kBlackInk);

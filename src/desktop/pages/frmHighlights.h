@@ -22,6 +22,7 @@ protected:
 private:
     void Build();
     void Load();
+    void DisableEntries();
 
     void FillHighlightEntry();
 

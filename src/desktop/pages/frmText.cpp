@@ -14,6 +14,7 @@
 #include "desktop/system/dialogs.h"
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
+#include "engine/core/service.h"
 #include "surfaces/typeface.h"
 
 namespace vernacle {
@@ -87,6 +88,17 @@ void frmText::Build() {
 void frmText::Load() {
     TakeCopies();
     textsAtLoad_ = CountTexts(texts_);
+    if (!Service.reserveStages) {
+        DisableEntries();
+    }
+    numbers_.Option(1).Select();
+    if (!Service.reserveStages) {
+        numbers_.Disable();
+    }
+    Redraw();
+}
+
+void frmText::DisableEntries() {
     for (const Field* field : fields_) {
         field->Disable();
     }
@@ -94,9 +106,6 @@ void frmText::Load() {
          std::initializer_list<QWidget*>{lblTextWidthmm_, cmdCenterText_, cmdGetColor_}) {
         part->setEnabled(false);
     }
-    numbers_.Option(1).Select();
-    numbers_.Disable();
-    Redraw();
 }
 
 void frmText::FillTextEntry() {
@@ -120,6 +129,11 @@ float frmText::DrawnWidthMm(int entry) const {
     const Typeface face{std::string(Trimmed(Design.FontName))};
     const QString text = QString::fromStdString(texts_.TextString[entry]);
     const double points = double{copies_.fontSize} * double{texts_.TextRelativeSize[entry]};
+    if (Service.truePlate) {
+        constexpr double kMmPerPoint = 25.4 / 72;
+        const double ems = face.Advance(text) / Typeface::kReferenceSize;
+        return static_cast<float>(ems * points * kMmPerPoint);
+    }
     return static_cast<float>(FreeTextWidthMm(face.Advance(text) / face.AverageWidth(), points));
 }
 
@@ -165,10 +179,11 @@ void frmText::cmdCenterTextClicked() {
     Redraw();
 }
 
-// Starts from the colour of the scale of that number, of which there are fewer than texts.
+// The everyday page starts from the colour of the scale of that number, of which there are fewer
+// than texts.
 void frmText::cmdGetColorClicked() {
-    const Colour start = InkOf(Design, CurrentTextEntry_);
     std::int32_t& colour = texts_.TextColor[CurrentTextEntry_];
+    const Colour start = Service.reserveStages ? colour : InkOf(Design, CurrentTextEntry_);
     colour = AskForColour(this, "Get text color", start);
     if (colour == 0) {
         colour = 1; // black stays distinct from unset

@@ -20,6 +20,7 @@ public:
 private:
     void Build();
     void Load();
+    void DisableEntries();
 
     void FillTextEntry();
     void MeasureTextWidth(int entry);

@@ -276,7 +276,9 @@ bool LooksLikeHead(std::string_view item, bool isEnded) {
 template <std::size_t Count>
 void FileWalker::VisitAll(const FileLine (&lines)[Count], LinePlace place) {
     for (const FileLine& line : lines) {
-        Visit(line, place);
+        if (!line.standsWith || IsLifted(line.standsWith)) {
+            Visit(line, place);
+        }
     }
 }
 

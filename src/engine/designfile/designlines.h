@@ -34,7 +34,7 @@ struct FileLine {
     AfterReading afterReading = {}; // what is forced, whatever the line said
     WritingStep beforeWriting = nullptr;
     WritingStep afterWriting = nullptr;
-    LiftedBy writtenWith = nullptr; // only where this is in service; none: always
+    LiftedBy standsWith = nullptr; // only where this is in service; none: always
 };
 
 // Whether a row stands before the blocks of the scales.

@@ -42,7 +42,7 @@ public:
 
 private:
     void Visit(const FileLine& line, LinePlace place) override {
-        if (!line.label || (line.writtenWith && !IsLifted(line.writtenWith))) {
+        if (!line.label) {
             return;
         }
         if (line.beforeWriting) {

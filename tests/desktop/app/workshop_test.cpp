@@ -145,6 +145,76 @@ TEST_F(WorkshopTest, AnExponentIsAboveZero) {
     EXPECT_EQ(Design.LinearityExponent[1], 4);
 }
 
+TEST_F(WorkshopTest, TheTextPageTakesTextsFromItsFirstEntryOn) {
+    OpenPage("frmText");
+    ExpectEnabled({"txtText", "txtLeftToText", "txtBottomToText", "txtRelSize", "cmdCenterText",
+                   "cmdGetColor", "Option10"},
+                  true);
+    ExpectSelected({"Option1"}, true);
+    Type("txtText", "Made here");
+    Type("txtRelSize", "1.5");
+    Click("cmdCenterText");
+    const Strings texts = TextsOf("picPlate");
+    EXPECT_EQ(std::count(texts.begin(), texts.end(), "Made here"), 1);
+    Click("Option10"); // a gap stays one
+    Type("txtText", "Last");
+    ClickAndSettle("Preview"); // a key of the toolbar keeps them
+    EXPECT_EQ(Design.TextString[1], "Made here");
+    EXPECT_EQ(Design.TextString[2], "");
+    EXPECT_EQ(Design.TextString[10], "Last");
+    EXPECT_EQ(Design.TextRelativeSize[1], 1.5F);
+}
+
+// M of Arial is 1706 / 2048 of its size wide.
+TEST_F(WorkshopTest, ATextIsCentredByItsTrueWidth) {
+    Design.FontSize = 10;
+    OpenPage("frmText");
+    Type("txtText", "MMMM");
+    const double width = 4 * 1706. / 2048 * 10 * 25.4 / 72;
+    EXPECT_EQ(Shown("lblTextWidthmm").substr(0, 21), "Text width (mm): 11.8");
+    Click("cmdCenterText");
+    ClickAndSettle("Preview");
+    EXPECT_NEAR(double{Design.LeftToText[1]}, (75 - width) / 2, 0.06);
+}
+
+TEST_F(WorkshopTest, TheHighlightsPageTakesZonesThatStartAtZero) {
+    OpenPage("frmHighlights");
+    ExpectEnabled({"txtStart1", "txtStop1", "txtCeiling1", "txtLength1", "cmdGetColor", "Option10"},
+                  true);
+    Type("txtStart1", "0");
+    Type("txtStop1", "25");
+    Type("txtCeiling1", "30");
+    Type("txtLength1", "2");
+    EXPECT_EQ(CountCalls("FillArea"), 1U);
+    Click("Option4");
+    Type("txtStart1", "50");
+    Type("txtStop1", "60");
+    Type("txtCeiling1", "30");
+    Type("txtLength1", "2");
+    EXPECT_EQ(CountCalls("FillArea"), 2U);
+    EXPECT_EQ(CountCalls("Box"), 0U) << "no sample on the plate";
+    OpenPage("frmPreview");
+    EXPECT_EQ(CountCalls("FillArea"), 2U);
+}
+
+TEST_F(WorkshopTest, TheGraphicPageKeepsAPicturesName) {
+    const std::string file = WriteFile("Mark of ours.bmp", "no picture");
+    OpenPage("frmGraphic");
+    ExpectEnabled({"txtLeftToImage", "txtBottomToImage", "txtGraphicWidth", "txtGraphicHeight",
+                   "cmdGetGraphic", "cmdRemoveGraphic"},
+                  true);
+    ClickAndAnswer("cmdGetGraphic", Cancel);
+    EXPECT_EQ(Design.DrawGraphic, "N") << "a cancelled dialog does nothing";
+    ClickAndAnswer("cmdGetGraphic", TypeFile(file));
+    EXPECT_EQ(Design.GraphicFileName, file);
+    EXPECT_EQ(Design.DrawGraphic, "Y");
+    Type("txtGraphicWidth", "25");
+    EXPECT_EQ(Design.GraphicWidth, 25);
+    OpenPage("frmPreview");
+    OpenPage("frmGraphic");
+    EXPECT_EQ(Shown("lblGraphicName"), file);
+}
+
 TEST_F(WorkshopTest, ItsSessionStandsBesideTheEverydayOne) {
     Design.LeftToBearing = 7;
     EXPECT_TRUE(SaveLastSession(Design));
