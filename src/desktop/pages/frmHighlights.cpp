@@ -85,6 +85,9 @@ void frmHighlights::Load() {
     TakeCopies();
     for (int highlight = 1; highlight <= kHighlights; ++highlight) {
         numbers_.Option(highlight).SetInk(ToQColor(Design.HighlightColor[highlight]));
+        if (Service.reserveStages) { // they are enabled, and would have a ground of their own
+            numbers_.Option(highlight).SetGround(ToQColor(Design.PlateBackground));
+        }
     }
     if (Service.reserveStages) {
         numbers_.Option(1).Select();
