@@ -15,6 +15,7 @@
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
 #include "engine/core/service.h"
+#include "engine/geometry/sheet.h"
 #include "surfaces/typeface.h"
 
 namespace vernacle {
@@ -130,7 +131,6 @@ float frmText::DrawnWidthMm(int entry) const {
     const QString text = QString::fromStdString(texts_.TextString[entry]);
     const double points = double{copies_.fontSize} * double{texts_.TextRelativeSize[entry]};
     if (Service.truePlate) {
-        constexpr double kMmPerPoint = 25.4 / 72;
         const double ems = face.Advance(text) / Typeface::kReferenceSize;
         return static_cast<float>(ems * points * kMmPerPoint);
     }

@@ -55,14 +55,11 @@ std::unique_ptr<ByteSink> OpenFile(const std::string& name) {
         return OpenFileSink(name);
     }
 #endif
-    return OpenFileSink(name);
+    return Service.carefulFiles ? OpenOutputFile(name) : OpenFileSink(name);
 }
 
 std::unique_ptr<ByteSink> Open(const std::string& name) {
-    if (name == kPrinterPort) {
-        return OpenPrinterPort();
-    }
-    return Service.carefulFiles ? OpenOutputFile(name) : OpenFile(name);
+    return name == kPrinterPort ? OpenPrinterPort() : OpenFile(name);
 }
 
 ScreenSize PrimaryScreen() {

@@ -14,7 +14,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr double kMmPerPoint = 25.4 / 72;
 constexpr double kPixelMm = 25.4 / 600; // of line widths that count a printer's pixels
 constexpr double kFarthest = 32768;     // plotter units that a statement can say
 constexpr const char* kEndOfText = "\x03";

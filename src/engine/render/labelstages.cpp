@@ -5,6 +5,7 @@
 #include "engine/base/text.h"
 #include "engine/core/design.h"
 #include "engine/geometry/primitives.h"
+#include "engine/geometry/sheet.h"
 #include "engine/render/stages.h"
 #include "engine/scale/scale.h"
 
@@ -18,8 +19,6 @@ constexpr double kLabelHeight = 0.0513;
 constexpr double kTitleHeight = 0.05;
 constexpr double kCharacterWidth = 0.0198;
 constexpr double kOrdinarySize = 0.0285;
-
-constexpr double kMmPerPoint = 25.4 / 72;
 
 // The height of a made font per point; the sampled fitting asks for that of the characters.
 double HeightPerPoint(const DrawingRun& run, double usual) {
