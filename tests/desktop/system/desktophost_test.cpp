@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "engine/base/runtimeerror.h"
+#include "engine/core/service.h"
 #include "support/formtest.h"
 
 namespace vernacle::test {
@@ -111,6 +112,9 @@ TEST_F(HostTest, ABareNameStandsInTheWorkingFolder) {
 
 TEST_F(HostTest, APipeThatNobodyReadsCannotBeOpened) {
     ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    StoreService(Program::Workshop); // whose own way to open a file would wait
+    EXPECT_THROW(desktop.openForOutput(Path("pipe")), FileFailure);
+    StoreService(Program::Everyday);
     EXPECT_THROW(desktop.openForOutput(Path("pipe")), FileFailure);
     EXPECT_THROW(desktop.readFile(Path("pipe")), FileFailure);
     const int reader = open(Path("pipe").c_str(), O_RDONLY | O_NONBLOCK);
@@ -121,6 +125,21 @@ TEST_F(HostTest, APipeThatNobodyReadsCannotBeOpened) {
     EXPECT_EQ(read(reader, bytes.data(), bytes.size()), 7);
     EXPECT_STREQ(bytes.data(), "through");
     close(reader);
+}
+
+TEST_F(HostTest, TheWorkshopReplacesAFileWhenTheNewOneIsWhole) {
+    StoreService(Program::Workshop);
+    WriteFile("plate.VRN", "old");
+    {
+        const auto sink = desktop.openForOutput(Path("plate.VRN"));
+        sink->Write("half of the n");
+    }
+    EXPECT_EQ(ReadFile("plate.VRN"), "old");
+    const auto sink = desktop.openForOutput(Path("plate.VRN"));
+    sink->Write("new");
+    sink->Close();
+    EXPECT_EQ(ReadFile("plate.VRN"), "new");
+    EXPECT_THROW(desktop.openForOutput(Path("none/plate.VRN"))->Close(), FileFailure);
 }
 
 TEST_F(HostTest, OtherNamesArePaths) {
