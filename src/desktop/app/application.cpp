@@ -8,6 +8,7 @@
 
 #include "desktop/navigation/navigator.h"
 #include "desktop/system/messages.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -32,7 +33,7 @@ void AskForKeys() {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Vernacle"));
     setApplicationDisplayName(QString());
-    setDesktopFileName(QStringLiteral("vernacle"));
+    setDesktopFileName(QLatin1String(Service.carefulFiles ? "vernacle-workshop" : "vernacle"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/vernacle.svg")));
     setQuitOnLastWindowClosed(false); // pages come and go; the process ends where it is told to
 }

@@ -7,9 +7,12 @@
 
 #include "desktop/kit/formkit.h"
 #include "desktop/navigation/navigator.h"
+#include "desktop/navigation/opendocument.h"
+#include "desktop/pages/carefuldesign.h"
 #include "engine/base/hostservices.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 
 namespace vernacle {
@@ -24,7 +27,24 @@ constexpr float kNoticeSeconds = 2;
 constexpr QColor kNoticeGround(0xEE, 0xFF, 0xFF);
 
 QString Notice() {
-    return QStringLiteral("This design has been saved (as 'LASTSESSION.VRN')");
+    return Service.carefulFiles
+               ? QStringLiteral("This session has been kept")
+               : QStringLiteral("This design has been saved (as 'LASTSESSION.VRN')");
+}
+
+// Whether leaving loses changes, but for the session that is kept in any case.
+bool HasChanges() {
+    return Service.carefulFiles && !Document().IsKept();
+}
+
+QString Question() {
+    if (HasChanges()) {
+        return QStringLiteral("The design has changes that no file holds. Leave %1?\nThe session "
+                              "is kept in any case, and can be gone on with at the next start.")
+            .arg(QLatin1String(ServiceName()));
+    }
+    return QStringLiteral("Leave %1? The design is kept as the last session in any case.")
+        .arg(QLatin1String(ServiceName()));
 }
 
 QFont NoticeFont(QFont font) {
@@ -41,7 +61,8 @@ frmExit::frmExit() : ModalForm("frmExit", QStringLiteral("Vernacle - Exit ?")) {
     Label1_->setFont(NoticeFont(font()));
     Label1_->hide();
     cmdCancel_ = MakeButton("cmdCancel", QStringLiteral("Cancel and continue"));
-    cmdExit_ = MakeButton("cmdExit", QStringLiteral("Exit / quit"));
+    cmdExit_ = MakeButton("cmdExit", HasChanges() ? QStringLiteral("Exit without saving")
+                                                  : QStringLiteral("Exit / quit"));
     connect(cmdCancel_, &QPushButton::clicked, this, &frmExit::cmdCancelClicked);
     connect(cmdExit_, &QPushButton::clicked, this, &frmExit::cmdExitClicked);
     cmdCancel_->setDefault(true);
@@ -49,19 +70,25 @@ frmExit::frmExit() : ModalForm("frmExit", QStringLiteral("Vernacle - Exit ?")) {
 
     auto* column = new QVBoxLayout(this);
     column->addStretch();
-    column->addWidget(
-        MakeLabel("Label2", QStringLiteral("Leave Vernacle? The design is kept as the last "
-                                           "session in any case.")),
-        0, Qt::AlignHCenter);
+    column->addWidget(MakeLabel("Label2", Question()), 0, Qt::AlignHCenter);
     column->addStretch();
+    column->addLayout(MakeButtons());
+    column->addStretch();
+    setFixedSize((kPageTwips * PixelsPerTwip()).toSize().expandedTo(sizeHint()));
+}
+
+QLayout* frmExit::MakeButtons() {
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(cmdCancel_);
+    if (HasChanges()) {
+        cmdSave_ = MakeButton("cmdSave", QStringLiteral("Save and exit"));
+        connect(cmdSave_, &QPushButton::clicked, this, &frmExit::cmdSaveClicked);
+        buttons->addWidget(cmdSave_);
+    }
     buttons->addWidget(cmdExit_);
     buttons->addStretch();
-    column->addLayout(buttons);
-    column->addStretch();
-    setFixedSize((kPageTwips * PixelsPerTwip()).toSize().expandedTo(sizeHint()));
+    return buttons;
 }
 
 // The page is as wide as its notice asks for: on a large screen the notice's font is large.
@@ -76,12 +103,21 @@ void frmExit::cmdCancelClicked() {
     reject();
 }
 
+void frmExit::cmdSaveClicked() {
+    if (SaveDesignByDialog(this)) {
+        cmdExitClicked();
+    }
+}
+
 // Who was told that the session could not be kept may mend it, or go all the same.
 void frmExit::cmdExitClicked() {
     const std::string name = Design.DesignFileName;
     if (SaveLastSession(Design)) {
         cmdCancel_->setEnabled(false);
         cmdExit_->setEnabled(false);
+        if (cmdSave_) {
+            cmdSave_->setEnabled(false);
+        }
         ShowNotice();
         Delay(kNoticeSeconds);
         Label1_->hide();

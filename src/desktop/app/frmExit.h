@@ -4,6 +4,7 @@
 #include "desktop/kit/form.h"
 
 class QLabel;
+class QLayout;
 class QPushButton;
 
 namespace vernacle {
@@ -17,14 +18,17 @@ public:
 private:
     void cmdCancelClicked();
     void cmdExitClicked();
+    void cmdSaveClicked();
 
+    QLayout* MakeButtons();
     double PixelsPerTwip() const;
     void ShowNotice();
 
     QLabel* Label1_;
     QPushButton* cmdCancel_;
     QPushButton* cmdExit_;
-    bool failed_ = false; // to keep the session, when Exit was pressed before
+    QPushButton* cmdSave_ = nullptr; // where there are changes that no file holds
+    bool failed_ = false;            // to keep the session, when Exit was pressed before
 };
 
 } // namespace vernacle

@@ -3,7 +3,10 @@
 #include <algorithm>
 
 #include <QCloseEvent>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QHBoxLayout>
+#include <QListWidget>
 #include <QPainter>
 #include <QShortcut>
 #include <QSvgRenderer>
@@ -11,9 +14,14 @@
 
 #include "desktop/kit/formkit.h"
 #include "desktop/navigation/navigator.h"
+#include "desktop/navigation/opendocument.h"
+#include "desktop/navigation/session.h"
+#include "desktop/pages/carefuldesign.h"
 #include "desktop/pages/vernaclefile.h"
+#include "desktop/system/recentfiles.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/output/calibrate.h"
 
@@ -24,6 +32,10 @@ namespace {
 constexpr float kButtonDelay = 1; // seconds
 constexpr double kTitleSize = 3;  // of the ordinary font
 constexpr double kSubtitleSize = 1.4;
+constexpr int kRecentGap = 24; // pixels
+constexpr int kRecentCharacters = 56;
+constexpr int kRecentRows = 9;
+constexpr int kIsSession = Qt::UserRole + 1;
 
 // The picture of a meter, as large as the page allows.
 class MeterPicture : public QWidget {
@@ -64,9 +76,12 @@ struct frmOpening::Button {
     const char* tip;
     const char* shortcut;
     void (frmOpening::*clicked)();
+    LiftedBy standsWith = nullptr; // only where this is in service; none: always
 };
 
 const frmOpening::Button frmOpening::kButtons[] = {
+    {"cmdNew", "Start a new design", "Enter a meter's measures one by one, with pictures", "Ctrl+N",
+     &frmOpening::StartNewDesign, &ServiceState::wizard},
     {"cmdOld", "Retrieve an old design", "Recall a previously-designed scale   ", "Ctrl+O",
      &frmOpening::cmdOldClicked},
     {"cmdLastSession", "Restart at last session", "Restart where you left off at your last session",
@@ -82,6 +97,9 @@ frmOpening::frmOpening() {
     Build();
     if (!CurrentPage()) { // the program starts: who comes back from the wizard keeps the design
         SetOpeningValues(Design);
+        if (Service.carefulFiles) {
+            StartFromDefaults();
+        }
     }
     ReadCalibrate(Design);
 }
@@ -93,11 +111,13 @@ void frmOpening::Build() {
     column->addLayout(MakeTexts());
     column->addStretch(1);
     column->addLayout(MakeButtons());
-    column->addWidget(
-        MakeLightLabel("lblBegin",
-                       QStringLiteral("To begin a new design, press \"Retrieve an old "
-                                      "design\" and cancel the dialog that opens."),
-                       1));
+    if (!Service.wizard) {
+        column->addWidget(
+            MakeLightLabel("lblBegin",
+                           QStringLiteral("To begin a new design, press \"Retrieve an old "
+                                          "design\" and cancel the dialog that opens."),
+                           1));
+    }
     column->addStretch(1);
 }
 
@@ -115,10 +135,13 @@ QLayout* frmOpening::MakeTexts() {
 QLayout* frmOpening::MakeButtons() {
     auto* buttons = new QVBoxLayout;
     for (const Button& button : kButtons) {
+        if (button.standsWith && !IsLifted(button.standsWith)) {
+            continue;
+        }
         QPushButton* made = MakeButton(button.name, QString::fromUtf8(button.caption),
                                        QString::fromUtf8(button.tip));
         made->setMinimumSize(made->sizeHint() * 1.4);
-        if (&button == &kButtons[0]) {
+        if (buttons->isEmpty()) {
             made->setFocus();
         }
         connect(made, &QPushButton::clicked, this, button.clicked);
@@ -131,8 +154,50 @@ QLayout* frmOpening::MakeButtons() {
     auto* centred = new QHBoxLayout;
     centred->addStretch();
     centred->addLayout(buttons);
+    if (QLayout* recent = Service.carefulFiles ? MakeRecent() : nullptr) {
+        centred->addSpacing(kRecentGap);
+        centred->addLayout(recent);
+    }
     centred->addStretch();
     return centred;
+}
+
+// Files by their names, then the sessions by their times.
+QLayout* frmOpening::MakeRecent() {
+    auto* list = new QListWidget;
+    list->setObjectName(QStringLiteral("lstRecent"));
+    const auto add = [list](const QString& text, const QString& file, int kind) {
+        auto* item = new QListWidgetItem(text, list);
+        item->setToolTip(file);
+        item->setData(Qt::UserRole, file);
+        item->setData(kIsSession, kind);
+    };
+    for (const RecentFile& file : RecentFiles()) {
+        const QFileInfo info(QString::fromStdString(file.name));
+        add(info.fileName() + QStringLiteral("  (%1)").arg(info.path()), info.filePath(), 0);
+    }
+    for (const std::string& file : KeptSessionNames()) {
+        const QFileInfo info(QString::fromStdString(file));
+        add(QStringLiteral("Session of ") +
+                info.lastModified().toString(QStringLiteral("yyyy-MM-dd hh:mm")),
+            info.filePath(), 1);
+    }
+    if (list->count() == 0) {
+        delete list;
+        return nullptr;
+    }
+    list->setMinimumWidth(list->fontMetrics().averageCharWidth() * kRecentCharacters);
+    list->setMaximumHeight(list->fontMetrics().lineSpacing() * kRecentRows);
+    connect(list, &QListWidget::itemActivated, this,
+            [this](const QListWidgetItem* item) { RecentChosen(*item); });
+    auto* column = new QVBoxLayout;
+    QLabel* caption = MakeLightLabel("lblRecent", QStringLiteral("Worked on last:"), 1);
+    caption->setAlignment(Qt::AlignLeft);
+    caption->setBuddy(list);
+    list->setAccessibleName(QStringLiteral("Worked on last"));
+    column->addWidget(caption);
+    column->addWidget(list);
+    return column;
 }
 
 // A blend from black to blue, line by line.
@@ -150,7 +215,27 @@ void frmOpening::closeEvent(QCloseEvent* event) {
     cmdExitClicked();
 }
 
+// The preview makes the design ready; that is no step of its user.
+void frmOpening::ShowDesign() {
+    GoToPage("frmPreview");
+    Document().Absorb();
+}
+
+void frmOpening::RecentChosen(const QListWidgetItem& item) {
+    const std::string file = item.data(Qt::UserRole).toString().toStdString();
+    const bool isSession = item.data(kIsSession).toInt() != 0;
+    if (MayGiveUpDesign(this) && (isSession ? OpenSession(file) : OpenDesignFile(file))) {
+        ShowDesign();
+    }
+}
+
 void frmOpening::cmdOldClicked() {
+    if (Service.carefulFiles) {
+        if (MayGiveUpDesign(this) && OpenDesignByDialog(this, "Get Vernacle File")) {
+            ShowDesign();
+        }
+        return;
+    }
     Delay(kButtonDelay);
     Design.DesignFileName = AskForVernacleFile(this, "Get Vernacle File");
     ResetDesign(Design);
@@ -159,6 +244,12 @@ void frmOpening::cmdOldClicked() {
 }
 
 void frmOpening::cmdLastSessionClicked() {
+    if (Service.carefulFiles) {
+        if (MayGiveUpDesign(this) && OpenSession(LastSessionName())) {
+            ShowDesign();
+        }
+        return;
+    }
     Delay(kButtonDelay);
     Design.DesignFileName = LastSessionName();
     ReadDesign(Design, Design.DesignFileName);
@@ -167,11 +258,22 @@ void frmOpening::cmdLastSessionClicked() {
 }
 
 void frmOpening::cmdExitClicked() {
+    if (Service.carefulFiles && !Document().IsKept()) {
+        SaveSessionAndEnd(); // who came back from the wizard
+        return;
+    }
     UnloadPage();
     EndProcess();
 }
 
 void frmOpening::StartNewDesign() {
+    if (Service.carefulFiles) {
+        if (MayGiveUpDesign(this)) {
+            StartFromDefaults();
+            GoToPage("frmWizard");
+        }
+        return;
+    }
     ResetDesign(Design);
     Delay(kButtonDelay);
     GoToPage("frmWizard");

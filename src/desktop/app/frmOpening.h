@@ -1,9 +1,12 @@
-// The page that the program starts on: an old design, the last session, or the way out.
+// The page that the program starts on: an old design, the last session, or the way out; where it is
+// in service, a new design too, and those that were worked on last.
 #pragma once
 
 #include <QWidget>
 
 class QLayout;
+class QListWidget;
+class QListWidgetItem;
 
 namespace vernacle {
 
@@ -27,7 +30,10 @@ private:
     void Build();
     QLayout* MakeTexts();
     QLayout* MakeButtons();
+    QLayout* MakeRecent(); // null where there is nothing to go on with
 
+    static void ShowDesign();
+    void RecentChosen(const QListWidgetItem& item);
     void cmdOldClicked();
     void cmdLastSessionClicked();
     void cmdExitClicked();

@@ -20,6 +20,13 @@ public:
     // Whether its close box keeps the session.
     virtual bool KeepsSession() const { return true; }
 
+    // Whether what its user does are steps that can be undone one by one; what is done on the
+    // others is one step, behind them.
+    virtual bool TakesSteps() const { return false; }
+
+    // Gives the design what the page has kept apart so far.
+    virtual void StoreEntries() {}
+
 protected:
     // The columns that the page's parts stand in, from top to bottom: the body scrolls, what stands
     // above and below it never does.

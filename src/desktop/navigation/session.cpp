@@ -2,11 +2,33 @@
 
 #include "desktop/kit/form.h"
 #include "desktop/navigation/navigator.h"
+#include "desktop/navigation/opendocument.h"
+#include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 
 namespace vernacle {
 
+namespace {
+
+// What a page keeps apart belongs to the session too.
+void StoreEntriesOfPage() {
+    if (auto* page = qobject_cast<Page*>(CurrentPage())) {
+        page->StoreEntries();
+    }
+}
+
+} // namespace
+
 void SaveSessionAndEnd() {
+    if (Service.carefulFiles) {
+        StoreEntriesOfPage();
+        Document().Commit();
+        if (!Document().IsKept()) {
+            ShowModal("frmExit");
+            return;
+        }
+    }
     SaveLastSession(Design);
     JustEnd();
 }
@@ -17,6 +39,9 @@ void JustEnd() {
 }
 
 bool KeepSession() {
+    if (Service.carefulFiles) {
+        StoreEntriesOfPage();
+    }
     const auto* page = qobject_cast<const Page*>(CurrentPage());
     return !page || !page->KeepsSession() || KeepLastSession(Design);
 }

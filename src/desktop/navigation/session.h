@@ -3,7 +3,8 @@
 
 namespace vernacle {
 
-// Saves the last session, unloads the page and ends the process.
+// Saves the last session, unloads the page and ends the process. Where files are careful, a design
+// that no file holds is asked about first.
 void SaveSessionAndEnd();
 
 // Ends it without saving.

@@ -8,10 +8,13 @@
 #include "desktop/kit/toolbar.h"
 #include "desktop/navigation/helpviewer.h"
 #include "desktop/navigation/navigator.h"
+#include "desktop/navigation/opendocument.h"
 #include "desktop/navigation/session.h"
+#include "desktop/pages/carefuldesign.h"
 #include "desktop/pages/vernaclefile.h"
 #include "desktop/system/printers.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/output/print.h"
 
@@ -22,11 +25,24 @@ struct DesignPage::Key {
     ToolbarKey face;
     const char* page;
     void (DesignPage::*clicked)();
+    LiftedBy standsWith = nullptr; // only where this is in service; none: always
 };
 
 const DesignPage::Key DesignPage::kKeys[] = {
+    {{"New", "New", "Start a new design from the defaults", "new", "Ctrl+N"},
+     nullptr,
+     &DesignPage::NewClicked,
+     &ServiceState::carefulFiles},
     {{"Open", "Open", "Open a file", "open", "Ctrl+O"}, nullptr, &DesignPage::OpenClicked},
     {{"Save", "Save", "Save a file", "save", "Ctrl+S"}, nullptr, &DesignPage::SaveClicked},
+    {{"Undo", "Undo", "Undo", "undo", "Ctrl+Z"},
+     nullptr,
+     &DesignPage::UndoClicked,
+     &ServiceState::carefulFiles},
+    {{"Redo", "Redo", "Redo", "redo", "Ctrl+Shift+Z"},
+     nullptr,
+     &DesignPage::RedoClicked,
+     &ServiceState::carefulFiles},
     {{"Plate", "Plate", "Go to the Plate Design page", "plate", "Ctrl+1"}, "frmPlate", nullptr},
     {{"Scales", "Scales", "Go to the Scale Design page", "scales", "Ctrl+2"}, "frmScales", nullptr},
     {{"Text", "Text", "Go to the Text Entry page", "text", "Ctrl+3"}, "frmText", nullptr},
@@ -46,11 +62,13 @@ const DesignPage::Key DesignPage::kKeys[] = {
 namespace {
 
 QString TitleOf(const PageTraits& traits) {
-    std::string title = std::string("Vernacle - ") + traits.title;
+    std::string title = std::string(ServiceName()) + " - " + traits.title;
     if (!Design.DesignFileName.empty()) {
         title += " - " + Design.DesignFileName;
+    } else if (Service.carefulFiles) {
+        title += " - new design";
     }
-    return QString::fromStdString(title);
+    return QString::fromStdString(title + (Service.carefulFiles ? "[*]" : ""));
 }
 
 const char* TipOf(const PageTraits& traits, const ToolbarKey& key) {
@@ -73,6 +91,18 @@ KeyState StateOf(const PageTraits& traits, const ToolbarKey& key) {
 DesignPage::DesignPage(const PageTraits& traits) : Page(traits.form), traits_(traits) {
     ShowTitle();
     AddToolbar();
+    if (TakesSteps()) {
+        connect(&Document(), &OpenDocument::Changed, this, &DesignPage::ShowDocument);
+        ShowDocument();
+    }
+}
+
+bool DesignPage::KeepsSession() const {
+    return Service.carefulFiles || traits_.closeBox == CloseBox::SavesSession;
+}
+
+bool DesignPage::TakesSteps() const {
+    return Service.carefulFiles;
 }
 
 void DesignPage::ShowTitle() {
@@ -82,16 +112,49 @@ void DesignPage::ShowTitle() {
 void DesignPage::AddToolbar() {
     auto* toolbar = new Toolbar("Toolbar1");
     for (const Key& key : kKeys) {
+        if (key.standsWith && !IsLifted(key.standsWith)) {
+            continue;
+        }
         ToolbarKey face = key.face;
         face.tip = TipOf(traits_, face);
-        connect(toolbar->AddKey(face, StateOf(traits_, face)), &QAction::triggered, this,
-                [this, &key] { KeyClicked(key); });
+        QAction* action = toolbar->AddKey(face, StateOf(traits_, face));
+        connect(action, &QAction::triggered, this, [this, &key] { KeyClicked(key); });
+        if (key.clicked == &DesignPage::UndoClicked) {
+            undo_ = action;
+        } else if (key.clicked == &DesignPage::RedoClicked) {
+            redo_ = action;
+        }
     }
     Head().addWidget(toolbar);
 }
 
+void DesignPage::ShowDocument() {
+    setWindowModified(!Document().IsKept());
+    const auto show = [](QAction* action, bool isEnabled, const char* what,
+                         const std::string& name) {
+        action->setEnabled(isEnabled);
+        const std::string tip = what + (name.empty() ? "" : ": " + name);
+        action->setToolTip(QString::fromStdString(tip));
+    };
+    const History& steps = Document().Steps();
+    show(undo_, steps.CanUndo(), "Undo", steps.UndoneName());
+    show(redo_, steps.CanRedo(), "Redo", steps.RedoneName());
+}
+
 void DesignPage::KeyClicked(const Key& key) {
     BeforeKey();
+    if (!TakesSteps()) {
+        FollowKey(key);
+        return;
+    }
+    Document().Commit();
+    FollowKey(key);
+    if (key.page) {
+        Document().Absorb(); // what that page's load has changed
+    }
+}
+
+void DesignPage::FollowKey(const Key& key) {
     if (key.clicked) {
         (this->*key.clicked)();
     } else if (key.page != std::string_view(traits_.form)) {
@@ -99,7 +162,36 @@ void DesignPage::KeyClicked(const Key& key) {
     }
 }
 
+void DesignPage::ShowAnew() {
+    ReloadPage();
+    Document().Absorb();
+}
+
+void DesignPage::NewClicked() {
+    if (MayGiveUpDesign(this)) {
+        StartFromDefaults();
+        GoToPage("frmPreview");
+        Document().Absorb();
+    }
+}
+
+void DesignPage::UndoClicked() {
+    Document().Undo();
+    ShowAnew();
+}
+
+void DesignPage::RedoClicked() {
+    Document().Redo();
+    ShowAnew();
+}
+
 void DesignPage::OpenClicked() {
+    if (Service.carefulFiles) {
+        if (MayGiveUpDesign(this) && OpenDesignByDialog(this, "Read Vernacle file")) {
+            ShowAnew();
+        }
+        return;
+    }
     Design.DesignFileName = AskForVernacleFile(this, "Read Vernacle file");
     if (Design.DesignFileName.empty()) {
         return;
@@ -110,6 +202,11 @@ void DesignPage::OpenClicked() {
 }
 
 void DesignPage::SaveClicked() {
+    if (Service.carefulFiles) {
+        SaveDesignByDialog(this);
+        ShowTitle();
+        return;
+    }
     Design.DesignFileName =
         AskForNewVernacleFile(this, "Save Vernacle file", Design.DesignFileName);
     SaveDesign(Design, Design.DesignFileName);

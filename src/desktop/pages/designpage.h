@@ -7,6 +7,8 @@
 
 #include "desktop/kit/form.h"
 
+class QAction;
+
 namespace vernacle {
 
 // A tool tip in which a page differs from the others.
@@ -36,7 +38,9 @@ class DesignPage : public Page {
     Q_OBJECT
 
 public:
-    bool KeepsSession() const override { return traits_.closeBox == CloseBox::SavesSession; }
+    bool KeepsSession() const override;
+    bool TakesSteps() const override;
+    void StoreEntries() override { BeforeKey(); }
 
 protected:
     // The traits must outlive the page.
@@ -60,7 +64,13 @@ private:
 
     void AddToolbar();
     void KeyClicked(const Key& key);
+    void FollowKey(const Key& key);
+    void ShowDocument(); // in its title and its keys
+    void ShowAnew();
 
+    void NewClicked();
+    void UndoClicked();
+    void RedoClicked();
     void OpenClicked();
     void SaveClicked();
     void PrintClicked();
@@ -69,6 +79,8 @@ private:
     void AboutClicked();
 
     const PageTraits& traits_;
+    QAction* undo_ = nullptr; // where it is in service, as the next
+    QAction* redo_ = nullptr;
 };
 
 } // namespace vernacle

@@ -20,4 +20,8 @@ std::string AskForNewVernacleFile(QWidget* parent, const char* title, const std:
     return AskForFileToSave(parent, QuestionOf(title), name);
 }
 
+std::string AskForNewDesignFile(QWidget* parent, const char* title, const std::string& name) {
+    return AskForNewFile(parent, QuestionOf(title), name);
+}
+
 } // namespace vernacle

@@ -14,4 +14,7 @@ std::string AskForVernacleFile(QWidget* parent, const char* title);
 // after a cancel.
 std::string AskForNewVernacleFile(QWidget* parent, const char* title, const std::string& name);
 
+// The same, empty after a cancel.
+std::string AskForNewDesignFile(QWidget* parent, const char* title, const std::string& name);
+
 } // namespace vernacle

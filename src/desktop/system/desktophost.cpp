@@ -14,6 +14,7 @@
 
 #include "desktop/system/messages.h"
 #include "desktop/system/programfiles.h"
+#include "desktop/system/sessionfiles.h"
 #include "desktop/system/sound.h"
 #include "desktop/system/spool.h"
 #include "engine/base/hostservices.h"
@@ -81,6 +82,16 @@ HostServices DesktopHost() {
     host.openForOutput = Open;
     host.besideProgram = [files](const std::string& name) { return files->PathOf(name); };
     host.newestBesideProgram = [files](const std::string& name) { return files->NewestOf(name); };
+    if (Service.carefulFiles) {
+        const auto sessions = std::make_shared<SessionFiles>(SystemFolders().userData);
+        host.besideProgram = [sessions](const std::string& name) { return sessions->PathOf(name); };
+        host.newestBesideProgram = [sessions](const std::string& name) {
+            return sessions->Newest(name);
+        };
+        host.keptSessions = [sessions](const std::string& name) {
+            return sessions->NewestFirst(name);
+        };
+    }
     host.calibrationsToRead = [files] { return files->Calibrations(); };
     host.calibrationToWrite = [files] { return files->Calibration(); };
     host.servePendingEvents = ServePendingEvents;

@@ -122,6 +122,11 @@ std::string AskForFileToOpen(QWidget* parent, const FileQuestion& question) {
 
 std::string AskForFileToSave(QWidget* parent, const FileQuestion& question,
                              const std::string& name) {
+    const std::string chosen = AskForNewFile(parent, question, name);
+    return chosen.empty() ? name : chosen;
+}
+
+std::string AskForNewFile(QWidget* parent, const FileQuestion& question, const std::string& name) {
     FileDialog dialog(parent, question, "dlgSave");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDirectory(StartFolder());
@@ -129,8 +134,7 @@ std::string AskForFileToSave(QWidget* parent, const FileQuestion& question,
         const QFileInfo file(QString::fromStdString(name));
         dialog.selectFile(file.dir().exists() ? file.filePath() : file.fileName());
     }
-    const std::string chosen = Ask(dialog);
-    return chosen.empty() ? name : chosen;
+    return Ask(dialog);
 }
 
 std::string AskForFont(QWidget* parent, const char* title, const std::string& family) {

@@ -26,6 +26,9 @@ std::string AskForFileToOpen(QWidget* parent, const FileQuestion& question);
 std::string AskForFileToSave(QWidget* parent, const FileQuestion& question,
                              const std::string& name);
 
+// The same, but a cancelled one gives no name.
+std::string AskForNewFile(QWidget* parent, const FileQuestion& question, const std::string& name);
+
 std::string AskForFont(QWidget* parent, const char* title, const std::string& family);
 
 Colour AskForColour(QWidget* parent, const char* title, Colour start);

@@ -38,6 +38,23 @@ void ShowRunTimeError(const std::string& text) {
             "Run-time error:\n\n" + text + "\n\nThe program ends now.");
 }
 
+Leaving AskAboutChanges(const std::string& text) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Vernacle"), QString::fromStdString(text),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                    QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("boxChanges"));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return Leaving::Save;
+    case QMessageBox::Discard:
+        return Leaving::Discard;
+    default:
+        return Leaving::Stay;
+    }
+}
+
 void Beep() {
     QApplication::beep();
 }

@@ -1,4 +1,4 @@
-// Message boxes with one button, and the beep.
+// Message boxes, and the beep.
 #pragma once
 
 #include <string>
@@ -13,6 +13,11 @@ void ShowInformation(const std::string& text);
 
 // The box of a failure that no routine traps: the program ends behind it.
 void ShowRunTimeError(const std::string& text);
+
+enum class Leaving { Save, Discard, Stay };
+
+// Asks what becomes of the changes that no file holds; a box that is closed stays.
+Leaving AskAboutChanges(const std::string& text);
 
 void Beep();
 

@@ -15,6 +15,7 @@
 #include "engine/base/numbertext.h"
 #include "engine/base/runtimeerror.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/render/drawing.h"
 #include "engine/wizard/nudges.h"
 
@@ -124,6 +125,9 @@ void frmWizardPart2::TakeSize(const Nudge& nudge) {
 // What was overtyped on the page before need be no scale.
 void frmWizardPart2::Redraw() {
     try {
+        if (Service.truePlate) {
+            plate_->ShowPage(TrueArea(Design));
+        }
         DrawPage(Design, plate_->Surface(), WizardTraits(), copies_, Drawing);
     } catch (const RunTimeError&) {
         ReportFailure("The scale cannot be drawn: it has more ticmarks than a scale can hold, or a "

@@ -45,6 +45,7 @@ HostServices DefaultHost() {
         .openForOutput = OpenFileSink,
         .besideProgram = [](const std::string& name) { return name; },
         .newestBesideProgram = [](const std::string& name) { return name; },
+        .keptSessions = [](const std::string&) { return std::vector<std::string>{}; },
         .calibrationsToRead = [] { return std::vector<std::string>{kCalibrationFile}; },
         .calibrationToWrite = [] { return std::string(kCalibrationFile); },
         .localDateTime = LocalDateTime,

@@ -44,6 +44,9 @@ struct HostServices {
     // Of the places that an earlier run may have left such a file in, the path of the newest.
     std::function<std::string(const std::string& name)> newestBesideProgram;
 
+    // The files of that name that earlier runs have left, the newest first.
+    std::function<std::vector<std::string>(const std::string& name)> keptSessions;
+
     // The printer's calibration: the files that it may be read from, of which the first that is
     // whole counts, and the one that it is written to.
     std::function<std::vector<std::string>()> calibrationsToRead;

@@ -277,7 +277,7 @@ int NormalizeDesign(DesignRecord& design) {
 
 void SetVersionAndScreenScale(DesignRecord& design) {
     design.VersionText = "Version 3.04";
-    design.ProgramName = "Vernacle";
+    design.ProgramName = ServiceName();
     const ScreenSize screen = Host.screenSize();
     design.ScreenScaleX = screen.widthTwips / 12000;
     design.ScreenScaleY = screen.heightTwips / 9000;

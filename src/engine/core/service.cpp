@@ -7,6 +7,8 @@ ServiceState Service;
 namespace {
 
 constexpr ServiceState kEveryday{};
+constexpr const char* kEverydayName = "Vernacle";
+const char* storedName = kEverydayName;
 
 constexpr ServiceState kWorkshop{
     .severalScales = true,
@@ -29,6 +31,11 @@ const ServiceState& ServiceOf(Program program) {
 
 void StoreService(Program program) {
     Service = ServiceOf(program);
+    storedName = program == Program::Workshop ? "Vernacle Workshop" : kEverydayName;
+}
+
+const char* ServiceName() {
+    return storedName;
 }
 
 bool IsLifted(LiftedBy member) {

@@ -26,6 +26,9 @@ enum class Program { Everyday, Workshop };
 const ServiceState& ServiceOf(Program program);
 void StoreService(Program program);
 
+// As the user of the stored program knows it.
+const char* ServiceName();
+
 // A member that lifts what the everyday program forces or leaves out; none where nothing does.
 using LiftedBy = bool ServiceState::*;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "engine/base/codepage.h"
@@ -10,6 +11,7 @@
 #include "engine/base/linereader.h"
 #include "engine/base/samefile.h"
 #include "engine/designfile/designlines.h"
+#include "engine/designfile/formerfile.h"
 #include "engine/designfile/leftout.h"
 #include "engine/designfile/linedoubts.h"
 #include "engine/designfile/starlines.h"
@@ -170,9 +172,10 @@ void WriteDesignFile(DesignRecord& design) {
 }
 
 // Everything is made before a file is touched, and of a copy: writing leaves the design as it is.
-void WriteCarefully(const DesignRecord& design) {
+void WriteCarefully(const DesignRecord& design, const std::string& name) {
     const std::string bytes = ToFileBytes(DesignText(design));
-    const auto sink = Host.openForOutput(design.DesignFileName);
+    KeepEverydayFile(name);
+    const auto sink = Host.openForOutput(name);
     sink->Write(bytes);
     sink->Close();
 }
@@ -197,17 +200,18 @@ void ReadInto(DesignRecord& design, const std::string& text, int& stage,
     design = *fresh;
 }
 
-bool TryToWrite(DesignRecord& design) {
+// Gives the reason where it failed.
+std::optional<std::string> TryToWrite(DesignRecord& design, const std::string& name) {
     try {
-        RefuseCalibration(design.DesignFileName);
+        RefuseCalibration(name);
         if (Service.carefulFiles) {
-            WriteCarefully(design);
+            WriteCarefully(design, name);
         } else {
             WriteDesignFile(design);
         }
-        return true;
-    } catch (const RunTimeError&) {
-        return false;
+        return std::nullopt;
+    } catch (const RunTimeError& error) {
+        return error.what();
     }
 }
 
@@ -249,12 +253,21 @@ void ReadDesignText(DesignRecord& design, const std::string& text) {
     ReadInto(design, text, stage, {});
 }
 
-bool WriteDesign(DesignRecord& design) {
-    const bool written = TryToWrite(design);
-    if (!written) {
-        ReportFailure("The Vernacle file was not written correctly.\nReadWrite 364");
+namespace {
+
+bool WriteDesignTo(DesignRecord& design, const std::string& name) {
+    const auto failure = TryToWrite(design, name);
+    if (failure) {
+        ReportFailure({"The Vernacle file was not written correctly.\nReadWrite 364",
+                       Service.carefulFiles ? *failure : std::string()});
     }
-    return written;
+    return !failure;
+}
+
+} // namespace
+
+bool WriteDesign(DesignRecord& design) {
+    return WriteDesignTo(design, design.DesignFileName);
 }
 
 void SaveDesign(DesignRecord& design, const std::string& name) {
@@ -277,37 +290,61 @@ std::string LastSessionName() {
     return Host.newestBesideProgram(SessionName());
 }
 
+std::vector<std::string> KeptSessionNames() {
+    return Host.keptSessions(SessionName());
+}
+
+// A careful session goes on telling the name of the design that it is of.
 bool SaveLastSession(DesignRecord& design) {
-    design.DesignFileName = Host.besideProgram(SessionName());
-    return WriteDesign(design);
+    const std::string session = Host.besideProgram(SessionName());
+    if (!Service.carefulFiles) {
+        design.DesignFileName = session;
+    }
+    return WriteDesignTo(design, session);
 }
 
 bool KeepLastSession(const DesignRecord& design) {
     const auto copy = std::make_unique<DesignRecord>(design);
-    copy->DesignFileName = Host.besideProgram(SessionName());
-    return TryToWrite(*copy);
+    const std::string session = Host.besideProgram(SessionName());
+    if (!Service.carefulFiles) {
+        copy->DesignFileName = session;
+    }
+    return !TryToWrite(*copy, session);
 }
 
-void ReadDesign(DesignRecord& design, const std::string& name, const ReadReports& reports) {
+std::string DesignNameIn(const std::string& bytes) {
+    LineReader lines(FromFileBytes(bytes));
+    try {
+        const std::string_view name = lines.NextValue();
+        return std::string(name.substr(std::min<std::size_t>(name.size(), 1))); // behind a blank
+    } catch (const FileFailure&) {
+        return {};
+    }
+}
+
+bool ReadDesign(DesignRecord& design, const std::string& name, const ReadReports& reports) {
     if (name.empty()) {
-        return;
+        return false;
     }
     int stage = kStageOpen;
     try {
         const std::string text = FromFileBytes(ReadBytes(name, reports));
         stage = kStageReset;
         ReadInto(design, text, stage, reports);
-    } catch (const RunTimeError&) {
+        return true;
+    } catch (const RunTimeError& error) {
         if (Service.carefulFiles) {
-            ReportFailure("We were not successful in reading that Vernacle file.\n"
-                          "The design stays as it was.\n\nReadWrite " +
-                          std::to_string(stage));
-            return;
+            ReportFailure({"We were not successful in reading that Vernacle file.\n"
+                           "The design stays as it was.\n\nReadWrite " +
+                               std::to_string(stage),
+                           error.what()});
+            return false;
         }
         ResetDesign(design);
         ReportFailure("We were not successful in reading that Vernacle file.\n"
                       "Default values for all items have been put in place.\n\nReadWrite " +
                       std::to_string(stage));
+        return false;
     }
 }
 

@@ -13,6 +13,7 @@
 #include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "support/enginetest.h"
+#include "support/samerecord.h"
 
 namespace vernacle::test {
 namespace {
@@ -80,20 +81,6 @@ void RandomiseDesign(DesignRecord& design, Random& random) {
     }
     for (int scale = 0; scale <= kLastScale; ++scale) {
         design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(Below(random, 40));
-    }
-}
-
-void ExpectSame(const DesignRecord& design, const DesignRecord& expected, FieldRole role) {
-    int told = 0;
-    for (const RecordField& field : RecordFields()) {
-        ForEachEntry(field, [&](int outer, int inner) {
-            const ConstFieldPointer value = field.place.In(design, outer, inner);
-            const ConstFieldPointer wanted = field.place.In(expected, outer, inner);
-            if (field.role == role && !SameValue(value, wanted) && ++told < 10) {
-                ADD_FAILURE() << EntryName(field, outer, inner) << " is " << PlainText(value)
-                              << ", not " << PlainText(wanted);
-            }
-        });
     }
 }
 
