@@ -90,7 +90,8 @@ struct DesignRecord {
     PerScale<std::int16_t> SpecialNrOfTicmarks;
     PerScale<std::string> UnlabelledBottomTic;
     PerScale<float> FullscaleMultiplier;
-    PerScale<float> RelativeFontSize;                     // relative to FontSize
+    PerScale<std::string> ScaleSetup; // whose tics it has in its tables: "dB"; empty if unknown
+    PerScale<float> RelativeFontSize; // relative to FontSize
     Table<DynamicValue, kLastFlagScale> PrintTicsAndArcs; // 0: the scale's tics and arc are drawn
 
     // The tics of special scales, as the setups store them

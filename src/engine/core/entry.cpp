@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <string_view>
@@ -173,10 +174,42 @@ float ToFloat(double value) {
     return static_cast<float>(std::clamp(value, -kLargest, kLargest));
 }
 
+// "-0.500" as "-.5", "-0.000" as "0".
+std::string WithoutIdleZeros(std::string text) {
+    if (text.find('.') != text.npos) {
+        text.erase(text.find_last_not_of('0') + 1);
+        if (text.back() == '.') {
+            text.pop_back();
+        }
+    }
+    const bool hasSign = text.starts_with('-');
+    const std::size_t first = hasSign ? 1 : 0;
+    if (text.compare(first, 2, "0.") == 0) {
+        text.erase(first, 1);
+    }
+    return text == "-0" ? "0" : text;
+}
+
 } // namespace
 
 bool IsTooLongForEntry(std::string_view text) {
     return CharacterCount(text) > kLongestEntry;
+}
+
+std::string EntryText(float value) {
+    constexpr int kMostPlaces = 9;
+    std::array<char, 64> buffer{};
+    std::string text;
+    for (int places = kMostPlaces; places >= 0; --places) {
+        const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                                std::chars_format::fixed, places);
+        text = WithoutIdleZeros({buffer.data(), end});
+        if (!IsTooLongForEntry(text)) {
+            return text;
+        }
+    }
+    FormatByMagnitude(double{value}, text);
+    return text;
 }
 
 void ParseEntry(std::string& text, float& target) {

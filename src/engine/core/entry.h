@@ -36,6 +36,10 @@ struct EntryLimits {
 // are none.
 std::string RangeText(const EntryLimits& limits, std::string_view unit);
 
+// The number in plain digits that an entry takes in full: at most ten characters, rounded where it
+// has more digits, and in the short form where it is too large for them.
+std::string EntryText(float value);
+
 // Whether a text is one that ParseEntry ignores for its length.
 bool IsTooLongForEntry(std::string_view text);
 
