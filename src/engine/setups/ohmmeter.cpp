@@ -8,10 +8,18 @@ namespace vernacle {
 namespace {
 
 void StoreRow(DesignRecord& design, int scale, int tic, const ResistanceRow& row) {
+    if (row.untouched) {
+        PutBack(design, scale, tic, *row.untouched);
+        return;
+    }
     design.TicPrintYN[scale][tic] = "Y";
     design.TicLabelYN[scale][tic] = "Y";
-    std::string deflection = row.deflection;
-    ParseEntry(deflection, design.TicDeflection[scale][tic]);
+    if (row.exact) {
+        design.TicDeflection[scale][tic] = *row.exact;
+    } else {
+        std::string deflection = row.deflection;
+        ParseEntry(deflection, design.TicDeflection[scale][tic]);
+    }
     if (row.ticClass != TicClass::Undecided) {
         design.TicMajorYN[scale][tic] = FlagOf(AnswerIf(row.ticClass == TicClass::Major));
     }

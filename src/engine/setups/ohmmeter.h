@@ -6,10 +6,11 @@
 // with the quotient and the sum in double, the result rounded to a 32-bit float.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "engine/core/design.h"
+#include "engine/setups/setup.h"
 
 namespace vernacle {
 
@@ -24,6 +25,8 @@ struct ResistanceRow {
     std::string deflection;
     std::string label;
     TicClass ticClass = TicClass::Undecided; // leaves what the table holds
+    std::optional<float> exact = {};         // the deflection itself, where it is known
+    std::optional<KeptTic> untouched = {};   // the tic where nothing was touched
 };
 
 // Marks the scale special and writes the rows into its tables; entries behind the last row stay.

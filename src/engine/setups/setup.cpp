@@ -5,6 +5,7 @@
 
 #include "engine/base/runtimeerror.h"
 #include "engine/base/text.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -16,8 +17,24 @@ void MarkSpecial(DesignRecord& design, int scale) {
     colour = -std::abs(colour);
 }
 
+EntryLimits ExponentLimits() {
+    constexpr double kSteepest = 4;
+    return {.lowest = Service.exponent ? 0 : -kSteepest,
+            .highest = kSteepest,
+            .lowestIsOpen = Service.exponent};
+}
+
+bool CanBend(float exponent) {
+    const EntryLimits limits = ExponentLimits();
+    return !limits.lowestIsOpen || double{exponent} > limits.lowest;
+}
+
 float HeldExponent(float exponent) {
-    return kExponentLimits.Held(exponent);
+    if (!CanBend(exponent)) {
+        throw ImpossibleEntry("A scale cannot be computed by this linearity exponent.\n"
+                              "Please enter one above 0; 1 is linear.");
+    }
+    return ExponentLimits().Held(exponent);
 }
 
 float BentDeflection(float fraction, float exponent) {
@@ -44,11 +61,31 @@ void StoreTic(DesignRecord& design, int scale, int tic, const TicEntry& entry) {
     design.TicMajorYN[scale][tic] = FlagOf(entry.major);
 }
 
+KeptTic TicOf(const DesignRecord& design, int scale, int tic) {
+    return {.deflection = design.TicDeflection[scale][tic],
+            .label = design.TicLabelText[scale][tic],
+            .printed = design.TicPrintYN[scale][tic],
+            .labelled = design.TicLabelYN[scale][tic],
+            .major = design.TicMajorYN[scale][tic]};
+}
+
+void PutBack(DesignRecord& design, int scale, int tic, const KeptTic& kept) {
+    design.TicDeflection[scale][tic] = kept.deflection;
+    design.TicLabelText[scale][tic] = kept.label;
+    design.TicPrintYN[scale][tic] = kept.printed;
+    design.TicLabelYN[scale][tic] = kept.labelled;
+    design.TicMajorYN[scale][tic] = kept.major;
+}
+
 void MendEmptyLabel(DesignRecord& design, int scale, int tic) {
     std::string& label = design.TicLabelText[scale][tic];
     if (Trimmed(label) == "/") {
         label = " ";
     }
+}
+
+bool HasDigit(const std::string& text) {
+    return text.find_first_of("0123456789") != text.npos;
 }
 
 std::string ShortLabel(float value) {

@@ -21,8 +21,10 @@ public:
 // before.
 void MarkSpecial(DesignRecord& design, int scale);
 
-// What the setups hold a linearity exponent to.
-constexpr EntryLimits kExponentLimits{-4, 4};
+// What the setups hold a linearity exponent to. Where it is in service it is above 0, as a law that
+// has no value at the scale's end is none: any other is an ImpossibleEntry.
+EntryLimits ExponentLimits();
+bool CanBend(float exponent);
 float HeldExponent(float exponent);
 
 // The fraction to the power of the exponent, as a float. 0 to a negative power is an
@@ -45,8 +47,23 @@ struct TicEntry {
 
 void StoreTic(DesignRecord& design, int scale, int tic, const TicEntry& entry);
 
+// A tic as the tables hold it, for a page that gives back what was not touched.
+struct KeptTic {
+    float deflection = 0;
+    std::string label;
+    std::string printed;
+    std::string labelled;
+    std::string major;
+};
+
+KeptTic TicOf(const DesignRecord& design, int scale, int tic);
+void PutBack(DesignRecord& design, int scale, int tic, const KeptTic& kept);
+
 // A design file writes "/" for an empty label: such a label becomes a blank.
 void MendEmptyLabel(DesignRecord& design, int scale, int tic);
+
+// Whether the text can be a number at all.
+bool HasDigit(const std::string& text);
 
 // A number from 0 up, with one place behind the point unless that is 0: "2", "1.5", and "10" for
 // 9.99.

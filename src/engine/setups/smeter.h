@@ -18,9 +18,12 @@ struct SmeterSetup {
     std::int16_t LastTic = 0;   // number of the last tic made, -1 for none
 };
 
-// Stores the exponent, held to -4 .. 4, empties the labels and flags of scales 1 to 4, and writes
-// the tables of this scale; no type ends it there. A negative exponent is an ImpossibleEntry behind
-// the emptying.
+// Stores the exponent, held to its limits, empties the labels and flags of scales 1 to 4 (where
+// several are in service, of this one alone), and writes the tables of this scale; no type ends it
+// there. A negative exponent is an ImpossibleEntry, in the everyday program behind the emptying.
 void ComputeSmeterTics(DesignRecord& design, int scale, float exponent, SmeterSetup& setup);
+
+// The type of a scale that was made here; 0 where no type has so many tics.
+int SmeterTypeOf(const DesignRecord& design, int scale);
 
 } // namespace vernacle

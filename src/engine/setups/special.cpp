@@ -5,6 +5,7 @@
 
 #include "engine/base/numbertext.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -19,10 +20,18 @@ void ClearRow(DesignRecord& design, int scale, int tic) {
 
 // A text that is no entry leaves the 0.
 void StoreRow(DesignRecord& design, int scale, int tic, const SpecialRow& row) {
+    if (row.untouched) {
+        PutBack(design, scale, tic, *row.untouched);
+        return;
+    }
     design.TicLabelText[scale][tic] = row.label;
     design.TicLabelYN[scale][tic] = "Y";
     design.TicPrintYN[scale][tic] = "Y";
     design.TicMajorYN[scale][tic] = FlagOf(row.major);
+    if (row.exact) {
+        design.TicDeflection[scale][tic] = *row.exact;
+        return;
+    }
     std::string deflection = row.deflection;
     ParseEntry(deflection, design.TicDeflection[scale][tic]);
 }
@@ -41,12 +50,22 @@ void ApplySpecialTable(DesignRecord& design, int scale, float& ticmarks,
     }
 }
 
+void CheckRows(int last, const std::array<SpecialRow, kSpecialRows>& rows) {
+    for (int tic = 0; tic <= last; ++tic) {
+        if (!HasDigit(rows.at(static_cast<std::size_t>(tic)).deflection)) {
+            throw ImpossibleEntry("Tic " + std::to_string(tic) +
+                                  " has no deflection.\nPlease enter one for each tic, from 0 to "
+                                  "1, or a smaller number of ticmarks.");
+        }
+    }
+}
+
 DeflectionFault CheckDeflection(DesignRecord& design, int scale, int tic, std::string& text) {
     float& deflection = design.TicDeflection[scale][tic];
     ParseEntry(text, deflection);
     const float entered = deflection;
     deflection = kDeflectionLimits.Held(entered);
-    text = PlainNumber(deflection);
+    text = Service.specialScales ? EntryText(deflection) : PlainNumber(deflection);
     if (entered < deflection) {
         return DeflectionFault::Below;
     }

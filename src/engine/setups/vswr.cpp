@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "engine/base/numbertext.h"
+#include "engine/core/service.h"
 #include "engine/setups/setup.h"
 
 namespace vernacle {
@@ -78,11 +79,30 @@ TicEntry EntryOf(const StepRule& rule, float ratio, float exponent) {
 }
 
 // Where all is reflected, and the ratio is infinite.
-constexpr TicEntry FullReflection() {
+TicEntry FullReflection() {
+    if (Service.specialScales) {
+        return {.deflection = 1, .label = "\u221E"};
+    }
     return {.deflection = 1, .label = {}, .labelled = Answer::No};
 }
 
+// Number of the last tic by a step, that of full reflection.
+int LastTicBy(float step) {
+    int tics = 0;
+    for (float ratio = 1; ratio <= kLastRatio; ratio += step) {
+        ++tics;
+    }
+    return tics;
+}
+
 } // namespace
+
+float VswrStepOf(const DesignRecord& design, int scale) {
+    const auto* rule = std::ranges::find_if(kRules, [&](const StepRule& candidate) {
+        return LastTicBy(candidate.step) == design.SpecialNrOfTicmarks[scale];
+    });
+    return rule == std::end(kRules) ? 0 : rule->step;
+}
 
 void ComputeVSWRTics(DesignRecord& design, int scale, float exponent, VswrSetup& setup) {
     exponent = HeldExponent(exponent);

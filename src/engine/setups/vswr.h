@@ -3,7 +3,7 @@
 //   r = (v - 1) / (v + 1);  deflection = r ^ LinearityExponent
 //
 // each computed in double and rounded to a 32-bit float, for v from 1 to 10, and one more tic at
-// full deflection.
+// full deflection, which special scales in service label with the sign of infinity.
 #pragma once
 
 #include <cstdint>
@@ -19,8 +19,11 @@ struct VswrSetup {
     std::int16_t LastTic = 0; // number of the last tic made
 };
 
-// Stores the exponent, held to -4 .. 4, and writes the scale's tables; entries behind the last tic
-// stay. Another step ends it there, and so does a negative exponent, as an ImpossibleEntry.
+// Stores the exponent, held to its limits, and writes the scale's tables; entries behind the last
+// tic stay. Another step ends it there, and so does a negative exponent, as an ImpossibleEntry.
 void ComputeVSWRTics(DesignRecord& design, int scale, float exponent, VswrSetup& setup);
+
+// The step of a scale that was made here; 0 where no step makes so many tics.
+float VswrStepOf(const DesignRecord& design, int scale);
 
 } // namespace vernacle
