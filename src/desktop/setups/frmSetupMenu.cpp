@@ -9,7 +9,11 @@
 #include "desktop/kit/picturebox.h"
 #include "desktop/navigation/navigator.h"
 #include "desktop/navigation/session.h"
+#include "desktop/system/dialogs.h"
+#include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/illustrations/samples.h"
+#include "engine/setups/setupkind.h"
 
 namespace vernacle {
 
@@ -25,17 +29,18 @@ struct frmSetupMenu::Entry {
     const char* tip = nullptr;
     const char* page = nullptr;
     const char* picture = nullptr;
+    const SetupKind* kind = nullptr; // of the setup on that page
     std::optional<Sample> sample;
 };
 
 // clang-format off
 const frmSetupMenu::Entry frmSetupMenu::kEntries[] = {
-    {"cmdOhms",    "Ohmmeter",  "",                                                           "frmSetupOhmmeter", "Image1", Sample::Ohmmeter},
-    {"cmdSpecial", "Arbitrary", "Design a scale with arbitrary ticmark locations and labels", "frmSpecialScale",  "Image2", Sample::Arbitrary},
-    {"cmdSmeter",  "S-meter",   "Design an S-meter scale",                                    "frmSetupSmeter",   "Image3", Sample::Smeter},
-    {"cmdVSWR",    "VSWR",      "Design a VSWR scale",                                        "frmSetupVSWR",     "Image4", Sample::Vswr},
-    {"cmddB",      "dB",        "Design a dB or vu meter scale",                              "frmSetupdB",       "Image5", Sample::Decibel},
-    {"cmdExit",    "Return to Scales page", "",                                               "frmScales",        nullptr,  {}},
+    {"cmdOhms",    "Ohmmeter",  "",                                                           "frmSetupOhmmeter", "Image1", &kOhmmeterKind, Sample::Ohmmeter},
+    {"cmdSpecial", "Arbitrary", "Design a scale with arbitrary ticmark locations and labels", "frmSpecialScale",  "Image2", &kArbitraryKind, Sample::Arbitrary},
+    {"cmdSmeter",  "S-meter",   "Design an S-meter scale",                                    "frmSetupSmeter",   "Image3", &kSmeterKind, Sample::Smeter},
+    {"cmdVSWR",    "VSWR",      "Design a VSWR scale",                                        "frmSetupVSWR",     "Image4", &kVswrKind, Sample::Vswr},
+    {"cmddB",      "dB",        "Design a dB or vu meter scale",                              "frmSetupdB",       "Image5", &kDecibelKind, Sample::Decibel},
+    {"cmdExit",    "Return to Scales page", "",                                               "frmScales",        nullptr,  nullptr, {}},
 };
 // clang-format on
 
@@ -67,9 +72,18 @@ QLayout* frmSetupMenu::MakeEntry(const Entry& entry) {
     }
     QPushButton* button =
         MakeButton(entry.button, QString::fromUtf8(entry.caption), QString::fromUtf8(entry.tip));
-    connect(button, &QPushButton::clicked, this, [&entry] { GoToPage(entry.page); });
+    connect(button, &QPushButton::clicked, this, [this, &entry] { EntryClicked(entry); });
     column->addWidget(button);
     return column;
+}
+
+// A setup begins to compute as it opens: what that would take is asked for before.
+void frmSetupMenu::EntryClicked(const Entry& entry) {
+    const bool warns = Service.specialScales && entry.kind;
+    const std::string loss = warns ? LossBy(Design, Design.CurrentScale, *entry.kind) : "";
+    if (loss.empty() || AskWhetherToContinue(this, loss)) {
+        GoToPage(entry.page);
+    }
 }
 
 void frmSetupMenu::CloseBoxClicked() {

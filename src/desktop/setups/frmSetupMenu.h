@@ -19,6 +19,7 @@ private:
     static const Entry kEntries[];
 
     QLayout* MakeEntry(const Entry& entry);
+    void EntryClicked(const Entry& entry);
 };
 
 } // namespace vernacle

@@ -15,6 +15,7 @@
 #include "engine/base/text.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 #include "engine/setups/setup.h"
 
 namespace vernacle {
@@ -25,6 +26,7 @@ constexpr int kLastRow = 29; // that can be used
 constexpr int kLastRemovable = 28;
 
 constexpr SetupPageTraits kSetupOhmmeterTraits = {
+    .kind = kOhmmeterKind,
     .form = "frmSetupOhmmeter",
     .title = "Vernacle - ohmmeter setup",
     .heading = "Ohmmeter setup",
@@ -43,7 +45,10 @@ constexpr FieldRow kResistance = {.box = "txtEnterResistance",
 constexpr const char* kSetupOhmmeterHeadings[] = {"Tic#:", "Deflection:", "Label:", "Major/minor?"};
 
 // The number as text that is an entry again: in its short form where all digits are too long.
-std::string EntryTextOf(float number) {
+std::string DeflectionText(float number) {
+    if (Service.specialScales) {
+        return EntryText(number);
+    }
     constexpr std::size_t kLongestEntry = 10;
     std::string text = PlainNumber(number);
     if (text.size() > kLongestEntry) {
@@ -91,8 +96,10 @@ void frmSetupOhmmeter::Build() {
     halves->addLayout(list, 1);
     Body().addLayout(halves, 1);
     resistance_->Disable();
-    Disable({cmdComputeDeflection_, lblResultingDeflection_, cmdAddToList_, cmdIgnoreEntry_,
-             &Accept()});
+    Disable({cmdComputeDeflection_, lblResultingDeflection_, cmdAddToList_, cmdIgnoreEntry_});
+    if (!Service.specialScales) { // else what is edited can be accepted as it stands
+        Disable({&Accept()});
+    }
 }
 
 QLayout* frmSetupOhmmeter::MakeEntries() {
@@ -108,10 +115,17 @@ QLayout* frmSetupOhmmeter::MakeEntries() {
         auto* field = new Field(row, *this);
         field->AddBoxTo(*grid, grid->rowCount());
         connect(field->box, &EntryBox::Changed, this, changed);
+        GuardNumber(*field->box);
         return field;
     };
     midscale_ = addField(kMidscale, &frmSetupOhmmeter::txtEnterMidscaleChanged);
     resistance_ = addField(kResistance, &frmSetupOhmmeter::txtEnterResistanceChanged);
+    if (Service.specialScales) {
+        connect(midscale_->box, &EntryBox::returnPressed, resistance_->box,
+                [this] { resistance_->box->setFocus(); });
+        connect(resistance_->box, &EntryBox::returnPressed, this,
+                &frmSetupOhmmeter::ResistanceReturned);
+    }
     cmdComputeDeflection_ = addButton("cmdComputeDeflection", "Compute deflection",
                                       &frmSetupOhmmeter::cmdComputeDeflectionClicked);
     lblResultingDeflection_ = MakeLabel("lblResultingDeflection", {});
@@ -127,6 +141,7 @@ RowTable* frmSetupOhmmeter::MakeTable() {
     auto* table = new RowTable("tblTics", kSetupOhmmeterHeadings);
     for (int row = 0; row < kRows; ++row) {
         const ListRow& made = Row(row) = MakeRow(row);
+        GuardLabel(*made.label);
         made.ticClass.second->ShowSelected();
         table->AddRow({made.tic, made.deflection, made.label, made.ticClass.frame});
     }
@@ -146,7 +161,7 @@ frmSetupOhmmeter::ListRow frmSetupOhmmeter::MakeRow(int row) {
     return made;
 }
 
-void frmSetupOhmmeter::ListRow::Write(const ResistanceRow& contents) const {
+void frmSetupOhmmeter::ListRow::Write(const ResistanceRow& contents) {
     deflection->setText(QString::fromStdString(contents.deflection));
     label->Write(contents.label);
     ticClass.first->Unselect();
@@ -154,45 +169,74 @@ void frmSetupOhmmeter::ListRow::Write(const ResistanceRow& contents) const {
     if (contents.ticClass != TicClass::Undecided) {
         ticClass.Show(AnswerIf(contents.ticClass == TicClass::Major));
     }
+    written = contents;
 }
 
+// What is exact stays so, as no one types a deflection here.
 ResistanceRow frmSetupOhmmeter::ListRow::Contents() const {
-    ResistanceRow contents{.deflection = deflection->text().toStdString(), .label = label->Text()};
-    if (ticClass.first->isChecked()) {
-        contents.ticClass = TicClass::Major;
-    } else if (ticClass.second->isChecked()) {
-        contents.ticClass = TicClass::Minor;
+    ResistanceRow contents{.deflection = deflection->text().toStdString(),
+                           .label = label->Text(),
+                           .ticClass = Class(),
+                           .exact = written.exact};
+    if (contents.label == written.label && contents.ticClass == written.ticClass) {
+        contents.untouched = written.untouched;
     }
     return contents;
 }
 
-// Zero ohms at full deflection, and what the user replaces by a mark for no connection at none.
+TicClass frmSetupOhmmeter::ListRow::Class() const {
+    if (ticClass.first->isChecked()) {
+        return TicClass::Major;
+    }
+    return ticClass.second->isChecked() ? TicClass::Minor : TicClass::Undecided;
+}
+
+// Zero ohms at full deflection, and no connection at none; the everyday label of that is a mark
+// that the user replaces.
 void frmSetupOhmmeter::StartAnew() {
     ListCount_ = 1;
     Row(0).Write({.deflection = "1", .label = "0", .ticClass = TicClass::Major});
-    Row(1).Write({.deflection = "0", .label = "1", .ticClass = TicClass::Major});
+    Row(1).Write({.deflection = "0",
+                  .label = Service.specialScales ? "\u221E" : "1",
+                  .ticClass = TicClass::Major});
 }
 
 void frmSetupOhmmeter::ReadBack() {
     const int scale = Scale();
-    Design.LinearityExponent[scale] = 1;
+    if (!Service.specialScales) {
+        Design.LinearityExponent[scale] = 1;
+    }
     ListCount_ = std::clamp<std::int16_t>(Design.SpecialNrOfTicmarks[scale], -1, kLastRow);
     for (int row = 0; row <= ListCount_; ++row) {
-        MendEmptyLabel(Design, scale, row);
-        const bool major = Design.TicMajorYN[scale][row] == "Y";
-        Row(row).Write({.deflection = EntryTextOf(Design.TicDeflection[scale][row]),
-                        .label = Design.TicLabelText[scale][row],
-                        .ticClass = major ? TicClass::Major : TicClass::Minor});
+        const KeptTic stored = TicOf(Design, scale, row);
+        if (!Service.specialScales) {
+            MendEmptyLabel(Design, scale, row);
+        }
+        ResistanceRow shown{.deflection = DeflectionText(stored.deflection),
+                            .label = Design.TicLabelText[scale][row],
+                            .ticClass = stored.major == "Y" ? TicClass::Major : TicClass::Minor};
+        if (Service.specialScales) {
+            shown.exact = stored.deflection;
+            shown.untouched = stored;
+        }
+        Row(row).Write(shown);
     }
 }
 
 void frmSetupOhmmeter::ComputeResistanceDeflection() {
     midscale_->Read(&EnteredMidscale_);
     resistance_->Read(&EnteredResistance_);
-    const float deflection =
+    if (Service.specialScales && !HasDigit(resistance_->box->Text())) {
+        throw ImpossibleEntry("There is no resistance.\nPlease enter one, as 4.7k or 330.");
+    }
+    ResultingDeflection_ =
         vernacle::ComputeResistanceDeflection(EnteredMidscale_, EnteredResistance_);
-    FormatByMagnitude(double{deflection}, ResultingDeflectionText_);
-    ResultingDeflectionText_ = Trimmed(ResultingDeflectionText_);
+    if (Service.specialScales) {
+        ResultingDeflectionText_ = EntryText(ResultingDeflection_);
+    } else {
+        FormatByMagnitude(double{ResultingDeflection_}, ResultingDeflectionText_);
+        ResultingDeflectionText_ = Trimmed(ResultingDeflectionText_);
+    }
     lblResultingDeflection_->setText(
         QString::fromStdString("Deflection:  " + ResultingDeflectionText_));
     Enable({cmdAddToList_, cmdIgnoreEntry_});
@@ -248,10 +292,15 @@ void frmSetupOhmmeter::cmdAddToListClicked() {
 }
 
 void frmSetupOhmmeter::AddRow() {
-    const ListRow& row = Row(ListCount_);
+    ListRow& row = Row(ListCount_);
     row.tic->setText(QString::number(ListCount_));
     row.deflection->setText(QString::fromStdString(ResultingDeflectionText_));
     row.label->Write(resistance_->box->Text());
+    row.written = {};
+    if (Service.specialScales) {
+        row.written.exact = ResultingDeflection_;
+        row.ticClass.Show(Answer::No); // minor
+    }
     resistance_->box->Write({});
     ForgetResult();
     Disable({cmdComputeDeflection_});
@@ -262,6 +311,24 @@ void frmSetupOhmmeter::AddRow() {
 void frmSetupOhmmeter::cmdIgnoreEntryClicked() {
     resistance_->box->Write({});
     lblResultingDeflection_->clear();
+}
+
+// Computes and adds in one go: the next resistance is typed at once.
+void frmSetupOhmmeter::ResistanceReturned() {
+    if (cmdComputeDeflection_->isEnabled()) {
+        cmdComputeDeflectionClicked();
+    }
+    if (cmdAddToList_->isEnabled()) {
+        cmdAddToListClicked();
+    }
+}
+
+bool frmSetupOhmmeter::CheckEntries(SetupMoment /*moment*/) {
+    if (!Service.specialScales || ListCount_ >= 0) {
+        return true;
+    }
+    ReportFailure("The list is empty.\nPlease add a resistance to it.");
+    return false;
 }
 
 void frmSetupOhmmeter::ShowSetupPreview() {

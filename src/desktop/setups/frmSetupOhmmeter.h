@@ -23,6 +23,7 @@ protected:
     void ShowStored() override { LayOutResistanceRows(); }
     void Compute() override { StoreResistanceList(); }
     void ShowSetupPreview() override;
+    bool CheckEntries(SetupMoment moment) override;
 
 private:
     static constexpr int kRows = 31; // the last is never shown: a removed row takes its contents
@@ -33,9 +34,11 @@ private:
         QLabel* deflection = nullptr;
         EntryBox* label = nullptr;
         RowChoice ticClass = {};
+        ResistanceRow written = {}; // what it shows until something is touched
 
-        void Write(const ResistanceRow& contents) const;
+        void Write(const ResistanceRow& contents);
         ResistanceRow Contents() const;
+        TicClass Class() const;
     };
 
     void Build();
@@ -53,6 +56,7 @@ private:
     void cmdAddToListClicked();
     void cmdIgnoreEntryClicked();
     void TicClicked(int row);
+    void ResistanceReturned();
 
     void AddRow();
     void ForgetResult();
@@ -61,6 +65,7 @@ private:
     std::int16_t ListCount_ = -1; // number of the last row in use
     float EnteredMidscale_ = 0;
     float EnteredResistance_ = 0;
+    float ResultingDeflection_ = 0;
     std::string ResultingDeflectionText_;
     Field* midscale_ = nullptr;
     Field* resistance_ = nullptr;

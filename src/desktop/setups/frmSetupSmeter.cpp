@@ -6,9 +6,10 @@ namespace {
 
 constexpr const char* kSetupSmeterOptions[] = {"S 0-9", "S 0-9, +40", "S 0-9, +50", "S 0-9, +60"};
 
-// Accepting unloads another page: this one stays behind, and comes back as it was left.
+// Everyday accepting unloads another page: this one stays behind, and comes back as it was left.
 constexpr PicturedSetupTraits kSetupSmeterTraits = {
-    .setup = {.form = "frmSetupSmeter",
+    .setup = {.kind = kSmeterKind,
+              .form = "frmSetupSmeter",
               .title = "Vernacle - S-meter setup",
               .heading = "S-meter setup",
               .acceptCaption = "Accept and return to Scale Design page",
@@ -21,6 +22,10 @@ constexpr PicturedSetupTraits kSetupSmeterTraits = {
 
 frmSetupSmeter::frmSetupSmeter() : PicturedSetupPage(kSetupSmeterTraits) {
     EnterSetup();
+}
+
+int frmSetupSmeter::MadeOption() const {
+    return SmeterTypeOf(Design, Scale());
 }
 
 void frmSetupSmeter::ComputeTics(int option, float exponent) {

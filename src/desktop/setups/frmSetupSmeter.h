@@ -14,6 +14,7 @@ public:
 
 protected:
     void ComputeTics(int option, float exponent) override;
+    int MadeOption() const override;
 
 private:
     SmeterSetup setup_;

@@ -1,5 +1,6 @@
 #include "desktop/setups/frmSetupVSWR.h"
 
+#include <algorithm>
 #include <array>
 
 #include <QPushButton>
@@ -19,7 +20,8 @@ constexpr const char* kSetupVSWROptions[] = {kSetupVSWRSteps[0].caption, kSetupV
                                              kSetupVSWRSteps[2].caption};
 
 constexpr PicturedSetupTraits kSetupVSWRTraits = {
-    .setup = {.form = "frmSetupVSWR",
+    .setup = {.kind = kVswrKind,
+              .form = "frmSetupVSWR",
               .title = "Vernacle - VSWR setup",
               .heading = "VSWR setup",
               .acceptCaption = "Accept and return to Scale Design page",
@@ -34,9 +36,19 @@ frmSetupVSWR::frmSetupVSWR() : PicturedSetupPage(kSetupVSWRTraits) {
 }
 
 // What is accepted cannot be ignored any more, also while the next page is built.
-void frmSetupVSWR::AcceptSetup() {
+bool frmSetupVSWR::AcceptSetup() {
     Ignore().setEnabled(false);
-    PicturedSetupPage::AcceptSetup();
+    const bool accepted = PicturedSetupPage::AcceptSetup();
+    if (!accepted) {
+        Ignore().setEnabled(true);
+    }
+    return accepted;
+}
+
+int frmSetupVSWR::MadeOption() const {
+    const float step = VswrStepOf(Design, Scale());
+    const auto* made = std::ranges::find(kSetupVSWRSteps, step, &StepOption::step);
+    return made == kSetupVSWRSteps.end() ? 0 : static_cast<int>(made - kSetupVSWRSteps.begin()) + 1;
 }
 
 void frmSetupVSWR::ComputeTics(int option, float exponent) {

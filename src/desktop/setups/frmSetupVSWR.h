@@ -13,8 +13,9 @@ public:
     frmSetupVSWR();
 
 protected:
-    void AcceptSetup() override;
+    bool AcceptSetup() override;
     void ComputeTics(int option, float exponent) override;
+    int MadeOption() const override;
 
 private:
     VswrSetup setup_;

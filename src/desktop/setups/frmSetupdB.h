@@ -2,7 +2,8 @@
 // choices for each.
 #pragma once
 
-#include <array>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "desktop/setups/rowtable.h"
@@ -28,6 +29,7 @@ private:
     struct EntryField {
         const Entry& entry;
         Field& field;
+        std::string shown; // for the number that is held, to the last bit
     };
 
     // What stands in a row of the table.
@@ -43,26 +45,39 @@ private:
     struct Question;
     static const Question kQuestions[];
 
+    struct Spread;
+    static const Spread kSpreads[];
+
     void Build();
     QLayout* MakeEntries();
     QWidget* MakeQuestion(const Question& question);
+    QWidget* MakeEvery();
     QLayout* MakeButtons();
-    RowTable* MakeTable();
+    void GrowTo(int rows);
     static TicRow MakeRow(int row);
 
     void ComputeDecibelTics();
+    bool Enter();
+    void SpreadClicked(const Spread& spread);
+    int EveryHowMany();
 
-    void ReadEntries();
+    void ReadFields(DecibelEntries& entries);
+    void ReadChoices(DecibelEntries& entries);
+    void ShowExactly();
+    void ShowChoices();
     void ShowEntries();
     void ShowRows();
     void ShowNumbers(int tic); // those of its row
     TicRow& Row(int tic) { return rows_.at(static_cast<std::size_t>(tic)); }
 
     DecibelEntries entries_;
+    std::optional<DecibelReading> reading_; // where a scale is given back exactly
     std::vector<EntryField> fields_;
-    OptionButton* optUnlabelledAtBottomYes_ = nullptr;
-    OptionButton* optY_ = nullptr;
-    std::array<TicRow, kDecibelRows> rows_;
+    Field* every_ = nullptr; // none where all are chosen one by one
+    RowChoice bottom_;
+    RowChoice plus_;
+    RowTable* table_ = nullptr;
+    std::vector<TicRow> rows_; // as many as were needed so far
 };
 
 } // namespace vernacle

@@ -16,12 +16,14 @@
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
 namespace {
 
 constexpr SetupPageTraits kSpecialScaleTraits = {
+    .kind = kArbitraryKind,
     .form = "frmSpecialScale",
     .title = "Vernacle - Special scale setup",
     .heading = "Special scale setup",
@@ -56,7 +58,8 @@ void frmSpecialScale::Build() {
     auto* count = new QGridLayout;
     ticmarksField_ = new Field(kTicmarks, *this);
     ticmarksField_->AddBoxTo(*count, count->rowCount());
-    connect(ticmarksField_->box, &EntryBox::Changed, this, &frmSpecialScale::ApplySpecialTable);
+    connect(ticmarksField_->box, &EntryBox::Changed, this,
+            [this] { StoreOrReport([this] { ApplySpecialTable(); }); });
     QLabel* note = MakeLabel(
         "lblFullScale",
         QStringLiteral("Full-scale deflection is 1.0; for a \"blank\" label, use a space."));
@@ -96,7 +99,13 @@ frmSpecialScale::TicRow frmSpecialScale::MakeRow(int row) {
                 .major = MakeRowChoice("fraMajorMinor", "Class of tic", {"Major", "Major"},
                                        {"Minor", "Minor"}, row)};
     made.deflection->TellRange(RangeText(kDeflectionLimits, "of full scale"));
+    GuardNumber(*made.deflection);
+    GuardLabel(*made.label);
     return made;
+}
+
+SpecialRow frmSpecialScale::TicRow::Contents() const {
+    return {.deflection = deflection->Text(), .label = label->Text(), .major = major.Chosen()};
 }
 
 void frmSpecialScale::ReadBack() {
@@ -104,10 +113,17 @@ void frmSpecialScale::ReadBack() {
     const int last = std::min<int>(Design.SpecialNrOfTicmarks[scale], kSpecialRows - 1);
     for (int tic = 0; tic <= last; ++tic) {
         const TicRow& row = Row(tic);
-        row.major.Show(AnswerIf(Design.TicMajorYN[scale][tic] == "Y"));
-        MendEmptyLabel(Design, scale, tic);
+        const KeptTic stored = TicOf(Design, scale, tic);
+        row.major.Show(AnswerIf(stored.major == "Y"));
+        if (!Service.specialScales) {
+            MendEmptyLabel(Design, scale, tic);
+        }
         row.label->Write(Design.TicLabelText[scale][tic]);
-        row.deflection->Write(PlainNumber(Design.TicDeflection[scale][tic]));
+        row.deflection->Write(Service.specialScales ? EntryText(stored.deflection)
+                                                    : PlainNumber(stored.deflection));
+        if (Service.specialScales) {
+            read_.at(static_cast<std::size_t>(tic)) = {row.Contents(), stored};
+        }
     }
 }
 
@@ -115,26 +131,53 @@ void frmSpecialScale::ShowStored() {
     ticmarksField_->Fill(&Design.SpecialNrOfTicmarks[Scale()]);
 }
 
-void frmSpecialScale::CheckEntries(SetupMoment moment) {
-    for (int tic = 0; tic <= Design.SpecialNrOfTicmarks[Scale()]; ++tic) {
-        std::string text = Row(tic).deflection->Text();
-        const DeflectionFault fault = CheckDeflection(Design, Scale(), tic, text);
-        Row(tic).deflection->Write(text);
-        if (fault != DeflectionFault::None) {
-            Host.informationBox(MessageOf(fault, moment));
+bool frmSpecialScale::CheckEntries(SetupMoment moment) {
+    const int last = Design.SpecialNrOfTicmarks[Scale()];
+    if (Service.specialScales && !ComputeOrReport([&] { CheckRows(last, EnteredRows()); })) {
+        return false;
+    }
+    for (int tic = 0; tic <= last; ++tic) {
+        if (!Entered(tic).exact) {
+            CheckRow(tic, moment);
         }
     }
+    return true;
+}
+
+void frmSpecialScale::CheckRow(int tic, SetupMoment moment) {
+    std::string text = Row(tic).deflection->Text();
+    const DeflectionFault fault = CheckDeflection(Design, Scale(), tic, text);
+    Row(tic).deflection->Write(text);
+    if (fault != DeflectionFault::None) {
+        Host.informationBox(MessageOf(fault, moment));
+    }
+}
+
+// With what it gives back of the tic that was read into it.
+SpecialRow frmSpecialScale::Entered(int tic) {
+    SpecialRow row = Row(tic).Contents();
+    if (const auto& read = read_.at(static_cast<std::size_t>(tic))) {
+        if (row.deflection == read->shown.deflection) {
+            row.exact = read->tic.deflection;
+        }
+        if (row.exact && row.label == read->shown.label && row.major == read->shown.major) {
+            row.untouched = read->tic;
+        }
+    }
+    return row;
+}
+
+std::array<SpecialRow, kSpecialRows> frmSpecialScale::EnteredRows() {
+    std::array<SpecialRow, kSpecialRows> rows;
+    for (int tic = 0; tic < kSpecialRows; ++tic) {
+        rows.at(static_cast<std::size_t>(tic)) = Entered(tic);
+    }
+    return rows;
 }
 
 void frmSpecialScale::ApplySpecialTable() {
     ticmarksField_->Read(&ticmarks_);
-    std::array<SpecialRow, kSpecialRows> rows;
-    std::ranges::transform(rows_, rows.begin(), [](const TicRow& row) {
-        return SpecialRow{.deflection = row.deflection->Text(),
-                          .label = row.label->Text(),
-                          .major = row.major.Chosen()};
-    });
-    vernacle::ApplySpecialTable(Design, Scale(), ticmarks_, rows);
+    vernacle::ApplySpecialTable(Design, Scale(), ticmarks_, EnteredRows());
     std::string text;
     FormatByMagnitude(double{ticmarks_}, text);
     ticmarksField_->box->Write(text);

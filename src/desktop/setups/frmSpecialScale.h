@@ -1,6 +1,9 @@
 // The setup of a scale that the user types tic by tic.
 #pragma once
 
+#include <array>
+#include <optional>
+
 #include "desktop/setups/rowtable.h"
 #include "desktop/setups/setuppage.h"
 #include "engine/setups/special.h"
@@ -17,7 +20,7 @@ protected:
     void ReadBack() override;
     void ShowStored() override;
     void Compute() override { ApplySpecialTable(); }
-    void CheckEntries(SetupMoment moment) override;
+    bool CheckEntries(SetupMoment moment) override;
 
 private:
     // What stands in a row of the table.
@@ -26,6 +29,14 @@ private:
         EntryBox* deflection = nullptr;
         EntryBox* label = nullptr;
         RowChoice major = {};
+
+        SpecialRow Contents() const;
+    };
+
+    // A row as it was read back, and the tic that it showed.
+    struct ReadRow {
+        SpecialRow shown;
+        KeptTic tic;
     };
 
     void Build();
@@ -33,6 +44,9 @@ private:
     static TicRow MakeRow(int row);
 
     void ApplySpecialTable();
+    void CheckRow(int tic, SetupMoment moment);
+    SpecialRow Entered(int tic);
+    std::array<SpecialRow, kSpecialRows> EnteredRows();
 
     void ShowRows();
     TicRow& Row(int tic) { return rows_.at(static_cast<std::size_t>(tic)); }
@@ -40,6 +54,7 @@ private:
     float ticmarks_ = 0; // as last read
     Field* ticmarksField_ = nullptr;
     std::array<TicRow, kSpecialRows> rows_;
+    std::array<std::optional<ReadRow>, kSpecialRows> read_; // where tics are given back exactly
 };
 
 } // namespace vernacle

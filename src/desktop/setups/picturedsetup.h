@@ -27,6 +27,12 @@ protected:
     // Computes for the option of that number, from 1, with the exponent as it is typed.
     virtual void ComputeTics(int option, float exponent) = 0;
 
+    // The option by which the scale that is read back was made; 0 if none was.
+    virtual int MadeOption() const = 0;
+
+    void ReadBack() override;
+    bool CheckEntries(SetupMoment moment) override;
+
 private:
     void Build();
     QWidget* MakeOptions();
@@ -34,9 +40,16 @@ private:
     void OptionClicked(int option);
     void txtLinearityExponentChanged();
 
+    int ChosenOption() const; // 0 if none is
+    float Exponent() const;
+    void MakeTics(int option);
+
     const PicturedSetupTraits& traits_;
     SetupPicture* picture_ = nullptr;
     Field* exponent_ = nullptr;
+    std::string exponentRead_;           // as it was shown when the scale was read back
+    float exponentKept_ = 0;             // and what it stood for
+    bool isComputed_ = true;             // the tics are those of what the page shows
     std::vector<OptionButton*> options_; // in the order of their numbers
 };
 

@@ -1,14 +1,17 @@
 #include "desktop/setups/setuppage.h"
 
 #include <QHBoxLayout>
+#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "desktop/kit/entrybox.h"
 #include "desktop/kit/formkit.h"
 #include "desktop/navigation/navigator.h"
 #include "desktop/navigation/session.h"
 #include "engine/base/hostservices.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/scale/scale.h"
 #include "engine/setups/setup.h"
@@ -33,53 +36,109 @@ SetupPage::SetupPage(const SetupPageTraits& traits) : Page(traits.form), traits_
 }
 
 void SetupPage::EnterSetup() {
-    BackupDesign(Design);
+    KeepDesign();
     lblWorking_->setText(QString::fromStdString("Working with scale # " +
                                                 PlainNumber(std::int32_t{Design.CurrentScale})));
-    if (traits_.readsBack && IsSpecial(Design, Scale())) {
+    hasReadBack_ = ReadsBack();
+    if (hasReadBack_) {
         ReadBack();
     } else {
         StartAnew();
     }
     ShowStored();
-    if ((traits_.computes & kAtLoad) != 0) {
-        Compute();
+    if (!hasReadBack_ || !Service.specialScales) { // else the tics stand as they were made
+        ComputeAt(kAtLoad);
     }
+}
+
+void SetupPage::KeepDesign() {
+    if (Service.carefulFiles) {
+        before_ = std::make_unique<const DesignRecord>(Design);
+    } else {
+        BackupDesign(Design);
+    }
+}
+
+bool SetupPage::ReadsBack() const {
+    return Service.specialScales ? HoldsTicsFor(Design, Scale(), traits_.kind)
+                                 : traits_.readsBack && IsSpecial(Design, Scale());
 }
 
 void SetupPage::ShowSetupPreview() {
-    CheckEntries(kAtPreview);
-    if ((traits_.computes & kAtPreview) != 0) {
-        Compute();
+    if (CheckEntries(kAtPreview) && ComputeAt(kAtPreview)) {
+        ShowModal("frmSetupPreview");
     }
-    ShowModal("frmSetupPreview");
 }
 
-void SetupPage::AcceptSetup() {
-    CheckEntries(kAtAccept);
+bool SetupPage::AcceptSetup() {
+    if (!CheckEntries(kAtAccept) || !ComputeAt(kAtAccept)) {
+        return false;
+    }
     if (traits_.marking == Marking::ByAccept) {
         MarkSpecial(Design, Scale());
     }
-    if ((traits_.computes & kAtAccept) != 0) {
-        Compute();
-    }
-    if (traits_.acceptUnloads) {
+    RememberKind();
+    if (traits_.acceptUnloads && !Service.specialScales) {
         GoToPageUnloading(kScalesPage, traits_.acceptUnloads);
     } else {
         GoToPage(kScalesPage);
     }
+    return true;
 }
 
 void SetupPage::IgnoreSetup() {
-    RestoreBackup(Design);
+    if (before_) {
+        Design = *before_;
+    } else {
+        RestoreBackup(Design);
+    }
     GoToPage(kScalesPage);
 }
 
-void SetupPage::ComputeOrReport(const std::function<void()>& compute) {
+bool SetupPage::ComputeAt(SetupMoment moment) {
+    const unsigned more = Service.specialScales ? traits_.computesInService : 0;
+    const bool isDue = ((traits_.computes | more) & moment) != 0;
+    return !isDue || StoreOrReport([this] { Compute(); });
+}
+
+bool SetupPage::ComputeOrReport(const std::function<void()>& compute) {
     try {
         compute();
     } catch (const ImpossibleEntry& entry) {
         ReportFailure(entry.what());
+        return false;
+    }
+    return true;
+}
+
+bool SetupPage::StoreOrReport(const std::function<void()>& compute) {
+    const bool stored = ComputeOrReport(compute);
+    if (stored) {
+        RememberKind();
+    }
+    return stored;
+}
+
+void SetupPage::RememberKind() {
+    if (Service.specialScales) {
+        RememberSetup(Design, Scale(), traits_.kind);
+    }
+}
+
+void SetupPage::GuardLabel(EntryBox& box) {
+    if (!Service.specialScales) {
+        return;
+    }
+    static const QRegularExpression kWithoutSeparator(QStringLiteral("[^\\\\]*"));
+    box.setValidator(new QRegularExpressionValidator(kWithoutSeparator, &box));
+    box.setToolTip(QStringLiteral("any text without a \\, which parts the entries of a file"));
+    connect(&box, &QLineEdit::inputRejected, &box, [] { Host.beep(); });
+}
+
+void SetupPage::GuardNumber(EntryBox& box) {
+    constexpr int kLongest = 10; // of an entry; what is longer would be passed over
+    if (Service.specialScales) {
+        box.setMaxLength(kLongest);
     }
 }
 

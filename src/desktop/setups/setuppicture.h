@@ -17,6 +17,8 @@ public:
     void DrawScale();
 
 private:
+    void ShowTruePlate();
+
     const PageCopies sizes_;
 };
 

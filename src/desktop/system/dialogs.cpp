@@ -7,6 +7,8 @@
 #include <QFontDialog>
 #include <QLineEdit>
 #include <QListView>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QUrl>
 
 #include "desktop/system/programfiles.h"
@@ -135,6 +137,18 @@ std::string AskForNewFile(QWidget* parent, const FileQuestion& question, const s
         dialog.selectFile(file.dir().exists() ? file.filePath() : file.fileName());
     }
     return Ask(dialog);
+}
+
+bool AskWhetherToContinue(QWidget* parent, const std::string& question) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Vernacle"),
+                    QString::fromStdString(question), QMessageBox::Ok | QMessageBox::Cancel,
+                    parent);
+    box.setObjectName(QStringLiteral("boxContinue"));
+    box.setTextFormat(Qt::PlainText); // a design may hold what looks like markup
+    box.button(QMessageBox::Ok)->setText(QStringLiteral("Continue"));
+    box.button(QMessageBox::Cancel)->setText(QStringLiteral("Stay"));
+    box.setDefaultButton(QMessageBox::Cancel);
+    return box.exec() == QMessageBox::Ok;
 }
 
 std::string AskForFont(QWidget* parent, const char* title, const std::string& family) {

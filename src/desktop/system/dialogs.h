@@ -29,6 +29,9 @@ std::string AskForFileToSave(QWidget* parent, const FileQuestion& question,
 // The same, but a cancelled one gives no name.
 std::string AskForNewFile(QWidget* parent, const FileQuestion& question, const std::string& name);
 
+// A question whose "Stay" is what a key pressed without reading it gives.
+bool AskWhetherToContinue(QWidget* parent, const std::string& question);
+
 std::string AskForFont(QWidget* parent, const char* title, const std::string& family);
 
 Colour AskForColour(QWidget* parent, const char* title, Colour start);
