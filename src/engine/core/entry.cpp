@@ -199,16 +199,17 @@ bool IsTooLongForEntry(std::string_view text) {
 std::string EntryText(float value) {
     constexpr int kMostPlaces = 9;
     std::array<char, 64> buffer{};
-    std::string text;
-    for (int places = kMostPlaces; places >= 0; --places) {
-        const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                                std::chars_format::fixed, places);
-        text = WithoutIdleZeros({buffer.data(), end});
-        if (!IsTooLongForEntry(text)) {
-            return text;
-        }
+    char* const first = buffer.data();
+    char* const last = first + buffer.size();
+    char* end = std::to_chars(first, last, value, std::chars_format::fixed).ptr;
+    std::string text = WithoutIdleZeros({first, end}); // no more digits than tell it from others
+    for (int places = kMostPlaces; IsTooLongForEntry(text) && places >= 0; --places) {
+        end = std::to_chars(first, last, value, std::chars_format::fixed, places).ptr;
+        text = WithoutIdleZeros({first, end});
     }
-    FormatByMagnitude(double{value}, text);
+    if (IsTooLongForEntry(text)) {
+        FormatByMagnitude(double{value}, text);
+    }
     return text;
 }
 

@@ -307,6 +307,39 @@ TEST_F(EntryTest, FormatsTheLargestFloatInExponentForm) {
     EXPECT_EQ(result, "1E+29G");
 }
 
+struct EntryTextRow {
+    float value;
+    const char* text;
+};
+
+// What a page shows is what the entry takes, as far as ten characters go.
+TEST_F(EntryTest, EntryTextsAreReadInFull) {
+    const EntryTextRow rows[] = {
+        {0, "0"},
+        {-0.F, "0"},
+        {1, "1"},
+        {0.5F, ".5"},
+        {-0.5F, "-.5"},
+        {0.0333333351F, ".033333335"},
+        {100, "100"},
+        {1e-12F, "0"},
+        {0.1234567F, ".1234567"},
+        {1234567, "1234567"},
+        {1e10F, "10G"},
+        {-0.123456789F, "-.12345679"},
+        {2.5F, "2.5"},
+        {12345.678F, "12345.678"},
+    };
+    for (const EntryTextRow& row : rows) {
+        std::string text = EntryText(row.value);
+        EXPECT_EQ(text, row.text);
+        EXPECT_FALSE(IsTooLongForEntry(text));
+        float read = 77;
+        ParseEntry(text, read);
+        EXPECT_NEAR(read, row.value, std::abs(double{row.value}) * 1e-6 + 1e-9) << text;
+    }
+}
+
 TEST_F(EntryTest, ArcSinIsHeldShortOfARightAngle) {
     struct Row {
         double x;
