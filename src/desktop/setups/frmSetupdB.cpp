@@ -311,9 +311,12 @@ void frmSetupdB::ShowEntries() {
     }
 }
 
-// The row behind the last tic is the bottom tic's, also where that is switched off.
+// The row behind the last tic is the bottom tic's, on the everyday page also where that is switched
+// off.
 void frmSetupdB::ShowRows() {
-    const int last = Design.SpecialNrOfTicmarks[Scale()];
+    const int last = std::max<int>(Design.SpecialNrOfTicmarks[Scale()], 0);
+    const bool hasBottom = Design.UnlabelledBottomTic[Scale()] == "Y";
+    const int lastShown = hasBottom || !Service.specialScales ? last : last - 1;
     for (int tic = 0; tic < static_cast<int>(rows_.size()); ++tic) {
         const TicRow& row = Row(tic);
         for (QLabel* text : {row.tic, row.value, row.deflection}) {
@@ -322,14 +325,14 @@ void frmSetupdB::ShowRows() {
         for (QWidget* part :
              std::initializer_list<QWidget*>{row.printed.frame, row.major.frame, row.labelled.frame,
                                              row.value, row.deflection}) {
-            part->setVisible(tic <= last);
+            part->setVisible(tic <= lastShown);
         }
     }
     for (int tic = 0; tic < last; ++tic) {
         Row(tic).tic->setText(QString::number(tic) + QLatin1String(tic == 0 ? " (top)" : ""));
         ShowNumbers(tic);
     }
-    if (Design.UnlabelledBottomTic[Scale()] == "Y") {
+    if (hasBottom) {
         Row(last).tic->setText(QStringLiteral("(bottom)"));
         Row(last).deflection->setText(QStringLiteral("0"));
     }

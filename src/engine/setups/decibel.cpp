@@ -164,8 +164,10 @@ DecibelReading ReadDecibels(const DesignRecord& design, int scale) {
                                  design.TicLabelText[scale][0].find('+') != std::string::npos);
     entries.unlabelledBottomTic = AnswerIf(design.UnlabelledBottomTic[scale] == "Y");
     for (int tic = 0; tic <= kLastTic; ++tic) {
+        // What a finer scale may gain is printed, as on a new one.
+        const bool isGained = Service.specialScales && tic >= design.SpecialNrOfTicmarks[scale];
         entries.tics.at(static_cast<std::size_t>(tic)) = {
-            .printed = AnswerIf(design.TicPrintYN[scale][tic] != "N"),
+            .printed = AnswerIf(isGained || design.TicPrintYN[scale][tic] != "N"),
             .major = AnswerIf(design.TicMajorYN[scale][tic] != "N"),
             .labelled = AnswerIf(design.TicLabelYN[scale][tic] != "N")};
     }

@@ -318,6 +318,34 @@ TEST_F(DecibelInServiceTest, AVuScaleIsReadBack) {
     }
     ExpectSelected({"optUnlabelledAtBottomNo", "optN", "PrintTicNo40", "PrintLabelYes3"}, true);
     EXPECT_EQ(Shown("DeflectLabel46"), ".06725485"); // .95 x 10 ^ (-23 / 20)
+    EXPECT_FALSE(IsShown("PrintTicYes47")) << "no bottom tic";
+    Type("txtNrOfTicmarks", "49");
+    Click("cmdEnter");
+    EXPECT_EQ(Design.TicPrintYN[2][48], "Y") << "what a scale gains is printed";
+    EXPECT_EQ(Design.TicPrintYN[2][40], "N");
+    Click("optUnlabelledAtBottomYes");
+    Click("cmdEnter");
+    EXPECT_TRUE(IsShown("PrintTicYes49"));
+}
+
+// As a file may bring them.
+TEST_F(DecibelInServiceTest, CountsBeyondTheTablesAreHeld) {
+    for (const InServiceRow& row : kInService) {
+        for (const int count : {-1, 0, kLastTic}) {
+            Design.ScaleColor[2] = -5;
+            Design.ScaleSetup[2].clear();
+            Design.SpecialNrOfTicmarks[2] = static_cast<std::int16_t>(count);
+            OpenSetup(row.page, 2);
+            EXPECT_EQ(PageName(), row.page);
+            ClickAndSettle("cmdAccept");
+            EXPECT_LE(Design.SpecialNrOfTicmarks[2], kLastTic);
+        }
+    }
+    Design.ScaleSetup[2].clear();
+    Design.SpecialNrOfTicmarks[2] = -1;
+    OpenSetup("frmSetupdB", 2);
+    Click("cmdEnter");
+    EXPECT_EQ(TextOf("txtNrOfTicmarks"), "1");
 }
 
 TEST_F(DecibelInServiceTest, ALawThatIsNoneIsRefused) {
