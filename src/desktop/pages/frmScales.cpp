@@ -13,7 +13,6 @@
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
 #include "engine/core/service.h"
-#include "engine/scale/scale.h"
 #include "surfaces/colours.h"
 
 namespace vernacle {
@@ -143,9 +142,6 @@ void frmScales::Changed(const Field& field) {
 }
 
 void frmScales::TakeExponent() {
-    if (Service.specialScales && IsSpecial(Design, Design.ActiveScale)) {
-        return; // its setup's, which may have more digits than the box shows
-    }
     exponent_->Read(&typedExponent_);
     const float held = exponent_->row.limits.Held(typedExponent_);
     if (Service.exponent && held <= 0) {

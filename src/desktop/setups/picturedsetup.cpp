@@ -69,7 +69,7 @@ QWidget* PicturedSetupPage::MakeOptions() {
 
 // Nothing is computed: the tics stand as they were made.
 void PicturedSetupPage::ReadBack() {
-    exponentKept_ = Design.LinearityExponent[Scale()];
+    exponentKept_ = ExponentOf(Design, Scale());
     exponentRead_ = EntryText(exponentKept_);
     exponent_->box->Write(exponentRead_);
     if (const int made = MadeOption(); made > 0) {
@@ -116,7 +116,7 @@ void PicturedSetupPage::MakeTics(int option) {
     const float exponent = Exponent();
     ComputeTics(option, exponent);
     if (Service.specialScales) {
-        exponent_->box->ShowHeld(exponent, Design.LinearityExponent[Scale()]);
+        exponent_->box->ShowHeld(exponent, ExponentOf(Design, Scale()));
     }
     picture_->DrawScale();
 }
@@ -130,7 +130,7 @@ float PicturedSetupPage::Exponent() const {
     if (!exponentRead_.empty() && exponent_->box->Text() == exponentRead_) {
         return exponentKept_;
     }
-    float exponent = Design.LinearityExponent[Scale()]; // stays where the text is no entry
+    float exponent = ExponentOf(Design, Scale()); // stays where the text is no entry
     exponent_->Read(&exponent);
     return exponent;
 }

@@ -74,6 +74,7 @@ constexpr Default kScaleDefaults[] = {
     {At<&D::ScaleLengthUnits>, kNotSet, 50.0},
     {At<&D::SpecialNrOfTicmarks>, kNotSet, 0.0},
     {At<&D::UnlabelledBottomTic>, kNotSet, "Y"},
+    {At<&D::SpecialExponent>, kNotSet, 1.0},
     {At<&D::ScaleSetup>, kNotSet, ""},
     {At<&D::BottomToTitle>, 30.0, kNotSet},
     {At<&D::BottomToScaleCeiling>, 35.0, kNotSet},

@@ -90,6 +90,7 @@ struct DesignRecord {
     PerScale<std::int16_t> SpecialNrOfTicmarks;
     PerScale<std::string> UnlabelledBottomTic;
     PerScale<float> FullscaleMultiplier;
+    PerScale<float> SpecialExponent;  // of a setup's law, apart from that of a standard one
     PerScale<std::string> ScaleSetup; // whose tics it has in its tables: "dB"; empty if unknown
     PerScale<float> RelativeFontSize; // relative to FontSize
     Table<DynamicValue, kLastFlagScale> PrintTicsAndArcs; // 0: the scale's tics and arc are drawn

@@ -93,6 +93,7 @@ constexpr RecordField kFields[] = {
     Row<&D::SpecialNrOfTicmarks>("SpecialNrOfTicmarks", kKept),
     Row<&D::UnlabelledBottomTic>("UnlabelledBottomTic", kKept),
     Row<&D::FullscaleMultiplier>("FullscaleMultiplier", kKept),
+    Row<&D::SpecialExponent>("SpecialExponent", kKept),
     Row<&D::ScaleSetup>("ScaleSetup", kKept),
     Row<&D::RelativeFontSize>("RelativeFontSize", kKept),
     Row<&D::PrintTicsAndArcs>("PrintTicsAndArcs", kKept),

@@ -160,11 +160,16 @@ constexpr FileLine kNumberedTic =
 constexpr FileLine kSpecialTic =
     {"",                                 WriteTicFields,  Nowhere,                           ReadTicFields,   620, {}, FillEmptyLabel};
 
-constexpr FileLine kSpecialScaleFoot[] = {
-    {"Unlabelled ticmark at scale bottom Y/N: ",WriteTrimmed,    At<&D::UnlabelledBottomTic>,       ReadText,        625},
-    {"Scale exponent: ",                 WritePlain,      At<&D::LinearityExponent>,         ReadEntry,       630},
-    {"Fullscale multiplier: ",           WritePlain,      At<&D::FullscaleMultiplier>,       ReadEntry,       635},
-};
+// One line for the exponent of the scale's law, whichever that is; where both laws keep theirs, it
+// is that of the block.
+constexpr FileLine kBottomTic =
+    {"Unlabelled ticmark at scale bottom Y/N: ",WriteTrimmed,    At<&D::UnlabelledBottomTic>,       ReadText,        625};
+constexpr FileLine kSharedExponent =
+    {"Scale exponent: ",                 WritePlain,      At<&D::LinearityExponent>,         ReadEntry,       630};
+constexpr FileLine kSpecialExponent =
+    {"Scale exponent: ",                 WritePlain,      At<&D::SpecialExponent>,           ReadEntry,       630};
+constexpr FileLine kMultiplier =
+    {"Fullscale multiplier: ",           WritePlain,      At<&D::FullscaleMultiplier>,       ReadEntry,       635};
 
 constexpr FileLine kPlateTail[] = {
     {"Draw graphic Y/N:",                WriteGlued,      At<&D::DrawGraphic>,               ReadText,        645, {ForceNoGraphic, &S::reserveStages}, nullptr, DropUndrawnGraphic},
@@ -318,7 +323,9 @@ void FileWalker::WalkScale(int scale) {
     for (int tic = 0, last = design_.SpecialNrOfTicmarks[scale]; tic <= last; ++tic) {
         Visit(Service.carefulFiles ? kNumberedTic : kSpecialTic, {scale, tic});
     }
-    VisitAll(kSpecialScaleFoot, {scale});
+    Visit(kBottomTic, {scale});
+    Visit(Service.carefulFiles ? kSpecialExponent : kSharedExponent, {scale});
+    Visit(kMultiplier, {scale});
 }
 
 void FileWalker::WalkDeletions() {

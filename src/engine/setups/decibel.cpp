@@ -38,7 +38,7 @@ void Hold(DecibelEntries& entries) {
 
 void StoreNumbers(DesignRecord& design, int scale, const DecibelEntries& entries) {
     design.SpecialNrOfTicmarks[scale] = static_cast<std::int16_t>(entries.ticmarks);
-    design.LinearityExponent[scale] = entries.exponent;
+    ExponentOf(design, scale) = entries.exponent;
     design.FullscaleMultiplier[scale] = entries.multiplier;
 }
 
@@ -157,7 +157,7 @@ DecibelReading ReadDecibels(const DesignRecord& design, int scale) {
     DecibelEntries& entries = reading.entries;
     entries.fullScale = static_cast<float>(LabelledDecibels(design, scale, 0));
     entries.ticmarks = design.SpecialNrOfTicmarks[scale];
-    entries.exponent = design.LinearityExponent[scale];
+    entries.exponent = ExponentOf(design, scale);
     entries.multiplier = design.FullscaleMultiplier[scale];
     entries.step = StepOf(design, scale);
     entries.plusSigns = AnswerIf(entries.fullScale <= 0 ||

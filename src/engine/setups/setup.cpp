@@ -29,6 +29,14 @@ bool CanBend(float exponent) {
     return !limits.lowestIsOpen || double{exponent} > limits.lowest;
 }
 
+float& ExponentOf(DesignRecord& design, int scale) {
+    return Service.exponent ? design.SpecialExponent[scale] : design.LinearityExponent[scale];
+}
+
+float ExponentOf(const DesignRecord& design, int scale) {
+    return Service.exponent ? design.SpecialExponent[scale] : design.LinearityExponent[scale];
+}
+
 float HeldExponent(float exponent) {
     if (!CanBend(exponent)) {
         throw ImpossibleEntry("A scale cannot be computed by this linearity exponent.\n"

@@ -27,6 +27,11 @@ EntryLimits ExponentLimits();
 bool CanBend(float exponent);
 float HeldExponent(float exponent);
 
+// Where a setup's law keeps its exponent: with the standard law's, or apart where it is in service,
+// so that reverting the scale gives that law back.
+float& ExponentOf(DesignRecord& design, int scale);
+float ExponentOf(const DesignRecord& design, int scale);
+
 // The fraction to the power of the exponent, as a float. 0 to a negative power is an
 // ImpossibleEntry.
 float BentDeflection(float fraction, float exponent);

@@ -80,7 +80,7 @@ int SmeterTypeOf(const DesignRecord& design, int scale) {
 
 void ComputeSmeterTics(DesignRecord& design, int scale, float exponent, SmeterSetup& setup) {
     exponent = HeldExponent(exponent);
-    design.LinearityExponent[scale] = exponent;
+    ExponentOf(design, scale) = exponent;
     ClearScales(design, scale, setup.LastTic);
     setup.LastTic = -1;
     if (setup.ScaleType < 1 || setup.ScaleType > static_cast<int>(kTypes.size())) {

@@ -106,7 +106,7 @@ float VswrStepOf(const DesignRecord& design, int scale) {
 
 void ComputeVSWRTics(DesignRecord& design, int scale, float exponent, VswrSetup& setup) {
     exponent = HeldExponent(exponent);
-    design.LinearityExponent[scale] = exponent;
+    ExponentOf(design, scale) = exponent;
     setup.LastTic = -1;
     const auto* rule = std::ranges::find(kRules, setup.StepSize, &StepRule::step);
     if (rule == std::end(kRules)) {

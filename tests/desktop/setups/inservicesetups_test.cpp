@@ -108,6 +108,7 @@ INSTANTIATE_TEST_SUITE_P(Setups, EachInServiceTest, ::testing::ValuesIn(kInServi
 
 TEST_P(EachInServiceTest, AcceptKeepsMarkNameAndOtherScales) {
     Design.ScaleColor[2] = 0x804020;
+    Design.LinearityExponent[2] = 0.5F;
     Design.ScaleColor[3] = -7;
     for (const int other : {1, 3}) {
         SpoilTables(other);
@@ -116,6 +117,7 @@ TEST_P(EachInServiceTest, AcceptKeepsMarkNameAndOtherScales) {
     Make(row);
     EXPECT_EQ(Design.ScaleColor[2], -0x804020);
     EXPECT_EQ(Design.ScaleSetup[2], row.maker);
+    EXPECT_EQ(Design.LinearityExponent[2], 0.5F) << "the standard law's";
     EXPECT_EQ(Design.DesignFileName, "/designs/mine.VRN");
     EXPECT_FALSE(Exists("Backup.DAT"));
     for (const std::string& name : Differences(Design, *before)) {
@@ -155,7 +157,7 @@ TEST_P(EachInServiceTest, AScaleIsReadBackToTheLastBit) {
     }
     Design.TicPrintYN[2][1] = "y";
     Design.TicLabelText[2][0] = "/";
-    Design.LinearityExponent[2] = 0.123456791F;
+    Design.SpecialExponent[2] = 0.123456791F;
     for (const bool isMarked : {true, false}) {
         Design.ScaleColor[2] = isMarked ? -5 : 5;
         const auto before = Copy();
@@ -233,7 +235,7 @@ TEST_P(OptionInServiceTest, TicsFollowTheExponent) {
     Type("txtLinearityExponent", "9");
     Box("txtLinearityExponent").FinishTyping();
     EXPECT_EQ(TextOf("txtLinearityExponent"), "4");
-    EXPECT_EQ(Design.LinearityExponent[2], 4);
+    EXPECT_EQ(Design.SpecialExponent[2], 4);
     const QPointer<QWidget> page = &Page();
     ClickAndSettle("cmdAccept");
     EXPECT_EQ(PageName(), "frmScales");
@@ -358,7 +360,7 @@ TEST_F(DecibelInServiceTest, ALawThatIsNoneIsRefused) {
     }
     Type("txtLinearityExponent", "1");
     Click("cmdEnter");
-    EXPECT_EQ(Design.LinearityExponent[2], 1);
+    EXPECT_EQ(Design.SpecialExponent[2], 1);
 }
 
 class OhmInServiceTest : public InServiceTest {

@@ -250,5 +250,22 @@ TEST_F(StarLinesTest, AReadThatFailsLeavesTheDesignThatWasThere) {
     EXPECT_NE(said[1].find("The design stays as it was."), std::string::npos) << said[1];
 }
 
+// The one line of a special scale's block is its own law's; an older reader gets that one.
+TEST_F(StarLinesTest, EachLawKeepsItsExponent) {
+    Design.ScaleColor[1] = -5;
+    Design.LinearityExponent[1] = 0.5F;
+    Design.SpecialExponent[1] = 2;
+    const std::string text = DesignText(Design);
+    EXPECT_NE(text.find("Scale exponent: 2\r\n"), text.npos);
+    EXPECT_NE(text.find("*LinearityExponent[1]: 0.5\r\n"), text.npos);
+    const DesignRecord read = ReadBack(text);
+    EXPECT_EQ(read.LinearityExponent[1], 0.5F);
+    EXPECT_EQ(read.SpecialExponent[1], 2);
+    StoreService(Program::Everyday);
+    const DesignRecord everyday = ReadBack(text);
+    EXPECT_EQ(everyday.LinearityExponent[1], 2);
+    EXPECT_EQ(everyday.SpecialExponent[1], 1);
+}
+
 } // namespace
 } // namespace vernacle::test

@@ -117,7 +117,7 @@ TEST_F(SetupInServiceTest, ExponentsAreAboveZeroAndAtMostFour) {
         EXPECT_THROW(ComputeDecibelTics(Design, 1, decibels), ImpossibleEntry);
         EXPECT_THROW(ComputeSmeterTics(Design, 1, refused, smeter), ImpossibleEntry);
         EXPECT_THROW(ComputeVSWRTics(Design, 1, refused, vswr), ImpossibleEntry);
-        EXPECT_EQ(Design.LinearityExponent[1], before->LinearityExponent[1]);
+        EXPECT_EQ(Design.SpecialExponent[1], before->SpecialExponent[1]);
         EXPECT_EQ(Design.TicPrintYN[1][3], before->TicPrintYN[1][3]);
         EXPECT_EQ(Design.SpecialNrOfTicmarks[1], before->SpecialNrOfTicmarks[1]);
     }
