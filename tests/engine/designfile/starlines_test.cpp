@@ -170,6 +170,7 @@ TEST_F(StarLinesTest, TheEverydayReaderTakesTheLinesByTheirPlaces) {
         Random random(static_cast<unsigned>(seed));
         RandomiseDesign(Design, random);
         for (int scale = 1; scale <= kScales; ++scale) {
+            Design.SpecialExponent[scale] = Design.LinearityExponent[scale]; // share a line there
             for (int tic = 0; tic <= kLastTic; ++tic) {
                 Design.TicLabelText[scale][tic] = "5"; // a colon is cut in an everyday file
             }
