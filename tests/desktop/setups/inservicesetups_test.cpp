@@ -323,7 +323,8 @@ TEST_F(DecibelInServiceTest, AVuScaleIsReadBack) {
     EXPECT_FALSE(IsShown("PrintTicYes47")) << "no bottom tic";
     Type("txtNrOfTicmarks", "49");
     Click("cmdEnter");
-    EXPECT_EQ(Design.TicPrintYN[2][48], "Y") << "what a scale gains is printed";
+    EXPECT_EQ(Design.TicPrintYN[2][47], "Y") << "what a scale gains is printed";
+    EXPECT_EQ(Design.TicPrintYN[2][48], "Y");
     EXPECT_EQ(Design.TicPrintYN[2][40], "N");
     Click("optUnlabelledAtBottomYes");
     Click("cmdEnter");
@@ -345,7 +346,10 @@ TEST_F(DecibelInServiceTest, CountsBeyondTheTablesAreHeld) {
     }
     Design.ScaleSetup[2].clear();
     Design.SpecialNrOfTicmarks[2] = -1;
+    Design.FullscaleMultiplier[2] = 7;
+    const auto before = Copy();
     OpenSetup("frmSetupdB", 2);
+    EXPECT_EQ(Differences(Design, *before), Strings()) << "until something is entered";
     Click("cmdEnter");
     EXPECT_EQ(TextOf("txtNrOfTicmarks"), "1");
 }
@@ -383,8 +387,11 @@ TEST_F(OhmInServiceTest, ReturnComputesAndAdds) {
     EXPECT_TRUE(IsSelected("Minor2"));
     Return(); // of nothing
     EXPECT_FALSE(IsShown("Tic3"));
+    Enter("2.999M");
+    ExpectShown({{"lblDeflection3", ".000333333"}});
     ClickAndSettle("cmdAccept");
-    EXPECT_EQ(Design.TicDeflection[2][2], 1.F / 3) << "not as its text is rounded";
+    EXPECT_EQ(Design.TicDeflection[2][2], 1.F / 3);
+    EXPECT_EQ(Design.TicDeflection[2][3], 1.F / 3000) << "not as its text is rounded";
 }
 
 TEST_F(OhmInServiceTest, WhatHasNoDeflectionIsRefused) {
