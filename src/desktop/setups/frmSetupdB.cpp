@@ -317,6 +317,19 @@ void frmSetupdB::ShowRows() {
     const int last = std::max<int>(Design.SpecialNrOfTicmarks[Scale()], 0);
     const bool hasBottom = Design.UnlabelledBottomTic[Scale()] == "Y";
     const int lastShown = hasBottom || !Service.specialScales ? last : last - 1;
+    table_->ChangeRows([&] { ShowRowsTo(lastShown); });
+    for (int tic = 0; tic < last; ++tic) {
+        Row(tic).tic->setText(QString::number(tic) + QLatin1String(tic == 0 ? " (top)" : ""));
+        ShowNumbers(tic);
+    }
+    if (hasBottom) {
+        Row(last).tic->setText(QStringLiteral("(bottom)"));
+        Row(last).deflection->setText(QStringLiteral("0"));
+    }
+}
+
+// Without their texts.
+void frmSetupdB::ShowRowsTo(int last) {
     for (int tic = 0; tic < static_cast<int>(rows_.size()); ++tic) {
         const TicRow& row = Row(tic);
         for (QLabel* text : {row.tic, row.value, row.deflection}) {
@@ -325,16 +338,8 @@ void frmSetupdB::ShowRows() {
         for (QWidget* part :
              std::initializer_list<QWidget*>{row.printed.frame, row.major.frame, row.labelled.frame,
                                              row.value, row.deflection}) {
-            part->setVisible(tic <= lastShown);
+            part->setVisible(tic <= last);
         }
-    }
-    for (int tic = 0; tic < last; ++tic) {
-        Row(tic).tic->setText(QString::number(tic) + QLatin1String(tic == 0 ? " (top)" : ""));
-        ShowNumbers(tic);
-    }
-    if (hasBottom) {
-        Row(last).tic->setText(QStringLiteral("(bottom)"));
-        Row(last).deflection->setText(QStringLiteral("0"));
     }
 }
 

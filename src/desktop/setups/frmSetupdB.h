@@ -67,6 +67,7 @@ private:
     void ShowChoices();
     void ShowEntries();
     void ShowRows();
+    void ShowRowsTo(int last);
     void ShowNumbers(int tic); // those of its row
     TicRow& Row(int tic) { return rows_.at(static_cast<std::size_t>(tic)); }
 

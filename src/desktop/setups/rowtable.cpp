@@ -134,6 +134,15 @@ void RowTable::AddRow(std::initializer_list<QWidget*> controls) {
     ++count_;
 }
 
+void RowTable::ChangeRows(const std::function<void()>& change) {
+    QLayout& layout = *rows_->parentWidget()->layout();
+    layout.setEnabled(false);
+    change();
+    layout.setEnabled(true);
+    layout.invalidate();
+    layout.activate();
+}
+
 void RowTable::AlignHeadings() {
     for (int column = 0; column < headings_->count(); ++column) {
         int width = headings_->sectionSizeHint(column);

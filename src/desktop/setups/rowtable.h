@@ -2,6 +2,7 @@
 // is named with the number behind: "PrintTicYes3".
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <span>
 #include <string>
@@ -53,6 +54,9 @@ public:
 
     // Adds the next row, a control for each heading.
     void AddRow(std::initializer_list<QWidget*> controls);
+
+    // For what shows or hides many controls: the rows are laid out once behind it, not at each.
+    void ChangeRows(const std::function<void()>& change);
 
     // Once all rows stand: the headings stand above their columns.
     void AlignHeadings();
