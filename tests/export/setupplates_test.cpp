@@ -65,7 +65,7 @@ protected:
     void ExpectOnPaper(const Marks& marks) {
         Export();
         const TruePlate plate(Design);
-        std::vector<MmPoint> feet = FeetOf(plate.Rgb(1));
+        const std::vector<MmPoint> feet = FeetOf(pdf_, plate, 1, Ceiling());
         EXPECT_EQ(feet.size(), marks.size());
         Strings words;
         for (const Word& word : ReadPdfWords(Path("plate.pdf"))) {
@@ -74,33 +74,12 @@ protected:
         ExpectLabels(words, marks);
         for (const Mark& mark : marks) {
             const MmPoint at = plate.Meet(mark.fraction, Ceiling());
-            EXPECT_TRUE(std::ranges::any_of(feet, [at](MmPoint foot) { return IsAt(foot, at); }))
+            EXPECT_TRUE(HasPointAt(feet, at, kSetupToleranceMm))
                 << "no tic at " << mark.fraction << " for \"" << mark.label << "\"";
         }
     }
 
-    // Where the tics of that colour stand on their arc: the nearer ends of their lines, as the
-    // lines lead outward.
-    std::vector<MmPoint> FeetOf(unsigned rgb) const {
-        const TruePlate plate(Design);
-        const MmPoint centre = plate.VirtualBearing();
-        const auto away = [centre](MmPoint p) {
-            return std::hypot(p.x - centre.x, p.y - centre.y);
-        };
-        std::vector<MmPoint> feet;
-        for (const Shape& shape : pdf_.shapes) {
-            if (shape.stroked && shape.rgb == rgb && shape.points.size() == 2) {
-                feet.push_back(std::ranges::min(shape.points, {}, away));
-            }
-        }
-        return feet;
-    }
-
     static double Ceiling() { return double{Design.BottomToScaleCeiling[1]}; }
-
-    static bool IsAt(MmPoint a, MmPoint b) {
-        return std::hypot(a.x - b.x, a.y - b.y) <= kSetupToleranceMm;
-    }
 
     SvgPicture pdf_;
 };
@@ -153,9 +132,7 @@ TEST_F(SetupPlateTest, VolumeUnits) {
             EXPECT_TRUE(std::ranges::any_of(
                 pdf_.shapes,
                 [corner](const Shape& shape) {
-                    return !shape.stroked && std::ranges::any_of(shape.points, [corner](MmPoint p) {
-                        return IsAt(p, corner);
-                    });
+                    return !shape.stroked && HasPointAt(shape.points, corner, kSetupToleranceMm);
                 }))
                 << "no corner of the zone at " << units << " VU";
         }

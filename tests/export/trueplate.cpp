@@ -246,4 +246,28 @@ unsigned TruePlate::Rgb(int scale) const {
     return ((colour & 0xFF) << 16) | (colour & 0xFF00) | (colour >> 16);
 }
 
+std::vector<MmPoint> FeetOf(const SvgPicture& page, const TruePlate& plate, int scale,
+                            double ceilingMm) {
+    constexpr double kOnArcMm = 0.05;
+    const MmPoint centre = plate.VirtualBearing();
+    const auto away = [centre](MmPoint p) { return std::hypot(p.x - centre.x, p.y - centre.y); };
+    std::vector<MmPoint> feet;
+    for (const Shape& shape : page.shapes) {
+        if (!shape.stroked || shape.rgb != plate.Rgb(scale) || shape.points.size() != 2) {
+            continue;
+        }
+        const auto [inner, outer] = std::ranges::minmax(shape.points, {}, away);
+        const MmPoint foot = scale % 2 ? inner : outer;
+        if (std::abs(away(foot) - plate.RadiusMm(ceilingMm)) < kOnArcMm) {
+            feet.push_back(foot);
+        }
+    }
+    return feet;
+}
+
+bool HasPointAt(const std::vector<MmPoint>& points, MmPoint at, double withinMm) {
+    return std::ranges::any_of(
+        points, [&](MmPoint p) { return std::hypot(p.x - at.x, p.y - at.y) <= withinMm; });
+}
+
 } // namespace vernacle::test

@@ -57,4 +57,11 @@ private:
     const DesignRecord& design_;
 };
 
+// Where tics of a scale's colour stand on the arc of that ceiling on a page: those ends of their
+// lines that lie on it, as the lines lead outward from there, or inward on even scales.
+std::vector<MmPoint> FeetOf(const SvgPicture& page, const TruePlate& plate, int scale,
+                            double ceilingMm);
+
+bool HasPointAt(const std::vector<MmPoint>& points, MmPoint at, double withinMm);
+
 } // namespace vernacle::test

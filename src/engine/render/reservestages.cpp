@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "engine/core/design.h"
 #include "engine/correction/curve.h"
 #include "engine/geometry/primitives.h"
@@ -47,6 +49,15 @@ void HighlightsStage(DrawingRun& run) {
     }
 }
 
+// A name without a folder is that of a file beside the design's own: both move together.
+std::string PicturePlace(const DesignRecord& design) {
+    const std::filesystem::path picture(design.GraphicFileName);
+    if (picture.has_parent_path()) {
+        return design.GraphicFileName;
+    }
+    return (std::filesystem::path(design.DesignFileName).parent_path() / picture).string();
+}
+
 void GraphicStage(DrawingRun& run) {
     if (run.design.DrawGraphic != "Y") {
         return;
@@ -57,7 +68,7 @@ void GraphicStage(DrawingRun& run) {
     const double width = 2 * frame.AcrossPerHalfMm() * double{run.design.GraphicWidth};
     const double height = 2 * frame.upPerHalfMm * double{run.design.GraphicHeight};
     try {
-        run.surface.PaintPicture(run.design.GraphicFileName, F(corner.x), F(corner.y), F(width),
+        run.surface.PaintPicture(PicturePlace(run.design), F(corner.x), F(corner.y), F(width),
                                  F(height));
     } catch (const RunTimeError&) {
         // A picture that does not load is left out.
