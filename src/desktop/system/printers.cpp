@@ -60,19 +60,35 @@ Sheet SheetOf(const QPrinter& printer) {
     return {"", size.width(), size.height()};
 }
 
+bool IsFile(const QPrinter& printer) {
+    return !printer.outputFileName().isEmpty();
+}
+
+// A sheet whose calibration is the printer's, unless it ends in a file.
+class SheetSurface : public PaperSurface {
+public:
+    SheetSurface(const QPrinter& printer, QPaintDevice& device, double coordinatesPerInch)
+        : PaperSurface(device, coordinatesPerInch, SheetOf(printer)), isDevice_(!IsFile(printer)) {}
+
+    bool IsDevice() const override { return isDevice_; }
+
+private:
+    bool isDevice_;
+};
+
 // A document of our own, made whole in memory, and what becomes of it then. The toolkit would not
 // tell of a disk that is full or of a job that is refused.
-class DocumentSurface : private PdfInMemory, public PaperSurface {
+class DocumentSurface : private PdfInMemory, public SheetSurface {
 public:
     using Deliver = std::function<void(const std::string& bytes)>;
 
     DocumentSurface(const QPrinter& printer, Deliver deliver)
         : PdfInMemory(SheetOf(printer), printer.docName().toStdString()),
-          PaperSurface(writer, kPrinterDpi, SheetOf(printer)),
+          SheetSurface(printer, writer, kPrinterDpi),
           deliver_(std::move(deliver)) {}
 
     void EndDoc() override {
-        PaperSurface::EndDoc();
+        SheetSurface::EndDoc();
         deliver_(Bytes());
     }
 
@@ -86,14 +102,13 @@ void WriteTo(const std::string& path, const std::string& bytes) {
     sink->Close();
 }
 
-bool IsFile(const QPrinter& printer) {
-    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
+bool IsPdfFile(const QPrinter& printer) {
+    return printer.outputFormat() == QPrinter::PdfFormat && IsFile(printer);
 }
 
 bool IsQueue(const QPrinter& printer) {
-    return kHasSpooler && printer.outputFormat() == QPrinter::NativeFormat &&
-           printer.outputFileName().isEmpty() && !printer.printerName().isEmpty() &&
-           !FindProgram(SpoolJob().program).empty();
+    return kHasSpooler && printer.outputFormat() == QPrinter::NativeFormat && !IsFile(printer) &&
+           !printer.printerName().isEmpty() && !FindProgram(SpoolJob().program).empty();
 }
 
 } // namespace
@@ -125,7 +140,7 @@ void AskForPrinterAndPrint(QWidget* parent, const PrintOn& print, const QString&
 }
 
 void PrintOnPrinter(QPrinter& printer, const PrintOn& print) {
-    if (IsFile(printer)) {
+    if (IsPdfFile(printer)) {
         DocumentSurface file(printer, [&printer](const std::string& bytes) {
             WriteTo(printer.outputFileName().toStdString(), bytes);
         });
@@ -145,7 +160,7 @@ void PrintOnPrinter(QPrinter& printer, const PrintOn& print) {
 void PrintAsJob(QPrinter& printer, const PrintOn& print) {
     PrintUnscaled(printer);
     printer.setFullPage(true); // the sheet's corner is the origin; a new choice may have moved it
-    PaperSurface paper(printer, printer.resolution(), SheetOf(printer));
+    SheetSurface paper(printer, printer, printer.resolution());
     print(paper);
 }
 

@@ -317,6 +317,18 @@ TEST_F(PrintersTest, AFailureOfTheProgramComesThrough) {
     EXPECT_FALSE(Exists("plate.pdf"));
 }
 
+// By this a printer's calibration is known to be wanted.
+TEST_F(PrintersTest, AFileIsNoDevice) {
+    std::vector<bool> devices;
+    const PrintOn ask = [&](PrinterSurface& surface) { devices.push_back(surface.IsDevice()); };
+    Print({PrintTo(Path("plate.pdf"))}, ask);
+    QPrinter printer(QPrinter::HighResolution);
+    PrintAsJob(printer, ask);
+    printer.setOutputFileName(QString::fromStdString(Path("job.pdf")));
+    PrintAsJob(printer, ask);
+    EXPECT_EQ(devices, (std::vector<bool>{false, true, false}));
+}
+
 // The toolkit would take the disk for written.
 TEST_F(PrintersTest, AFullDiskIsReported) {
     Print({PrintTo("/dev/full"), AnswerBox(QMessageBox::Yes)});
