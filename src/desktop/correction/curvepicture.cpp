@@ -25,6 +25,12 @@ constexpr AxisMark kAxisMarks[] = {
 
 constexpr int kFromAxis = 10; // pixels, clear of the handles
 
+// A point that a file puts anywhere has a place that a widget can have.
+QPointF Near(const QPointF& at) {
+    constexpr double kFar = 1e6; // pixels
+    return {std::clamp(at.x(), -kFar, kFar), std::clamp(at.y(), -kFar, kFar)};
+}
+
 } // namespace
 
 CurvePicture::CurvePicture() : PictureBox("picCurve", CurvePlotArea(), UnitShape::Square) {
@@ -61,7 +67,7 @@ void CurvePicture::PlaceHandles() {
 // At every size of the picture.
 void CurvePicture::PlaceMarks() {
     for (std::size_t point = 0; point < handles_.size(); ++point) {
-        const QPointF at = ToWidget(places_.at(point).x, places_.at(point).y);
+        const QPointF at = Near(ToWidget(places_.at(point).x, places_.at(point).y));
         CurveHandle& handle = *handles_.at(point);
         handle.move((at - QPointF(handle.rect().center())).toPoint());
     }

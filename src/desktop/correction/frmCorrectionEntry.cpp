@@ -17,6 +17,7 @@
 #include "engine/base/runtimeerror.h"
 #include "engine/core/design.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 #include "engine/correction/curve.h"
 #include "engine/correction/curveplot.h"
 #include "engine/correction/curvetable.h"
@@ -25,8 +26,6 @@ namespace vernacle {
 
 namespace {
 
-constexpr int kFirstEntered = 3; // the boxes of the end points are not read
-constexpr int kLastEntered = 12;
 constexpr EntryLimits kPercent{0, 100}; // the ends of the curve, between which its points lie
 constexpr double kLargest = 1e30;       // percent
 constexpr double kKeyStep = 25;         // units: half a percent
@@ -41,8 +40,9 @@ constexpr const char* kPointLabels[] = {"Label0", "Label1",  "Label2", "Label3",
 // Of a straight line, for as long as nothing else is shown.
 constexpr const char* kLinearTexts[] = {"0", "0", "20", "20", "50", "50", "80", "80", "100", "100"};
 
-float FractionOf(double percent) {
-    return static_cast<float>(percent * 0.01);
+// Two places, or where the curve is kept as it stands all that a number has.
+std::string ShownPercent(float fraction) {
+    return Service.curveInFile ? PlainPercent(fraction) : FormatPercentEntry(fraction);
 }
 
 QString TitleOf(const char* page) {
@@ -58,6 +58,10 @@ QString TitleOf(const char* page) {
 frmCorrectionEntry::frmCorrectionEntry()
     : ModalForm("frmCorrectionEntry", TitleOf("Vernacle - Correction Entry")) {
     Build();
+    if (Service.curveInFile) {
+        ShowKeptCurve();
+        return;
+    }
     picture_->PlaceHandles(); // of a curve that is not allowed too
     FillBoxes();
     RedrawCorrectionCurve();
@@ -102,6 +106,8 @@ QLayout* frmCorrectionEntry::MakeBoxes() {
             box->setMaximumWidth(kBoxCharacters * box->fontMetrics().averageCharWidth());
             if (point > 0 && point < kCurvePoints - 1) { // the ends cannot be entered
                 box->TellRange(RangeText(kPercent, "%"));
+            } else {
+                box->setReadOnly(Service.curveInFile);
             }
             grid->addWidget(box, point + 1, axis + 1);
         }
@@ -148,6 +154,11 @@ void frmCorrectionEntry::SetPointFromDrop(int index, double x, double y) {
 }
 
 void frmCorrectionEntry::RedrawCorrectionCurve() {
+    if (Service.curveInFile) {
+        ShowKeptCurve();
+        RefuseOnce();
+        return;
+    }
     CurveVerdict verdict = CurveVerdict::Disallowed;
     try {
         ComputeCorrectionSlopes(Design);
@@ -158,8 +169,7 @@ void frmCorrectionEntry::RedrawCorrectionCurve() {
                       "curve to linear.");
         return;
     }
-    Label10_->setText(QStringLiteral(
-        "Use either drag / drop or textbox entry to enter the new transfer function."));
+    Label10_->setText(QString::fromUtf8(kCurveAdvice));
     if (verdict == CurveVerdict::Disallowed) {
         Host.informationBox("Disallowed entry");
         return;
@@ -170,7 +180,7 @@ void frmCorrectionEntry::RedrawCorrectionCurve() {
 
 void frmCorrectionEntry::FillBoxes() {
     for (int number = 1; number <= kTextBoxes; ++number) {
-        Text(number)->Show(FormatPercentEntry(Design.CorrectionPair[number]));
+        Text(number)->Show(ShownPercent(Design.CorrectionPair[number]));
     }
 }
 
@@ -212,6 +222,16 @@ void frmCorrectionEntry::HandleStepped(int index, int across, int up) {
 }
 
 void frmCorrectionEntry::cmdAcceptXYClicked() {
+    if (Service.curveInFile) {
+        TakeChangedBoxes();
+    } else {
+        TakeBoxes();
+    }
+    Design.NumberOfCorrectionPoints = kCurvePoints;
+    RedrawCorrectionCurve();
+}
+
+void frmCorrectionEntry::TakeBoxes() {
     Design.CorrectionPair[1] = Design.CorrectionPair[2] = FractionOf(kPercent.lowest);
     for (int number = kFirstEntered; number <= kLastEntered; ++number) {
         const double percent = std::clamp(NumericValue(Text(number)->Text()), -kLargest, kLargest);
@@ -219,13 +239,19 @@ void frmCorrectionEntry::cmdAcceptXYClicked() {
     }
     Design.CorrectionPair[kTextBoxes - 1] = Design.CorrectionPair[kTextBoxes] =
         FractionOf(kPercent.highest);
-    Design.NumberOfCorrectionPoints = kCurvePoints;
-    RedrawCorrectionCurve();
+}
+
+std::string frmCorrectionEntry::AskForCurve() {
+    return AskForFileToOpen(this, {"Read correction data file", kFilter, kEnding});
 }
 
 void frmCorrectionEntry::cmdReadClicked() {
+    if (Service.curveInFile) {
+        ReadKeptCurve();
+        return;
+    }
     ResetToLinear();
-    CorrectionFileName_ = AskForFileToOpen(this, {"Read correction data file", kFilter, kEnding});
+    CorrectionFileName_ = AskForCurve();
     if (CorrectionFileName_.empty()) {
         return; // the curve is linear, whatever the picture shows
     }

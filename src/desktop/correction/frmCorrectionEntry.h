@@ -23,6 +23,11 @@ public:
     frmCorrectionEntry();
 
 private:
+    static constexpr const char* kCurveAdvice =
+        "Use either drag / drop or textbox entry to enter the new transfer function.";
+
+    static float FractionOf(double percent) { return static_cast<float>(percent * 0.01); }
+
     void Build();
     QLayout* MakeBoxes();
     QLayout* MakeButtons();
@@ -32,7 +37,16 @@ private:
     void RedrawCorrectionCurve();
     void FillBoxes();
     void FillBoxesPlainly();
+    void TakeBoxes();
+    std::string AskForCurve();
     void ResetToLinear();
+
+    // Where the curve outlives the session
+    void ShowKeptCurve();
+    void MarkRows();
+    void RefuseOnce();
+    void TakeChangedBoxes();
+    void ReadKeptCurve();
 
     void HandlePressed(int index);
     void HandleDropped(int index, const QPoint& at);
@@ -45,11 +59,14 @@ private:
 
     // "Text1" to "Text14": of each point the current and the deflection.
     static constexpr int kTextBoxes = 2 * kCurvePoints;
+    static constexpr int kFirstEntered = 3; // the boxes of the end points are not read
+    static constexpr int kLastEntered = 12;
     EntryBox*& Text(int number) { return boxes_.at(static_cast<std::size_t>(number) - 1); }
 
     std::array<EntryBox*, kTextBoxes> boxes_{};
     CurvePicture* picture_ = nullptr;
     QLabel* Label10_ = nullptr;
+    bool refused_ = false;          // the curve that is shown, and told so
     std::int16_t DraggedPoint_ = 0; // the handle last pressed
     std::string CorrectionFileName_;
 };

@@ -9,6 +9,7 @@
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -131,11 +132,15 @@ void ComputeGuardedSlopes(DesignRecord& design) {
     }
 }
 
+bool PointRises(const DesignRecord& design, int point) {
+    const double run = X(design, point + 1) - X(design, point);
+    const double rise = Y(design, point + 1) - Y(design, point);
+    return run >= kLeastRise && rise >= kLeastRise; // one that is no number does not
+}
+
 bool CurveRises(const DesignRecord& design) {
-    for (int point = 2; point <= kCurvePoints; ++point) {
-        const double run = X(design, point) - X(design, point - 1);
-        const double rise = Y(design, point) - Y(design, point - 1);
-        if (!(run >= kLeastRise) || !(rise >= kLeastRise)) { // nor does one that is no number
+    for (int point = 1; point < kCurvePoints; ++point) {
+        if (!PointRises(design, point)) {
             return false;
         }
     }
@@ -170,6 +175,14 @@ float CorrectDeflection(const DesignRecord& design, float& f) {
     return 1;
 }
 
+double DrawnDeflection(const DesignRecord& design, double f) {
+    if (Service.curveInFile) {
+        return ContinuedDeflection(design, f);
+    }
+    auto held = static_cast<float>(f);
+    return double{CorrectDeflection(design, held)};
+}
+
 void WriteCorrectionFile(DesignRecord& design, const std::string& name) {
     if (name.empty()) {
         return;
@@ -185,9 +198,18 @@ void WriteCorrectionFile(DesignRecord& design, const std::string& name) {
 }
 
 void ReadCorrectionFile(DesignRecord& design, const std::string& name) {
+    const auto pairs = design.CorrectionPair;
+    const std::int16_t points = design.NumberOfCorrectionPoints;
+    if (Service.carefulFiles) {
+        SetLinearPairs(design); // whatever points the file has not
+    }
     try {
         ReadCurve(design, name);
     } catch (const RunTimeError&) {
+        if (Service.carefulFiles) {
+            design.CorrectionPair = pairs;
+            design.NumberOfCorrectionPoints = points;
+        }
         ReportFailure("We did not read the linearity-correction file");
     }
 }

@@ -19,8 +19,11 @@ float CorrectDeflection(const DesignRecord& design, float& f);
 // The same, but a neighbour with the same X, through which no line has a slope, gives it slope 1.
 void ComputeGuardedSlopes(DesignRecord& design);
 
-// Whether each point stands above the one before it, in X and in Y, by at least a thousandth: else
-// no drawing can follow the curve.
+// Whether point 1 to 6, counted from 0, stands above the one before it, in X and in Y, by at least
+// a thousandth.
+bool PointRises(const DesignRecord& design, int point);
+
+// Whether all of them do: else no drawing can follow the curve.
 bool CurveRises(const DesignRecord& design);
 
 // The deflection that the pointer of this movement shows at the fraction f of full scale, by the
@@ -32,8 +35,12 @@ double ContinuedDeflection(const DesignRecord& design, double f);
 // the file is open the curve has seven points, whatever came of writing them.
 void WriteCorrectionFile(DesignRecord& design, const std::string& name);
 
-// Reads a curve. A failure is reported and keeps the points read so
-// far. The slopes are not recomputed, and bad points are not judged here.
+// The deflection that a drawing shows at the fraction f, which is the curve's part between its
+// ends, by the slopes; or, where curves outlive the session, all of it, by its points.
+double DrawnDeflection(const DesignRecord& design, double f);
+
+// Reads a curve. A failure is reported and keeps the points read so far, where files are careful
+// the curve that was there. The slopes are not recomputed, and bad points are not judged here.
 void ReadCorrectionFile(DesignRecord& design, const std::string& name);
 
 } // namespace vernacle

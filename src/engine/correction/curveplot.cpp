@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "engine/core/service.h"
 #include "engine/correction/curve.h"
 #include "engine/geometry/primitives.h"
 
@@ -84,6 +85,10 @@ bool NeverFalls(const DesignRecord& design) {
     return true;
 }
 
+bool IsAllowed(const DesignRecord& design) {
+    return Service.curveInFile ? CurveRises(design) : NeverFalls(design);
+}
+
 void DrawCurve(const DesignRecord& design, DrawingSurface& surface) {
     surface.SetLineWidth(2);
     for (int point = 1; point <= kLastPoint; ++point) {
@@ -97,8 +102,8 @@ void DrawCurve(const DesignRecord& design, DrawingSurface& surface) {
 void DrawStrip(const DesignRecord& design, DrawingSurface& surface) {
     surface.Box(F(kLeft), F(kStripTop), F(kRight), F(kStripBottom), kStripInk);
     for (int tic = 0; tic <= kStripTics; ++tic) {
-        auto share = static_cast<float>(tic / double{kStripTics});
-        const double corrected = double{CorrectDeflection(design, share)};
+        const auto share = static_cast<float>(tic / double{kStripTics});
+        const double corrected = DrawnDeflection(design, double{share});
         DrawUpright(surface, kLeft + kSpan * corrected, kStripTop, kStripBottom, kBlueInk);
     }
 }
@@ -147,7 +152,7 @@ CurveVerdict DrawCurvePlot(const DesignRecord& design, DrawingSurface& surface) 
     surface.Box(F(kLeft), F(kTop), F(kRight), F(kBottom), kBlueInk);
     DrawGrid(surface);
     DrawLine(surface, CurvePlace(0, 0), CurvePlace(1, 1), kIdealInk);
-    if (!NeverFalls(design)) {
+    if (!IsAllowed(design)) {
         return CurveVerdict::Disallowed;
     }
     DrawCurve(design, surface);

@@ -34,8 +34,8 @@ SurfacePoint HandleMiddle(const DesignRecord& design, int point);
 
 enum class CurveVerdict { Allowed, Disallowed };
 
-// Draws the plot by the slopes as they are stored. A curve that falls somewhere is not drawn, and
-// is disallowed.
+// Draws the plot by the slopes as they are stored. A curve that falls somewhere, or where
+// curves outlive the session rises too little, is not drawn, and is disallowed.
 CurveVerdict DrawCurvePlot(const DesignRecord& design, DrawingSurface& surface);
 
 } // namespace vernacle

@@ -1,8 +1,11 @@
 #include "engine/correction/curvetable.h"
 
+#include <algorithm>
+
 #include "engine/base/hostservices.h"
 #include "engine/base/numbertext.h"
 #include "engine/base/runtimeerror.h"
+#include "engine/core/service.h"
 #include "engine/correction/curve.h"
 
 namespace vernacle {
@@ -36,6 +39,8 @@ void AddColumn(std::string& row, std::size_t column, const std::string& text) {
     row += text;
 }
 
+constexpr double kLargestShown = 1e30;
+
 double Percent(float fraction) {
     return double{static_cast<float>(double{fraction} * 100)};
 }
@@ -49,6 +54,11 @@ std::string FormatPercentEntry(float fraction) {
     return double{fraction} > 0.999 ? "100.0" : HashPattern(Percent(fraction));
 }
 
+std::string PlainPercent(float fraction) {
+    return PlainNumber(
+        static_cast<float>(std::clamp(Percent(fraction), -kLargestShown, kLargestShown)));
+}
+
 std::string FormatTableValue(double value) {
     if (value < 0.001) {
         return "0.";
@@ -57,6 +67,10 @@ std::string FormatTableValue(double value) {
 }
 
 Slopes RefreshSlopes(DesignRecord& design) {
+    if (Service.curveInFile) {
+        ComputeGuardedSlopes(design);
+        return Slopes::Fresh;
+    }
     try {
         ComputeCorrectionSlopes(design);
         return Slopes::Fresh;
@@ -70,7 +84,7 @@ std::string CurveRow(const DesignRecord& design, int row, Slopes slopes) {
     const auto current = static_cast<float>(row / double{kTableRows - 1});
     float deflection = current;
     if (slopes == Slopes::Fresh) {
-        deflection = CorrectDeflection(design, deflection);
+        deflection = static_cast<float>(DrawnDeflection(design, double{deflection}));
     }
     std::string text = PlainNumber(std::int32_t{row});
     AddColumn(text, kCurrentColumn, FormatTableValue(Percent(current)));

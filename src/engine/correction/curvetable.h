@@ -10,6 +10,9 @@ namespace vernacle {
 // A fraction in percent: "0.0" below a thousandth, "100.0" above .999, else as "15. " and ".05 ".
 std::string FormatPercentEntry(float fraction);
 
+// A fraction in percent, in a number's plain form.
+std::string PlainPercent(float fraction);
+
 // A percentage or a slope: "0." below .001, "100." above 99.99, else in the same form.
 std::string FormatTableValue(double value);
 
@@ -17,7 +20,8 @@ constexpr int kTableRows = 51;
 
 enum class Slopes { Fresh, Failed };
 
-// Computes the slopes, as the table does for each of its rows. A curve that has none is reported.
+// Computes the slopes, as the table does for each of its rows. A curve that has none is reported,
+// or guarded where curves outlive the session.
 Slopes RefreshSlopes(DesignRecord& design);
 
 // Row 0 to 50 of the table, in its columns: the point, the current and the deflection in percent.
