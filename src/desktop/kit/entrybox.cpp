@@ -5,16 +5,26 @@
 #include <QCoreApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QPainter>
 
 #include "desktop/kit/updown.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
 namespace {
 
 constexpr double kLargest = 1e30;
+constexpr int kKeptMargin = 6; // pixels, beside the kept number
+
+// Grey on paper, whichever of them is the light one.
+QColor MiddleOf(const QColor& ink, const QColor& paper) {
+    const auto mix = [](int one, int other) { return (one * 11 + other * 9) / 20; };
+    return {mix(ink.red(), paper.red()), mix(ink.green(), paper.green()),
+            mix(ink.blue(), paper.blue())};
+}
 
 // Counts what is under way, also when it is left by a failure.
 class UnderWay {
@@ -57,6 +67,9 @@ float EntryBox::Number() const {
 }
 
 float EntryBox::SteppedNumber() const {
+    if (!kept_.empty()) {
+        return static_cast<float>(NumericValue(kept_));
+    }
     std::string text = Text();
     float value = Number();
     if (reading_ == Reading::Entry) {
@@ -66,8 +79,27 @@ float EntryBox::SteppedNumber() const {
 }
 
 void EntryBox::TellRange(const std::string& range) {
+    range_ = range;
     setToolTip(QString::fromStdString(range));
-    setAccessibleDescription(toolTip());
+    Describe();
+}
+
+void EntryBox::Describe() {
+    const std::string parting = range_.empty() || kept_.empty() ? "" : ", ";
+    const std::string kept = kept_.empty() ? "" : "kept as " + kept_;
+    setAccessibleDescription(QString::fromStdString(range_ + parting + kept));
+}
+
+// The text keeps clear of it.
+void EntryBox::ShowKept(const std::string& kept) {
+    if (kept == kept_) {
+        return;
+    }
+    kept_ = kept;
+    const int room = fontMetrics().horizontalAdvance(QString::fromStdString(kept));
+    setTextMargins(0, 0, kept.empty() ? 0 : room + kKeptMargin, 0);
+    Describe();
+    update();
 }
 
 void EntryBox::Show(const std::string& text) {
@@ -94,7 +126,7 @@ void EntryBox::ShowHeld(float entered, float held) {
 void EntryBox::Put(const QString& text) {
     if (text == this->text()) {
         Owe({});
-    } else if (typing_ > 0 && rewriting_ == Rewriting::WhenLeft) {
+    } else if (typing_ > 0 && (rewriting_ == Rewriting::WhenLeft || Service.carefulFiles)) {
         Owe(text);
     } else {
         setText(text);
@@ -128,6 +160,17 @@ void EntryBox::SetBackground(const QColor& colour) {
     colours.setColor(QPalette::Base, colour);
     colours.setColor(QPalette::Text, Qt::black);
     setPalette(colours);
+}
+
+void EntryBox::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    if (kept_.empty()) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setPen(MiddleOf(palette().color(QPalette::Text), palette().color(QPalette::Base)));
+    painter.drawText(rect().adjusted(0, 0, -kKeptMargin, 0), Qt::AlignRight | Qt::AlignVCenter,
+                     QString::fromStdString(kept_));
 }
 
 void EntryBox::keyPressEvent(QKeyEvent* event) {

@@ -5,6 +5,9 @@
 // the user types, that would stand between two keys and make ".8" a ".58". So what a key brings on
 // waits until the box is left: by Tab, a click elsewhere, Return, a shortcut, or its arrows. All
 // else that the handler does follows each key, and what is pasted is rewritten at once.
+//
+// Where the number that is kept is another than the one that is shown, it stands in grey at the
+// right end of the box.
 #pragma once
 
 #include <optional>
@@ -26,7 +29,8 @@ enum class Reading {
 // When the box shows what its handler wrote into it while a key was under way.
 enum class Rewriting {
     WhenLeft,
-    AtOnce, // where no number that is accepted is typed through one that is not
+    AtOnce, // but where kept numbers are shown in grey: where no number that is accepted is typed
+            // through one that is not
 };
 
 class EntryBox : public QLineEdit {
@@ -62,6 +66,11 @@ public:
     // held, and else goes on showing what was entered.
     void ShowHeld(float entered, float held);
 
+    // Shows in grey the number that is kept instead of the one in the box, from which the arrows
+    // step then; none if empty.
+    void ShowKept(const std::string& kept);
+    const std::string& Kept() const { return kept_; }
+
     // The box is left: shows what waits to be shown.
     void FinishTyping();
 
@@ -75,6 +84,7 @@ Q_SIGNALS:
     void Changed();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -89,12 +99,15 @@ private:
     void RunHandler();
     void Put(const QString& text);
     void Owe(const std::optional<QString>& text);
+    void Describe();
 
     UpDown* arrows_ = nullptr;
     Reading reading_ = Reading::Entry;
     Rewriting rewriting_ = Rewriting::WhenLeft;
-    int running_ = 0;             // handlers under way
-    int typing_ = 0;              // keys under way
+    int running_ = 0; // handlers under way
+    int typing_ = 0;  // keys under way
+    std::string range_;
+    std::string kept_;
     std::optional<QString> owed_; // waits until the box is left
     bool enteredByClick_ = false; // which has not ended yet
 };

@@ -7,6 +7,7 @@
 
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/steppedentry.h"
+#include "engine/base/numbertext.h"
 #include "engine/base/text.h"
 #include "engine/core/design.h"
 
@@ -15,6 +16,7 @@ namespace vernacle {
 namespace {
 
 constexpr int kColumns = 3; // caption, box, H button
+constexpr double kUnset = -1;
 
 // "txtPlateWidth" with another control's prefix.
 std::string Sibling(const char* prefix, const char* box) {
@@ -29,12 +31,28 @@ std::string RangeOf(const FieldRow& row) {
     return RangeText({range.lowest * unit, range.highest * unit}, row.unit) + " by the arrows";
 }
 
+FieldRow InService(const FieldRow& row) {
+    FieldRow wider = row;
+    if (IsLifted(row.wider.liftedBy)) {
+        wider.limits = row.wider.limits;
+        wider.arrows.range = row.wider.steps;
+    }
+    if (Service.carefulFiles && row.reading == Reading::Plain) {
+        wider.reading = Reading::Entry; // a decimal comma is one in every box
+    }
+    return wider;
+}
+
 EntryBox* MakeBox(const FieldRow& row) {
     auto* box = new EntryBox(row.box, QString::fromUtf8(row.caption));
     box->SetReading(row.reading);
     box->SetRewriting(row.showing == Showing::HeldAtOnce ? Rewriting::AtOnce : Rewriting::WhenLeft);
     box->TellRange(RangeOf(row));
+    if (Service.carefulFiles && row.longest != std::string::npos) {
+        box->setMaxLength(static_cast<int>(row.longest)); // nothing is cut off unseen
+    }
     box->setText(QString::fromUtf8(row.text));
+    box->setPlaceholderText(QString::fromUtf8(row.unset));
     return box;
 }
 
@@ -80,7 +98,7 @@ QPushButton* MakeHelp(const FieldRow& row) {
 } // namespace
 
 Field::Field(const FieldRow& of, QWidget& page)
-    : QObject(&page), row(of), box(MakeBox(of)), partner(MakePartner(of, page)) {
+    : QObject(&page), row(InService(of)), box(MakeBox(row)), partner(MakePartner(row, page)) {
     label = MakeCaption(row, *box);
     arrows = MakeArrows(row.arrows, *box, partner);
     help = MakeHelp(row);
@@ -107,15 +125,43 @@ void Field::AddBoxTo(QGridLayout& grid, int gridRow) {
 }
 
 void Field::Take(const FieldPointer& place) const {
-    Read(place);
-    if (IsText() || row.holding == Holding::ByPage) {
+    if (row.unset && Trimmed(box->Text()).empty()) {
+        StoreIn(place, kUnset);
+        box->ShowKept({});
         return;
     }
-    const auto entered = static_cast<float>(NumberIn(place));
-    Hold(place);
-    if (row.showing != Showing::Typed) {
-        box->ShowHeld(entered, static_cast<float>(NumberIn(place)));
+    if (!Service.carefulFiles || !IsShown(place)) {
+        Read(place);
     }
+    if (IsText()) {
+        return;
+    }
+    if (row.holding == Holding::AtOnce) {
+        const auto entered = static_cast<float>(NumberIn(place));
+        Hold(place);
+        if (row.showing != Showing::Typed) {
+            box->ShowHeld(entered, static_cast<float>(NumberIn(place)));
+        }
+    }
+    ShowKept(place);
+}
+
+bool Field::IsShown(const FieldPointer& place) const {
+    return !IsText() && Trimmed(box->Text()) == PlainText(place);
+}
+
+// By their texts: seven digits are shown of what may have more.
+void Field::ShowKept(const FieldPointer& place) const {
+    if (!Service.carefulFiles || IsUnset(place)) {
+        return;
+    }
+    float shown = box->Number();
+    if (std::string text = box->Text(); row.reading == Reading::Entry && !IsTooLongForEntry(text)) {
+        ParseEntry(text, shown);
+    }
+    const std::string kept = PlainText(place);
+    const bool isNumber = box->Text().find_first_of("0123456789") != std::string::npos;
+    box->ShowKept(isNumber && PlainNumber(shown) == kept ? std::string() : kept);
 }
 
 void Field::Read(const FieldPointer& place) const {
@@ -141,7 +187,11 @@ void Field::Hold(const FieldPointer& place) const {
 }
 
 void Field::Fill(const FieldPointer& place) const {
-    box->Write(PlainText(place));
+    box->Write(IsUnset(place) ? std::string() : PlainText(place));
+}
+
+bool Field::IsUnset(const FieldPointer& place) const {
+    return row.unset && NumberIn(place) < 0;
 }
 
 bool Field::IsText() const {

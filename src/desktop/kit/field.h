@@ -11,6 +11,7 @@
 #include "desktop/kit/updown.h"
 #include "engine/core/entry.h"
 #include "engine/core/fieldplace.h"
+#include "engine/core/service.h"
 
 class QGridLayout;
 class QLabel;
@@ -38,6 +39,13 @@ struct FieldArrows {
     double unit = 1;               // of the partner, in the box's own
 };
 
+// What a row takes instead where that is in service.
+struct WiderLimits {
+    LiftedBy liftedBy = nullptr;
+    EntryLimits limits = {};
+    StepRange steps = {};
+};
+
 // The label and the H button are named after the box, "lblPlateWidth" and "cmdPlateWidth" beside
 // "txtPlateWidth", where the row gives no other name. The box tells the limits of what is typed;
 // where there are none, the range of its arrows.
@@ -56,6 +64,9 @@ struct FieldRow {
     Showing showing = Showing::Typed;
     Holding holding = Holding::AtOnce;
     std::size_t longest = std::string::npos; // characters kept of a text
+    WiderLimits wider = {};
+    const char* unset = nullptr; // what an empty box stands for, which is kept as -1
+    LiftedBy liftedBy = nullptr; // a page without it in service has no such field
 };
 
 class Field : public QObject {
@@ -80,14 +91,21 @@ public:
     void AddBoxTo(QGridLayout& grid, int gridRow);
 
     // Takes what the box says into the place, held to the row's limits, and shows what the row
-    // wants shown of that.
+    // wants shown of that. Where files are careful a number that is shown already stays as it is,
+    // to the last bit.
     void Take(const FieldPointer& place) const;
 
     // The same, but neither held nor shown.
     void Read(const FieldPointer& place) const;
 
+    // Where files are careful: shows what is kept there, if the box shows another number.
+    void ShowKept(const FieldPointer& place) const;
+
     // Holds the number there to the row's limits.
     void Hold(const FieldPointer& place) const;
+
+    // Whether an empty box stands for the value of the place.
+    bool IsUnset(const FieldPointer& place) const;
 
     // Writes the value of the place into the box.
     void Fill(const FieldPointer& place) const;
@@ -100,6 +118,7 @@ public:
 
 private:
     bool IsText() const;
+    bool IsShown(const FieldPointer& place) const;
     void SetEnabled(bool enabled) const;
 };
 

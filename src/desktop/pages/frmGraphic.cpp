@@ -108,8 +108,12 @@ void frmGraphic::BeforeKey() {
 
 void frmGraphic::LimitGraphicEntries() {
     for (const Field* measure : measures_) {
-        std::string text = measure->box->Text();
-        ParseInto(text, PlaceOf(*measure));
+        if (Service.carefulFiles) {
+            measure->Take(PlaceOf(*measure));
+        } else {
+            std::string text = measure->box->Text();
+            ParseInto(text, PlaceOf(*measure));
+        }
         measure->Hold(PlaceOf(*measure));
     }
     for (const Field* measure : measures_) {
@@ -124,7 +128,9 @@ void frmGraphic::MeasureChanged(const Field& measure) {
 }
 
 void frmGraphic::PartnerChanged(const Field& measure) {
-    StoreIn(PlaceOf(measure), double{measure.partner->Number()});
+    if (!Service.carefulFiles || measure.partner->Text() != PlainText(PlaceOf(measure))) {
+        StoreIn(PlaceOf(measure), double{measure.partner->Number()});
+    }
     if (measure.row.holding == Holding::AtOnce) {
         measure.Hold(PlaceOf(measure));
     }

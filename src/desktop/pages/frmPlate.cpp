@@ -1,5 +1,7 @@
 #include "desktop/pages/frmPlate.h"
 
+#include <algorithm>
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 
@@ -30,27 +32,32 @@ constexpr QColor kWarning(0xFF, 0xEE, 0xEE);
 constexpr PageTraits kPlateTraits = {
     .form = "frmPlate", .title = "Plate design", .helpTopic = "vplate.htm"};
 
+constexpr WiderLimits kTrueWidths = {&ServiceState::truePlate, {0.5, 20}, {0.5, 20, 0.5}};
+
 // The measures, in two columns. What is typed shows the same illustration as the H button.
 // clang-format off
 constexpr FieldRow kPlateMeasures[] = {
     {.box = "txtPlateWidth",          .caption = "Plate width, mm",           .place = At<&D::PlateWidth>,          .limits = {20, 180},            .unit = "mm",           .arrows = {"UpDownPlateWidth", {20, 180}},              .topic = 1},
     {.box = "txtPlateHeight",         .caption = "Plate height, mm",          .place = At<&D::PlateHeight>,         .limits = {10, 180},            .unit = "mm",           .arrows = {"UpDownPlateHeight", {10, 180}},             .topic = 2},
     {.box = "txtBottomToBearing",     .caption = "Bottom to bearing, mm",     .place = At<&D::BottomToBearing>,     .limits = {-100000, 100000},    .unit = "mm",           .arrows = {"UpDownBottomToBearing", {-100000, 100000}}, .topic = 3},
+    {.box = "txtLeftToBearing",       .caption = "Left to bearing, mm",       .place = At<&D::LeftToBearing>,       .limits = {0, 180},             .unit = "mm",           .arrows = {"UpDownLeftToBearing", {0, 180}},            .unset = "middle", .liftedBy = &ServiceState::styles},
     {.box = "txtBottomToHoles",       .caption = "Bottom to mounting, mm",    .place = At<&D::BottomToHoles>,       .limits = {-1000, 150},         .unit = "mm",           .arrows = {"UpDownBottomToHoles", {-1000, 150}},        .topic = 4},
     {.box = "txtHoleSeparation",      .caption = "Hole separation, mm",       .place = At<&D::HoleSeparation>,      .limits = {5, 180},             .unit = "mm",           .arrows = {"UpDownHoleSeparation", {5, 180}},           .topic = 5},
     {.box = "txtPointerDeflection",   .caption = "Pointer deflection, deg ",  .place = At<&D::PointerDeflection>,   .limits = {0.1, 360},           .unit = "degrees",      .arrows = {"UpDownPointerDeflection", {1, 360}},        .topic = 6},
     {.box = "txtActualVirtualOffset", .caption = "Actual/virtual offset, mm", .place = At<&D::ActualVirtualOffset>, .limits = {.highest = 1000000}, .unit = "mm",           .arrows = {"UpDownActualVirtualOffset", {0, 100000}},   .topic = 7},
     {.box = "txtMinorTicLength",      .caption = "Minor tic length, mm",      .place = At<&D::MinorTicLength>,      .limits = {0.5, 15},            .unit = "mm",           .arrows = {"UpDownMinorTicLength", {1, 15}},            .topic = 9},
     {.box = "txtMajorTicLength",      .caption = "Major tic length, mm",      .place = At<&D::MajorTicLength>,      .limits = {0.5, 15},            .unit = "mm",           .arrows = {"UpDownMajorTicLength", {1, 15}},            .topic = 10},
-    {.box = "txtMinorTicWidth",       .caption = "Minor tic width, .1 mm",    .place = At<&D::MinorTicWidth>,       .limits = {1, 20},              .unit = "tenths of mm", .arrows = {"UpDownMinorTicWidth", {1, 20}},             .topic = 11},
-    {.box = "txtMajorTicWidth",       .caption = "Major tic width, .1 mm",    .place = At<&D::MajorTicWidth>,       .limits = {1, 20},              .unit = "tenths of mm", .arrows = {"UpDownMajorTicWidth", {0, 10}},             .topic = 12},
+    {.box = "txtMinorTicWidth",       .caption = "Minor tic width, .1 mm",    .place = At<&D::MinorTicWidth>,       .limits = {1, 20},              .unit = "tenths of mm", .arrows = {"UpDownMinorTicWidth", {1, 20}},             .topic = 11, .wider = kTrueWidths},
+    {.box = "txtMajorTicWidth",       .caption = "Major tic width, .1 mm",    .place = At<&D::MajorTicWidth>,       .limits = {1, 20},              .unit = "tenths of mm", .arrows = {"UpDownMajorTicWidth", {0, 10}},             .topic = 12, .wider = kTrueWidths},
     {.box = "txtFontSize",            .caption = "Font size",                 .place = At<&D::FontSize>,            .limits = {2, 20},              .unit = "points",       .arrows = {"UpDownFontSize", {2, 20}},                  .topic = 13},
     {.box = "txtLabelSpacing",        .caption = "Label-arc spacing, mm",     .place = At<&D::LabelSpacing>,        .limits = {-200, 200},          .unit = "mm",           .arrows = {"UpDownLabelSpacing", {-200, 200}},          .topic = 14},
-    {.box = "txtArcWidth",            .caption = "Arc thickness, mm",         .place = At<&D::ArcWidth>,            .limits = {0.5, 20},            .unit = "tenths of mm", .arrows = {"UpDownArcWidth", {1, 20}},                  .topic = 25},
+    {.box = "txtArcWidth",            .caption = "Arc thickness, mm",         .place = At<&D::ArcWidth>,            .limits = {0.5, 20},            .unit = "tenths of mm", .arrows = {"UpDownArcWidth", {1, 20}},                  .topic = 25, .wider = kTrueWidths},
 };
 // clang-format on
 
-constexpr int kMeasuresPerColumn = (static_cast<int>(std::size(kPlateMeasures)) + 1) / 2;
+bool IsOnPage(const FieldRow& row) {
+    return !row.liftedBy || IsLifted(row.liftedBy);
+}
 
 // What the options need before they show the design.
 constexpr Repair kSwitches[] = {
@@ -93,17 +100,25 @@ void frmPlate::Build() {
 QLayout* frmPlate::MakeMeasures() {
     auto* columns = new QHBoxLayout;
     columns->setSpacing(20);
+    const auto count = static_cast<int>(std::ranges::count_if(kPlateMeasures, IsOnPage));
+    const int perColumn = (count + 1) / 2;
     QGridLayout* grid = nullptr;
     int place = 0;
     for (const FieldRow& row : kPlateMeasures) {
-        if (place % kMeasuresPerColumn == 0) {
+        if (!IsOnPage(row)) {
+            continue;
+        }
+        if (place % perColumn == 0) {
             grid = new QGridLayout;
             grid->setSpacing(kEntrySpacing);
             grid->setColumnStretch(1, 1);
             columns->addLayout(grid);
+            if (count % 2 != 0) { // the second is shorter
+                columns->setAlignment(grid, Qt::AlignTop);
+            }
         }
         auto* measure = new Field(row, *this);
-        measure->AddTo(*grid, place++ % kMeasuresPerColumn);
+        measure->AddTo(*grid, place++ % perColumn);
         connect(measure->box, &EntryBox::Changed, this, [this, measure] { Changed(*measure); });
         if (measure->help) {
             connect(measure->help, &QPushButton::clicked, this,
@@ -162,13 +177,15 @@ void frmPlate::Load() {
     FillMeasures();
     RepairFields(Design, kSwitches);
     ShowOptions();
+    EnableBearing();
     schematic_->Surface().Clear();
 }
 
 void frmPlate::FillMeasures() {
     for (const Field* measure : measures_) {
-        const auto value = static_cast<float>(NumberIn(measure->row.place.In(Design)));
-        measure->box->Write(SignedNumber(value));
+        const FieldPointer place = measure->row.place.In(Design);
+        const auto value = static_cast<float>(NumberIn(place));
+        measure->box->Write(measure->IsUnset(place) ? std::string() : SignedNumber(value));
     }
 }
 
@@ -184,6 +201,17 @@ void frmPlate::Illustrate(const Field& measure) {
     }
     Design.HelpTopic = measure.row.topic;
     RedrawSchematic();
+}
+
+// The bearing of other plates stands in the middle.
+void frmPlate::EnableBearing() {
+    for (const Field* measure : measures_) {
+        if (measure->row.unset && Design.PlateStyle == kQuadrant) {
+            measure->Enable();
+        } else if (measure->row.unset) {
+            measure->Disable();
+        }
+    }
 }
 
 // A quadrant plate needs 90 degrees and no offset; the colour says so without stopping the user.

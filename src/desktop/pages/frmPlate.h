@@ -62,6 +62,7 @@ private:
 
     void RedrawSchematic();
     void WarnOfQuadrant();
+    void EnableBearing();
     void ShowFont();
     void ShowBackground();
 

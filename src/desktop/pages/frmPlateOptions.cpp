@@ -20,6 +20,7 @@ struct frmPlate::Option {
     void (*select)(frmPlate& page) = nullptr;
     bool (*holds)() = nullptr;
     OptionButton* frmPlate::*kept = nullptr; // where the page holds it
+    LiftedBy liftedBy = nullptr;             // there is none without it in service
 };
 
 namespace {
@@ -44,6 +45,7 @@ const frmPlate::Option frmPlate::kOptions[] = {
     {Group::Arcs,          "optArcsNo",                  "No",          [](frmPlate&) { Design.DrawArcs = "N"; },                                    [] { return Design.DrawArcs == "N"; }},
     {Group::LabelRotation, "optLabelRotationHorizontal", "Horizontal",  [](frmPlate&) { Design.LabelRotation = "H"; },                               [] { return Design.LabelRotation == "H"; }},
     {Group::LabelRotation, "optLabelRotationBearing",    "Bearing",     [](frmPlate&) { Design.LabelRotation = "B"; },                               [] { return Design.LabelRotation == "B"; }},
+    {Group::LabelRotation, "optLabelRotationRadius",     "Radius",      [](frmPlate&) { Design.LabelRotation = "V"; },                               [] { return Design.LabelRotation == "V"; }, nullptr, &ServiceState::truePlate},
     {Group::Style,         "optNormal",                  "Standard",    [](frmPlate& page) { page.optStyleClicked(0); },                             [] { return Design.PlateStyle == 0; }},
     {Group::Style,         "optDINquad",                 "Quadrant",    [](frmPlate& page) { page.optStyleClicked(kQuadrant); },                     [] { return Design.PlateStyle == kQuadrant; }},
     {Group::Number,        "Option1",                    "1",           [](frmPlate&) { TakeScales(1); },                                            [] { return Design.NumberOfScales == 1; }},
@@ -113,9 +115,9 @@ QGroupBox* frmPlate::MakeOptionFrame(const OptionFrame& frame) {
     const bool isLifted = IsLifted(frame.liftedBy);
     int place = 0;
     for (const Option& option : kOptions) {
-        if (option.group == frame.group) {
+        if (option.group == frame.group && (!option.liftedBy || IsLifted(option.liftedBy))) {
             OptionButton* button = MakeOption(option);
-            button->setEnabled(place++ < frame.enabledOptions || isLifted);
+            button->setEnabled(place++ < frame.enabledOptions || isLifted || option.liftedBy);
             line->addWidget(button);
         }
     }
@@ -158,8 +160,9 @@ void frmPlate::ShowSound() {
 
 void frmPlate::ShowOptions() {
     for (const Option& option : kOptions) {
-        if (option.group != Group::Sound && option.holds()) {
-            options_.at(&option)->Select();
+        const auto made = options_.find(&option);
+        if (made != options_.end() && option.group != Group::Sound && option.holds()) {
+            made->second->Select();
         }
     }
 }
@@ -167,6 +170,7 @@ void frmPlate::ShowOptions() {
 void frmPlate::optStyleClicked(std::int16_t style) {
     Design.PlateStyle = style;
     WarnOfQuadrant();
+    EnableBearing();
 }
 
 void frmPlate::optGraphicClicked(const char* yesNo, OptionButton& cleared) {

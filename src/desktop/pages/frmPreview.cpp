@@ -158,8 +158,10 @@ void frmPreview::Load() {
     ComputeTicLabels(Design);
     RepairFields(Design, kShownAlone);
     RaiseAspectRatio(Design);
-    ShowAspect();
-    ShowPercent();
+    if (!Service.truePlate) {
+        ShowAspect();
+        ShowPercent();
+    }
     ShowFlags();
     Draw();
 }

@@ -142,12 +142,23 @@ void frmScales::Changed(const Field& field) {
 }
 
 void frmScales::TakeExponent() {
-    exponent_->Read(&typedExponent_);
-    const float held = exponent_->row.limits.Held(typedExponent_);
-    if (Service.exponent && held <= 0) {
-        return; // 0 to such a power has no value
+    if (Service.exponent) {
+        TakeExponentAboveZero();
+        return;
     }
-    Design.LinearityExponent[Design.ActiveScale] = held;
+    exponent_->Read(&typedExponent_);
+    Design.LinearityExponent[Design.ActiveScale] = exponent_->row.limits.Held(typedExponent_);
+}
+
+// 0 to another power has no value.
+void frmScales::TakeExponentAboveZero() {
+    float& exponent = Design.LinearityExponent[Design.ActiveScale];
+    const float before = exponent;
+    exponent_->Take(&exponent);
+    if (exponent <= 0) {
+        exponent = before;
+        exponent_->ShowKept(&exponent);
+    }
 }
 
 void frmScales::txtRelFontSizeUpDownChanged() {

@@ -54,6 +54,7 @@ private:
     // Handlers
     void Changed(const Field& field);
     void TakeExponent();
+    void TakeExponentAboveZero();
     void txtRelFontSizeUpDownChanged();
     void ScaleClicked(int scale);
     void Option7Clicked();

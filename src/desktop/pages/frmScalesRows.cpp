@@ -31,7 +31,7 @@ constexpr FieldRow kScalesFields[] = {
     {.box = "txtNumberOfTics",          .caption = "Number of tics",            .place = At<&D::NrOfTicmarks>,         .limits = {1, 360}, .unit = "tics", .arrows = {"UpDown3", {0, 360}}, .text = "50"},
     {.box = "txtMajorTicsEveryHowMany", .caption = "Major tics every how many", .place = At<&D::MajorEveryHowMany>,    .limits = {1, 360}, .unit = "tics", .arrows = {"UpDown4", {1, 50}}, .text = "5"},
     {.box = "txtLabelsEveryHowMany",    .caption = "Labels every how many",     .place = At<&D::LabelsEveryHowMany>,   .limits = {1, 360}, .unit = "tics", .arrows = {"UpDown5", {1, 50}}, .text = "10"},
-    {.box = "txtLinearityExponent",     .caption = "Linearity exponent",        .place = At<&D::LinearityExponent>,    .limits = {-4, 4}, .topic = 28, .topicTip = "Show linearity graphic", .text = "1"},
+    {.box = "txtLinearityExponent",     .caption = "Linearity exponent",        .place = At<&D::LinearityExponent>,    .limits = {-4, 4}, .topic = 28, .topicTip = "Show linearity graphic", .text = "1", .wider = {&ServiceState::exponent, {.lowest = 0, .highest = 4, .lowestIsOpen = true}}},
     {.box = "txtRelFontsize",           .caption = "Relative fontsize:",        .place = At<&D::RelativeFontSize>,     .limits = {0.5, 1.5}, .unit = "times the font size", .arrows = {"UpDown6", {5, 15}, "txtRelFontSizeUpDown"}, .text = "1", .showing = Showing::Held},
     {.box = "txtOffset",                .caption = "Actual/virtual offset:",    .place = At<&D::ActualVirtualOffset>,  .limits = {0, 1000}, .unit = "mm", .arrows = {"UpDown7", {0, 100000}}},
     {.box = "txtScaleTitle",            .caption = "Scale title:",              .place = At<&D::ScaleTitle>,           .reading = Reading::Text, .longest = 60},

@@ -43,7 +43,7 @@ void Prepare(DesignRecord& design, Preparation preparation) {
     if (preparation == Preparation::None) {
         return;
     }
-    if (preparation == Preparation::CountHighlightsAndRest) {
+    if (preparation == Preparation::CountHighlightsAndRest && !Service.carefulFiles) {
         CountHighlights(design);
     }
     design.NumberOfScales = std::max<std::int16_t>(design.NumberOfScales, 1);
