@@ -1,5 +1,7 @@
 #include "desktop/pages/frmHighlights.h"
 
+#include <algorithm>
+
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QPushButton>
@@ -10,6 +12,7 @@
 #include "desktop/kit/optionbutton.h"
 #include "desktop/kit/picturebox.h"
 #include "desktop/navigation/navigator.h"
+#include "desktop/pages/ticchoice.h"
 #include "desktop/system/dialogs.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/service.h"
@@ -73,6 +76,9 @@ void frmHighlights::Build() {
     length_ = &FieldOf(fields_, At<&D::HighlightLength>);
     connect(length_->partner, &EntryBox::Changed, this, &frmHighlights::txtLength10Changed);
     Column().addLayout(grid);
+    if (Service.reserveStages) {
+        Column().addLayout(MakeTicChoices());
+    }
     cmdGetColor_ = MakeButton("cmdGetColor", QStringLiteral("Color"));
     QPushButton* info = MakeButton("cmdShowTicInfo", QStringLiteral("Show ticmark information"));
     connect(cmdGetColor_, &QPushButton::clicked, this, &frmHighlights::cmdGetColorClicked);
@@ -89,12 +95,56 @@ void frmHighlights::Load() {
             numbers_.Option(highlight).SetGround(ToQColor(Design.PlateBackground));
         }
     }
-    if (Service.reserveStages) {
-        numbers_.Option(1).Select();
-    } else {
+    if (!Service.reserveStages) {
         DisableEntries();
+        Redraw();
+        return;
     }
-    Redraw();
+    Redraw(); // computes the tics
+    OfferTics();
+    numbers_.Option(1).Select();
+}
+
+QLayout* frmHighlights::MakeTicChoices() {
+    auto* grid = new QGridLayout;
+    grid->setSpacing(kEntrySpacing);
+    grid->setColumnStretch(1, 1);
+    lblTics_ = MakeLabel("lblTics", {});
+    grid->addWidget(lblTics_, 0, 0, 1, 2);
+    const auto add = [&](const char* name, const char* caption, FieldPlace place) {
+        auto* choice =
+            new TicChoice(("cbo" + std::string(name)).c_str(), QString::fromUtf8(caption));
+        QLabel* label = MakeLabel(("lbl" + std::string(name)).c_str(), QString::fromUtf8(caption));
+        label->setBuddy(choice);
+        const int row = grid->rowCount();
+        grid->addWidget(label, row, 0);
+        grid->addWidget(choice, row, 1);
+        const Field* field = &FieldOf(fields_, place);
+        connect(choice, &TicChoice::Chosen, this, [this, field](float percent) {
+            StoreIn(field->row.place.In(Design, CurrentHighlight_), double{percent});
+            field->box->Write(PlainNumber(percent)); // which may have fewer digits
+        });
+        return choice;
+    };
+    fromTic_ = add("FromTic", "From tic:", At<&D::HighlightStart>);
+    toTic_ = add("ToTic", "to tic:", At<&D::HighlightStop>);
+    return grid;
+}
+
+// Those of the scale that is edited.
+void frmHighlights::OfferTics() {
+    const int scale = std::clamp<int>(Design.ActiveScale, 1, Design.NumberOfScales);
+    lblTics_->setText(QStringLiteral("By the tics of scale %1:").arg(scale));
+    const std::vector<TicPercent> tics = TicPercents(Design, scale);
+    fromTic_->Offer(tics);
+    toTic_->Offer(tics);
+}
+
+void frmHighlights::ShowChosenTics() {
+    if (fromTic_) {
+        fromTic_->ShowTicAt(Design.HighlightStart[CurrentHighlight_]);
+        toTic_->ShowTicAt(Design.HighlightStop[CurrentHighlight_]);
+    }
 }
 
 void frmHighlights::DisableEntries() {
@@ -115,6 +165,7 @@ void frmHighlights::FillHighlightEntry() {
         field->box->Show(PlainText(field->row.place.In(Design, CurrentHighlight_)));
     }
     ShowTenfoldLength();
+    ShowChosenTics();
 }
 
 void frmHighlights::ShowTenfoldLength() {
@@ -135,6 +186,7 @@ void frmHighlights::Changed(const Field& field) {
     if (&field == length_) {
         ShowTenfoldLength();
     }
+    ShowChosenTics();
     Redraw();
 }
 

@@ -4,11 +4,14 @@
 #include "desktop/pages/drawingpage.h"
 #include "desktop/pages/numberframe.h"
 
+class QLabel;
+class QLayout;
 class QPushButton;
 
 namespace vernacle {
 
 class Field;
+class TicChoice;
 
 class frmHighlights : public TextKeepingPage {
     Q_OBJECT
@@ -34,10 +37,18 @@ private:
 
     void ShowTenfoldLength();
 
+    // The choice of tics, where highlights are in service
+    QLayout* MakeTicChoices();
+    void OfferTics();
+    void ShowChosenTics();
+
     NumberFrame numbers_;
     std::vector<Field*> fields_;
     Field* length_ = nullptr;
     QPushButton* cmdGetColor_ = nullptr;
+    QLabel* lblTics_ = nullptr; // none out of service, as the next ones
+    TicChoice* fromTic_ = nullptr;
+    TicChoice* toTic_ = nullptr;
     std::int16_t CurrentHighlight_ = 0; // none is selected
 };
 

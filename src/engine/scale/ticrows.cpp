@@ -6,6 +6,7 @@
 #include "engine/base/text.h"
 #include "engine/core/entry.h"
 #include "engine/scale/scale.h"
+#include "engine/scale/ticwalk.h"
 
 namespace vernacle {
 
@@ -55,6 +56,10 @@ template <typename AnyDesign>
 auto& LabelFlagIn(AnyDesign& design, int scale, int tic) {
     return IsSpecial(design, scale) ? design.TicLabelYN[scale][tic]
                                     : design.StandardLabelYN[scale][tic];
+}
+
+double PercentOf(const DesignRecord& design, int scale, int tic) {
+    return double{static_cast<float>(double{DeflectionOf(design, scale, tic)} * 100)};
 }
 
 } // namespace
@@ -120,14 +125,32 @@ std::string SelectionRow(const DesignRecord& design, int scale, int tic) {
     return row;
 }
 
+std::vector<TicPercent> TicPercents(const DesignRecord& design, int scale) {
+    std::vector<TicPercent> tics;
+    const int last = std::min(LastTicOf(design, scale), kLastTic);
+    for (int tic = 0; tic <= last; ++tic) {
+        tics.push_back({static_cast<float>(PercentOf(design, scale, tic)), {}});
+    }
+    std::vector<std::string> labels(tics.size());
+    WalkLabels(design, scale, LabelFlags::Ignored, [&labels](const TicLabel& label) {
+        labels.at(static_cast<std::size_t>(label.number)) = " (" + label.text + ")";
+    });
+    for (std::size_t tic = 0; tic < tics.size(); ++tic) {
+        std::string percent;
+        FormatByMagnitude(double{tics[tic].percent}, percent);
+        tics[tic].text =
+            "Tic " + NumberText(static_cast<int>(tic)) + labels[tic] + ": " + percent + " %";
+    }
+    return tics;
+}
+
 std::string InformationRow(const DesignRecord& design, int scale, int tic) {
     std::string row;
     AddColumn(row, "Scale " + NumberText(scale));
     AddColumn(row, NumberText(tic), kTicSaves);
     AddColumn(row, Trimmed(LabelTextOf(design, scale, tic)), kLabelSaves);
     std::string percent;
-    FormatByMagnitude(double{static_cast<float>(double{DeflectionOf(design, scale, tic)} * 100)},
-                      percent);
+    FormatByMagnitude(PercentOf(design, scale, tic), percent);
     row += percent;
     PadToTen(row, 1); // whatever the percentage's length
     return row;

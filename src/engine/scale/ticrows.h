@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "engine/core/design.h"
 
@@ -45,6 +46,15 @@ std::string SelectionRow(const DesignRecord& design, int scale, int tic);
 
 // Scale, tic, label and deflection in percent.
 std::string InformationRow(const DesignRecord& design, int scale, int tic);
+
+// A tic as a choice: "Tic 12 (3): 24 %", where its label is 3.
+struct TicPercent {
+    float percent = 0; // of the full deflection, before any movement correction
+    std::string text;
+};
+
+// All tics of a scale whose tables are computed, in their order.
+std::vector<TicPercent> TicPercents(const DesignRecord& design, int scale);
 
 // What stands at a selection row's fixed places, whatever the lengths of its texts.
 struct SelectedTic {

@@ -1,6 +1,9 @@
 // The design pages' own entries with everything in service.
 #include <cmath>
+#include <tuple>
 #include <utility>
+
+#include <QComboBox>
 
 #include "engine/core/recordfields.h"
 #include "engine/core/service.h"
@@ -123,6 +126,54 @@ TEST_F(WorkshopPagesTest, WhatIsKeptStandsBesideWhatIsTyped) {
         const std::string told = box.accessibleDescription().toStdString();
         EXPECT_EQ(told.ends_with(std::string("kept as ") + row.kept), *row.kept != '\0') << told;
     }
+}
+
+TEST_F(WorkshopPagesTest, AHighlightGoesFromTicToTic) {
+    Design.NumberOfScales = 2;
+    Design.ScaleColor[2] = -1;
+    Design.SpecialNrOfTicmarks[2] = 3;
+    const std::pair<float, const char*> tics[] = {
+        {0, "-20"}, {0.3333333F, ""}, {0.7071068F, "0"}, {1, "3"}};
+    for (int tic = 0; tic <= 3; ++tic) {
+        std::tie(Design.TicDeflection[2][tic], Design.TicLabelText[2][tic]) = tics[tic];
+    }
+    const auto choose = [this](const char* choice, int index) {
+        auto& box = Find<QComboBox>(choice);
+        box.setFocus();
+        QTest::keyClick(&box, Qt::Key_Home);
+        for (int step = 0; step < index; ++step) {
+            QTest::keyClick(&box, Qt::Key_Down);
+        }
+        return box.currentText().toStdString();
+    };
+    Design.ActiveScale = 1;
+    OpenPage("frmHighlights");
+    EXPECT_EQ(Shown("lblTics"), "By the tics of scale 1:");
+    EXPECT_EQ(Find<QComboBox>("cboFromTic").count(), 51);
+    EXPECT_EQ(choose("cboFromTic", 10), "Tic 10 (10): 20 %");
+    EXPECT_EQ(choose("cboToTic", 31), "Tic 31: 62 %");
+    EXPECT_EQ(TextOf("txtStart1") + " " + TextOf("txtStop1"), "20 62");
+    EXPECT_EQ(Design.HighlightStart[1], 20);
+    EXPECT_EQ(Design.HighlightStop[1], 62);
+    Type("txtStop1", "61");
+    EXPECT_EQ(Find<QComboBox>("cboToTic").currentIndex(), -1) << "there is no such tic";
+    Type("txtStop1", "64");
+    EXPECT_EQ(Find<QComboBox>("cboToTic").currentIndex(), 32);
+    Click("Option2");
+    EXPECT_EQ(Find<QComboBox>("cboToTic").currentIndex(), 0) << "another highlight";
+
+    Design.ActiveScale = 2;
+    OpenPage("frmPreview");
+    OpenPage("frmHighlights");
+    EXPECT_EQ(Find<QComboBox>("cboFromTic").currentIndex(), -1) << "20 % is no tic of this scale";
+    EXPECT_EQ(choose("cboFromTic", 2), "Tic 2 (0): 70.711 %");
+    EXPECT_EQ(choose("cboToTic", 3), "Tic 3 (3): 100 %");
+    EXPECT_EQ(Design.HighlightStart[1], static_cast<float>(double{0.7071068F} * 100))
+        << "to the last bit";
+    EXPECT_EQ(Design.HighlightStop[1], 100);
+    Type("txtCeiling1", "30");
+    Type("txtLength1", "2");
+    EXPECT_EQ(Recorded(Picture("picPlate")).Count("FillArea"), 1U);
 }
 
 // A visit of every page changes nothing: its boxes show fewer digits than a number has.
