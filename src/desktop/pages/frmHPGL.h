@@ -12,6 +12,9 @@ public:
     frmHPGL();
 
 private:
+    QWidget* MakePenWidth();
+    static bool IsWanted(); // by a user who has seen the pens
+
     void cmdHPGLClicked();
     void cmdPCLClicked();
 };

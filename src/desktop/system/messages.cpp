@@ -33,6 +33,15 @@ void ShowInformation(const std::string& text) {
     ShowBox("boxInformation", QMessageBox::Information, QStringLiteral("Vernacle"), text);
 }
 
+bool AskToGoOn(const std::string& text) {
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Vernacle"),
+                    QString::fromStdString(text), QMessageBox::Ok | QMessageBox::Cancel,
+                    QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("boxGoOn"));
+    box.setTextFormat(Qt::PlainText);
+    return box.exec() == QMessageBox::Ok;
+}
+
 void ShowRunTimeError(const std::string& text) {
     ShowBox("boxRunTimeError", QMessageBox::Critical, QStringLiteral("Vernacle - Run-time error"),
             "Run-time error:\n\n" + text + "\n\nThe program ends now.");

@@ -11,6 +11,9 @@ namespace vernacle {
 void ShowFailure(const FailureReport& report);
 void ShowInformation(const std::string& text);
 
+// A box that can be cancelled; whether it was not.
+bool AskToGoOn(const std::string& text);
+
 // The box of a failure that no routine traps: the program ends behind it.
 void ShowRunTimeError(const std::string& text);
 

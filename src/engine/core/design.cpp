@@ -103,6 +103,7 @@ constexpr Default kInherited[] = {
     {At<&D::ForeignLines>, kNotSet, ""},          //
     {At<&D::GraphicFileName>, kNotSet, ""},       //
     {At<&D::LeftToBearing>, kNotSet, -1.0},       //
+    {At<&D::PenWidth>, kNotSet, 0.3},             //
     {At<&D::PlateOutlineCircular>, kNotSet, 0.0}, //
 };
 

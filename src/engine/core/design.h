@@ -74,6 +74,7 @@ struct DesignRecord {
     std::string DrawHighlights;            // "Y" or "N"; not stored in a file
     std::int16_t PlateOutlineCircular = 0; // 1 circular, 0 rectangular; not stored in a file
     float LeftToBearing = -1; // of a quadrant plate in the workshop; below 0 it is in the middle
+    float PenWidth = 0.3F;    // of the plotter's pens in the workshop, mm: so far apart it hatches
 
     // The scales
     PerScale<std::int32_t>

@@ -80,6 +80,7 @@ constexpr RecordField kFields[] = {
     Row<&D::DrawHighlights>("DrawHighlights", kKept),
     Row<&D::PlateOutlineCircular>("PlateOutlineCircular", kKept),
     Row<&D::LeftToBearing>("LeftToBearing", kKept),
+    Row<&D::PenWidth>("PenWidth", kKept),
     Row<&D::ScaleColor>("ScaleColor", kKept),
     Row<&D::ScaleLeftEnd>("ScaleLeftEnd", kKept),
     Row<&D::ScaleLengthUnits>("ScaleLengthUnits", kKept),

@@ -99,7 +99,12 @@ std::string PlotterLetters(const std::string& text) {
 }
 
 PlotterSurface::PlotterSurface(const PlateFrame& page, const PlateFrame& plotter, double penMm)
-    : page_(page), plotter_(plotter), penMm_(penMm), pens_{{kBlackInk, ""}}, states_(1) {}
+    : page_(page),
+      plotter_(plotter),
+      penMm_(penMm),
+      pens_{{kBlackInk, ""}},
+      states_(1),
+      widthMm_(penMm) {}
 
 SurfacePoint PlotterSurface::ToPlotter(SurfacePoint at) const {
     const double perUnit = plotter_.plateScale / page_.plateScale;

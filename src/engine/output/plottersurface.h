@@ -11,11 +11,11 @@
 namespace vernacle {
 
 constexpr std::size_t kPlotterPens = 8;
-constexpr double kUsualPenMm = 0.3; // hatching lines stand so far apart
 
 class PlotterSurface : public DrawingSurface {
 public:
     // page is where the plate stands on the printer's page, plotter where on the plotter's.
+    // Hatching lines stand a pen's width apart, which is above 0.
     PlotterSurface(const PlateFrame& page, const PlateFrame& plotter, double penMm);
 
     struct Pen {
@@ -75,7 +75,7 @@ private:
     std::vector<Pen> pens_;
     std::vector<PenState> states_;
     bool hasMoreColours_ = false;
-    double widthMm_ = kUsualPenMm;
+    double widthMm_;
     double points_ = 8;
     Colour ink_ = kBlackInk;
     SurfacePoint current_;

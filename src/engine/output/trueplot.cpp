@@ -44,7 +44,7 @@ std::string NameOf(Colour colour) {
 // Drawn as on paper, and kept by pens.
 PlotterSurface Plot(const DesignRecord& design) {
     const PlateFrame page = TrueFrame(design, 1, 1);
-    PlotterSurface surface(page, PlotterFrame(design), kUsualPenMm);
+    PlotterSurface surface(page, PlotterFrame(design), kPenMm.Held(double{design.PenWidth}));
     DrawingState state;
     DrawTruePlate(design, surface, TruePlateTraits(TrueMedium::Plotter), page,
                   {design.FontSize, design.LabelSpacing}, state);
@@ -94,6 +94,20 @@ std::vector<PlotterPen> PensOf(const DesignRecord& design) {
 
 bool NeedsMorePens(const DesignRecord& design) {
     return Plot(design).HasMoreColours();
+}
+
+std::string PenTable(const DesignRecord& design) {
+    const PlotterSurface surface = Plot(design);
+    std::string table = "The plotter's pens and their colours:\n";
+    int number = 0;
+    for (const PlotterPen& pen : PensOf(surface)) {
+        table += "\nPen " + std::to_string(++number) + ": " + pen.name;
+    }
+    if (surface.HasMoreColours()) {
+        table += "\n\nThe plate has more colours than a plotter has pens. What is drawn in the "
+                 "others takes the pen whose colour is nearest.";
+    }
+    return table;
 }
 
 void PlotTruePlate(const DesignRecord& design, ByteSink& sink, HpglMode mode) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/core/entry.h"
 #include "engine/geometry/drawingsurface.h"
 #include "engine/output/hpgl.h"
 
@@ -21,6 +22,12 @@ std::vector<PlotterPen> PensOf(const DesignRecord& design);
 
 // Whether the plate has more colours than a plotter has pens.
 bool NeedsMorePens(const DesignRecord& design);
+
+// The pens in words, a line each, and what becomes of further colours.
+std::string PenTable(const DesignRecord& design);
+
+// How wide a plotter's pens are, mm.
+constexpr EntryLimits kPenMm{.lowest = 0.1, .highest = 2};
 
 // The stream of a design whose tables are computed; a run-time error passes through.
 void PlotTruePlate(const DesignRecord& design, ByteSink& sink, HpglMode mode);
