@@ -1,7 +1,5 @@
 #include "surfaces/papersurface.h"
 
-#include <algorithm>
-
 #include "engine/base/runtimeerror.h"
 #include "engine/geometry/sheet.h"
 
@@ -10,14 +8,6 @@ namespace vernacle {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
-
-// Where the logical area begins on a sheet: its middle stands in the sheet's, or, where the area is
-// longer than the sheet, the plate's own middle does.
-double AreaStartMm(double sheetMm, double areaUnits, double centreUnits) {
-    const double areaMm = areaUnits / kSheetUnitsPerMm;
-    return sheetMm >= areaMm ? (sheetMm - areaMm) / 2
-                             : sheetMm / 2 - centreUnits / kSheetUnitsPerMm;
-}
 
 DeviceMap MapOf(double coordinatesPerInch, const Sheet& sheet) {
     const double perMm = coordinatesPerInch / kMmPerInch;
@@ -49,7 +39,7 @@ PaperSurface::~PaperSurface() {
 void PaperSurface::KeepOnSheet(float top, float bottom) {
     const double needed = sheetTop_ - (areaTop_ + double{top} * page_.Map().perUnitY);
     const double room = sheetBottom_ - (areaTop_ + double{bottom} * page_.Map().perUnitY);
-    page_.SetOriginY(areaTop_ + std::max(std::min(needed, room), 0.0));
+    page_.SetOriginY(areaTop_ + AreaShift(needed, room));
 }
 
 void PaperSurface::StartSheet() {

@@ -15,9 +15,6 @@ struct Sheet {
     double heightMm;
 };
 
-// What most printers leave white at the edges of a sheet: 12 points.
-constexpr double kUnprintableMm = 12 * kMmPerInch / 72;
-
 constexpr Sheet kSheets[] = {
     {"A4", 210, 297},
     {"Letter", 215.9, 279.4},

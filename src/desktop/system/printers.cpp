@@ -119,6 +119,14 @@ QString DocumentName() {
     return name.isEmpty() ? QStringLiteral("Vernacle") : name;
 }
 
+Sheet ProposedSheet() {
+    QPrinter printer(QPrinter::HighResolution);
+    if (LastChoice()) {
+        Propose(printer, *LastChoice());
+    }
+    return SheetOf(printer);
+}
+
 // Nothing that moves the page's margins is set before the dialog: on a queue that would keep the
 // paper chosen in it from being taken.
 void AskForPrinterAndPrint(QWidget* parent, const PrintOn& print, const QString& document) {

@@ -11,6 +11,9 @@ namespace vernacle {
 // The design's file name without its folder, "Vernacle" for a design without a file.
 QString DocumentName();
 
+// The sheet that the printer dialog will propose.
+Sheet ProposedSheet();
+
 // Shows the printer dialog, named "PrintDialog"; after a cancel nothing else happens, else print
 // runs once with a surface on what was chosen. The printer is proposed again at the next call, and
 // a file's sheet with it; a queue proposes its own. A file is proposed among the user's documents,

@@ -1,4 +1,6 @@
-// The plotter's page with everything in service: pens, their width, and what is told of a plot.
+// The ways out with everything in service: the plotter's pens and their width, and what is told
+// before a plot and a print.
+#include "desktop/pages/plateprint.h"
 #include "engine/base/hostservices.h"
 #include "engine/core/service.h"
 #include "support/formtest.h"
@@ -122,6 +124,31 @@ TEST_F(WorkshopPlotTest, APlateTooLargeFailsInThePlot) {
     OnPage([this](QWidget& form) { Click(On<QPushButton>(form, "cmdHPGL")); });
     ASSERT_FALSE(said.empty());
     EXPECT_EQ(said.back(), "failure: The HPGL file was not written correctly.");
+}
+
+TEST_F(WorkshopPlotTest, WhatASheetCutsOffIsToldBeforeThePrinterDialog) {
+    OpenPage("frmPreview");
+    const auto print = [this](std::size_t boxes) {
+        Answer([&, boxes](QWidget& dialog) {
+            EXPECT_EQ(dialog.objectName(), QLatin1String("PrintDialog"));
+            EXPECT_EQ(said.size(), boxes);
+            Cancel(dialog);
+        });
+        AskAndPrintPlate(&Page());
+        EXPECT_TRUE(AllAnswered());
+    };
+    print(0);
+    Design.PlateHeight = 400;
+    print(1);
+    EXPECT_EQ(said[0].rfind("information: The plate is too large for the printer's sheet of ", 0),
+              0U);
+    EXPECT_NE(said[0].find(" mm. What is cut off: the plate's edge, trim marks, the ruler, the "
+                           "footer.\n"),
+              std::string::npos)
+        << said[0];
+    StoreService(Program::Everyday);
+    said.clear();
+    print(0);
 }
 
 } // namespace

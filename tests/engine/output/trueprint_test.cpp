@@ -63,6 +63,37 @@ TEST_F(TruePrintTest, TheSheetKeepsMarksAndFooter) {
     EXPECT_NEAR(double{printer.keptTop}, 4000 - 5 * 56.578 - 300, 0.01);
 }
 
+TEST_F(TruePrintTest, WhatDoesNotFitOnASheetIsNamed) {
+    struct Row {
+        float width, height;
+        double sheetWidth, sheetHeight;
+        const char* cut;
+    };
+    constexpr const char* kAll = "the plate's edge, trim marks, the ruler, the footer";
+    const Row rows[] = {
+        {180, 180, 210, 297, ""},
+        {180, 180, 215.9, 279.4, ""},
+        {75, 50, 148, 210, ""},
+        {75, 50, 105, 148, ""},
+        {75, 110, 105, 148, "the footer"},
+        {90, 50, 105, 148, "trim marks"}, // 5.3 mm beside the plate, of 7.5, and 4.2 are white
+        {97, 50, 105, 148, kAll},
+        {75, 200, 210, 210, "trim marks, the ruler, the footer"},
+        {75, 180, 297, 210, "the ruler, the footer"},
+    };
+    Design.CalibrationX = Design.CalibrationY = 1;
+    for (const Row& row : rows) {
+        Design.PlateWidth = row.width;
+        Design.PlateHeight = row.height;
+        EXPECT_EQ(CutOffOnSheet(Design, row.sheetWidth, row.sheetHeight), row.cut)
+            << row.width << " x " << row.height << " on " << row.sheetWidth;
+    }
+    Design.PlateWidth = Design.PlateHeight = 180;
+    Design.CalibrationX = 1.06F;
+    EXPECT_EQ(CutOffOnSheet(Design, 210, 297), "trim marks, the ruler")
+        << "for a printer that prints too small";
+}
+
 TEST_F(TruePrintTest, EightPensAreEnoughForEightColours) {
     Design.NumberOfScales = 6;
     for (int scale = 1; scale <= 6; ++scale) {
