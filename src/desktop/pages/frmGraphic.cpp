@@ -40,6 +40,13 @@ constexpr FieldRow kGraphicMeasures[] = {
 };
 // clang-format on
 
+// The everyday page names no PNG.
+const char* GraphicFilter() {
+    return Service.reserveStages
+               ? "Graphic files (.bmp, .gif, .ico, .jpg, .png)|*.JPG;*.JPEG;*.PNG;*.GIF;*.BMP;*.ICO"
+               : "Graphic files (.bmp, .gif, .ico, .jpg)|*.JPG;*.GIF;*.BMP;*.ICO";
+}
+
 FieldPointer PlaceOf(const Field& measure) {
     return measure.row.place.In(Design);
 }
@@ -154,9 +161,7 @@ void frmGraphic::cmdGraphicHeightClicked() {
 }
 
 void frmGraphic::cmdGetGraphicClicked() {
-    const std::string chosen = AskForFileToOpen(
-        this,
-        {"Get graphic", "Graphic files (.bmp, .gif, .ico, .jpg)|*.JPG;*.GIF;*.BMP;*.ICO", ""});
+    const std::string chosen = AskForFileToOpen(this, {"Get graphic", GraphicFilter(), ""});
     if (Service.carefulFiles && chosen.empty()) {
         return; // the dialog was cancelled
     }

@@ -7,6 +7,7 @@
 #include "desktop/pages/frmPlate.h"
 #include "engine/core/design.h"
 #include "engine/core/service.h"
+#include "engine/scale/newscale.h"
 
 namespace vernacle {
 
@@ -26,7 +27,11 @@ struct frmPlate::Option {
 namespace {
 
 void TakeScales(std::int16_t count) {
-    Design.NumberOfScales = count;
+    if (Service.severalScales) {
+        RaiseScales(Design, count);
+    } else {
+        Design.NumberOfScales = count;
+    }
     Design.ActiveScale = 1;
 }
 

@@ -38,6 +38,28 @@ constexpr FieldRow kScalesFields[] = {
 };
 // clang-format on
 
+// The entries that the illustrated help shows; the everyday page leads to none of them.
+struct IllustratedEntry {
+    FieldPlace place;
+    std::int16_t topic;
+};
+
+constexpr IllustratedEntry kIllustrated[] = {
+    {At<&D::BottomToScaleCeiling>, 24},
+    {At<&D::BottomToTitle>, 23},
+    {At<&D::RelativeFontSize>, 15},
+    {At<&D::ActualVirtualOffset>, 7},
+};
+
+FieldRow WithTopic(FieldRow row) {
+    for (const IllustratedEntry& entry : kIllustrated) {
+        if (Service.illustratedHelp && row.place.find == entry.place.find) {
+            row.topic = entry.topic;
+        }
+    }
+    return row;
+}
+
 } // namespace
 
 // In the everyday program nothing enables them.
@@ -74,12 +96,18 @@ QLayout* frmScales::MakeFields() {
     grid->setSpacing(kEntrySpacing);
     grid->setColumnStretch(0, 1);
     for (const FieldRow& row : kScalesFields) {
-        auto* field = new Field(row, *this);
+        auto* field = new Field(WithTopic(row), *this);
         field->AddTo(*grid, static_cast<int>(fields_.size()));
         connect(field->box, &EntryBox::Changed, this, [this, field] { Changed(*field); });
         fields_.push_back(field);
     }
     exponent_ = &Of(At<&D::LinearityExponent>);
+    for (const Field* field : fields_) {
+        if (field->help && field != exponent_) {
+            connect(field->help, &QPushButton::clicked, this,
+                    [topic = field->row.topic] { Illustrate(topic); });
+        }
+    }
     relativeSize_ = &Of(At<&D::RelativeFontSize>);
     connect(exponent_->help, &QPushButton::clicked, this, &frmScales::cmdLinearityExponentClicked);
     connect(relativeSize_->partner, &EntryBox::Changed, this,

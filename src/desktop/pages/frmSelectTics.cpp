@@ -8,6 +8,7 @@
 #include "desktop/pages/ticlist.h"
 #include "engine/base/numbertext.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/scale/scale.h"
 
 namespace vernacle {
@@ -114,9 +115,17 @@ void frmSelectTics::FillTicList() {
     StandBehindRows(Design);
 }
 
-// The details are read back from the row. Row 0, which a click beside all rows chooses, is empty.
+// The details are read back from the row, whose places long labels move: where several scales are
+// in service, from the design. Row 0, which a click beside all rows chooses, is empty.
 void frmSelectTics::RowChosen(int index) {
-    const SelectedTic chosen = ReadSelectionRow(lstTicsData_->Row(index + 1));
+    if (!Service.severalScales) {
+        ShowTic(ReadSelectionRow(lstTicsData_->Row(index + 1)));
+    } else if (const auto chosen = TicOfRow(Design, index + 1)) {
+        ShowTic(*chosen);
+    }
+}
+
+void frmSelectTics::ShowTic(const SelectedTic& chosen) {
     SetDetailsVisible(true);
     Design.CurrentScale = chosen.scale;
     lblData1_->setText(Numbered("Scale number: ", chosen.scale));

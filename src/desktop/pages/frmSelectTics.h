@@ -15,6 +15,7 @@ namespace vernacle {
 
 class OptionButton;
 class TicList;
+struct SelectedTic;
 
 class frmSelectTics : public ModalForm {
     Q_OBJECT
@@ -40,6 +41,7 @@ private:
     void FillTicList();
 
     void RowChosen(int index);
+    void ShowTic(const SelectedTic& chosen);
     void OptionClicked(FlagFinder& flag, const char* value);
     void cmdAcceptClicked();
     void cmdExitClicked();

@@ -1,10 +1,13 @@
 #include "engine/scale/ticrows.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/base/numbertext.h"
+#include "engine/base/runtimeerror.h"
 #include "engine/base/text.h"
 #include "engine/core/entry.h"
+#include "engine/core/service.h"
 #include "engine/scale/scale.h"
 #include "engine/scale/ticwalk.h"
 
@@ -101,8 +104,11 @@ void TicRows::Fill(const DesignRecord& design, const RowText& row) {
     for (int scale = 1; scale <= design.NumberOfScales; ++scale) {
         const int last = LastTicOf(design, scale);
         for (int tic = 0; tic <= last; ++tic) {
-            ++count_;
-            rows_[count_] = row(design, scale, tic);
+            std::string text = row(design, scale, tic);
+            if (++count_ > kMost && !Service.severalScales) {
+                ThrowSubscriptOutOfRange();
+            }
+            rows_[count_] = std::move(text);
         }
     }
 }
@@ -154,6 +160,23 @@ std::string InformationRow(const DesignRecord& design, int scale, int tic) {
     row += percent;
     PadToTen(row, 1); // whatever the percentage's length
     return row;
+}
+
+std::optional<SelectedTic> TicOfRow(const DesignRecord& design, int row) {
+    int before = 0;
+    for (int scale = 1; scale <= design.NumberOfScales; ++scale) {
+        const int tics = LastTicOf(design, scale) + 1;
+        const int tic = row - before - 1;
+        if (tic >= 0 && tic < tics) {
+            return SelectedTic{.scale = static_cast<std::int16_t>(scale),
+                               .tic = static_cast<std::int16_t>(tic),
+                               .ticFlag = TicFlagOf(design, scale, tic),
+                               .label = std::string(Trimmed(LabelTextOf(design, scale, tic))),
+                               .labelFlag = LabelFlagOf(design, scale, tic)};
+        }
+        before += std::max(tics, 0);
+    }
+    return {};
 }
 
 SelectedTic ReadSelectionRow(const std::string& row) {

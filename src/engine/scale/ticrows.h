@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,10 +21,12 @@ const std::string& LabelTextOf(const DesignRecord& design, int scale, int tic);
 // A fraction, before any movement correction.
 float DeflectionOf(const DesignRecord& design, int scale, int tic);
 
-// Rows 1 to the count; row 0 is empty. The bound is four scales of 361 rows.
+// Rows 1 to the count; row 0 is empty. The bound is four scales of 361 rows; all six where several
+// scales are in service.
 class TicRows {
 public:
     static constexpr int kMost = 1444;
+    static constexpr int kMostOfAll = kScales * (kLastTic + 1);
     using RowText = std::function<std::string(const DesignRecord& design, int scale, int tic)>;
 
     // Takes the row of every tic of every scale. One row too many is a run-time error.
@@ -33,7 +36,7 @@ public:
     const std::string& operator[](int row) const { return rows_[row]; }
 
 private:
-    Table<std::string, kMost> rows_;
+    Table<std::string, kMostOfAll> rows_;
     int count_ = 0;
 };
 
@@ -66,5 +69,8 @@ struct SelectedTic {
 };
 
 SelectedTic ReadSelectionRow(const std::string& row);
+
+// The same of a row by its number, from 1, as the design has it; none of a number without a row.
+std::optional<SelectedTic> TicOfRow(const DesignRecord& design, int row);
 
 } // namespace vernacle

@@ -47,6 +47,12 @@ void Tell(const TicReached& reached, int scale, int tic) {
 
 } // namespace
 
+std::string LabelRemark(std::string_view typed) {
+    return typed.find(',') == typed.npos
+               ? std::string()
+               : "The comma of this label is drawn as a point: " + Normalised(std::string(typed));
+}
+
 void WalkStandardTics(const DesignRecord& design, int scale, TicFlags flags,
                       const TicVisit& visit) {
     for (int tic = 0; tic <= design.NrOfTicmarks[scale]; ++tic) {

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "engine/core/design.h"
 
@@ -38,6 +39,10 @@ struct TicLabel {
 
 using TicVisit = std::function<void(const Tic&)>;
 using LabelVisit = std::function<void(const TicLabel&)>;
+
+// What a page says while a label with a decimal comma is typed: that it is drawn with a point.
+// Empty of all others.
+std::string LabelRemark(std::string_view typed);
 
 // Told of each tic of a label walk before its flag is asked for; may be empty.
 using TicReached = std::function<void(int scale, int tic)>;

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include <QComboBox>
+#include <QFileDialog>
+#include <QListWidget>
 
 #include "engine/core/recordfields.h"
 #include "engine/core/service.h"
@@ -174,6 +176,76 @@ TEST_F(WorkshopPagesTest, AHighlightGoesFromTicToTic) {
     Type("txtCeiling1", "30");
     Type("txtLength1", "2");
     EXPECT_EQ(Recorded(Picture("picPlate")).Count("FillArea"), 1U);
+}
+
+TEST_F(WorkshopPagesTest, ScalesHaveTheirPlaceIllustrated) {
+    const std::pair<const char*, int> rows[] = {{"cmdBottomToScaleCeiling", 24},
+                                                {"cmdBottomToTitle", 23},
+                                                {"cmdRelFontsize", 15},
+                                                {"cmdOffset", 7}};
+    OpenPage("frmScales");
+    for (const auto& [button, topic] : rows) {
+        ClickAndAnswer(button, [](QWidget& form) {
+            EXPECT_EQ(form.objectName(), QLatin1String("frmHelp"));
+            form.close();
+        });
+        EXPECT_EQ(Design.HelpTopic, topic) << button;
+    }
+    StoreService(Program::Everyday);
+    OpenPage("frmPreview");
+    OpenPage("frmScales");
+    for (const auto& [button, topic] : rows) {
+        EXPECT_FALSE(Page().findChild<QWidget*>(QLatin1String(button))) << topic;
+    }
+}
+
+TEST_F(WorkshopPagesTest, ANewScaleIsSeen) {
+    OpenPage("frmPlate");
+    Click("Option2");
+    EXPECT_LT(Design.BottomToScaleCeiling[2], Design.BottomToScaleCeiling[1]);
+    EXPECT_LT(Design.BottomToTitle[2], Design.BottomToTitle[1]);
+    OpenPage("frmScales");
+    Click("Option2");
+    Type("txtBottomToScaleCeiling", "20");
+    OpenPage("frmPlate");
+    Click("Option1");
+    Click("Option3");
+    EXPECT_EQ(Design.BottomToScaleCeiling[2], 20) << "what was entered stays";
+}
+
+TEST_F(WorkshopPagesTest, SingleTicsOfSixFullScalesAreTakenOut) {
+    Design.NumberOfScales = 6;
+    for (int scale = 1; scale <= 6; ++scale) {
+        Design.NrOfTicmarks[scale] = 360;
+    }
+    OpenPage("frmScales");
+    ClickAndAnswer("cmdSelectTics", [this](QWidget& form) {
+        auto& list = On<QListWidget>(form, "lstTicsData");
+        EXPECT_EQ(list.count(), 6 * 361);
+        for (const int row : {0, 5 * 361 - 1, 6 * 361 - 1}) {
+            list.scrollToItem(list.item(row));
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                              list.visualItemRect(list.item(row)).center());
+            Click(On<QWidget>(form, "optTicNo"));
+            Click(On<QWidget>(form, "cmdAccept"));
+        }
+        Click(On<QWidget>(form, "cmdExit"));
+    });
+    EXPECT_EQ(Design.StandardTicYN[1][0] + Design.StandardTicYN[5][360] +
+                  Design.StandardTicYN[6][360] + Design.StandardTicYN[6][359],
+              "NNNY");
+    EXPECT_EQ(Design.DeletedTicCount[6], 1);
+    EXPECT_EQ(Design.DeletedTics[6][1], 360);
+}
+
+TEST_F(WorkshopPagesTest, TheGraphicsDialogShowsPngs) {
+    OpenPage("frmGraphic");
+    QImage(4, 4, QImage::Format_RGB32).save(QString::fromStdString(Path("mark.png")));
+    ClickAndAnswer("cmdGetGraphic", [](QWidget& dialog) {
+        EXPECT_TRUE(dynamic_cast<QFileDialog&>(dialog).nameFilters().join(QString()).contains(
+            QLatin1String("*.PNG")));
+        Cancel(dialog);
+    });
 }
 
 // A visit of every page changes nothing: its boxes show fewer digits than a number has.

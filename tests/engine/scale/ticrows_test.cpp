@@ -1,7 +1,10 @@
 #include "engine/scale/ticrows.h"
 
+#include <tuple>
+
 #include "engine/base/runtimeerror.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/scale/scale.h"
 #include "support/enginetest.h"
 
@@ -220,6 +223,41 @@ TEST_F(TicRowsTest, FourFullScalesFitAndOneTicMoreIsARunTimeError) {
     };
     EXPECT_THROW(rows.Fill(Design, row), RunTimeError);
     EXPECT_EQ(asked, (std::pair{5, 0}));
+}
+
+TEST_F(TicRowsTest, SixFullScalesFitWhereSeveralAreInService) {
+    StoreService(Program::Workshop);
+    UseScales(6, 360);
+    Design.StandardTicYN[6][360] = "N";
+    Design.StandardLabel[6][360] = "a long label, as some are";
+    Design.StandardLabelYN[6][360] = "N";
+    TicRows rows;
+    rows.Fill(Design, SelectionRow);
+    EXPECT_EQ(rows.Count(), 6 * 361);
+    const auto last = TicOfRow(Design, 6 * 361);
+    ASSERT_TRUE(last);
+    EXPECT_EQ(std::tie(last->scale, last->tic, last->ticFlag, last->label, last->labelFlag),
+              std::make_tuple(6, 360, "N", "a long label, as some are", "N"));
+    EXPECT_EQ(TicOfRow(Design, 362)->scale, 2);
+    EXPECT_EQ(TicOfRow(Design, 362)->tic, 0);
+    EXPECT_FALSE(TicOfRow(Design, 0));
+    EXPECT_FALSE(TicOfRow(Design, 6 * 361 + 1));
+}
+
+TEST_F(TicRowsTest, ATicAsAChoiceHasItsLabelAndItsPercentage) {
+    UseScales(1, 3);
+    Design.LabelsEveryHowMany[1] = 3;
+    ComputeTicDeflections(Design);
+    ComputeTicLabels(Design);
+    Design.StandardLabel[1][1] = "of an earlier scale";
+    std::vector<std::string> texts;
+    for (const TicPercent& tic : TicPercents(Design, 1)) {
+        texts.push_back(tic.text);
+    }
+    EXPECT_EQ(texts.size(), 4U);
+    EXPECT_EQ(texts[1], "Tic 1: 33.333 %");
+    EXPECT_EQ(texts[3], "Tic 3 (" + Design.StandardLabel[1][3] + "): 100 %");
+    EXPECT_EQ(TicPercents(Design, 1)[1].percent, 100 * Design.StandardDeflection[1][1]);
 }
 
 } // namespace

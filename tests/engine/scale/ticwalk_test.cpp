@@ -243,5 +243,11 @@ TEST_F(TicWalkTest, MoreTicsThanATableHoldsIsARunTimeError) {
     EXPECT_EQ(last, "360M");
 }
 
+TEST(LabelRemarkTest, TellsOfACommaAlone) {
+    EXPECT_EQ(LabelRemark("1,5 V "), "The comma of this label is drawn as a point: 1.5 V");
+    EXPECT_EQ(LabelRemark("1.5 V"), "");
+    EXPECT_EQ(LabelRemark(""), "");
+}
+
 } // namespace
 } // namespace vernacle::test
