@@ -36,15 +36,23 @@ float Tenths(double mm) {
 }
 
 void PlaceBelow(DesignRecord& design, int scale) {
+    const double reach = ReachMm(design);
+    const double capitals = CapitalsMm(design);
     const bool isInward = scale % 2 == 0;
-    const double down = isInward ? kGapMm : 2 * ReachMm(design) + kGapMm;
-    design.BottomToScaleCeiling[scale] =
-        Tenths(double{design.BottomToScaleCeiling[scale - 1]} - down);
-    const double belowTitle =
-        double{design.BottomToTitle[scale - 1]} - CapitalsMm(design) - 2 * kGapMm;
-    const double belowArc =
-        double{design.BottomToScaleCeiling[scale]} - (isInward ? ReachMm(design) : 0) - 2 * kGapMm;
-    design.BottomToTitle[scale] = Tenths(std::min(belowTitle, belowArc));
+    const double up = isInward ? 0 : reach; // where its letters are
+    const double down = isInward ? reach : 0;
+    double ceiling = double{design.BottomToScaleCeiling[scale - 1]} - kGapMm;
+    ceiling -= isInward ? 0 : 2 * reach;
+    for (int before = 1; before < scale; ++before) {
+        const double title = double{design.BottomToTitle[before]};
+        if (title > ceiling - down && title - capitals < ceiling + up) {
+            ceiling = title - capitals - kGapMm - up;
+        }
+    }
+    const double title = std::min(double{design.BottomToTitle[scale - 1]} - capitals - 2 * kGapMm,
+                                  ceiling - down - 2 * kGapMm);
+    design.BottomToScaleCeiling[scale] = Tenths(ceiling);
+    design.BottomToTitle[scale] = Tenths(title);
 }
 
 } // namespace

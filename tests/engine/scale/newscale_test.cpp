@@ -28,12 +28,12 @@ TEST_F(NewScaleTest, StandsBelowTheScaleBefore) {
     RaiseScales(Design, 4);
     EXPECT_EQ(Design.NumberOfScales, 4);
     ExpectScale(1, 60, 50);
-    ExpectScale(2, 59, 47);    // its letters inward of its arc
-    ExpectScale(3, 47, 44);    // below the letters of scale 2, and its own above it
-    ExpectScale(4, 46, 38.5);  // below its own letters
-    Design.MajorTicLength = 8; // longer than the letters reach
+    ExpectScale(2, 59, 47);     // its letters inward of its arc
+    ExpectScale(3, 39.5, 37.5); // its letters below those of scale 2 and both titles
+    ExpectScale(4, 35.5, 28);   // below the title of scale 3; its own below its letters
+    Design.MajorTicLength = 8;  // longer than the letters reach
     RaiseScales(Design, 5);
-    ExpectScale(5, 29, 27);
+    ExpectScale(5, 18.5, 16.5);
 }
 
 TEST_F(NewScaleTest, StaysOnThePlate) {
@@ -49,12 +49,12 @@ TEST_F(NewScaleTest, AScaleThatSomeoneHasPlacedStaysWhereItIs) {
     Design.BottomToTitle[2] = 33;
     RaiseScales(Design, 3);
     ExpectScale(2, 40, 33);
-    ExpectScale(3, 28, 26);
+    ExpectScale(3, 25.5, 23.5);
     Design.BottomToScaleCeiling[3] = 20;
     RaiseScales(Design, 1);
     EXPECT_EQ(Design.NumberOfScales, 1);
     RaiseScales(Design, 3);
-    ExpectScale(3, 20, 26);
+    ExpectScale(3, 20, 23.5);
 }
 
 } // namespace
