@@ -60,7 +60,7 @@ frmHPGL::frmHPGL() : ModalForm("frmHPGL", QStringLiteral("Vernacle - HP-GL outpu
     if (Service.truePlate) {
         grid->addWidget(MakePenWidth(), 3, 0, 1, 2);
     }
-    grid->addWidget(exit, 4, 0, 1, 2, Qt::AlignRight);
+    grid->addWidget(exit, grid->rowCount(), 0, 1, 2, Qt::AlignRight);
     grid->setColumnStretch(1, 1);
 }
 
