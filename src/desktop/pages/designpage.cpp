@@ -11,12 +11,11 @@
 #include "desktop/navigation/opendocument.h"
 #include "desktop/navigation/session.h"
 #include "desktop/pages/carefuldesign.h"
+#include "desktop/pages/plateprint.h"
 #include "desktop/pages/vernaclefile.h"
-#include "desktop/system/printers.h"
 #include "engine/core/design.h"
 #include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
-#include "engine/output/print.h"
 
 namespace vernacle {
 
@@ -214,7 +213,7 @@ void DesignPage::SaveClicked() {
 
 void DesignPage::PrintClicked() {
     if (traits_.printing != Printing::GreyedAndDead) {
-        AskForPrinterAndPrint(this, [](PrinterSurface& printer) { PrintPlate(Design, printer); });
+        AskAndPrintPlate(this);
     }
 }
 

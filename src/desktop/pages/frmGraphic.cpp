@@ -1,5 +1,7 @@
 #include "desktop/pages/frmGraphic.h"
 
+#include <filesystem>
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -55,9 +57,17 @@ std::string UpperCased(const std::string& path) {
     return QString::fromStdString(path).toUpper().toStdString();
 }
 
-// Where files are careful a name stays as it is.
+// Where files are careful a name stays as it is, but for its folder if that is the design's own:
+// both can then be moved together.
 std::string ShownName(const std::string& path) {
-    return Service.carefulFiles ? path : UpperCased(path);
+    if (!Service.carefulFiles) {
+        return UpperCased(path);
+    }
+    const std::filesystem::path picture(path);
+    const bool isBeside = picture.has_parent_path() &&
+                          picture.parent_path() ==
+                              std::filesystem::path(Design.DesignFileName).parent_path();
+    return isBeside ? picture.filename().string() : path;
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 #include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "engine/scale/scale.h"
+#include "engine/scale/ticwalk.h"
 #include "engine/setups/setup.h"
 
 namespace vernacle {
@@ -21,6 +22,7 @@ namespace vernacle {
 namespace {
 
 constexpr const char* kScalesPage = "frmScales";
+constexpr const char* kLabelRemark = "lblLabelRemark"; // on the label that is typed
 
 } // namespace
 
@@ -33,6 +35,9 @@ SetupPage::SetupPage(const SetupPageTraits& traits) : Page(traits.form), traits_
     line->addWidget(lblWorking_);
     line->addStretch();
     Body().addLayout(line);
+    if (Service.specialScales) {
+        Body().addWidget(MakeLabel(kLabelRemark, {}));
+    }
 }
 
 void SetupPage::EnterSetup() {
@@ -133,6 +138,10 @@ void SetupPage::GuardLabel(EntryBox& box) {
     box.setValidator(new QRegularExpressionValidator(kWithoutSeparator, &box));
     box.setToolTip(QStringLiteral("any text without a \\, which parts the entries of a file"));
     connect(&box, &QLineEdit::inputRejected, &box, [] { Host.beep(); });
+    connect(&box, &QLineEdit::textEdited, &box, [&box] {
+        auto* remark = box.window()->findChild<QLabel*>(QLatin1String(kLabelRemark));
+        remark->setText(QString::fromStdString(LabelRemark(box.Text())));
+    });
 }
 
 void SetupPage::GuardNumber(EntryBox& box) {

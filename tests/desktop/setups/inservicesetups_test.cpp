@@ -471,6 +471,15 @@ TEST_F(ArbitraryInServiceTest, AnotherKindsTicsCanBeEdited) {
     EXPECT_EQ(Design.ScaleSetup[2], "arbitrary");
 }
 
+TEST_F(InServiceTest, ThePageSaysThatACommaBecomesAPoint) {
+    OpenPage("frmSpecialScale");
+    EXPECT_EQ(Shown("lblLabelRemark"), "");
+    Type("txtLabel0", "2,5");
+    EXPECT_EQ(Shown("lblLabelRemark"), "The comma of this label is drawn as a point: 2.5");
+    Type("txtLabel0", "25");
+    EXPECT_EQ(Shown("lblLabelRemark"), "");
+}
+
 TEST_F(InServiceTest, NoLabelTakesTheSeparatorOfAFile) {
     for (const char* page : {"frmSpecialScale", "frmSetupOhmmeter"}) {
         OpenSetup(page, 2);
