@@ -11,8 +11,12 @@
 #include "desktop/app/application.h"
 #include "desktop/app/forms.h"
 #include "desktop/kit/entrybox.h"
+#include "desktop/navigation/changewatch.h"
+#include "desktop/navigation/opendocument.h"
 #include "desktop/system/desktophost.h"
+#include "designs.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "screen.h"
 
@@ -65,6 +69,59 @@ void Keystroke(benchmark::State& state, const char* name) {
 BENCHMARK_CAPTURE(Keystroke, Title, "txtScaleTitle")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Keystroke, Ceiling, "txtBottomToScaleCeiling")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Keystroke, LeftEnd, "txtScaleLeftEnd")->Unit(benchmark::kMillisecond);
+
+// A design with six scales of a hundred tics, three highlights and a text.
+void UseMuch() {
+    StoreService(Program::Workshop);
+    LoadScales(kScales, 100);
+    Design.NumberOfHighlights = 3;
+    for (int slot = 1; slot <= 3; ++slot) {
+        Design.HighlightStart[slot] = static_cast<float>(20 * slot);
+        Design.HighlightStop[slot] = static_cast<float>(20 * slot + 15);
+        Design.HighlightCeiling[slot] = 30;
+        Design.HighlightLength[slot] = 2;
+    }
+    Design.TextString[1] = "Made here";
+    WatchChanges();
+    Document().Start(true);
+}
+
+// The same with everything in service: the step for undo is taken with the key.
+void WorkshopKeystroke(benchmark::State& state, const char* page, const char* name) {
+    UseMuch();
+    GoToPage(page);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    auto& box = *CurrentPage()->findChild<EntryBox*>(QLatin1String(name));
+    box.setFocus();
+    bool typed = false;
+    for ([[maybe_unused]] auto _ : state) {
+        if (typed) {
+            Press(box, Qt::Key_Backspace);
+        } else {
+            Press(box, Qt::Key_1, QStringLiteral("1"));
+        }
+        typed = !typed;
+    }
+    StoreService(Program::Everyday);
+}
+BENCHMARK_CAPTURE(WorkshopKeystroke, Title, "frmScales", "txtScaleTitle")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(WorkshopKeystroke, Text, "frmText", "txtText")->Unit(benchmark::kMillisecond);
+
+// A step back and forth again, without the page that shows it.
+void UndoAndRedo(benchmark::State& state) {
+    UseMuch();
+    Design.PlateWidth = 80;
+    Document().Visit("width", {});
+    bool isBack = false;
+    for ([[maybe_unused]] auto _ : state) {
+        isBack ? Document().Redo() : Document().Undo();
+        isBack = !isBack;
+    }
+    StoreService(Program::Everyday);
+}
+BENCHMARK(UndoAndRedo)->Unit(benchmark::kMillisecond);
 
 // The refill behind "Accept", painted: 4 scales of 361 rows.
 void FillTicList(benchmark::State& state) {

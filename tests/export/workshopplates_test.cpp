@@ -11,6 +11,7 @@
 #include <QComboBox>
 
 #include "desktop/navigation/changewatch.h"
+#include "engine/base/codepage.h"
 #include "engine/core/service.h"
 #include "engine/designfile/history.h"
 #include "engine/designfile/readwrite.h"
@@ -46,6 +47,7 @@ constexpr Stroke kMultimeter[] = {
     {S::Go, "Plate"},
     {S::Enter, "txtPlateWidth", "100"}, {S::Enter, "txtPlateHeight", "80"},
     {S::Enter, "txtBottomToBearing", "8"}, {S::Enter, "txtBottomToHoles", "10"}, {S::Enter, "txtHoleSeparation", "80"},
+    {S::Enter, "txtPointerDeflection", "90"}, {S::Enter, "txtActualVirtualOffset", "0"},
     {S::Enter, "txtMinorTicLength", "2"}, {S::Enter, "txtMajorTicLength", "3.5"},
     {S::Enter, "txtMinorTicWidth", "1.5"}, {S::Enter, "txtMajorTicWidth", "3"}, {S::Enter, "txtArcWidth", "2"},
     {S::Enter, "txtFontSize", "8"}, {S::Enter, "txtLabelSpacing", "4"},
@@ -70,6 +72,7 @@ constexpr Stroke kVuMeter[] = {
     {S::Go, "Plate"},
     {S::Enter, "txtPlateWidth", "96"}, {S::Enter, "txtPlateHeight", "64"},
     {S::Enter, "txtBottomToBearing", "5"}, {S::Enter, "txtBottomToHoles", "8"}, {S::Enter, "txtHoleSeparation", "84"},
+    {S::Enter, "txtPointerDeflection", "90"}, {S::Enter, "txtActualVirtualOffset", "0"},
     {S::Enter, "txtMinorTicLength", "3"}, {S::Enter, "txtMajorTicLength", "4"},
     {S::Enter, "txtMinorTicWidth", "2"}, {S::Enter, "txtMajorTicWidth", "5"}, {S::Enter, "txtArcWidth", "4"},
     {S::Enter, "txtFontSize", "8"}, {S::Enter, "txtLabelSpacing", "6"}, {S::Press, "optLabelRotationBearing"},
@@ -92,6 +95,7 @@ constexpr Stroke kSMeter[] = {
     {S::Go, "Plate"},
     {S::Enter, "txtPlateWidth", "90"}, {S::Enter, "txtPlateHeight", "60"},
     {S::Enter, "txtBottomToBearing", "4"}, {S::Enter, "txtBottomToHoles", "6"}, {S::Enter, "txtHoleSeparation", "78"},
+    {S::Enter, "txtPointerDeflection", "90"}, {S::Enter, "txtActualVirtualOffset", "0"},
     {S::Enter, "txtMinorTicLength", "2.5"}, {S::Enter, "txtMajorTicLength", "4"},
     {S::Enter, "txtMinorTicWidth", "3"}, {S::Enter, "txtMajorTicWidth", "5"}, {S::Enter, "txtArcWidth", "3"},
     {S::Enter, "txtFontSize", "9"}, {S::Enter, "txtLabelSpacing", "5"},
@@ -113,6 +117,7 @@ constexpr Stroke kSwrPower[] = {
     {S::Go, "Plate"},
     {S::Enter, "txtPlateWidth", "100"}, {S::Enter, "txtPlateHeight", "76"},
     {S::Enter, "txtBottomToBearing", "6"}, {S::Enter, "txtBottomToHoles", "8"}, {S::Enter, "txtHoleSeparation", "86"},
+    {S::Enter, "txtPointerDeflection", "90"}, {S::Enter, "txtActualVirtualOffset", "0"},
     {S::Enter, "txtMinorTicLength", "2"}, {S::Enter, "txtMajorTicLength", "3.5"},
     {S::Enter, "txtMinorTicWidth", "2"}, {S::Enter, "txtMajorTicWidth", "3.5"}, {S::Enter, "txtArcWidth", "2.5"},
     {S::Enter, "txtFontSize", "8"}, {S::Enter, "txtLabelSpacing", "4"},
@@ -135,6 +140,7 @@ constexpr Stroke kQuadrantAmmeter[] = {
     {S::Enter, "txtPlateWidth", "72"}, {S::Enter, "txtPlateHeight", "72"},
     {S::Enter, "txtBottomToBearing", "12"}, {S::Enter, "txtLeftToBearing", "60"},
     {S::Enter, "txtBottomToHoles", "6"}, {S::Enter, "txtHoleSeparation", "60"},
+    {S::Enter, "txtPointerDeflection", "90"}, {S::Enter, "txtActualVirtualOffset", "0"},
     {S::Enter, "txtMinorTicLength", "2"}, {S::Enter, "txtMajorTicLength", "4"},
     {S::Enter, "txtMinorTicWidth", "2"}, {S::Enter, "txtMajorTicWidth", "5"}, {S::Enter, "txtArcWidth", "3"},
     {S::Enter, "txtFontSize", "9"}, {S::Enter, "txtLabelSpacing", "5"},
@@ -309,8 +315,9 @@ TEST_P(WorkshopPlatesTest, IsMadeByKeysAndIsTheExample) {
     EXPECT_TRUE(said.empty()) << said.front();
     const DesignRecord made = Design;
     if (std::getenv("VERNACLE_KEEP_TEXTS")) {
-        Design.DesignFileName = GetParam().file;
-        std::ofstream(kExamples / GetParam().file) << DesignText(Design);
+        Design.DesignFileName = std::string("examples/workshop/") + GetParam().file;
+        std::ofstream(kExamples / GetParam().file, std::ios::binary)
+            << ToFileBytes(DesignText(Design));
     }
     ReadDesign(Design, (kExamples / GetParam().file).string());
     EXPECT_EQ(StateOf(Design), StateOf(made));
