@@ -12,24 +12,30 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "desktop/navigation/helpbook.h"
 #include "desktop/navigation/sidewindows.h"
 #include "desktop/navigation/windowplacing.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
 namespace {
 
-constexpr const char* kBook = ":/Vernacle.CHM/";
 constexpr int kWidths[] = {560, 480, 400, 320}; // pixels
 constexpr int kFrame = 80; // of a window, pixels: more than any is wide and high
 
-// Draws its pictures anew for the screen's pixels: a stretched one is hard to read.
+// Finds by its name whatever a topic leads to, and draws its pictures anew for the screen's pixels:
+// a stretched one is hard to read.
 class TopicBrowser : public QTextBrowser {
 public:
     using QTextBrowser::QTextBrowser;
 
     QVariant loadResource(int type, const QUrl& name) override {
-        QVariant resource = QTextBrowser::loadResource(type, name);
+        const QUrl file(QStringLiteral("qrc") + HelpFile(name.fileName()));
+        QVariant resource = QTextBrowser::loadResource(type, file);
+        if (type == QTextDocument::HtmlResource && Service.illustratedHelp) {
+            return WithSections(QString::fromUtf8(resource.toByteArray()));
+        }
         if (type != QTextDocument::ImageResource) {
             return resource;
         }
@@ -50,7 +56,7 @@ public:
     HelpWindow() {
         setObjectName(QStringLiteral("HelpViewer"));
         setWindowFlags(Qt::Dialog); // stands above the window it belongs to
-        setWindowTitle(QStringLiteral("Vernacle - Help"));
+        setWindowTitle(QString::fromUtf8(ServiceName()) + QStringLiteral(" - Help"));
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins({});
         topic_ = new TopicBrowser(this);
@@ -96,7 +102,7 @@ private:
 QPointer<HelpWindow> shownBook;
 
 QString FileOf(const std::string& topic) {
-    return QLatin1String(kBook) + QString::fromStdString(topic);
+    return HelpFile(QString::fromStdString(topic));
 }
 
 } // namespace
