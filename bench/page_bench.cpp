@@ -8,13 +8,13 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include "designs.h"
 #include "desktop/app/application.h"
 #include "desktop/app/forms.h"
 #include "desktop/kit/entrybox.h"
 #include "desktop/navigation/changewatch.h"
 #include "desktop/navigation/opendocument.h"
 #include "desktop/system/desktophost.h"
-#include "designs.h"
 #include "engine/core/design.h"
 #include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"

@@ -236,7 +236,7 @@ private:
             groups_.push_back(std::move(all));
         } else if (tag.name == "/g" && !groups_.empty()) {
             groups_.pop_back();
-        } else if (tag.name == "use" && inDefinitions_ == 0) {
+        } else if (tag.name == "use" && tag.attributes.contains("x") && inDefinitions_ == 0) {
             const MmPoint origin = {NumberOf(tag.Get("x")), NumberOf(tag.Get("y"))};
             picture_.glyphs.push_back({origin.x * unitMm_, origin.y * unitMm_});
         } else if (inDefinitions_ == 0) {

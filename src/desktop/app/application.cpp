@@ -33,8 +33,9 @@ void AskForKeys() {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Vernacle"));
     setApplicationDisplayName(QString());
-    setDesktopFileName(QLatin1String(Service.carefulFiles ? "vernacle-workshop" : "vernacle"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/vernacle.svg")));
+    const QString name = QLatin1String(Service.carefulFiles ? "vernacle-workshop" : "vernacle");
+    setDesktopFileName(name);
+    setWindowIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(name)));
     setQuitOnLastWindowClosed(false); // pages come and go; the process ends where it is told to
 }
 

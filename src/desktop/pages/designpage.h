@@ -40,7 +40,6 @@ class DesignPage : public Page {
 public:
     bool KeepsSession() const override;
     bool TakesSteps() const override;
-    void StoreEntries() override { BeforeKey(); }
 
 protected:
     // The traits must outlive the page.

@@ -51,7 +51,7 @@ void TextKeepingPage::TakeCopies() {
     copies_.texts = &texts_;
 }
 
-void TextKeepingPage::BeforeKey() {
+void TextKeepingPage::StoreEntries() {
     StoreTexts(Design, texts_);
 }
 

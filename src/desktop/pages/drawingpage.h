@@ -48,13 +48,16 @@ private:
 class TextKeepingPage : public DrawingPage {
     Q_OBJECT
 
+public:
+    void StoreEntries() override;
+
 protected:
     using DrawingPage::DrawingPage;
 
     // The sizes and the texts.
     void TakeCopies();
 
-    void BeforeKey() override;
+    void BeforeKey() override { TextKeepingPage::StoreEntries(); }
 
     FreeTexts texts_;
 };

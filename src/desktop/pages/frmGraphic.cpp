@@ -64,9 +64,9 @@ std::string ShownName(const std::string& path) {
         return UpperCased(path);
     }
     const std::filesystem::path picture(path);
-    const bool isBeside = picture.has_parent_path() &&
-                          picture.parent_path() ==
-                              std::filesystem::path(Design.DesignFileName).parent_path();
+    const bool isBeside =
+        picture.has_parent_path() &&
+        picture.parent_path() == std::filesystem::path(Design.DesignFileName).parent_path();
     return isBeside ? picture.filename().string() : path;
 }
 

@@ -125,14 +125,10 @@ void PutAll(DesignRecord& design, const Default (&rows)[Count], Value Default::*
 
 void ResetTic(DesignRecord& design, int scale, int tic) {
     design.StandardDeflection[scale][tic] = 0;
-    design.TicDeflection[scale][tic] = 0;
     design.StandardLabel[scale][tic].clear();
-    design.TicLabelText[scale][tic].clear();
     design.StandardLabelYN[scale][tic] = "Y";
-    design.TicLabelYN[scale][tic] = "Y";
     design.StandardTicYN[scale][tic] = "Y";
-    design.TicPrintYN[scale][tic] = "Y";
-    design.TicMajorYN[scale][tic] = "N";
+    ResetSpecialTic(design, scale, tic);
 }
 
 void ResetScale(DesignRecord& design, int scale) {
@@ -250,6 +246,14 @@ void SetLinearCurve(DesignRecord& design) {
     for (int segment = 1; segment < kCurvePoints; ++segment) {
         design.CorrectionSlope[segment] = 1;
     }
+}
+
+void ResetSpecialTic(DesignRecord& design, int scale, int tic) {
+    design.TicDeflection[scale][tic] = 0;
+    design.TicLabelText[scale][tic].clear();
+    design.TicLabelYN[scale][tic] = "Y";
+    design.TicPrintYN[scale][tic] = "Y";
+    design.TicMajorYN[scale][tic] = "N";
 }
 
 void ResetDesign(DesignRecord& design) {

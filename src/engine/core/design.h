@@ -160,6 +160,9 @@ int CurrentTic(const DesignRecord& design);
 // The first values of the process; fields without an opening value keep what they hold.
 void SetOpeningValues(DesignRecord& design);
 
+// A tic of a special scale as a new design has it.
+void ResetSpecialTic(DesignRecord& design, int scale, int tic);
+
 // Puts every design field that has a default back to it, and the correction curve to the line.
 void ResetDesign(DesignRecord& design);
 

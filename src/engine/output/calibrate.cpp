@@ -8,6 +8,7 @@
 #include "engine/base/numbertext.h"
 #include "engine/base/text.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/linedoubts.h"
 #include "engine/geometry/primitives.h"
 #include "engine/geometry/sheet.h"
@@ -79,7 +80,9 @@ void ReadCalibrate(DesignRecord& design) {
 }
 
 void WriteCalibrate(DesignRecord& design) {
-    design.DesignFileName = kCalibrationFile;
+    if (!Service.carefulFiles) {
+        design.DesignFileName = kCalibrationFile;
+    }
     try {
         const auto sink = Host.openForOutput(Host.calibrationToWrite());
         sink->Write(CalibrationText(design));

@@ -4,6 +4,9 @@ namespace vernacle {
 
 void RememberSetup(DesignRecord& design, int scale, const SetupKind& kind) {
     design.ScaleSetup[scale] = kind.name;
+    for (int tic = design.SpecialNrOfTicmarks[scale] + 1; tic <= kLastTic; ++tic) {
+        ResetSpecialTic(design, scale, tic);
+    }
 }
 
 bool HoldsTicsFor(const DesignRecord& design, int scale, const SetupKind& kind) {

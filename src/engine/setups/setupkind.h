@@ -20,7 +20,7 @@ constexpr SetupKind kSmeterKind{.name = "S-meter"};
 constexpr SetupKind kVswrKind{.name = "VSWR"};
 constexpr SetupKind kDecibelKind{.name = "dB"};
 
-// From then on the scale's tables are that kind's.
+// From then on the scale's tables are that kind's; behind its last tic they are empty.
 void RememberSetup(DesignRecord& design, int scale, const SetupKind& kind);
 
 // Whether the tables of the scale hold tics that a setup of that kind reads back: its own, marked

@@ -4,6 +4,7 @@
 
 #include "engine/base/hostservices.h"
 #include "engine/base/runtimeerror.h"
+#include "engine/core/service.h"
 #include "support/rendertest.h"
 #include "support/scriptedsink.h"
 
@@ -37,6 +38,14 @@ TEST_F(CalibrateTest, FileHasSevenLines) {
 TEST_F(CalibrateTest, WritingReplacesTheDesignsName) {
     WriteCalibrate(Design);
     EXPECT_EQ(Design.DesignFileName, "Calibrate.txt");
+}
+
+TEST_F(CalibrateTest, WhereFilesAreCarefulTheDesignKeepsItsName) {
+    StoreService(Program::Workshop);
+    Design.DesignFileName = "mine.VRN";
+    WriteCalibrate(Design);
+    EXPECT_EQ(Design.DesignFileName, "mine.VRN");
+    EXPECT_TRUE(Exists("Calibrate.txt"));
 }
 
 TEST_F(CalibrateTest, WrittenFactorsAreReadBack) {
