@@ -225,6 +225,14 @@ TEST_F(TruePlotFormTest, ACommentNamesThePens) {
                        "pen five red, pen six blue\";");
 }
 
+// A special scale's black is kept as the next colour.
+TEST_F(TruePlotFormTest, BothBlacksAreOnePen) {
+    DesignRecord design = GenerateDesign(1);
+    design.ScaleColor[1] = 1;
+    design.ScaleColor[2] = 0;
+    EXPECT_EQ(PlotOf(design).comment.find("black", 16), std::string::npos);
+}
+
 // Six scales, two highlights and the blue marks want nine with black.
 TEST_F(TruePlotFormTest, TheNinthColourTakesTheNearestPen) {
     DesignRecord design = GenerateDesign(5);

@@ -7,6 +7,7 @@ namespace vernacle {
 
 namespace {
 
+constexpr double kVisible = 1.6;  // below that a letter is lost on its ground
 constexpr double kReadable = 4.5; // contrast that small text wants, of at most 21
 
 // As the eye weighs the three lights, 0 to 1.
@@ -50,9 +51,11 @@ void OptionButton::Unselect() {
 }
 
 void OptionButton::SetInk(const QColor& colour) {
+    ink_ = colour;
+    const QColor ink = VisibleInk();
     QPalette colours = palette();
-    colours.setColor(QPalette::Active, QPalette::WindowText, colour); // faded while it is disabled
-    colours.setColor(QPalette::Inactive, QPalette::WindowText, colour);
+    colours.setColor(QPalette::Active, QPalette::WindowText, ink); // faded while it is disabled
+    colours.setColor(QPalette::Inactive, QPalette::WindowText, ink);
     setPalette(colours);
     if (!groundIsGiven_) {
         SetReadableGround(colour);
@@ -81,6 +84,17 @@ void OptionButton::SetGround(const QColor& colour) {
     QPalette colours = palette();
     colours.setColor(QPalette::Window, colour);
     setPalette(colours);
+    if (keepsVisible_ && ink_.isValid()) {
+        SetInk(ink_);
+    }
+}
+
+QColor OptionButton::VisibleInk() const {
+    const QColor ground = palette().color(QPalette::Window);
+    if (!keepsVisible_ || !groundIsGiven_ || Contrast(ink_, ground) >= kVisible) {
+        return ink_;
+    }
+    return Contrast(Qt::black, ground) < Contrast(Qt::white, ground) ? Qt::white : Qt::black;
 }
 
 } // namespace vernacle

@@ -33,13 +33,19 @@ public:
     // The ground behind the caption, whatever its colour is.
     void SetGround(const QColor& colour);
 
+    // From now on a caption that could not be seen on its given ground is black or white.
+    void KeepVisible() { keepsVisible_ = true; }
+
 Q_SIGNALS:
     void Selected();
 
 private:
     void SetReadableGround(const QColor& ink);
+    QColor VisibleInk() const;
 
+    QColor ink_;
     bool groundIsGiven_ = false;
+    bool keepsVisible_ = false;
 };
 
 } // namespace vernacle

@@ -6,6 +6,7 @@
 
 #include "desktop/kit/formkit.h"
 #include "desktop/kit/optionbutton.h"
+#include "engine/core/service.h"
 
 namespace vernacle {
 
@@ -45,6 +46,9 @@ NumberFrame MakeNumberFrame(const NumberFrameTraits& traits, std::function<void(
     for (int number = 1; number <= traits.options; ++number) {
         const QString shown = QString::number(number);
         auto* option = new OptionButton(OptionName(number).c_str(), shown);
+        if (Service.truePlate) {
+            option->KeepVisible();
+        }
         if (number <= traits.tips) {
             option->setToolTip(QStringLiteral("Edit scale #") + shown);
         }

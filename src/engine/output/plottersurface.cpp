@@ -114,6 +114,8 @@ SurfacePoint PlotterSurface::ToPlotter(SurfacePoint at) const {
 
 // The nearest, where the plotter has no more places.
 std::size_t PlotterSurface::PenFor(Colour colour) {
+    constexpr Colour kKeptBlack = 1; // a design's, apart from none
+    colour = colour == kKeptBlack ? kBlackInk : colour;
     const auto isNearer = [colour](const Pen& a, const Pen& b) {
         return ColoursApart(a.colour, colour) < ColoursApart(b.colour, colour);
     };

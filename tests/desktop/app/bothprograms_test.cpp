@@ -38,7 +38,7 @@ TEST_F(BothProgramsTest, OpenWhatTheWorkshopHasWritten) {
         const DesignRecord made = Design;
         const std::string file = WriteBy(Program::Workshop);
         ShowOnEveryPage(Program::Everyday, file);
-        EXPECT_EQ(Design.PlateWidth, made.PlateWidth) << "but for the digits of its line";
+        EXPECT_NEAR(Design.PlateWidth, made.PlateWidth, 1e-4) << "but for the digits of its line";
         ShowOnEveryPage(Program::Workshop, file);
     }
 }

@@ -197,6 +197,21 @@ TEST_F(WorkshopTest, TheHighlightsPageTakesZonesThatStartAtZero) {
     EXPECT_EQ(CountCalls("FillArea"), 2U);
 }
 
+TEST_F(WorkshopTest, NumbersAreSeenOnADarkPlate) {
+    Design.PlateBackground = 1;
+    Design.HighlightColor[3] = 0x0000FF;
+    OpenPage("frmHighlights");
+    const auto ink = [this](const char* option) {
+        return Option(option).palette().color(QPalette::Active, QPalette::WindowText);
+    };
+    EXPECT_EQ(ink("Option2"), QColor(Qt::white));
+    EXPECT_EQ(ink("Option3"), QColor(Qt::red));
+    Design.PlateBackground = kWhite;
+    OpenPage("frmPlate");
+    OpenPage("frmHighlights");
+    EXPECT_EQ(ink("Option2"), QColor(1, 0, 0)) << "the black that is kept";
+}
+
 TEST_F(WorkshopTest, TheGraphicPageKeepsAPicturesName) {
     const std::string file = WriteFile("Mark of ours.bmp", "no picture");
     OpenPage("frmGraphic");

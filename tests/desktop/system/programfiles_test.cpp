@@ -264,10 +264,13 @@ TEST_F(ProgramFilesTest, WhatComesWithTheProgramIsFoundFromTheBuiltOneToo) {
     EXPECT_EQ(ReadWholeFile(found.share + "/Calibrate.txt"),
               ReadWholeFile(SourcePath("packaging/Calibrate.txt")));
     EXPECT_EQ(ExamplesFolder(), found.share + "/examples");
-    for (const auto& example : std::filesystem::directory_iterator(SourcePath("examples"))) {
-        const std::string name = example.path().filename();
-        EXPECT_EQ(ReadWholeFile(ExamplesFolder() + "/" + name),
-                  ReadWholeFile(example.path().string()));
+    const std::filesystem::path examples = SourcePath("examples");
+    for (const auto& example : std::filesystem::recursive_directory_iterator(examples)) {
+        if (example.is_regular_file()) {
+            const auto name = std::filesystem::relative(example.path(), examples);
+            EXPECT_EQ(ReadWholeFile(ExamplesFolder() + "/" + name.string()),
+                      ReadWholeFile(example.path().string()));
+        }
     }
     EXPECT_EQ(ExamplesFolderIn(folders), "") << "where there are none";
 }
