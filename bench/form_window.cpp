@@ -1,9 +1,14 @@
-// One page of the program up to its first paint: "form_window FORM [DESIGN]". For frmOpening this
-// is the program's own start.
+// One page of a program up to its first paint: "form_window [--workshop] FORM [DESIGN]". For
+// frmOpening this is the program's own start.
+#include <string_view>
+
 #include "desktop/app/application.h"
 #include "desktop/app/forms.h"
+#include "desktop/navigation/changewatch.h"
 #include "desktop/system/desktophost.h"
+#include "desktop/system/onecopy.h"
 #include "engine/core/design.h"
+#include "engine/core/service.h"
 #include "engine/designfile/readwrite.h"
 #include "firstpaint.h"
 #include "screen.h"
@@ -23,6 +28,11 @@ void OpenDesign(const char* path) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (argc > 1 && std::string_view(argv[1]) == "--workshop") {
+        StoreService(Program::Workshop);
+        ++argv;
+        --argc;
+    }
     if (argc < 2) {
         return EXIT_FAILURE;
     }
@@ -32,6 +42,10 @@ int main(int argc, char** argv) {
     application.installEventFilter(&end);
     Host = DesktopHost();
     SetForms(ProgramForms());
+    if (Service.carefulFiles) {
+        WatchChanges();
+        TellOfOtherCopy();
+    }
     if (argc > 2) {
         OpenDesign(argv[2]);
     }

@@ -100,8 +100,9 @@ mode_t Mask() {
 
 class OutputFile : public ByteSink {
 public:
-    explicit OutputFile(const std::string& path)
+    OutputFile(const std::string& path, Flush flush)
         : path_(path),
+          flushesAll_(flush == Flush::All),
           target_(EndOfLinks(path)),
           stood_(open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY)) {
         if (stood_.IsOpen() ? fstat(stood_.Number(), &state_) != 0 : errno != ENOENT) {
@@ -148,9 +149,24 @@ private:
             return WithoutPlace();
         }
         // Written through, or the system's crash could lose both the old one and the new.
-        Check(WriteTo(beside, bytes_) && (!stood_.IsOpen() || fsync(beside.Number()) == 0) &&
+        const bool isFlushed = flushesAll_ || stood_.IsOpen();
+        Check(WriteTo(beside, bytes_) && (!isFlushed || fsync(beside.Number()) == 0) &&
               beside.Close());
-        return unfinished.MoveTo(target_.string()) || WithoutPlace();
+        if (!unfinished.MoveTo(target_.string())) {
+            return WithoutPlace();
+        }
+        FlushFolder();
+        return true;
+    }
+
+    // The file itself is whole: a folder that cannot be flushed is no failure.
+    void FlushFolder() const {
+        if (flushesAll_) {
+            const std::string folder = target_.parent_path().string();
+            const Descriptor opened(
+                open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+            static_cast<void>(!opened.IsOpen() || fsync(opened.Number()) == 0);
+        }
     }
 
     bool WithoutPlace() const {
@@ -182,10 +198,12 @@ private:
             Fail();
         }
         Check(WriteAt(stood_, 0, bytes.substr(0, before)) &&
-              ftruncate(stood_.Number(), static_cast<off_t>(bytes.size())) == 0 && stood_.Close());
+              ftruncate(stood_.Number(), static_cast<off_t>(bytes.size())) == 0 &&
+              (!flushesAll_ || fsync(stood_.Number()) == 0) && stood_.Close());
     }
 
-    std::string path_;             // as it was named
+    std::string path_; // as it was named
+    bool flushesAll_;
     std::filesystem::path target_; // where the file itself stands, or is to stand
     Descriptor stood_;             // what stands there already, opened for writing
     struct stat state_ {};         // of that
@@ -194,8 +212,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<ByteSink> OpenOutputFile(const std::string& path) {
-    return std::make_unique<OutputFile>(path);
+std::unique_ptr<ByteSink> OpenOutputFile(const std::string& path, Flush flush) {
+    return std::make_unique<OutputFile>(path, flush);
 }
 
 } // namespace vernacle

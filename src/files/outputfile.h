@@ -13,7 +13,11 @@ namespace vernacle {
 // then renamed onto it with the mode of what stood there. Where the folder does not allow that, it
 // is overwritten only when there is room for all of it. What is no regular file is written
 // directly. Nothing reaches the disk before Close; destruction without it leaves all as it was.
+// What replaces a file is flushed to the disk before, or all of it and its place, for whoever asks.
 // Throws FileFailure.
-std::unique_ptr<ByteSink> OpenOutputFile(const std::string& path);
+enum class Flush { Replacements, All };
+
+std::unique_ptr<ByteSink> OpenOutputFile(const std::string& path,
+                                         Flush flush = Flush::Replacements);
 
 } // namespace vernacle

@@ -176,7 +176,7 @@ constexpr int kHeight = 1000;
 QPointF OnPicture(const TruePlate& plate, const DesignRecord& design, MmPoint sheet) {
     constexpr double kBesideMm = 520 * kUnitMm;
     constexpr double kAboveMm = 400 * kUnitMm;
-    constexpr double kBelowMm = 720 * kUnitMm;
+    constexpr double kBelowMm = 1120 * kUnitMm;
     const double width = double{design.PlateWidth} + 2 * kBesideMm;
     const double height = double{design.PlateHeight} + kAboveMm + kBelowMm;
     const double perMm = std::min(kWidth / width, kHeight / height);

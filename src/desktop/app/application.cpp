@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "desktop/navigation/navigator.h"
+#include "desktop/navigation/session.h"
 #include "desktop/system/messages.h"
 #include "engine/core/service.h"
 
@@ -25,6 +26,18 @@ void AskForKeys() {
     const bool free = !active || active == uppermost; // the toolkit's belief may be old
     if (free && uppermost && uppermost->isVisible()) {
         uppermost->activateWindow();
+    }
+}
+
+// What failed may fail again.
+void KeepWhatCanBe() {
+    if (!Service.carefulFiles) {
+        return;
+    }
+    try {
+        KeepSession();
+    } catch (const std::exception&) {
+        // The box tells of the failure that came before.
     }
 }
 
@@ -60,6 +73,7 @@ void Application::EndWith(const std::string& failure) {
     QMetaObject::invokeMethod(
         this,
         [failure] {
+            KeepWhatCanBe();
             ShowRunTimeError(failure);
             exit(kRunTimeErrorStatus);
         },

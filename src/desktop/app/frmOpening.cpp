@@ -258,9 +258,12 @@ void frmOpening::cmdLastSessionClicked() {
 }
 
 void frmOpening::cmdExitClicked() {
-    if (Service.carefulFiles && !Document().IsKept()) {
-        SaveSessionAndEnd(); // who came back from the wizard
-        return;
+    if (Service.carefulFiles) {
+        Document().Commit(); // of who came back from the wizard
+        if (!Document().IsKept()) {
+            SaveSessionAndEnd();
+            return;
+        }
     }
     UnloadPage();
     EndProcess();

@@ -41,6 +41,10 @@ void JustEnd() {
 bool KeepSession() {
     if (Service.carefulFiles) {
         StoreEntriesOfPage();
+        Document().Commit();
+        const bool isEmpty = !Document().Steps().CanUndo() && Document().IsKept() &&
+                             Design.DesignFileName.empty(); // as the program starts
+        return isEmpty || KeepLastSession(Design);
     }
     const auto* page = qobject_cast<const Page*>(CurrentPage());
     return !page || !page->KeepsSession() || KeepLastSession(Design);

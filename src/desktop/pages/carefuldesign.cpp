@@ -1,6 +1,7 @@
 #include "desktop/pages/carefuldesign.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 
 #include "desktop/navigation/opendocument.h"
@@ -54,9 +55,22 @@ bool HoldsDesign(const std::string& name) {
     return HeldState(*kept) == HeldState(Design);
 }
 
+// The name of the graphic when the design goes from one file to another: one that stands beside the
+// first is found from elsewhere by its folder.
+std::string PictureFrom(const std::string& former, const std::string& name) {
+    const std::filesystem::path picture(Design.GraphicFileName);
+    const std::filesystem::path folder = std::filesystem::path(former).parent_path();
+    if (picture.empty() || picture.has_parent_path() || former.empty() ||
+        folder == std::filesystem::path(name).parent_path()) {
+        return Design.GraphicFileName;
+    }
+    return (folder / picture).string();
+}
+
 void NoteOpened(const std::string& name, bool isKept) {
     Design.DesignFileName = name;
     Design.ActiveScale = 1;
+    NormalizeDesign(Design); // whatever page shows it first
     Document().Start(isKept);
 }
 
@@ -121,9 +135,12 @@ bool SaveDesignByDialog(QWidget* parent) {
         return false;
     }
     const std::string former = Design.DesignFileName;
+    const std::string picture = Design.GraphicFileName;
     Design.DesignFileName = name;
+    Design.GraphicFileName = PictureFrom(former, name);
     if (!WriteDesign(Design)) {
         Design.DesignFileName = former;
+        Design.GraphicFileName = picture;
         return false;
     }
     Document().Keep();

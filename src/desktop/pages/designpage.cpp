@@ -80,8 +80,8 @@ const char* TipOf(const PageTraits& traits, const ToolbarKey& key) {
 }
 
 KeyState StateOf(const PageTraits& traits, const ToolbarKey& key) {
-    const bool greyed =
-        key.key == std::string_view("Print") && traits.printing != Printing::Offered;
+    const bool greyed = key.key == std::string_view("Print") &&
+                        traits.printing != Printing::Offered && !Service.truePlate;
     return greyed ? KeyState::Greyed : KeyState::Enabled;
 }
 
@@ -141,10 +141,15 @@ void DesignPage::ShowDocument() {
 }
 
 void DesignPage::KeyClicked(const Key& key) {
-    BeforeKey();
     if (!TakesSteps()) {
+        BeforeKey();
         FollowKey(key);
         return;
+    }
+    if (key.clicked == &DesignPage::UndoClicked || key.clicked == &DesignPage::RedoClicked) {
+        StoreEntries(); // what the page would hold to its limits now would be a step itself
+    } else {
+        BeforeKey();
     }
     Document().Commit();
     FollowKey(key);
@@ -212,7 +217,7 @@ void DesignPage::SaveClicked() {
 }
 
 void DesignPage::PrintClicked() {
-    if (traits_.printing != Printing::GreyedAndDead) {
+    if (traits_.printing != Printing::GreyedAndDead || Service.truePlate) {
         AskAndPrintPlate(this);
     }
 }

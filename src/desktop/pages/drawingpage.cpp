@@ -20,6 +20,11 @@ DrawingPage::DrawingPage(const PageTraits& traits, const DrawingTraits& drawing,
     column_->setSpacing(10);
     column_->addWidget(MakeHeading("lblHeading", QString::fromUtf8(traits.title)));
     side->addLayout(column_);
+    if (Service.truePlate) {
+        remarks_ = MakeLabel("lblRemarks", {});
+        remarks_->setWordWrap(true);
+        side->addWidget(remarks_);
+    }
     side->addStretch();
     auto* halves = new QHBoxLayout;
     halves->setSpacing(16);
@@ -38,6 +43,9 @@ void DrawingPage::Redraw() {
         plate_->ShowPage(TrueArea(Design));
     }
     DrawPage(Design, plate_->Surface(), drawing_, copies_, Drawing);
+    if (remarks_) {
+        remarks_->setText(QString::fromStdString(TrueRemarks(Design, Drawing)));
+    }
 }
 
 void DrawingPage::Illustrate(std::int16_t topic) {

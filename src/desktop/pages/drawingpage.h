@@ -8,6 +8,7 @@
 #include "engine/geometry/logicalarea.h"
 #include "engine/render/drawing.h"
 
+class QLabel;
 class QVBoxLayout;
 
 namespace vernacle {
@@ -42,6 +43,7 @@ private:
     DrawingTraits drawing_;
     PictureBox* plate_;
     QVBoxLayout* column_;
+    QLabel* remarks_ = nullptr; // of true plates
 };
 
 // One that keeps a copy of the free texts and gives it back when its toolbar is used.

@@ -260,7 +260,8 @@ void frmPlate::ShowFont() {
 }
 
 void frmPlate::cmdGetBackgroundColorClicked() {
-    Design.PlateBackground = AskForColour(this, "Get plate background color", kWhite);
+    const Colour start = Service.carefulFiles ? Design.PlateBackground : kWhite;
+    Design.PlateBackground = AskForColour(this, "Get plate background color", start);
     if (Design.PlateBackground == 0) {
         Design.PlateBackground = 1; // black stays distinct from unset
     }

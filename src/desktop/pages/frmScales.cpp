@@ -168,7 +168,7 @@ void frmScales::txtRelFontSizeUpDownChanged() {
 
 void frmScales::ScaleClicked(int scale) {
     Design.ActiveScale = static_cast<std::int16_t>(scale);
-    if (scale == 1) { // the others' sizes are relative to it
+    if (scale == 1 && !Service.carefulFiles) { // the others' sizes are relative to it
         relativeSize_->Disable();
         relativeSize_->box->Write("1");
     } else {
@@ -216,7 +216,12 @@ void frmScales::cmdGetColorClicked() {
         Design.ActiveScale = 1;
     }
     std::int32_t& colour = Design.ScaleColor[Design.ActiveScale];
-    colour = AskForColour(this, "Get scale color", InkOf(Design, Design.ActiveScale));
+    const Colour start = InkOf(Design, Design.ActiveScale);
+    const Colour chosen = AskForColour(this, "Get scale color", start);
+    if (Service.carefulFiles && chosen == start) {
+        return;
+    }
+    colour = chosen;
     if (colour == 0) {
         colour = 1; // so that black can carry a sign
     }

@@ -184,7 +184,11 @@ void frmText::cmdCenterTextClicked() {
 void frmText::cmdGetColorClicked() {
     std::int32_t& colour = texts_.TextColor[CurrentTextEntry_];
     const Colour start = Service.reserveStages ? colour : InkOf(Design, CurrentTextEntry_);
-    colour = AskForColour(this, "Get text color", start);
+    const Colour chosen = AskForColour(this, "Get text color", start);
+    if (Service.carefulFiles && chosen == start) {
+        return;
+    }
+    colour = chosen;
     if (colour == 0) {
         colour = 1; // black stays distinct from unset
     }

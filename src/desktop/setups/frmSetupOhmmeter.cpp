@@ -261,6 +261,9 @@ void frmSetupOhmmeter::StoreResistanceList() {
 }
 
 void frmSetupOhmmeter::txtEnterMidscaleChanged() {
+    if (Service.specialScales) {
+        ForgetResult(); // it was that of another midscale
+    }
     resistance_->Enable();
     Enable({lblResultingDeflection_});
 }

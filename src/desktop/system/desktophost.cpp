@@ -56,7 +56,7 @@ std::unique_ptr<ByteSink> OpenFile(const std::string& name) {
         return OpenFileSink(name);
     }
 #endif
-    return Service.carefulFiles ? OpenOutputFile(name) : OpenFileSink(name);
+    return Service.carefulFiles ? OpenOutputFile(name, Flush::All) : OpenFileSink(name);
 }
 
 std::unique_ptr<ByteSink> Open(const std::string& name) {

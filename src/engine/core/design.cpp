@@ -2,9 +2,13 @@
 #include "engine/core/service.h"
 
 #include <array>
+#include <memory>
+#include <type_traits>
+#include <utility>
 
 #include "engine/base/hostservices.h"
 #include "engine/base/numbertext.h"
+#include "engine/core/recordfields.h"
 #include "engine/core/repair.h"
 
 namespace vernacle {
@@ -248,6 +252,35 @@ void SetLinearCurve(DesignRecord& design) {
     }
 }
 
+namespace {
+
+void CopyValue(const FieldPointer& to, const ConstFieldPointer& from) {
+    std::visit(
+        [](auto target, auto source) {
+            if constexpr (std::is_same_v<std::add_const_t<std::remove_pointer_t<decltype(target)>>*,
+                                         decltype(source)>) {
+                *target = *source;
+            }
+        },
+        to, from);
+}
+
+// Nothing of the design before is left, but for what is of the process.
+void Clear(DesignRecord& design) {
+    const auto blank = std::make_unique<DesignRecord>();
+    for (const RecordField& field : RecordFields()) {
+        if (field.role == FieldRole::Session) {
+            ForEachEntry(field, [&](int outer, int inner) {
+                CopyValue(field.place.In(*blank, outer, inner),
+                          field.place.In(std::as_const(design), outer, inner));
+            });
+        }
+    }
+    design = std::move(*blank);
+}
+
+} // namespace
+
 void ResetSpecialTic(DesignRecord& design, int scale, int tic) {
     design.TicDeflection[scale][tic] = 0;
     design.TicLabelText[scale][tic].clear();
@@ -257,6 +290,9 @@ void ResetSpecialTic(DesignRecord& design, int scale, int tic) {
 }
 
 void ResetDesign(DesignRecord& design) {
+    if (Service.carefulFiles) {
+        Clear(design);
+    }
     PutAll(design, kDefaults, &Default::reset);
     if (Service.carefulFiles) {
         PutAll(design, kInherited, &Default::reset);

@@ -1,7 +1,9 @@
 #include "engine/designfile/starlines.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <optional>
 #include <variant>
 
@@ -27,14 +29,16 @@ std::string StarValue(std::int32_t value) {
     return std::to_string(value);
 }
 
-std::string StarValue(const std::string& value) {
+// On one line: readers end it at a line feed.
+std::string StarValue(std::string value) {
+    std::ranges::replace(value, '\n', ' ');
     return value;
 }
 
 // A text in quotes, so that it is told from a number.
 std::string StarValue(const DynamicValue& value) {
     const auto* text = std::get_if<std::string>(&value);
-    return text ? '"' + *text : StarValue(std::int32_t{std::get<std::int16_t>(value)});
+    return text ? '"' + StarValue(*text) : StarValue(std::int32_t{std::get<std::int16_t>(value)});
 }
 
 std::string ValueIn(const ConstFieldPointer& field) {
@@ -53,7 +57,7 @@ bool TakeNumber(std::string_view text, Number& target) {
     Number number{};
     const char* last = text.data() + text.size();
     const auto [end, error] = std::from_chars(text.data(), last, number);
-    if (error != std::errc() || end != last) {
+    if (error != std::errc() || end != last || !std::isfinite(static_cast<double>(number))) {
         return false;
     }
     target = number;

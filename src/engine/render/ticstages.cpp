@@ -80,6 +80,9 @@ Sweep SweepOf(const DrawingRun& run, int scale) {
 void DrawFineArc(DrawingRun& run, int scale) {
     const PlateFrame& frame = run.frame;
     const double radius = ScaleRadius(frame, double{run.design.BottomToScaleCeiling[scale]});
+    if (!(radius > 0)) {
+        return; // its tics are told of as out of reach
+    }
     const Sweep sweep = SweepOf(run, scale);
     const double from = ArcAngle(frame, PointerAngle(frame, sweep.from), radius);
     const double to = ArcAngle(frame, PointerAngle(frame, sweep.to), radius);
@@ -139,14 +142,18 @@ ArcPlace PlaceTic(const DesignRecord& design, const PlateFrame& frame, Correctio
     } else if (correction == Correction::Continued) {
         shown = ContinuedDeflection(design, shown);
     }
-    return PlaceOnArc(frame, PointerAngle(frame, shown),
-                      ScaleRadius(frame, double{design.BottomToScaleCeiling[scale]}));
+    const double pointer = PointerAngle(frame, shown);
+    const double radius = ScaleRadius(frame, double{design.BottomToScaleCeiling[scale]});
+    if (correction == Correction::Continued && !(radius > 0)) {
+        return {pointer, 0, {}}; // which HasPlace turns away
+    }
+    return PlaceOnArc(frame, pointer, radius);
 }
 
 bool HasPlace(const DrawingRun& run, int scale, const ArcPlace& place) {
     const double radius = ScaleRadius(run.frame, double{run.design.BottomToScaleCeiling[scale]});
     return run.traits.correction != Correction::Continued ||
-           MeetsArc(run.frame, place.pointerAngleRad, radius);
+           (radius > 0 && MeetsArc(run.frame, place.pointerAngleRad, radius));
 }
 
 double TicLength(const DesignRecord& design, const Tic& tic) {

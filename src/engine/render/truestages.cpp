@@ -92,8 +92,8 @@ double LightOf(Colour colour) {
     return 0.299 * part(0) + 0.587 * part(8) + 0.114 * part(16);
 }
 
-// Below a picture's plate: the ruler, its numbers, and some air.
-constexpr double kRulerReach = 720;
+// Below a picture's plate: the ruler, its numbers, the note of the pointer's length, and some air.
+constexpr double kRulerReach = 1120;
 constexpr double kMarksAndAir = 400;
 constexpr double kUnitAndAir = 520; // behind a ruler that ends at a number
 
@@ -202,9 +202,13 @@ std::string TrueRemarks(const DesignRecord& design, const DrawingState& state) {
 
 LogicalArea TrueArea(const DesignRecord& design) {
     const PlateFrame frame = TrueFrame(design, 1, 1);
-    return {frame.Left() - kUnitAndAir, frame.Top() - kMarksAndAir,
-            frame.Right() - frame.Left() + 2 * kUnitAndAir,
-            frame.Bottom() - frame.Top() + kMarksAndAir + kRulerReach};
+    const double round = design.PlateOutlineCircular == 1
+                             ? 2 * frame.upPerHalfMm * (frame.widthMm / 2 + kBleedMm)
+                             : 0;
+    const double top = std::min(frame.Top() - kMarksAndAir, frame.centreY - round);
+    const double bottom = std::max(frame.Bottom() + kRulerReach, frame.centreY + round);
+    return {frame.Left() - kUnitAndAir, top, frame.Right() - frame.Left() + 2 * kUnitAndAir,
+            bottom - top};
 }
 
 DrawingTraits TruePlateTraits(TrueMedium medium) {

@@ -336,6 +336,82 @@ TEST_F(CarefulTest, LeavingWithoutChangesDoesNotAsk) {
     EXPECT_FALSE(IsMarked()) << "a file holds it";
 }
 
+TEST_F(CarefulTest, ADesignOfTheWizardIsAskedAboutToo) {
+    ClickAndSettle("cmdNew");
+    Design.PlateWidth = 91; // as its steps enter it
+    ClickAndSettle("cmdExit");
+    EXPECT_EQ(PageName(), "frmOpening");
+    EXPECT_TRUE(KeepSession());
+    EXPECT_EQ(WidthIn("LASTWORKSHOP.VRN"), 91);
+    ClickAndAnswer("cmdExit", [](QWidget& form) { PressOn(form, "cmdCancel"); });
+    EXPECT_FALSE(TakeProcessEnd());
+}
+
+TEST_F(CarefulTest, AtItsStartThereIsNoSessionToKeep) {
+    EXPECT_TRUE(KeepSession());
+    EXPECT_FALSE(Exists("LASTWORKSHOP.VRN"));
+}
+
+// Each page draws before it could hold such numbers itself.
+TEST_F(CarefulTest, ADesignOfImpossibleNumbersIsHeldWhateverPageOpensIt) {
+    const std::string file = WriteEverydayFile("odd.VRN", 81);
+    std::string text = ReadFile("odd.VRN");
+    for (const auto& [line, odd] :
+         {std::pair("Linearity exponent: 1", "Linearity exponent: -2"),
+          std::pair("Number of ticmarks: 50", "Number of ticmarks: 0"),
+          std::pair("Labels every how many ticmarks: 10", "Labels every how many ticmarks: 0")}) {
+        const std::size_t at = text.find(line);
+        ASSERT_NE(at, text.npos) << line;
+        text.replace(at, std::string_view(line).size(), odd);
+    }
+    WriteFile("odd.VRN", text);
+    for (const char* page : {"frmScales", "frmText", "frmGraphic", "frmHighlights"}) {
+        OpenPage(page);
+        ClickAndAnswer("Open", TypeFile(file));
+        EXPECT_EQ(PageName(), page);
+        EXPECT_GT(Design.LinearityExponent[1], 0);
+    }
+}
+
+TEST_F(CarefulTest, UndoPassesTheGraphicPagesLimits) {
+    OpenFile(WriteEverydayFile("good.VRN", 81));
+    Walk("Graphic");
+    Enter("txtLeftToImage", "20");
+    Enter("txtBottomToImage", "150"); // which the page holds to 120 later
+    Undo();
+    Undo();
+    EXPECT_FALSE(IsEnabled("Undo"));
+    EXPECT_EQ(Design.LeftToGraphic, 10);
+    Redo();
+    EXPECT_EQ(Design.LeftToGraphic, 20);
+}
+
+TEST_F(CarefulTest, CancelledColoursChangeNothing) {
+    OpenFile(WriteEverydayFile("good.VRN", 81));
+    Design.PlateBackground = 0x80C0FF;
+    Document().Start(true);
+    for (const auto& [page, button] :
+         {std::pair("Plate", "cmdGetBackgroundColor"), std::pair("Scales", "cmdGetColor"),
+          std::pair("Text", "cmdGetColor"), std::pair("Highlights", "cmdGetColor")}) {
+        Walk(page);
+        ClickAndAnswer(button, Cancel);
+        EXPECT_FALSE(IsEnabled("Undo") || IsMarked()) << page;
+    }
+    EXPECT_EQ(Design.PlateBackground, 0x80C0FF);
+}
+
+TEST_F(CarefulTest, AGraphicIsFoundFromAnotherFolderToo) {
+    const std::string file = WriteEverydayFile("good.VRN", 81);
+    WriteFile("mark.bmp", "no picture");
+    std::filesystem::create_directory(Path("other"));
+    OpenFile(file);
+    Walk("Graphic");
+    ClickAndAnswer("cmdGetGraphic", TypeFile(Path("mark.bmp")));
+    EXPECT_EQ(Design.GraphicFileName, "mark.bmp") << "beside its design";
+    ClickAndAnswer("Save", TypeFile(Path("other/good.VRN")));
+    EXPECT_EQ(Design.GraphicFileName, Path("mark.bmp"));
+}
+
 TEST_F(CarefulTest, RecentDesignsAreOffered) {
     const std::string one = WriteEverydayFile("one.VRN", 61);
     const std::string two = WriteEverydayFile("two.VRN", 62);

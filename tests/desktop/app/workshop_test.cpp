@@ -197,6 +197,34 @@ TEST_F(WorkshopTest, TheHighlightsPageTakesZonesThatStartAtZero) {
     EXPECT_EQ(CountCalls("FillArea"), 2U);
 }
 
+TEST_F(WorkshopTest, EveryPageCanPrint) {
+    for (const char* page : {"frmPlate", "frmScales", "frmText", "frmGraphic", "frmHighlights"}) {
+        OpenPage(page);
+        EXPECT_TRUE(IsEnabled("Print")) << page;
+        ClickAndAnswer("Print", PrintTo(Path("plate.pdf")));
+        EXPECT_TRUE(std::filesystem::remove(Path("plate.pdf"))) << page;
+    }
+}
+
+TEST_F(WorkshopTest, AScaleWithoutARadiusIsToldOf) {
+    Design.BottomToBearing = 10;
+    Design.ActualVirtualOffset = 0;
+    Design.BottomToScaleCeiling[1] = 10;
+    OpenPage("frmScales");
+    EXPECT_NE(Shown("lblRemarks"), "");
+    EXPECT_TRUE(said.empty());
+}
+
+TEST_F(WorkshopTest, TheFirstScaleKeepsItsRelativeSize) {
+    Design.NumberOfScales = 2;
+    Design.RelativeFontSize[1] = 1.3F;
+    OpenPage("frmScales");
+    Click("Option2");
+    Click("Option1");
+    EXPECT_EQ(Design.RelativeFontSize[1], 1.3F);
+    EXPECT_TRUE(IsEnabled("txtRelFontsize"));
+}
+
 TEST_F(WorkshopTest, NumbersAreSeenOnADarkPlate) {
     Design.PlateBackground = 1;
     Design.HighlightColor[3] = 0x0000FF;

@@ -204,7 +204,11 @@ TEST_P(EachInServiceTest, AnotherKindsScaleIsAskedFor) {
 TEST_P(EachInServiceTest, TheCloseBoxKeepsTheSession) {
     OpenSetup(row.page, 2);
     MakeTics(row);
+    Answer([](QWidget& form) { // no file holds them
+        Click(*form.findChild<QWidget*>(QStringLiteral("cmdExit")));
+    });
     CloseByUser(Page());
+    EXPECT_TRUE(AllAnswered());
     EXPECT_TRUE(TakeProcessEnd());
     EXPECT_TRUE(Exists("LASTWORKSHOP.VRN"));
     EXPECT_FALSE(Exists("Backup.DAT"));

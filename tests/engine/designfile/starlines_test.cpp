@@ -51,7 +51,7 @@ TEST_F(StarLinesTest, WhateverADesignHoldsComesBack) {
         ASSERT_TRUE(WriteDesign(Design));
         ExpectSame(Design, *before, FieldRole::Kept); // writing changes nothing
         ExpectSame(Design, *before, FieldRole::Session);
-        ResetDesign(Design);
+        RandomiseDesign(Design, random); // of which nothing may be left
         ReadDesign(Design, Path("plate.VRN"));
         ExpectSame(Design, *before, FieldRole::Kept);
     }
@@ -77,6 +77,18 @@ TEST_F(StarLinesTest, WhatTheLinesCannotHoldStandsBehindThem) {
           "\r\n*PlateOutlineCircular: 1\r\n", "\r\n*ScaleTitle[5]: Not drawn: *yet*\r\n",
           "\r\n*StandardTicYN[6,360]: N\r\n"}) {
         EXPECT_NE(text.find(line), std::string::npos) << line;
+    }
+}
+
+TEST_F(StarLinesTest, WhatIsNoNumberOrNoLineIsNotTaken) {
+    Design.TextString[1] = "two\r\n*PlateWidth: 3";
+    Design.LeftToBearing = 7;
+    std::string text = DesignText(Design);
+    EXPECT_EQ(ReadBack(text).PlateWidth, Design.PlateWidth);
+    for (const char* odd : {"inf", "-inf", "nan", "1e999", "7x"}) {
+        std::string changed = text;
+        changed.replace(changed.find("*LeftToBearing: 7") + 16, 1, odd);
+        EXPECT_EQ(ReadBack(changed).LeftToBearing, -1) << odd;
     }
 }
 
