@@ -71,11 +71,11 @@ QLabel* MakeLightLabel(const char* name, const QString& text, double size) {
 } // namespace
 
 struct frmOpening::Button {
-    const char* name;
-    const char* caption;
-    const char* tip;
-    const char* shortcut;
-    void (frmOpening::*clicked)();
+    const char* name = nullptr;
+    const char* caption = nullptr;
+    const char* tip = nullptr;
+    const char* shortcut = nullptr;
+    void (frmOpening::*clicked)() = nullptr;
     LiftedBy standsWith = nullptr; // only where this is in service; none: always
 };
 

@@ -21,9 +21,9 @@ namespace vernacle {
 
 // A key goes to a page or does something here.
 struct DesignPage::Key {
-    ToolbarKey face;
-    const char* page;
-    void (DesignPage::*clicked)();
+    ToolbarKey face = {};
+    const char* page = nullptr;
+    void (DesignPage::*clicked)() = nullptr;
     LiftedBy standsWith = nullptr; // only where this is in service; none: always
 };
 
@@ -90,7 +90,7 @@ KeyState StateOf(const PageTraits& traits, const ToolbarKey& key) {
 DesignPage::DesignPage(const PageTraits& traits) : Page(traits.form), traits_(traits) {
     ShowTitle();
     AddToolbar();
-    if (TakesSteps()) {
+    if (Service.carefulFiles) {
         connect(&Document(), &OpenDocument::Changed, this, &DesignPage::ShowDocument);
         ShowDocument();
     }

@@ -57,7 +57,7 @@ void frmScales::Load() {
         Option10_->Select();
     }
     EnableStandardEntries();
-    Redraw();
+    frmScales::Redraw();
 }
 
 void frmScales::ShowScaleOptions() {

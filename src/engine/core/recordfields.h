@@ -15,11 +15,11 @@ enum class FieldRole {
 };
 
 struct RecordField {
-    const char* name;
-    FieldRole role;
-    int indices;   // 0 of a plain field, 1 of a table, 2 of a table of tables
-    int lastOuter; // the highest index of each, 0 where there is none
-    int lastInner;
+    const char* name = nullptr;
+    FieldRole role = FieldRole::Kept;
+    int indices = 0;   // 0 of a plain field, 1 of a table, 2 of a table of tables
+    int lastOuter = 0; // the highest index of each, 0 where there is none
+    int lastInner = 0;
     FieldPlace place;
 };
 

@@ -9,9 +9,9 @@
 namespace vernacle {
 
 struct SetupKind {
-    const char* name;        // as a scale remembers it
-    int room = kLastTic + 1; // tics that it can take
-    bool takesAny = false;   // also tics that another kind made
+    const char* name = nullptr; // as a scale remembers it
+    int room = kLastTic + 1;    // tics that it can take
+    bool takesAny = false;      // also tics that another kind made
 };
 
 constexpr SetupKind kOhmmeterKind{.name = "ohmmeter", .room = 30, .takesAny = true};
