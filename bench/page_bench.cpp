@@ -34,14 +34,18 @@ double ResidentMemory() {
     return 0;
 }
 
+EntryBox& OpenPage(const char* page, const char* box) {
+    GoToPage(page);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the page before
+    QCoreApplication::processEvents();
+    return *CurrentPage()->findChild<EntryBox*>(QLatin1String(box));
+}
+
 EntryBox& OpenScalesPage(const char* box) {
     Design.DesignFileName = VERNACLE_EXAMPLES "/DEGREES-0-360.VRN";
     ReadDesign(Design, Design.DesignFileName);
     Design.ActiveScale = 1;
-    GoToPage("frmScales");
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the page before
-    QCoreApplication::processEvents();
-    return *CurrentPage()->findChild<EntryBox*>(QLatin1String(box));
+    return OpenPage("frmScales", box);
 }
 
 void Press(QWidget& box, Qt::Key key, const QString& text = {}) {
@@ -52,9 +56,8 @@ void Press(QWidget& box, Qt::Key key, const QString& text = {}) {
     QCoreApplication::processEvents(); // paints
 }
 
-// A digit typed and removed in turn.
-void Keystroke(benchmark::State& state, const char* name) {
-    EntryBox& box = OpenScalesPage(name);
+// A digit, in turn.
+void TypeAndRemove(benchmark::State& state, EntryBox& box) {
     bool typed = false;
     for ([[maybe_unused]] auto _ : state) {
         if (typed) {
@@ -64,6 +67,11 @@ void Keystroke(benchmark::State& state, const char* name) {
         }
         typed = !typed;
     }
+}
+
+void Keystroke(benchmark::State& state, const char* name) {
+    EntryBox& box = OpenScalesPage(name);
+    TypeAndRemove(state, box);
     state.counters["resident_MB"] = ResidentMemory();
 }
 BENCHMARK_CAPTURE(Keystroke, Title, "txtScaleTitle")->Unit(benchmark::kMillisecond);
@@ -89,20 +97,9 @@ void UseMuch() {
 // The same with everything in service: the step for undo is taken with the key.
 void WorkshopKeystroke(benchmark::State& state, const char* page, const char* name) {
     UseMuch();
-    GoToPage(page);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-    auto& box = *CurrentPage()->findChild<EntryBox*>(QLatin1String(name));
+    EntryBox& box = OpenPage(page, name);
     box.setFocus();
-    bool typed = false;
-    for ([[maybe_unused]] auto _ : state) {
-        if (typed) {
-            Press(box, Qt::Key_Backspace);
-        } else {
-            Press(box, Qt::Key_1, QStringLiteral("1"));
-        }
-        typed = !typed;
-    }
+    TypeAndRemove(state, box);
     StoreService(Program::Everyday);
 }
 BENCHMARK_CAPTURE(WorkshopKeystroke, Title, "frmScales", "txtScaleTitle")

@@ -5,36 +5,16 @@
 #include <QRegularExpression>
 #include <QTextBrowser>
 
+#include "booktest.h"
 #include "desktop/navigation/helpviewer.h"
 #include "engine/core/service.h"
-#include "support/formtest.h"
 
 namespace vernacle::test {
 namespace {
 
-constexpr const char* kPageTopics[] = {
-    "vplate.htm",   "vscales.htm",    "vpreview.htm",
-    "vgraphic.htm", "vsignature.htm", "vhighlights.htm",
-};
-
-class HelpBookTest : public FormTest {
+class HelpBookTest : public BookTest {
 protected:
     HelpBookTest() { StoreService(Program::Workshop); }
-    ~HelpBookTest() override {
-        if (QWidget* book = Book()) {
-            book->close();
-        }
-    }
-
-    static QWidget* Book() {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == QLatin1String("HelpViewer") && window->isVisible()) {
-                return window;
-            }
-        }
-        return nullptr;
-    }
-
     // The topic as its reader gets it.
     static QTextBrowser& Open(const std::string& topic) {
         ShowHelp(*CurrentPage(), topic);

@@ -8,33 +8,13 @@
 #include <QTextBrowser>
 #include <QWindow>
 
-#include "support/formtest.h"
+#include "booktest.h"
 
 namespace vernacle::test {
 namespace {
 
-constexpr const char* kTopics[] = {
-    "vplate.htm",   "vscales.htm",    "vpreview.htm",
-    "vgraphic.htm", "vsignature.htm", "vhighlights.htm",
-};
-
-class HelpViewerTest : public FormTest {
+class HelpViewerTest : public BookTest {
 protected:
-    ~HelpViewerTest() override {
-        if (QWidget* book = Book()) {
-            book->close();
-        }
-    }
-
-    static QWidget* Book() {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == QLatin1String("HelpViewer") && window->isVisible()) {
-                return window;
-            }
-        }
-        return nullptr;
-    }
-
     static QTextBrowser& Topic() {
         if (!Book()) {
             throw std::runtime_error("no help window");
@@ -66,7 +46,7 @@ protected:
 TEST_F(HelpViewerTest, BookHasItsSixTopics) {
     const QWidget& page = OpenPage("frmPlate");
     std::set<std::string> titles;
-    for (const char* topic : kTopics) {
+    for (const char* topic : kPageTopics) {
         ShowHelp(page, topic);
         EXPECT_EQ(ShownTopic(), topic);
         EXPECT_GT(TextOfTopic().size(), 500) << topic;
@@ -76,7 +56,7 @@ TEST_F(HelpViewerTest, BookHasItsSixTopics) {
 }
 
 TEST_F(HelpViewerTest, TopicsHavePicturesAndSoundLinks) {
-    for (const char* topic : kTopics) {
+    for (const char* topic : kPageTopics) {
         const QString source = Source(topic);
         const QStringList pictures = NamedIn(source, "src");
         EXPECT_FALSE(pictures.isEmpty()) << topic;
@@ -89,7 +69,7 @@ TEST_F(HelpViewerTest, TopicsHavePicturesAndSoundLinks) {
 
 TEST_F(HelpViewerTest, PicturesAreShown) {
     const QWidget& page = OpenPage("frmPlate");
-    for (const char* topic : kTopics) {
+    for (const char* topic : kPageTopics) {
         ShowHelp(page, topic);
         for (const QString& file : NamedIn(Source(topic), "src")) {
             const QVariant picture = Topic().loadResource(QTextDocument::ImageResource,
